@@ -1,0 +1,25 @@
+# The one interface target that every target links: language, floating-point rules, warnings, sanitizers.
+add_library(kvt_options INTERFACE)
+target_compile_features(kvt_options INTERFACE cxx_std_20)
+
+# assert stays active in every build: a stop is worth more than a silently wrong number in a workshop's file.
+set(CMAKE_CXX_FLAGS_RELEASE "-O2")
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g")
+
+# Results must be the same on every machine with the same C library: no fused multiply-add, no fast-math.
+target_compile_options(kvt_options INTERFACE -ffp-contract=off)
+target_compile_options(kvt_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+                                             -Wnon-virtual-dtor -Woverloaded-virtual)
+if(KVT_WERROR)
+    target_compile_options(kvt_options INTERFACE -Werror)
+endif()
+
+if(KVT_SANITIZE)
+    target_compile_options(kvt_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                 -fno-omit-frame-pointer)
+    target_link_options(kvt_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KVT_FUZZ)
+    target_compile_options(kvt_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
+    target_link_options(kvt_options INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,33 @@
+// program: all state of one Kavetta, one instance a process in the desktop program, many in the batch program.
+#pragma once
+
+#include <filesystem>
+
+#include "core/app_state.hpp"
+#include "core/captions.hpp"
+#include "core/design_params.hpp"
+#include "core/enabling.hpp"
+#include "core/entries.hpp"
+#include "core/rotor_profiles.hpp"
+#include "core/user.hpp"
+#include "core/window_rectangles.hpp"
+#include "views/design_view.hpp"
+
+namespace kvt {
+
+struct program {
+    kvt::design_params design_params;
+    kvt::rotor_profiles rotor_profiles;
+    kvt::app_state app_state;
+    kvt::entries entries;
+    kvt::labels labels;
+    kvt::captions captions;
+    kvt::enabling enabling;
+    kvt::window_rectangles window_rectangles;
+    kvt::design_view design_view;
+
+    /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes nothing there.
+    std::filesystem::path folder;
+};
+
+}  // namespace kvt

@@ -1,0 +1,13 @@
+// The common clearing of results when another project takes the place of the present one.
+#pragma once
+
+#include "app/program.hpp"
+
+namespace kvt {
+
+/// New and Open unload and disable slightly different sets.
+enum class reset_kind { new_project, open_project };
+
+void project_reset(program& kavetta, user& person, reset_kind kind);
+
+}  // namespace kvt

@@ -1,0 +1,72 @@
+// design_view: what the Design view shows, as retained data in twips; a widget only paints it.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "core/app_state.hpp"
+#include "core/design_params.hpp"
+#include "core/rotor_profiles.hpp"
+
+namespace kvt {
+
+/// A straight element, twips, origin in the upper left corner of the picture, y down.
+struct drawn_line {
+    float x1 = 0.0F, y1 = 0.0F, x2 = 0.0F, y2 = 0.0F;
+
+    friend bool operator==(const drawn_line&, const drawn_line&) = default;
+};
+
+/// A circle arc drawn counter-clockwise (as seen on the screen) from start_angle to end_angle, radians 0 .. 2 pi,
+/// measured from the positive x axis with y up. Centre and radius in twips, y down.
+struct drawn_arc {
+    double x = 0.0, y = 0.0, radius = 0.0, start_angle = 0.0, end_angle = 0.0;
+
+    friend bool operator==(const drawn_arc&, const drawn_arc&) = default;
+};
+
+/// An array of line elements. Element 0 always exists; clear() unloads the others and hides element 0.
+struct line_array {
+    std::vector<drawn_line> elements = std::vector<drawn_line>(1);
+    bool element0_visible = false;
+
+    void clear();
+    /// Gives an element its coordinates and shows it; loads it when index equals the element count.
+    void set(std::size_t index, const drawn_line& line);
+};
+
+/// The circle of the outer rotor's outside diameter, Shape1.
+struct drawn_circle {
+    double x = 0.0, y = 0.0, diameter = 0.0;
+    bool visible = false;
+};
+
+/// The members are named as the controls of viewwinfrm and stand in their stacking order, lowest first.
+struct design_view {
+    std::vector<drawn_arc> Picture1;  ///< outer rotor, drawing width 2
+    line_array metering_groove_extraline, anglelineout, angleline, metering_groove_portline;
+    line_array outlet_portline, inlet_portline;
+    line_array Line1;     ///< inner rotor
+    drawn_circle Shape1;  ///< outside diameter
+};
+
+/// Clears the rotors: Line1, Shape1 and the arcs of Picture1.
+void clear_rotors(design_view& view);
+
+/// Clears everything, ports and groove included.
+void clear_all(design_view& view);
+
+/// The first drawing of the inner rotor by Calculate Profiles, about the view's centre view_size/2:
+///     x = view_scale * x + view_size/2 + view_ecc + clearn_half * view_scale      y = view_scale * y + view_size/2
+/// One element a pair of neighbouring points of inner_plot_xy, a last one closing to the first point; shows Shape1
+/// with diameter view_scale * maxdiameter.
+void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
+                      design_view& view);
+
+/// The first drawing of the outer rotor by Calculate Profiles: fillet, lobe and root arcs about the view's centre.
+/// alpha and beta are the angles of the fillet centre and of the tangent point from the lobe's axis (see
+/// outer_rotor.hpp). Throws run_time_error for an angle whose x difference is 0.
+void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
+                      design_view& view);
+
+}  // namespace kvt

@@ -1,0 +1,73 @@
+// scripted_user: a user for tests that answers from a script and keeps a log of everything a command did to it.
+#pragma once
+
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/user.hpp"
+
+namespace kvt {
+
+class scripted_user : public user {
+  public:
+    std::vector<std::string> messages;   ///< the texts of the message boxes, in order
+    std::vector<std::string> questions;
+    std::vector<std::string> statuses;
+    std::vector<std::string> log;        ///< everything, one line a call: "unload perf_res", "focus ecc", ...
+    std::vector<file_dialog> dialogs;    ///< the dialogs that were shown
+    // The script. A question, dialog or prompt that the script does not foresee throws.
+    std::deque<answer> answers;
+    std::deque<std::optional<std::string>> files;
+    std::deque<std::optional<std::string>> project_names;
+    std::deque<start_choice> start_choices;
+
+    void show_message(std::string_view text) override {
+        messages.emplace_back(text);
+        log.push_back("message " + std::string(text));
+    }
+    answer ask(std::string_view question, question_buttons) override {
+        questions.emplace_back(question);
+        log.push_back("ask " + std::string(question));
+        return next(answers);
+    }
+    std::optional<std::string> choose_file(const file_dialog& dialog) override {
+        dialogs.push_back(dialog);
+        log.push_back("dialog " + dialog.title);
+        return next(files);
+    }
+    std::optional<std::string> ask_project_name() override {
+        log.emplace_back("project name");
+        return next(project_names);
+    }
+    start_choice ask_new_or_open() override {
+        log.emplace_back("new or open");
+        return next(start_choices);
+    }
+    void show_status(std::string_view text) override {
+        statuses.emplace_back(text);
+        log.push_back("status " + std::string(text));
+    }
+    void show_form(std::string_view form) override { log.push_back("show " + std::string(form)); }
+    void unload_form(std::string_view form) override { log.push_back("unload " + std::string(form)); }
+    void set_focus(std::string_view control) override { log.push_back("focus " + std::string(control)); }
+    void set_busy(bool busy) override { log.emplace_back(busy ? "busy" : "not busy"); }
+    void show_progress(std::string_view text, int percent) override {
+        log.push_back("progress " + std::string(text) + " " + std::to_string(percent));
+    }
+
+  private:
+    template <typename value>
+    static value next(std::deque<value>& script) {
+        if (script.empty()) {
+            throw std::logic_error("the script of the user has no further answer");
+        }
+        value first = script.front();
+        script.pop_front();
+        return first;
+    }
+};
+
+}  // namespace kvt
