@@ -2,9 +2,9 @@
 // checked at once.
 #pragma once
 
-#include <string_view>
-
 #include "app/program.hpp"
+
+#include <string_view>
 
 namespace kvt {
 

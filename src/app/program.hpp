@@ -1,8 +1,6 @@
 // program: all state of one Kavetta, one instance a process in the desktop program, many in the batch program.
 #pragma once
 
-#include <filesystem>
-
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
 #include "core/design_params.hpp"
@@ -12,6 +10,8 @@
 #include "core/user.hpp"
 #include "core/window_rectangles.hpp"
 #include "views/design_view.hpp"
+
+#include <filesystem>
 
 namespace kvt {
 

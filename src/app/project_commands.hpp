@@ -1,15 +1,17 @@
 // The commands of the File menu that deal with projects, and Clear Design.
 #pragma once
 
-#include <string_view>
-
 #include "app/program.hpp"
+
+#include <string_view>
 
 namespace kvt {
 
+/// New Project: name dialog (Cancel goes on with the name that stood before), Clear Design, project reset.
 void new_project(program& kavetta, user& person);
 
-/// Open: dialog, then load. Any run-time failure ends the command with a line in the status bar and no message.
+/// Open: dialog, then load. Any run-time failure ends the command with a line in the status bar and no message;
+/// what was assigned before it stays.
 void open_project(program& kavetta, user& person);
 
 /// Open from its fourth step on, without the dialog (a path given at the start, a dropped file). The same handler.
@@ -18,8 +20,8 @@ void open_project_file(program& kavetta, user& person, std::string_view path);
 /// Previous design: loads recent entry 0 .. 3. Has no handler: throws run_time_error.
 void previous_design(program& kavetta, user& person, int index);
 
-/// What Open and Previous design share: read the file, assign everything, reset the project, update the recent list,
-/// switch the assist off. Throws run_time_error.
+/// What Open and Previous design share: read the file, assign everything, set the title, reset the project, update
+/// the recent list, switch the assist off. Throws run_time_error; what was assigned before it stays.
 void load_project(program& kavetta, user& person, std::string_view path);
 
 /// Save: to project_path when the project has a file, else Save As. Throws run_time_error when it can't be written.
@@ -28,12 +30,7 @@ void save_project(program& kavetta, user& person);
 /// Save As. Any run-time failure ends the command with a line in the status bar. True when the file was written.
 bool save_project_as(program& kavetta, user& person);
 
+/// Clear Design: boxes to their defaults; asks whether fluid and material values are kept.
 void clear_design(program& kavetta, user& person);
-
-/// Writes the entries to a file as Save does, without any other effect. Throws run_time_error.
-void write_entries(const program& kavetta, std::string_view path);
-
-/// Exit: question, Save As, settings. Answers true when the program ends. Throws when the settings can't be written.
-bool exit_program(program& kavetta, user& person);
 
 }  // namespace kvt

@@ -2,10 +2,10 @@
 // recovery project, tells the user, and ends the program.
 #pragma once
 
+#include "app/program.hpp"
+
 #include <filesystem>
 #include <functional>
-
-#include "app/program.hpp"
 
 namespace kvt {
 

@@ -1,9 +1,9 @@
 // Start-up: the program's folder, the settings, the new-or-open prompt, the captions.
 #pragma once
 
-#include <filesystem>
-
 #include "app/program.hpp"
+
+#include <filesystem>
 
 namespace kvt {
 

@@ -1,10 +1,10 @@
 // Language and units: the caption routines, the unit label routines, and the change of the capacity unit.
 #pragma once
 
+#include "app/program.hpp"
+
 #include <cstdint>
 #include <string_view>
-
-#include "app/program.hpp"
 
 namespace kvt {
 

@@ -1,0 +1,19 @@
+// The four check boxes of the porting type: what a click on one of them does to the others.
+#pragma once
+
+#include "app/program.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace kvt {
+
+/// The click on inlet_double_sided, outlet_double_sided, shadow_ports or metering_groove, after the box changed:
+/// performance must be calculated anew; both double-sided boxes together untick and disable shadow_ports;
+/// metering_groove decides whether the groove entries can be used.
+void porting_type_clicked(program& kavetta);
+
+/// Sets a check box from the program. A box whose state changes acts as if it had been clicked.
+void set_porting_check(program& kavetta, std::string entries::*box, std::string_view state);
+
+}  // namespace kvt
