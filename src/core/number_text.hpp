@@ -9,7 +9,8 @@ namespace kvt {
 
 /// The lenient reading of an entry ("Val"): leading blanks and tabs are skipped, then the longest sign, digits, one
 /// point, and an exponent E or e when digits follow it. 0 for a text without a leading number. A comma, a blank and
-/// any letter end the number; no hexadecimal, no inf, no nan. Throws overflow when the number exceeds a double.
+/// any letter end the number; no hexadecimal, no inf, no nan. Throws overflow when the number exceeds a double; one too
+/// near to zero is the nearest denormal or 0.
 double val(std::string_view text);
 
 /// Whole-text conversion: optional blanks, one decimal number, optional blanks, nothing else.
@@ -23,7 +24,8 @@ std::int32_t integer_of_text(std::string_view text);
 std::int16_t integer16_of_text(std::string_view text);
 
 /// Default text of a double: 15 significant digits, trailing zeros cut, a 0 before the point ("0.5"); exponent form
-/// only below 1E-4 and from 1E+15, written "1E-05", "1.5E+15". Zero (either sign) is "0".
+/// only below 1E-4 and from 1E+15, written "1E-05", "1.5E+15". Zero (either sign) is "0". Throws overflow
+/// for an infinite value and for one that is not a number.
 std::string number_text(double value);
 
 /// number_text with a leading blank in place of the sign of a number that is not negative ("Str").

@@ -11,9 +11,10 @@ namespace kvt {
 /// Lines of a text in memory. Every line is ended by CR LF and kept in code page bytes.
 class text_lines {
   public:
-    /// Appends one line given in UTF-8.
+    /// Appends one line given in UTF-8. Throws invalid_property_value for a text with a CR or LF inside: it would
+    /// move every later line of a positional file.
     void line(std::string_view utf8);
-    /// Appends one line of code page bytes as they are.
+    /// Appends one line of code page bytes as they are. Throws like line.
     void raw_line(std::string_view bytes);
     const std::string& bytes() const { return bytes_; }
 
