@@ -1,0 +1,36 @@
+// temporary_folder: an empty folder of a test's own that goes with the test.
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace kvt {
+
+class temporary_folder {
+  public:
+    temporary_folder() {
+        std::string name = (std::filesystem::temp_directory_path() / "kvt_test_XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error("no temporary folder " + name);
+        }
+        path_ = name;
+    }
+    ~temporary_folder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    temporary_folder(const temporary_folder&) = delete;
+    temporary_folder& operator=(const temporary_folder&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+    std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+    /// The path of a file in the folder, as the text that commands take.
+    std::string file(const std::string& name) const { return (path_ / name).string(); }
+
+  private:
+    std::filesystem::path path_;
+};
+
+}  // namespace kvt
