@@ -1,1 +1,126 @@
-// (to come)
+#include "geometry/entry_checks.hpp"
+
+#include "core/checked_math.hpp"
+#include "core/constants.hpp"
+#include "core/number_text.hpp"
+
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+using box = std::string entries::*;
+
+constexpr std::array<box, 7> EMPTY_MEANS_ZERO = {&entries::radinnroot, &entries::radouter,      &entries::clearn,
+                                                 &entries::volumereqd, &entries::shaftdiameter, &entries::minmaterial,
+                                                 &entries::fillet};
+
+constexpr std::array<box, 13> DECIMAL_COMMA_ALLOWED = {
+    &entries::volumereqd,  &entries::shaftdiameter, &entries::thick,        &entries::maxdiameter, &entries::clearn,
+    &entries::minmaterial, &entries::axial_clear,   &entries::radial_clear, &entries::ecc,         &entries::radinnroot,
+    &entries::radouter,    &entries::fillet,        &entries::outer_root};
+
+constexpr double SMALLEST_LOBE_NUMBER = 3.0;
+
+/// One check of the validation: the entry must be above 0. ecc is tested as a text instead.
+struct entry_check {
+    box entry;
+    message text;
+};
+
+constexpr std::array<entry_check, 12> ENTRY_CHECKS = {{
+    {&entries::numlobes, message::input_numlobes},
+    {&entries::shaftdiameter, message::input_shaftdiameter},
+    {&entries::clearn, message::input_clearn},
+    {&entries::thick, message::input_thick},
+    {&entries::minmaterial, message::input_minmaterial},
+    {&entries::maxdiameter, message::input_maxdiameter},
+    {&entries::axial_clear, message::input_axial_clear},
+    {&entries::radial_clear, message::input_radial_clear},
+    {&entries::ecc, message::eccentricity_zero},
+    {&entries::radinnroot, message::input_radinnroot},
+    {&entries::radouter, message::input_radouter},
+    {&entries::coarseness, message::input_coarseness},
+}};
+
+void clean_up_thickness(entries& boxes, user& person, std::int16_t language) {
+    if (boxes.thick.empty()) {
+        person.show_message(message_text(message::rotors_need_thickness, language));
+        boxes.thick = "1";
+    }
+}
+
+void clean_up_lobe_number(entries& boxes, design_params& design, user& person, std::int16_t language) {
+    design.numlobes = integer_of_text(boxes.numlobes);
+    // The text decides, not the rounded number: "2.7" is refused.
+    if (val(boxes.numlobes) < SMALLEST_LOBE_NUMBER) {
+        person.show_message(message_text(message::lobe_number_minimum, language));
+        boxes.numlobes = "3";
+        design.numlobes = 3;
+    }
+}
+
+/// A dimension and the entry it is read from.
+struct dimension {
+    box entry;
+    double design_params::*field;
+};
+
+constexpr std::array<dimension, 10> DIMENSIONS = {{
+    {&entries::ecc, &design_params::ecc},
+    {&entries::radouter, &design_params::radouter},
+    {&entries::thick, &design_params::thick},
+    {&entries::radinnroot, &design_params::radinnroot},
+    {&entries::shaftdiameter, &design_params::shaftdiameter},
+    {&entries::maxdiameter, &design_params::maxdiameter},
+    {&entries::axial_clear, &design_params::axial_clear},
+    {&entries::radial_clear, &design_params::radial_clear},
+    {&entries::fillet, &design_params::fillet},
+    {&entries::minmaterial, &design_params::minmaterial},
+}};
+
+}  // namespace
+
+void clean_up_entries(entries& boxes, design_params& design, user& person, std::int16_t language) {
+    clean_up_thickness(boxes, person, language);
+    clean_up_lobe_number(boxes, design, person, language);
+    for (const box entry : EMPTY_MEANS_ZERO) {
+        if ((boxes.*entry).empty()) {
+            boxes.*entry = "0";
+        }
+    }
+    for (const box entry : DECIMAL_COMMA_ALLOWED) {
+        boxes.*entry = commas_to_points(boxes.*entry);
+    }
+}
+
+std::optional<refused_entry> first_refused_entry(const entries& boxes) {
+    for (const auto& [entry, text] : ENTRY_CHECKS) {
+        const std::string& typed = boxes.*entry;
+        if (entry == &entries::ecc) {
+            if (typed == "0" || typed.empty()) {
+                return refused_entry{text, "ecc"};
+            }
+        } else if (!(val(typed) > 0.0)) {
+            return refused_entry{text, ""};
+        }
+    }
+    return std::nullopt;
+}
+
+void read_entries(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors) {
+    design.numlobes = to_int32(val(boxes.numlobes));
+    for (const auto& [entry, field] : DIMENSIONS) {
+        design.*field = inches ? val(boxes.*entry) * MM_PER_INCH : val(boxes.*entry);
+    }
+    design.clearn_half = inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
+    design.coarseness = to_int16(val(boxes.coarseness));
+    rotors.inner_plot_len = checked_divide(rotors.profile_points + rotors.profile_points, design.coarseness) + 1.0;
+}
+
+bool shaft_material_too_thin(const design_params& design) {
+    return 2.0 * design.radinnroot < design.minmaterial + design.shaftdiameter;
+}
+
+}  // namespace kvt

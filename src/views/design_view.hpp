@@ -1,12 +1,12 @@
 // design_view: what the Design view shows, as retained data in twips; a widget only paints it.
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "core/rotor_profiles.hpp"
+
+#include <cstdint>
+#include <vector>
 
 namespace kvt {
 
@@ -56,16 +56,25 @@ void clear_rotors(design_view& view);
 /// Clears everything, ports and groove included.
 void clear_all(design_view& view);
 
+/// The scale of a new drawing: view_scale = view_size * 0.95 / maxdiameter, twips per mm; view_ecc = ecc * view_scale.
+void set_plot_scale(const design_params& design, app_state& state);
+
+/// The direction of a difference (dx, dy) for a drawn arc, radians: arctan(dy/dx), plus PI_L if dx < 0 (with dy above
+/// or below 0), plus TWO_PI_L if dx > 0 and dy < 0. Throws division_by_zero when dx is 0.
+double drawing_angle(double dx, double dy);
+
 /// The first drawing of the inner rotor by Calculate Profiles, about the view's centre view_size/2:
 ///     x = view_scale * x + view_size/2 + view_ecc + clearn_half * view_scale      y = view_scale * y + view_size/2
 /// One element a pair of neighbouring points of inner_plot_xy, a last one closing to the first point; shows Shape1
-/// with diameter view_scale * maxdiameter.
+/// with diameter view_scale * maxdiameter. Throws overflow for coordinates beyond single precision,
+/// subscript_out_of_range when the plot list is too short.
 void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
                       design_view& view);
 
 /// The first drawing of the outer rotor by Calculate Profiles: fillet, lobe and root arcs about the view's centre.
-/// alpha and beta are the angles of the fillet centre and of the tangent point from the lobe's axis (see
-/// outer_rotor.hpp). Throws run_time_error for an angle whose x difference is 0.
+/// y is flipped, unlike in the inner rotor's lines. Without fillets there are no fillet arcs. The end angles are those
+/// of drawing_angle from each arc's centre. Arcs drawn before a failure stay. Throws run_time_error for an angle whose
+/// x difference is 0.
 void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
                       design_view& view);
 

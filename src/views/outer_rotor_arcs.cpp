@@ -1,1 +1,102 @@
-// (to come)
+// The arcs of the outer rotor in the Design view.
+#include "core/checked_math.hpp"
+#include "core/constants.hpp"
+#include "geometry/outer_flank.hpp"
+#include "geometry/point2.hpp"
+#include "views/design_view.hpp"
+
+#include <cmath>
+
+namespace kvt {
+
+namespace {
+
+point2 polar_point(double radius, double angle) {
+    return {radius * std::cos(angle), radius * std::sin(angle)};
+}
+
+/// What the drawing notes of a flank, radians.
+struct drawn_flank {
+    double root_angle = 0.0;  ///< root end seen from the outer centre
+    double lobe_angle = 0.0;  ///< tangent point seen from the lobe centre
+};
+
+/// Draws the arcs of one design about the view's centre.
+class outer_rotor_drawing {
+  public:
+    outer_rotor_drawing(const design_params& design, const rotor_profiles& rotors, const app_state& state,
+                        design_view& view)
+        : design_(design),
+          state_(state),
+          view_(view),
+          flank_(flank_of_lobe(design, rotors)),
+          lobe_centre_radius_(lobe_centre_radius(design, rotors)) {}
+
+    void run() {
+        const double pitch = checked_divide(TWO_PI_D, design_.numlobes);
+        std::vector<drawn_flank> first;
+        std::vector<drawn_flank> second;
+        double theta = 0.0;
+        for (std::int32_t lobe = 0; lobe < design_.numlobes; ++lobe) {
+            theta = theta + pitch;
+            first.push_back(flank(theta, theta - flank_.alpha, theta - flank_.beta, true));
+            second.push_back(flank(theta, theta + flank_.alpha, theta + flank_.beta, false));
+            add_arc(polar_point(lobe_centre_radius_, theta), design_.radouter, second.back().lobe_angle,
+                    first.back().lobe_angle);
+        }
+        for (std::size_t lobe = 0; lobe < first.size(); ++lobe) {
+            add_arc({0.0, 0.0}, design_.outer_root, second[lobe].root_angle,
+                    first[(lobe + 1) % first.size()].root_angle);
+        }
+    }
+
+  private:
+    /// Notes the angles of a flank and draws its fillet; on the first flank from root to lobe, on the second back.
+    drawn_flank flank(double theta, double A, double B, bool is_first) {
+        const point2 root_end = polar_point(design_.outer_root, A);
+        const point2 lobe_end = polar_point(flank_.tangent_radius, B);
+        if (design_.fillet != 0.0) {
+            const point2 centre = polar_point(design_.outer_root - design_.fillet, A);
+            const double root_side = direction(centre, root_end);
+            const double lobe_side = direction(centre, lobe_end);
+            add_arc(centre, design_.fillet, is_first ? root_side : lobe_side, is_first ? lobe_side : root_side);
+        }
+        return {direction({0.0, 0.0}, root_end), direction(polar_point(lobe_centre_radius_, theta), lobe_end)};
+    }
+
+    static double direction(const point2& centre, const point2& point) {
+        return drawing_angle(point.x - centre.x, point.y - centre.y);
+    }
+
+    void add_arc(const point2& centre, double radius, double start, double end) {
+        const double half = state_.view_size / 2.0;
+        view_.Picture1.push_back({half + centre.x * state_.view_scale, half - centre.y * state_.view_scale,
+                                  radius * state_.view_scale, start, end});
+    }
+
+    const design_params& design_;
+    const app_state& state_;
+    design_view& view_;
+    const outer_flank flank_;
+    const double lobe_centre_radius_;
+};
+
+}  // namespace
+
+double drawing_angle(double dx, double dy) {
+    const double angle = std::atan(checked_divide(dy, dx));
+    if (dx < 0.0 && dy != 0.0) {
+        return angle + PI_L;
+    }
+    if (dx > 0.0 && dy < 0.0) {
+        return angle + TWO_PI_L;
+    }
+    return angle;
+}
+
+void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
+                      design_view& view) {
+    outer_rotor_drawing(design, rotors, state, view).run();
+}
+
+}  // namespace kvt

@@ -1,0 +1,45 @@
+#include "geometry/chamber_window.hpp"
+
+#include "core/checked_math.hpp"
+#include "core/constants.hpp"
+#include "core/number_text.hpp"
+
+#include <cmath>
+
+namespace kvt {
+
+namespace {
+
+constexpr double SMALL_AREA = 10.0;
+
+/// The right angle as the chamber routines form it.
+double right_angle() {
+    return std::atan(1.0) + std::atan(1.0);
+}
+
+}  // namespace
+
+double half_pitch(const design_params& design) {
+    return checked_divide(360.0, design.numlobes * 2.0) * PI_D / 180.0;
+}
+
+chamber_window window_of_chamber(const design_params& design, const rotor_profiles& rotors, double angle) {
+    const double R = rotors.trochoid_r;
+    const double n1 = design.numlobes * design.ecc;
+    const double n2 = (design.numlobes - 1.0) * design.ecc;
+    const double h = checked_sqrt(R * R + n1 * n1 - (2.0 * n1 * R) * std::cos(angle));
+    const double g = checked_divide(h * h + n1 * n1 - R * R, 2.0 * h * n1);
+    const double j = h - design.radouter;
+    const double l = checked_sqrt(j * j + n2 * n2 - (2.0 * j * n2) * g);
+    const double q = checked_divide(l * l + n2 * n2 - j * j, 2.0 * n2 * l);
+    const double m = checked_sqrt(j * j + n1 * n1 - (2.0 * j * n1) * g);
+    const double p = checked_divide(m * m + n1 * n1 - j * j, 2.0 * n1 * m);
+    return {arc_cosine_form(q, right_angle()), arc_cosine_form(p, right_angle())};
+}
+
+std::string chamber_label(double area, double thick) {
+    const double volume = area < SMALL_AREA ? floor_to_int(area * thick * 100.0) / 100.0 : floor_to_int(area * thick);
+    return number_text(volume) + " mm3";
+}
+
+}  // namespace kvt
