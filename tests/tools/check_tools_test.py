@@ -1,0 +1,197 @@
+"""Tests of the checks in tools: each passes a good tree and names the fault of a bad one."""
+import pathlib
+import sys
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools"))
+
+import check_format  # noqa: E402
+import check_includes  # noqa: E402
+import check_line_ends  # noqa: E402
+import check_sources_have_tests  # noqa: E402
+import check_texts  # noqa: E402
+
+
+class tree_test(unittest.TestCase):
+    """Gives each test a small tree of its own."""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = pathlib.Path(folder.name)
+
+    def write(self, name, content):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(content if isinstance(content, bytes) else content.encode("utf-8"))
+
+    def expect_one(self, found, *pieces):
+        found = list(found)
+        self.assertEqual(len(found), 1, found)
+        for piece in pieces:
+            self.assertIn(piece, found[0])
+
+
+class includes_test(tree_test):
+    def check(self):
+        return check_includes.findings(self.root)
+
+    def test_downwards_and_within_a_room_is_allowed(self):
+        self.write("src/geometry/a.cpp", '#include "core/b.hpp"\n#include "geometry/a.hpp"\n#include <vector>\n')
+        self.write("src/ui/form.cpp", '#include "app/program.hpp"\n#include <QWidget>\n#include <QtGlobal>\n')
+        self.assertEqual(list(self.check()), [])
+
+    def test_upwards_is_reported_with_its_line(self):
+        self.write("src/core/a.cpp", '#include "core/a.hpp"\n#include "geometry/trochoid.hpp"\n')
+        self.expect_one(self.check(), "src/core/a.cpp:2", "geometry/trochoid.hpp")
+
+    def test_sideways_is_reported(self):
+        self.write("src/views/a.hpp", '#include "output/dxf.hpp"\n')
+        self.expect_one(self.check(), "src/views/a.hpp:1", "output/dxf.hpp")
+
+    def test_a_relative_path_does_not_hide_the_room(self):
+        self.write("src/core/a.cpp", '#include "../app/program.hpp"\n')
+        self.expect_one(self.check(), "src/core/a.cpp:1")
+
+    def test_qt_below_ui_is_reported(self):
+        self.write("src/app/a.cpp", "#include <QString>\n")
+        self.expect_one(self.check(), "Qt below src/ui", "QString")
+
+    def test_qt_in_the_batch_program_is_reported(self):
+        self.write("src/core/a.cpp", "")
+        self.write("apps/kvt/main.cpp", "#include <QtCore>\n")
+        self.expect_one(self.check(), "apps/kvt/main.cpp:1")
+
+    def test_an_unknown_room_is_reported(self):
+        self.write("src/misc/a.cpp", "")
+        self.expect_one(self.check(), "src/misc")
+
+
+class texts_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.messages('KVT_MESSAGE(saved, "Saved", "Gespeichert")\n')
+
+    def messages(self, content):
+        self.write("src/core/messages.inc", content)
+
+    def check(self):
+        return check_texts.findings(self.root)
+
+    def test_both_languages_and_marked_english_only_are_allowed(self):
+        self.messages('KVT_MESSAGE(saved, "Saved", "Gespeichert")\nKVT_MESSAGE_ENGLISH_ONLY(got, "Got file")\n')
+        self.write(
+            "src/core/texts/Form1.inc",
+            '{caption, "Form1", "", "Design", "Entwurf"},\n'
+            '{fixed_caption, "Form1", "check", "Assist OFF", "", english_only},\n'
+            '{tooltip, "Form1", "ecc",\n "One "\n "two",\n "Eins "\n "zwei"},\n',
+        )
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_message_without_german_is_reported(self):
+        self.messages('KVT_MESSAGE(saved, "Saved", "")\n')
+        self.expect_one(self.check(), "messages.inc:1")
+
+    def test_a_caption_without_german_is_reported(self):
+        self.write("src/core/texts/Form1.inc", '// rows\n{caption, "Form1", "Calc", "Calculate", ""},\n')
+        self.expect_one(self.check(), "Form1.inc:2", "Calc")
+
+    def test_a_tooltip_of_several_lines_without_german_is_reported(self):
+        self.write("src/core/texts/Form1.inc", '{tooltip, "Form1", "ecc",\n "One "\n "two",\n ""},\n')
+        self.expect_one(self.check(), "Form1.inc:1")
+
+    def test_a_text_outside_the_table_is_reported(self):
+        self.write("src/app/save.cpp", 'show("All is saved.");\n')
+        self.expect_one(self.check(), "src/app/save.cpp:1", "All is saved.")
+
+    def test_names_comments_and_texts_for_developers_are_allowed(self):
+        self.write(
+            "src/app/save.cpp",
+            '#include "app/save.hpp"\nset("Form1");  // say "not this"\n// "nor this one"\n'
+            'assert(ok && "must be open");\nthrow run_time_error(failure::overflow, "more than 16 bits");\n',
+        )
+        self.assertEqual(list(self.check()), [])
+
+
+class line_ends_test(tree_test):
+    def check(self, deliberate=None):
+        return check_line_ends.findings(self.root, deliberate or {})
+
+    def test_cr_lf_is_allowed(self):
+        self.write("examples/a.KVT", b"1\r\n\r\n2\r\n")
+        self.write("share/KVT.ini", b"a\r\n")
+        self.assertEqual(list(self.check()), [])
+
+    def test_every_other_line_end_is_reported(self):
+        for content in (b"1\r\n2\n", b"1\r\n2\r", b"1\r2\r\n", b"1\r\n2", b"", b"\n1\r\n"):
+            with self.subTest(content=content):
+                self.write("tests/data/projects/a.KVT", content)
+                self.expect_one(self.check(), "tests/data/projects/a.KVT")
+
+    def test_a_listed_file_is_allowed_as_long_as_it_is_broken(self):
+        self.write("examples/a.kvt", b"1\n")
+        listed = {"examples/a.kvt": "LF alone"}
+        self.assertEqual(list(self.check(listed)), [])
+        self.write("examples/a.kvt", b"1\r\n")
+        self.expect_one(self.check(listed), "LF alone")
+
+    def test_a_listed_file_that_is_gone_is_reported(self):
+        self.expect_one(self.check({"examples/gone.KVT": "LF alone"}), "gone.KVT")
+
+
+class format_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write(".clang-format", (ROOT / ".clang-format").read_bytes())
+
+    def test_formatted_source_is_allowed(self):
+        self.write("src/core/a.cpp", "int a() {\n    return 1;\n}\n")
+        self.assertEqual(check_format.findings(self.root), [])
+
+    def test_other_source_is_reported(self):
+        self.write("src/core/a.cpp", "int  a(){return 1;}\n")
+        found = check_format.findings(self.root)
+        self.assertTrue(found)
+        self.assertIn("src/core/a.cpp:1", found[0])
+
+    def test_a_tree_without_sources_is_reported(self):
+        self.assertEqual(len(check_format.findings(self.root)), 1)
+
+
+class sources_have_tests_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write("src/core/a.cpp", "")
+
+    def check(self, covered_by=None, without_test=None):
+        return check_sources_have_tests.findings(self.root, covered_by or {}, without_test or {})
+
+    def test_a_test_file_of_the_same_name_is_enough(self):
+        self.write("tests/core/a_test.cpp", "")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_source_without_a_test_is_reported(self):
+        self.write("tests/geometry/a_test.cpp", "")
+        self.expect_one(self.check(), "src/core/a.cpp", "tests/core/a_test.cpp")
+
+    def test_a_listed_test_must_exist(self):
+        listed = {"src/core/a.cpp": "tests/core/b_test.cpp"}
+        self.expect_one(self.check(listed), "tests/core/b_test.cpp")
+        self.write("tests/core/b_test.cpp", "")
+        self.assertEqual(list(self.check(listed)), [])
+
+    def test_a_reason_is_enough_while_there_is_no_test(self):
+        listed = {"src/core/a.cpp": "a table of names"}
+        self.assertEqual(list(self.check(None, listed)), [])
+        self.write("tests/core/a_test.cpp", "")
+        self.expect_one(self.check(None, listed), "needs no entry")
+
+    def test_an_entry_for_a_source_that_is_gone_is_reported(self):
+        self.write("tests/core/a_test.cpp", "")
+        self.expect_one(self.check(None, {"src/core/gone.cpp": "a table"}), "src/core/gone.cpp")
+
+
+if __name__ == "__main__":
+    unittest.main()
