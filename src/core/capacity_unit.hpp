@@ -8,8 +8,8 @@
 namespace kvt {
 
 /// The list texts in code order; element 0 is code 1.
-inline constexpr std::array<std::string_view, 5> CAPACITY_UNIT_TEXTS = {
-    "Lit/Min/1000rpm", "USGall/Min/1000rpm", "ImpGall/Min/1000rpm", "CC/Rev", "Cu In/Rev"};
+inline constexpr std::array<std::string_view, 5> CAPACITY_UNIT_TEXTS = {"Lit/Min/1000rpm", "USGall/Min/1000rpm",
+                                                                        "ImpGall/Min/1000rpm", "CC/Rev", "Cu In/Rev"};
 
 /// The code 1 .. 5 of a list text; 0 for a text that is not in the list.
 std::int16_t capacity_unit_code(std::string_view text);

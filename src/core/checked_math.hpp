@@ -1,11 +1,11 @@
 // Arithmetic that raises a run_time_error where the hardware would go on with infinity, NaN or a wrapped counter.
 #pragma once
 
+#include "core/run_time_error.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
-
-#include "core/run_time_error.hpp"
 
 namespace kvt {
 

@@ -1,10 +1,10 @@
 // recent_list: the four recent projects under the File menu, kept in the captions of mnufileprev 0 to 3.
 #pragma once
 
+#include "core/app_state.hpp"
+
 #include <string>
 #include <string_view>
-
-#include "core/app_state.hpp"
 
 namespace kvt {
 

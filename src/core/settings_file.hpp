@@ -1,10 +1,10 @@
 // settings_file: KVT.ini, seven positional lines in the program's folder.
 #pragma once
 
+#include "core/app_state.hpp"
+
 #include <string>
 #include <string_view>
-
-#include "core/app_state.hpp"
 
 namespace kvt {
 

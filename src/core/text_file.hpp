@@ -31,6 +31,7 @@ std::string read_file(const std::filesystem::path& path);
 
 /// Writes bytes to a temporary name beside the path and renames it over the path, so that a crash leaves either
 /// the old file or the new one. Throws path_not_found or path_file_access; then the old file is untouched.
+/// A link stays a link and its target is replaced; the old file's permissions stay; a device or pipe is written to.
 void write_file(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace kvt
