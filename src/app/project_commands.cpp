@@ -21,10 +21,11 @@ namespace {
 constexpr int HIDE_READ_ONLY = 4;
 constexpr int OVERWRITE_PROMPT = 2;
 
-file_dialog project_dialog(std::string_view title_end) {
+file_dialog project_dialog(const program& kavetta, message title_end) {
+    const std::int16_t language = kavetta.app_state.language;
     file_dialog dialog;
-    dialog.title = program_title() + std::string(title_end);
-    dialog.filter = "All files|*.*|KVT|*.KVT";
+    dialog.title = program_title() + std::string(message_text(title_end, language));
+    dialog.filter = message_text(message::project_filter, language);
     dialog.filter_index = 2;
     dialog.default_extension = "KVT";
     return dialog;
@@ -111,7 +112,7 @@ void open_project(program& kavetta, user& person) {
     try {
         const bool first_time = kavetta.app_state.projects_folder.empty();
         find_projects_folder(kavetta);
-        file_dialog dialog = project_dialog(" - Open Project");
+        file_dialog dialog = project_dialog(kavetta, message::open_project_title);
         // Kept: once the folder is known, Open leaves the start folder to the platform's own memory; Save As doesn't.
         dialog.folder = first_time ? kavetta.app_state.projects_folder : "";
         dialog.flags = HIDE_READ_ONLY;
@@ -144,7 +145,7 @@ void save_project(program& kavetta, user& person) {
 bool save_project_as(program& kavetta, user& person) {
     try {
         find_projects_folder(kavetta);
-        file_dialog dialog = project_dialog(" - Save Project");
+        file_dialog dialog = project_dialog(kavetta, message::save_project_title);
         dialog.saving = true;
         dialog.folder = kavetta.app_state.projects_folder;
         dialog.flags = OVERWRITE_PROMPT;
