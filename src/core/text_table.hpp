@@ -9,13 +9,13 @@ namespace kvt {
 
 /// What a row of the text table is used for.
 enum class text_kind {
-    message,          ///< a message box; name is the enumerator of message
-    caption,          ///< set by both caption routines when the language changes
-    design_caption,   ///< English at design time, German set by the German routine or by the form's own load
-    caption_mm,       ///< set by the millimetre label routine
-    caption_inch,     ///< set by the inch label routine
-    fixed_caption,    ///< a caption that no routine changes
-    tooltip           ///< explains a field with its unit
+    message,         ///< a message box; name is the enumerator of message
+    caption,         ///< set by both caption routines when the language changes
+    design_caption,  ///< English at design time, German set by the German routine or by the form's own load
+    caption_mm,      ///< set by the millimetre label routine
+    caption_inch,    ///< set by the inch label routine
+    fixed_caption,   ///< a caption that no routine changes
+    tooltip          ///< explains a field with its unit
 };
 
 /// Whether a row must have a German text of its own.
@@ -23,10 +23,10 @@ enum class text_languages { both, english_only };
 
 struct text_row {
     text_kind kind;
-    std::string_view form;     ///< the form's name; empty for messages
-    std::string_view name;     ///< the control's name, "" for the form's own caption, or the message's name
+    std::string_view form;  ///< the form's name; empty for messages
+    std::string_view name;  ///< the control's name, "" for the form's own caption, or the message's name
     std::string_view english;
-    std::string_view german;   ///< empty only with english_only
+    std::string_view german;  ///< empty only with english_only
     text_languages languages = text_languages::both;
 };
 
