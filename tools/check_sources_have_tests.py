@@ -1,25 +1,35 @@
 #!/usr/bin/env python3
-"""Reports sources of src without a test file. Usage: check_sources_have_tests.py [ROOT].
+"""Reports sources of src and of the batch program without a test file. Usage: check_sources_have_tests.py [ROOT].
 
-src/geometry/trochoid.cpp is tested by tests/geometry/trochoid_test.cpp. Where one test file covers several sources
-COVERED_BY names it; what needs no test stands in WITHOUT_TEST with the reason.
+src/geometry/trochoid.cpp is tested by tests/geometry/trochoid_test.cpp, apps/kvt/json_report.cpp by
+tests/kvt/json_report_test.cpp. Where one test file covers several sources COVERED_BY names it; what needs no test stands
+in WITHOUT_TEST with the reason.
 """
 import pathlib
 import sys
+
+FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
 
 COVERED_BY = {
 }
 
 WITHOUT_TEST = {
+    "apps/kvt/main.cpp": "hands the command line to the library; tests/kvt/program_test.cpp starts the program itself",
 }
+
+
+def sources_and_tests(root):
+    """Yields each source with the place of its own test file."""
+    for folder, tests in FOLDERS.items():
+        for path in sorted((root / folder).rglob("*.cpp")):
+            yield path, root / tests / path.relative_to(root / folder).parent / (path.stem + "_test.cpp")
 
 
 def findings(root, covered_by=None, without_test=None):
     covered_by = COVERED_BY if covered_by is None else covered_by
     without_test = WITHOUT_TEST if without_test is None else without_test
-    for path in sorted((root / "src").rglob("*.cpp")):
+    for path, own in sources_and_tests(root):
         name = path.relative_to(root).as_posix()
-        own = root / "tests" / path.relative_to(root / "src").parent / (path.stem + "_test.cpp")
         listed = covered_by.get(name)
         if own.exists():
             if listed or name in without_test:

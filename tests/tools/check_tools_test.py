@@ -176,6 +176,11 @@ class sources_have_tests_test(tree_test):
         self.write("tests/geometry/a_test.cpp", "")
         self.expect_one(self.check(), "src/core/a.cpp", "tests/core/a_test.cpp")
 
+    def test_the_batch_program_is_looked_at_too(self):
+        self.write("tests/core/a_test.cpp", "")
+        self.write("apps/kvt/report.cpp", "")
+        self.expect_one(self.check(), "apps/kvt/report.cpp", "tests/kvt/report_test.cpp")
+
     def test_a_listed_test_must_exist(self):
         listed = {"src/core/a.cpp": "tests/core/b_test.cpp"}
         self.expect_one(self.check(listed), "tests/core/b_test.cpp")
