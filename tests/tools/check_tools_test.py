@@ -10,6 +10,7 @@ sys.path.insert(0, str(ROOT / "tools"))
 import check_format  # noqa: E402
 import check_includes  # noqa: E402
 import check_line_ends  # noqa: E402
+import check_pages  # noqa: E402
 import check_sources_have_tests  # noqa: E402
 import check_texts  # noqa: E402
 
@@ -139,6 +140,28 @@ class line_ends_test(tree_test):
 
     def test_a_listed_file_that_is_gone_is_reported(self):
         self.expect_one(self.check({"examples/gone.KVT": "LF alone"}), "gone.KVT")
+
+
+class pages_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write("CMakePresets.json", '{"configurePresets": [{"name": "ci"}]}')
+        self.write("docs/style.md", "[up](../README.md)\n")
+
+    def check(self):
+        return check_pages.findings(self.root)
+
+    def test_links_that_exist_and_links_to_the_web_are_allowed(self):
+        self.write("README.md", "[a](docs/style.md#names) [b](https://example.org/x) [c](#here)\ncmake --preset ci\n")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_link_that_leads_nowhere_is_reported_with_its_line(self):
+        self.write("README.md", "\n![picture](docs/images/a.png)\n")
+        self.expect_one(self.check(), "README.md:2", "docs/images/a.png")
+
+    def test_a_preset_that_does_not_exist_is_reported(self):
+        self.write("README.md", "cmake --preset fast\n")
+        self.expect_one(self.check(), "README.md:1", "fast")
 
 
 class format_test(tree_test):
