@@ -31,6 +31,7 @@ consteval auto form_rows() {
 #include "core/texts/Form4.inc"
 #include "core/texts/MDIForm1.inc"
 #include "core/texts/Perffrm.inc"
+#include "core/texts/kvt.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/portdes.inc"
 #include "core/texts/select_graphs.inc"
