@@ -1,0 +1,104 @@
+#include "kvt/batch_run.hpp"
+
+#include "app/calculate_profiles.hpp"
+#include "app/project_commands.hpp"
+#include "app/unit_commands.hpp"
+#include "core/capacity_unit.hpp"
+#include "core/number_text.hpp"
+#include "core/text_table.hpp"
+
+namespace kvt {
+
+namespace {
+
+batch_end end_of(run_end end) {
+    switch (end) {
+        case run_end::ok:
+            return batch_end::ok;
+        case run_end::validation:
+            return batch_end::validation;
+        case run_end::failure:
+            return batch_end::failure;
+        case run_end::closing:
+            return batch_end::closing;
+        case run_end::error:
+            break;
+    }
+    return batch_end::error;
+}
+
+void type_entries(program& kavetta, user& person, const design_source& source) {
+    if (source.capacity_unit != 0) {
+        select_capacity_unit(kavetta, CAPACITY_UNIT_TEXTS.at(static_cast<std::size_t>(source.capacity_unit - 1)));
+    }
+    for (const typed_entry& typed : source.typed) {
+        type_entry(kavetta, person, typed);
+    }
+}
+
+}  // namespace
+
+std::string_view batch_end_name(batch_end end) {
+    switch (end) {
+        case batch_end::ok:
+            return "ok";
+        case batch_end::validation:
+            return "validation";
+        case batch_end::failure:
+            return "failure";
+        case batch_end::closing:
+            return "closing";
+        case batch_end::error:
+            return "error";
+        case batch_end::fatal:
+            return "fatal";
+        case batch_end::read_error:
+            break;
+    }
+    return "read_error";
+}
+
+int exit_status(batch_end end) {
+    if (end == batch_end::read_error) {
+        return EXIT_UNREADABLE;
+    }
+    return end == batch_end::ok ? EXIT_OK : EXIT_REFUSED;
+}
+
+std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
+    return std::string(message_text(message::run_time_failure, language)) + number_text(error.number()) + ": " +
+           error.text();
+}
+
+std::optional<batch_end> open_design(program& kavetta, batch_user& person, const design_source& source) {
+    kavetta.app_state.language = source.language;
+    set_captions(kavetta);
+    try {
+        load_project(kavetta, person, source.project);
+    } catch (const run_time_error& error) {
+        person.show_status(source.project + ": " + run_time_error_line(error, source.language));
+        return batch_end::read_error;
+    }
+    try {
+        type_entries(kavetta, person, source);
+    } catch (const run_time_error& error) {
+        person.show_message(run_time_error_line(error, source.language));
+        return batch_end::fatal;
+    }
+    return std::nullopt;
+}
+
+batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source) {
+    if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
+        return {*early, false};
+    }
+    try {
+        const batch_end end = end_of(calculate_profiles(kavetta, person));
+        return {end, end != batch_end::validation};
+    } catch (const run_time_error& error) {
+        person.show_message(run_time_error_line(error, source.language));
+        return {batch_end::fatal, true};
+    }
+}
+
+}  // namespace kvt

@@ -1,0 +1,33 @@
+#include "kvt/batch_user.hpp"
+
+#include <ostream>
+
+namespace kvt {
+
+void batch_user::show_message(std::string_view text) {
+    messages_.emplace_back(text);
+    err_ << text << '\n';
+}
+
+answer batch_user::ask(std::string_view question, question_buttons) {
+    err_ << question << " Yes\n";
+    return answer::yes;
+}
+
+std::optional<std::string> batch_user::choose_file(const file_dialog&) {
+    return std::nullopt;
+}
+
+std::optional<std::string> batch_user::ask_project_name() {
+    return std::nullopt;
+}
+
+start_choice batch_user::ask_new_or_open() {
+    return start_choice::neither;
+}
+
+void batch_user::show_status(std::string_view text) {
+    err_ << text << '\n';
+}
+
+}  // namespace kvt

@@ -1,0 +1,41 @@
+// batch_user: the person on the other side when nobody sits there: messages are collected, questions get defaults.
+#pragma once
+
+#include "core/user.hpp"
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kvt {
+
+/// Messages and status lines go to the given stream, one line each, and messages are kept in order. Every question
+/// is answered Yes (a value that a question could drop is kept), every dialog is cancelled.
+class batch_user : public user {
+  public:
+    explicit batch_user(std::ostream& err) : err_(err) {}
+
+    const std::vector<std::string>& messages() const { return messages_; }
+
+    void show_message(std::string_view text) override;
+    answer ask(std::string_view question, question_buttons buttons) override;
+    std::optional<std::string> choose_file(const file_dialog& dialog) override;
+    std::optional<std::string> ask_project_name() override;
+    start_choice ask_new_or_open() override;
+    void show_status(std::string_view text) override;
+
+    // There are no windows, no focus, no pointer and no progress bar.
+    void show_form(std::string_view) override {}
+    void unload_form(std::string_view) override {}
+    void set_focus(std::string_view) override {}
+    void set_busy(bool) override {}
+    void show_progress(std::string_view, int) override {}
+
+  private:
+    std::ostream& err_;
+    std::vector<std::string> messages_;
+};
+
+}  // namespace kvt

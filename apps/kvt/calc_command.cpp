@@ -1,0 +1,35 @@
+#include "kvt/calc_command.hpp"
+
+#include "core/text_file.hpp"
+#include "kvt/json_report.hpp"
+#include "kvt/text_report.hpp"
+
+#include <ostream>
+
+namespace kvt {
+
+int calc_design(const calc_request& request, std::ostream& out, std::ostream& err) {
+    batch_user person(err);
+    program kavetta;
+    const batch_result result = calculate_design(kavetta, person, request.source);
+    if (request.json_file != "-") {
+        out << text_report(kavetta, result);
+    }
+    if (request.json_file.empty()) {
+        return exit_status(result.end);
+    }
+    const std::string report = json_report(kavetta, person.messages(), result, request.full);
+    if (request.json_file == "-") {
+        out << report;
+        return exit_status(result.end);
+    }
+    try {
+        write_file(request.json_file, report);
+    } catch (const run_time_error& error) {
+        err << request.json_file << ": " << run_time_error_line(error, request.source.language) << '\n';
+        return result.end == batch_end::read_error ? EXIT_UNREADABLE : EXIT_REFUSED;
+    }
+    return exit_status(result.end);
+}
+
+}  // namespace kvt

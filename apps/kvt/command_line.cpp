@@ -1,0 +1,125 @@
+#include "kvt/command_line.hpp"
+
+#include "kvt/calc_command.hpp"
+#include "kvt/export_command.hpp"
+
+#include <CLI/CLI.hpp>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace kvt {
+
+namespace {
+
+constexpr const char* VERSION = KVT_VERSION;
+
+constexpr const char* ABOUT =
+    "kvt calculates gerotor pump designs from project files (.KVT) without a window,\n"
+    "as the desktop program does with Open and Calculate Profiles.";
+
+constexpr const char* EXAMPLES =
+    "Examples:\n"
+    "  kvt calc engine_oil.KVT\n"
+    "  kvt calc engine_oil.KVT --set thick=12 --set fillet=0 --json -\n"
+    "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
+    "\n"
+    "Exit status: 0 ended ok, 1 the design was refused or failed, 2 usage,\n"
+    "3 the project file could not be read. Messages go to standard error.";
+
+/// What the options say, as they are read.
+struct command_line {
+    calc_request calc;
+    std::vector<std::string> typed;  ///< the --set options as given
+    std::string stage = "performance";
+    std::string export_folder;
+};
+
+/// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be typed.
+typed_entry parse_typed(const std::string& option) {
+    const std::size_t equals = option.find('=');
+    if (equals == std::string::npos) {
+        throw CLI::ValidationError("--set", "'" + option + "' is not CONTROL=TEXT");
+    }
+    const typed_entry typed{option.substr(0, equals), option.substr(equals + 1)};
+    const std::string problem = typed_entry_problem(typed);
+    if (!problem.empty()) {
+        throw CLI::ValidationError("--set", problem);
+    }
+    return typed;
+}
+
+/// A check that adds nothing to the help text: the option's own words name the values.
+CLI::Validator plain(CLI::Validator check) {
+    check.description("");
+    return check;
+}
+
+void add_design_options(CLI::App& command, command_line& line) {
+    design_source& source = line.calc.source;
+    command.add_option("PROJECT.KVT", source.project, "Project file to open")->required();
+    command
+        .add_option("--set", line.typed,
+                    "Type TEXT into a control and leave it, as a user would; check boxes take 0 or 1,\n"
+                    "dimens1=1 and dimens2=1 choose mm and inches, unittype takes a text of its list.\n"
+                    "May be given many times")
+        ->type_name("CONTROL=TEXT")
+        ->allow_extra_args(false);
+    command
+        .add_option("--capacity-unit", source.capacity_unit,
+                    "Select a capacity unit after opening: 1 Lit/Min/1000rpm, 2 USGall/Min/1000rpm,\n"
+                    "3 ImpGall/Min/1000rpm, 4 CC/Rev, 5 Cu In/Rev")
+        ->type_name("N")
+        ->check(plain(CLI::Range(1, 5)));
+    command.add_option("--language", source.language, "Language of messages: 1 English, 2 German")
+        ->type_name("1|2")
+        ->check(plain(CLI::Range(1, 2)));
+}
+
+CLI::App* add_calc(CLI::App& app, command_line& line) {
+    CLI::App* calc = app.add_subcommand("calc", "Calculate a design and print a summary");
+    add_design_options(*calc, line);
+    calc->add_option("--json", line.calc.json_file,
+                     "Write everything as JSON to a file; with - to standard output, without the summary")
+        ->type_name("FILE|-");
+    calc->add_flag("--full", line.calc.full, "JSON with all profile points and the lines of the Design view");
+    calc->add_option("--stage", line.stage,
+                     "Stop after a stage; default: as far as it goes. Ports and performance are\n"
+                     "not calculated yet, so that all three stop after the profiles")
+        ->type_name("profiles|ports|performance")
+        ->check(plain(CLI::IsMember({"profiles", "ports", "performance"})));
+    return calc;
+}
+
+CLI::App* add_export(CLI::App& app, command_line& line) {
+    CLI::App* files = app.add_subcommand("export", "Write the files of a design to a folder");
+    add_design_options(*files, line);
+    files->add_option("--out", line.export_folder, "Folder to write to; created when it is missing")
+        ->type_name("DIR")
+        ->required();
+    return files;
+}
+
+}  // namespace
+
+int run_command_line(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+    CLI::App app{ABOUT, "kvt"};
+    app.footer(EXAMPLES);
+    app.set_version_flag("--version", VERSION);
+    app.require_subcommand(1);
+    command_line line;
+    add_calc(app, line);
+    CLI::App* files = add_export(app, line);
+    try {
+        app.parse(argc, argv);
+        for (const std::string& option : line.typed) {
+            line.calc.source.typed.push_back(parse_typed(option));
+        }
+    } catch (const CLI::ParseError& ended) {
+        return app.exit(ended, out, err) == 0 ? EXIT_OK : EXIT_USAGE;
+    }
+    return files->parsed() ? export_design(line.calc.source, line.export_folder, out, err)
+                           : calc_design(line.calc, out, err);
+}
+
+}  // namespace kvt

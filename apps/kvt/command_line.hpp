@@ -1,0 +1,12 @@
+// command_line: the options of kvt and what they start.
+#pragma once
+
+#include <iosfwd>
+
+namespace kvt {
+
+/// Reads the command line and runs its command. Answers the exit status: 0 ended ok, 1 refused or failed, 2 usage,
+/// 3 the project file could not be read.
+int run_command_line(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
+
+}  // namespace kvt

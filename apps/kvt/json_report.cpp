@@ -1,0 +1,127 @@
+#include "kvt/json_report.hpp"
+
+#include "kvt/json_fields.hpp"
+#include "kvt/json_view.hpp"
+
+#include <algorithm>
+#include <string_view>
+
+namespace kvt {
+
+namespace {
+
+constexpr std::array DESIGN_FIELDS = {
+    KVT_JSON_FIELD(design_params, numlobes),      KVT_JSON_FIELD(design_params, ecc),
+    KVT_JSON_FIELD(design_params, radouter),      KVT_JSON_FIELD(design_params, radinnroot),
+    KVT_JSON_FIELD(design_params, clearn_half),   KVT_JSON_FIELD(design_params, thick),
+    KVT_JSON_FIELD(design_params, shaftdiameter), KVT_JSON_FIELD(design_params, minmaterial),
+    KVT_JSON_FIELD(design_params, maxdiameter),   KVT_JSON_FIELD(design_params, axial_clear),
+    KVT_JSON_FIELD(design_params, radial_clear),  KVT_JSON_FIELD(design_params, fillet),
+    KVT_JSON_FIELD(design_params, outer_root),    KVT_JSON_FIELD(design_params, coarseness),
+};
+
+constexpr std::array ROTOR_FIELDS = {
+    KVT_JSON_FIELD(rotor_profiles, profile_points),
+    KVT_JSON_FIELD(rotor_profiles, base_radius),
+    KVT_JSON_FIELD(rotor_profiles, roll_radius),
+    KVT_JSON_FIELD(rotor_profiles, trochoid_r),
+    KVT_JSON_FIELD(rotor_profiles, trochoid_ratio),
+    KVT_JSON_FIELD(rotor_profiles, lobe_centre_offset),
+    KVT_JSON_FIELD(rotor_profiles, inner_plot_len),
+    KVT_JSON_FIELD(rotor_profiles, outer_xy_size),
+    KVT_JSON_FIELD(rotor_profiles, outer_xy_last),
+    KVT_JSON_FIELD(rotor_profiles, outer_last),
+    KVT_JSON_FIELD(rotor_profiles, capacity),
+    KVT_JSON_FIELD(rotor_profiles, capacity_cc),
+    KVT_JSON_FIELD(rotor_profiles, max_chamber_inner_angle),
+    KVT_JSON_FIELD(rotor_profiles, max_chamber_outer_angle),
+    KVT_JSON_FIELD(rotor_profiles, min_chamber_inner_angle),
+    KVT_JSON_FIELD(rotor_profiles, min_chamber_outer_angle),
+};
+
+/// Number of used elements when the last index is kept beside the array; 0 as long as nothing was stored.
+std::size_t count_of_last(std::int16_t last) {
+    return last > 0 ? static_cast<std::size_t>(last) + 1 : 0;
+}
+
+std::size_t points(const rotor_profiles& rotors) {
+    return static_cast<std::size_t>(rotors.profile_points);
+}
+std::size_t points_closed(const rotor_profiles& rotors) {
+    return points(rotors) + 1;
+}
+std::size_t outer_xy_count(const rotor_profiles& rotors) {
+    return count_of_last(rotors.outer_xy_last);
+}
+std::size_t outer_count(const rotor_profiles& rotors) {
+    return count_of_last(rotors.outer_last);
+}
+
+constexpr std::array ROTOR_ARRAYS = {
+    KVT_JSON_ARRAY(rotor_profiles, troch_x, points_closed),
+    KVT_JSON_ARRAY(rotor_profiles, troch_y, points_closed),
+    KVT_JSON_ARRAY(rotor_profiles, troch_angle, points),
+    KVT_JSON_ARRAY(rotor_profiles, troch_slope, points),
+    KVT_JSON_ARRAY(rotor_profiles, troch_xy, whole_array),
+    KVT_JSON_ARRAY(rotor_profiles, inner_x, points),
+    KVT_JSON_ARRAY(rotor_profiles, inner_y, points),
+    KVT_JSON_ARRAY(rotor_profiles, inner_plot_xy, whole_array),
+    KVT_JSON_ARRAY(rotor_profiles, outer_xy, outer_xy_count),
+    KVT_JSON_ARRAY(rotor_profiles, outer_x, outer_count),
+    KVT_JSON_ARRAY(rotor_profiles, outer_y, outer_count),
+    KVT_JSON_ARRAY(rotor_profiles, fillet_x, whole_array),
+    KVT_JSON_ARRAY(rotor_profiles, fillet_y, whole_array),
+    KVT_JSON_ARRAY(rotor_profiles, fillet_r, whole_array),
+};
+
+bool is_input_form(std::string_view form) {
+    return form == "Form1" || form == "portdes" || form == "Perffrm";
+}
+
+json json_entries(const entries& boxes) {
+    json object = json::object();
+    for (const entry_field& field : entry_fields()) {
+        if (is_input_form(field.form)) {
+            object[std::string(field.name)] = boxes.*field.member;
+        }
+    }
+    return object;
+}
+
+json json_labels(const program& kavetta) {
+    json object = json::object();
+    for (const label_field& field : label_fields()) {
+        object[std::string(field.name)] = kavetta.labels.*field.member;
+    }
+    object["rotated_angle"] = kavetta.entries.rotated_angle;
+    return object;
+}
+
+json json_rotors(const rotor_profiles& rotors, bool full) {
+    json object = json_of_fields(rotors, std::span(ROTOR_FIELDS));
+    if (full) {
+        add_arrays(object, rotors, std::span(ROTOR_ARRAYS));
+    }
+    return object;
+}
+
+}  // namespace
+
+std::string json_report(const program& kavetta, const std::vector<std::string>& messages, const batch_result& result,
+                        bool full) {
+    json report = json::object();
+    report["ended"] = batch_end_name(result.end);
+    report["messages"] = messages;
+    report["entries"] = json_entries(kavetta.entries);
+    report["labels"] = json_labels(kavetta);
+    if (result.profiles_reached) {
+        report["design_params"] = json_of_fields(kavetta.design_params, std::span(DESIGN_FIELDS));
+        report["rotor_profiles"] = json_rotors(kavetta.rotor_profiles, full);
+        if (full) {
+            report["view"] = json_view(kavetta.design_view);
+        }
+    }
+    return json_text(report, full);
+}
+
+}  // namespace kvt

@@ -1,0 +1,102 @@
+#include "kvt/typed_entry.hpp"
+
+#include "app/entry_handlers.hpp"
+#include "app/porting_type.hpp"
+#include "app/unit_commands.hpp"
+#include "core/capacity_unit.hpp"
+#include "core/code_page.hpp"
+#include "kvt/near_names.hpp"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace kvt {
+
+namespace {
+
+bool is_option_button(std::string_view control) {
+    return control == "dimens1" || control == "dimens2";
+}
+
+bool is_porting_type(std::string_view control) {
+    return control == "inlet_double_sided" || control == "outlet_double_sided" || control == "shadow_ports" ||
+           control == "metering_groove";
+}
+
+/// A box has one line: no line ends, tabs or other control characters.
+bool has_control_character(std::string_view text) {
+    return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
+}
+
+std::string joined(const std::vector<std::string_view>& names) {
+    std::string text;
+    for (const std::string_view name : names) {
+        text += (text.empty() ? "" : ", ");
+        text += name;
+    }
+    return text;
+}
+
+std::string unknown_control(std::string_view control) {
+    std::vector<std::string_view> names = {"dimens1", "dimens2", "unittype"};
+    for (const entry_field& field : entry_fields()) {
+        names.push_back(field.name);
+    }
+    const std::vector<std::string_view> near = near_names(control, names);
+    std::string text = "there is no control '" + std::string(control) + "'";
+    return near.empty() ? text : text + "; near names: " + joined(near);
+}
+
+std::string unit_problem(std::string_view text) {
+    if (capacity_unit_code(text) != 0) {
+        return {};
+    }
+    return "unittype is one of: " + joined({CAPACITY_UNIT_TEXTS.begin(), CAPACITY_UNIT_TEXTS.end()});
+}
+
+std::string text_problem(const typed_entry& typed) {
+    if (has_control_character(typed.text)) {
+        return typed.control + " holds one line of text";
+    }
+    if (!fits_code_page(typed.text)) {
+        return typed.control + ": a project file can't hold a character of this text";
+    }
+    return {};
+}
+
+}  // namespace
+
+std::string typed_entry_problem(const typed_entry& typed) {
+    if (typed.control == "unittype") {
+        return unit_problem(typed.text);
+    }
+    if (is_option_button(typed.control)) {
+        return typed.text == "1" ? "" : typed.control + " can only be switched on, with 1";
+    }
+    const entry_field* field = find_entry(typed.control);
+    if (field == nullptr) {
+        return unknown_control(typed.control);
+    }
+    if (field->kind == entry_kind::check) {
+        return typed.text == "0" || typed.text == "1" ? "" : typed.control + " is a check box, 0 or 1";
+    }
+    return text_problem(typed);
+}
+
+void type_entry(program& kavetta, user& person, const typed_entry& typed) {
+    if (typed.control == "unittype") {
+        select_capacity_unit(kavetta, typed.text);
+    } else if (typed.control == "dimens1") {
+        set_mm_labels(kavetta);
+    } else if (typed.control == "dimens2") {
+        set_inch_labels(kavetta);
+    } else if (const entry_field* field = find_entry(typed.control); is_porting_type(typed.control)) {
+        set_porting_check(kavetta, field->member, typed.text);
+    } else {
+        kavetta.entries.*field->member = typed.text;
+        leave_entry(kavetta, person, typed.control);
+    }
+}
+
+}  // namespace kvt
