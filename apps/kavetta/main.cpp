@@ -1,0 +1,59 @@
+// kavetta: the desktop program.
+#include "app/run_command.hpp"
+#include "app/start_up.hpp"
+#include "core/run_time_error.hpp"
+#include "ui/application_style.hpp"
+#include "ui/desktop.hpp"
+#include "ui/qt_text.hpp"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include <filesystem>
+#include <optional>
+
+namespace {
+
+/// The share folder beside the installed program, else the one of the build.
+std::filesystem::path share_folder() {
+    const std::filesystem::path beside =
+        std::filesystem::path(kvt::utf8_text(QApplication::applicationDirPath())) / KVT_INSTALLED_SHARE_FOLDER;
+    std::error_code error;
+    return std::filesystem::is_directory(beside, error) ? beside : std::filesystem::path(KVT_SHARE_FOLDER);
+}
+
+/// The program's folder, filled with the delivered files that are missing. Nothing when that fails: the user is told.
+std::optional<std::filesystem::path> filled_program_folder() {
+    try {
+        const std::filesystem::path folder = kvt::program_folder();
+        kvt::fill_program_folder(folder, share_folder());
+        return folder;
+    } catch (const kvt::run_time_error& error) {
+        QMessageBox::critical(nullptr, kvt::qt_text("Kavetta"),
+                              kvt::qt_text(std::to_string(error.number()) + ": " + error.text() + "\n" + error.what()));
+        return std::nullopt;
+    }
+}
+
+/// The project named on the command line as a full path; empty without one.
+std::string project_argument() {
+    const QStringList arguments = QApplication::arguments();
+    return arguments.size() < 2 ? std::string() : kvt::utf8_text(QFileInfo(arguments[1]).absoluteFilePath());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    kvt::set_application_style(application);
+    const std::optional<std::filesystem::path> folder = filled_program_folder();
+    if (!folder) {
+        return 1;
+    }
+    kvt::desktop desktop(*folder);
+    if (!desktop.start(project_argument())) {
+        return 0;
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,18 @@
+// The file dialog that a command asks for, shown with Qt.
+#pragma once
+
+#include "core/user.hpp"
+
+#include <QStringList>
+
+class QWidget;
+
+namespace kvt {
+
+/// "All files|*.*|KVT|*.KVT" becomes "All files (*)", "KVT (*.KVT *.kvt)": both ways to write an extension match.
+QStringList name_filters(std::string_view filter);
+
+/// Shows the dialog. The chosen full path, or nothing when it was cancelled.
+std::optional<std::string> run_file_dialog(const file_dialog& dialog, QWidget* parent);
+
+}  // namespace kvt

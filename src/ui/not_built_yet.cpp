@@ -1,0 +1,62 @@
+#include "ui/not_built_yet.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+struct control_name {
+    std::string_view form;
+    std::string_view control;
+};
+
+constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
+    {"MDIForm1", "mnufileprint"},
+    {"MDIForm1", "mnumodel"},
+    {"MDIForm1", "mnumodelpackage"},
+    {"MDIForm1", "mnumodeltroc"},
+    {"MDIForm1", "mnumodelinner"},
+    {"MDIForm1", "mnumodelouter"},
+    {"MDIForm1", "mnumodelassy"},
+    {"MDIForm1", "mnumodelporting"},
+    {"MDIForm1", "mnustep"},
+    {"MDIForm1", "mnustepinner"},
+    {"MDIForm1", "mnustepouter"},
+    {"MDIForm1", "mnustepassy"},
+    {"MDIForm1", "mnustepports"},
+    {"MDIForm1", "mnustepports_inlet_GT"},
+    {"MDIForm1", "mnustepport_outlet_GT"},
+    {"MDIForm1", "mnudxf"},
+    {"MDIForm1", "mnudxfinner"},
+    {"MDIForm1", "mnudxfouter"},
+    {"MDIForm1", "mnudxfinletport"},
+    {"MDIForm1", "mnudxfoutletport"},
+    {"MDIForm1", "mnudxfmetering"},
+    {"MDIForm1", "mnudata"},
+    {"MDIForm1", "mnudatacnc"},
+    {"MDIForm1", "mnudataperf"},
+    {"MDIForm1", "mnuscreensave"},
+    {"MDIForm1", "mnuscreenrestore"},
+    {"MDIForm1", "mnuupdates"},
+    {"MDIForm1", "mnuupdatesauto"},
+    {"MDIForm1", "mnuupdateschecknow"},
+    {"MDIForm1", "mnuhelpexplain"},
+    {"MDIForm1", "mnuhelpport_explain"},
+    {"MDIForm1", "mnuhelpcontents"},
+    {"Form1", "designer"},
+    {"Form1", "Des_assist_check"},
+    {"viewwinfrm", "rotate_rotors_cw"},
+    {"viewwinfrm", "rotate_rotors_ccw"},
+    {"viewwinfrm", "rotated_angle"},
+});
+
+}  // namespace
+
+bool is_not_built_yet(std::string_view form, std::string_view control) {
+    return std::ranges::any_of(NOT_BUILT_YET,
+                               [&](const control_name& row) { return row.form == form && row.control == control; });
+}
+
+}  // namespace kvt

@@ -1,0 +1,146 @@
+#include "ui/qt_user.hpp"
+
+#include "app/program_title.hpp"
+#include "ui/Form2.hpp"
+#include "ui/file_dialogs.hpp"
+#include "ui/newprojectname.hpp"
+#include "ui/qt_text.hpp"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace kvt {
+
+qt_user::qt_user(const program& kavetta) : kavetta_(kavetta) {}
+
+void qt_user::attach(QMainWindow* window, std::function<void()> refresh) {
+    window_ = window;
+    refresh_ = std::move(refresh);
+}
+
+/// Dialogs before the main window is on the screen stand alone.
+QWidget* qt_user::parent() const {
+    return window_ != nullptr && window_->isVisible() ? window_ : nullptr;
+}
+
+void qt_user::refresh() const {
+    if (refresh_) {
+        refresh_();
+    }
+}
+
+QString qt_user::button_text(message id) const {
+    return qt_text(message_text(id, kavetta_.app_state.language));
+}
+
+void qt_user::prepare(QMessageBox& box, std::string_view text) const {
+    refresh();
+    box.setWindowTitle(qt_text(program_title()));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(qt_text(text));
+}
+
+void qt_user::show_message(std::string_view text) {
+    QMessageBox box(parent());
+    prepare(box, text);
+    box.setIcon(QMessageBox::Warning);
+    box.addButton(button_text(message::ok_button), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+answer qt_user::ask(std::string_view question, question_buttons buttons) {
+    QMessageBox box(parent());
+    prepare(box, question);
+    box.setIcon(QMessageBox::Question);
+    const QPushButton* yes = box.addButton(button_text(message::yes_button), QMessageBox::YesRole);
+    QPushButton* no = box.addButton(button_text(message::no_button), QMessageBox::NoRole);
+    QPushButton* cancel = nullptr;
+    if (buttons == question_buttons::yes_no_cancel) {
+        cancel = box.addButton(button_text(message::cancel_button), QMessageBox::RejectRole);
+        box.setEscapeButton(cancel);
+    } else {
+        box.setEscapeButton(no);
+    }
+    box.exec();
+    if (box.clickedButton() == yes) {
+        return answer::yes;
+    }
+    return cancel == nullptr || box.clickedButton() == no ? answer::no : answer::cancel;
+}
+
+std::optional<std::string> qt_user::choose_file(const file_dialog& dialog) {
+    refresh();
+    return run_file_dialog(dialog, parent());
+}
+
+std::optional<std::string> qt_user::ask_project_name() {
+    refresh();
+    newprojectname dialog(kavetta_, parent(), [this] {
+        show_status(message_text(message::character_refused, kavetta_.app_state.language));
+    });
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return dialog.name();
+}
+
+start_choice qt_user::ask_new_or_open() {
+    refresh();
+    Form2 prompt(kavetta_, parent());
+    prompt.exec();
+    return prompt.choice();
+}
+
+void qt_user::show_status(std::string_view text) {
+    if (window_ != nullptr) {
+        window_->statusBar()->showMessage(qt_text(text));
+    }
+}
+
+void qt_user::show_form(std::string_view form) {
+    if (auto* window = window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form))) {
+        window->show();
+    }
+}
+
+void qt_user::unload_form(std::string_view form) {
+    if (auto* window = window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form))) {
+        window->hide();
+        window->deleteLater();
+    }
+}
+
+void qt_user::set_focus(std::string_view control) {
+    QWidget* target = window_ == nullptr ? nullptr : window_->findChild<QWidget*>(qt_text(control));
+    if (target == nullptr) {
+        return;
+    }
+    for (QWidget* ancestor = target; ancestor != nullptr; ancestor = ancestor->parentWidget()) {
+        if (auto* form = qobject_cast<QMdiSubWindow*>(ancestor)) {
+            form->mdiArea()->setActiveSubWindow(form);
+        }
+    }
+    target->setFocus(Qt::OtherFocusReason);
+}
+
+void qt_user::set_busy(bool busy) {
+    if (busy == busy_) {
+        return;
+    }
+    busy_ = busy;
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void qt_user::show_progress(std::string_view text, int percent) {
+    show_status(std::string(text) + " " + std::to_string(percent) + " %");
+}
+
+}  // namespace kvt

@@ -1,0 +1,48 @@
+// qt_user: the person in front of the screen. Messages, questions and file dialogs are modal windows.
+#pragma once
+
+#include "app/program.hpp"
+#include "core/text_table.hpp"
+
+#include <QPointer>
+#include <QStatusBar>
+
+#include <functional>
+
+class QMainWindow;
+class QMessageBox;
+
+namespace kvt {
+
+class qt_user : public user {
+  public:
+    explicit qt_user(const program& kavetta);
+
+    /// The window that dialogs stand above, and how to show the program's state before one appears.
+    void attach(QMainWindow* window, std::function<void()> refresh);
+
+    void show_message(std::string_view text) override;
+    answer ask(std::string_view question, question_buttons buttons) override;
+    std::optional<std::string> choose_file(const file_dialog& dialog) override;
+    std::optional<std::string> ask_project_name() override;
+    start_choice ask_new_or_open() override;
+    void show_status(std::string_view text) override;
+    void show_form(std::string_view form) override;
+    void unload_form(std::string_view form) override;
+    void set_focus(std::string_view control) override;
+    void set_busy(bool busy) override;
+    void show_progress(std::string_view text, int percent) override;
+
+  private:
+    QWidget* parent() const;
+    QString button_text(message id) const;
+    void prepare(QMessageBox& box, std::string_view text) const;
+    void refresh() const;
+
+    const program& kavetta_;
+    QPointer<QMainWindow> window_;
+    std::function<void()> refresh_;
+    bool busy_ = false;
+};
+
+}  // namespace kvt
