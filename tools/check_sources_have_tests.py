@@ -20,6 +20,10 @@ COVERED_BY = {
     "src/app/project_reset.cpp": "tests/app/enabling_chain_test.cpp",
     "src/app/run_command.cpp": "tests/app/exit_program_test.cpp",
     "src/app/settings_commands.cpp": "tests/app/exit_program_test.cpp",
+    "src/geometry/chamber_window.cpp": "tests/geometry/chambers_test.cpp",
+    "src/geometry/maximum_chamber.cpp": "tests/geometry/chambers_test.cpp",
+    "src/geometry/minimum_chamber.cpp": "tests/geometry/chambers_test.cpp",
+    "src/geometry/turned_profiles.cpp": "tests/geometry/chambers_test.cpp",
 }
 
 WITHOUT_TEST = {
