@@ -1,0 +1,151 @@
+#include "ports/build_ports.hpp"
+
+#include "core/number_text.hpp"
+#include "ports/port_entries.hpp"
+#include "ports/port_fields.hpp"
+#include "ports/port_outline.hpp"
+#include "ports/port_sides.hpp"
+
+#include <string>
+
+namespace kvt {
+
+namespace {
+
+/// How one pass of a routine ended; radius_too_large: the entries go back and the next pass follows.
+enum class pass_end { finished, refused, radius_too_large };
+
+port_shape shape_of(const port_fields& port, const port_work& work) {
+    const port_params& ports = work.ports;
+    port_shape shape = {ports.*port.inner_r, ports.*port.outer_r,    ports.port_radius,
+                        work.design.ecc,     ports.side_angle_start, {}};
+    for (std::size_t index = 0; index < shape.corners.size(); ++index) {
+        const corner_fields& fields = port.corners[index];
+        shape.corners[index] = {ports.*fields.t_deg, fields.c.get(ports), fields.s.get(ports), fields.r.get(ports)};
+    }
+    return shape;
+}
+
+void store_outline(const port_fields& port, port_work& work) {
+    port_outline built = outline_of_port(shape_of(port, work));
+    if (port.mirrored) {
+        built.outline.mirror();
+    }
+    port_params& ports = work.ports;
+    built.outline.store(ports.*port.x, ports.*port.y);
+    ports.*port.last = built.outline.last();
+    for (std::size_t mark = 0; mark < built.marks.size(); ++mark) {
+        ports.*port.marks[mark] = built.marks[mark];
+    }
+}
+
+pass_end one_pass(const port_fields& port, port_work& work) {
+    read_port_radii(port, work.boxes, work.inches, work.ports);
+    reread_design(work.boxes, work.inches, work.design, work.rotors);
+    set_side_lines(port, work.design, work.ports);
+    if (set_start_corners(port, work) == port_end::refused) {
+        return pass_end::refused;
+    }
+    if (start_fillets_cross(port, work.ports)) {
+        return pass_end::radius_too_large;
+    }
+    if (set_end_corners(port, work) == port_end::refused) {
+        return pass_end::refused;
+    }
+    store_outline(port, work);
+    return pass_end::finished;
+}
+
+pass_end inlet_pass(port_work& work) {
+    read_port_angles(inlet_fields(), work.rotors, work.boxes, work.ports);
+    fill_port_radii(inlet_fields(), work.design, work.inches, work.boxes);
+    fill_port_radii(outlet_fields(), work.design, work.inches, work.boxes);
+    return one_pass(inlet_fields(), work);
+}
+
+pass_end outlet_pass(port_work& work) {
+    read_port_angles(outlet_fields(), work.rotors, work.boxes, work.ports);
+    fill_port_radii(outlet_fields(), work.design, work.inches, work.boxes);
+    return one_pass(outlet_fields(), work);
+}
+
+void tell_radius_too_large(const port_fields& port, const port_work& work) {
+    work.person.show_message(std::string(message_text(port.radius_too_large, work.language)) + "\r" +
+                             std::string(message_text(message::smaller_port_radius, work.language)));
+}
+
+/// Writes a text to an entry. False when it stood there already.
+bool write_back(std::string& box, const std::string& text) {
+    const bool differs = box != text;
+    box = text;
+    return differs;
+}
+
+/// port_radii goes back to last_good_port_radius, and that to 0 when the entry says it already. False when the entry
+/// keeps its text.
+bool take_back_port_radius(const port_work& work) {
+    if (val(work.boxes.port_radii) == work.ports.last_good_port_radius) {
+        work.ports.last_good_port_radius = 0.0;
+    }
+    return write_back(work.boxes.port_radii, cut_length_text(work.ports.last_good_port_radius, work.inches));
+}
+
+/// Also the two radii go back, to those of the rotors. False when all three entries keep their texts.
+bool take_back_all_radii(const port_fields& port, const port_work& work) {
+    if (val(work.boxes.port_radii) == work.ports.last_good_port_radius) {
+        work.ports.*port.inner_r = work.design.radinnroot;
+        work.ports.*port.outer_r = work.design.outer_root;
+    }
+    const bool radius = take_back_port_radius(work);
+    const bool inner =
+        write_back(work.boxes.*port.inner_radius_box, cut_length_text(work.design.radinnroot, work.inches));
+    const bool outer =
+        write_back(work.boxes.*port.outer_radius_box, cut_length_text(work.design.outer_root, work.inches));
+    return radius || inner || outer;
+}
+
+port_end refused(const port_work& work) {
+    work.person.set_busy(false);
+    return port_end::refused;
+}
+
+}  // namespace
+
+port_end build_inlet_port(port_work& work) {
+    for (;;) {
+        const pass_end end = inlet_pass(work);
+        if (end != pass_end::radius_too_large) {
+            return end == pass_end::finished ? port_end::finished : port_end::refused;
+        }
+        tell_radius_too_large(inlet_fields(), work);
+        if (!take_back_all_radii(inlet_fields(), work)) {
+            return refused(work);
+        }
+    }
+}
+
+port_end build_outlet_port(port_work& work) {
+    for (;;) {
+        const pass_end end = outlet_pass(work);
+        if (end == pass_end::finished) {
+            work.ports.last_good_port_radius = work.ports.port_radius;
+            return port_end::finished;
+        }
+        if (end == pass_end::refused) {
+            return port_end::refused;
+        }
+        tell_radius_too_large(outlet_fields(), work);
+        if (work.ports.side_angle_start >= 0.0) {
+            if (!take_back_all_radii(outlet_fields(), work)) {
+                return refused(work);
+            }
+            continue;
+        }
+        if (!take_back_port_radius(work)) {
+            return refused(work);
+        }
+        build_inlet_port(work);
+    }
+}
+
+}  // namespace kvt

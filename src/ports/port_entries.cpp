@@ -1,0 +1,86 @@
+#include "ports/port_entries.hpp"
+
+#include "core/checked_math.hpp"
+#include "core/constants.hpp"
+#include "core/number_text.hpp"
+#include "geometry/trochoid.hpp"
+
+namespace kvt {
+
+namespace {
+
+struct rotor_length {
+    std::string entries::*box;
+    double design_params::*field;
+};
+
+constexpr rotor_length ROTOR_LENGTHS[] = {
+    {&entries::ecc, &design_params::ecc},
+    {&entries::radouter, &design_params::radouter},
+    {&entries::thick, &design_params::thick},
+    {&entries::radinnroot, &design_params::radinnroot},
+    {&entries::shaftdiameter, &design_params::shaftdiameter},
+    {&entries::maxdiameter, &design_params::maxdiameter},
+    {&entries::axial_clear, &design_params::axial_clear},
+    {&entries::minmaterial, &design_params::minmaterial},
+};
+
+double two_decimals_cut(double degrees) {
+    return floor_to_int(degrees * 100.0) / 100.0;
+}
+
+}  // namespace
+
+std::string length_text(double mm, bool inches) {
+    return number_text(inches ? mm / MM_PER_INCH : mm);
+}
+
+std::string cut_length_text(double mm, bool inches) {
+    return number_text(inches ? floor_to_int(mm * 1000.0 / MM_PER_INCH) / 1000.0 : mm);
+}
+
+double length_of(const std::string& text, bool inches) {
+    return checked_finite(inches ? val(text) * MM_PER_INCH : val(text));
+}
+
+void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes, port_params& ports) {
+    for (const corner_fields& corner : port.corners) {
+        std::string& text = boxes.*corner.box;
+        if (!text.empty()) {
+            ports.*corner.angle_deg = val(text);
+            continue;
+        }
+        const double chamber_angle = rotors.*corner.default_angle;
+        const double cut = two_decimals_cut(chamber_angle);
+        ports.*corner.angle_deg = corner.is_end ? 180.0 - chamber_angle : chamber_angle;
+        text = number_text(corner.is_end ? 180.0 - cut : cut);
+    }
+}
+
+void fill_port_radii(const port_fields& port, const design_params& design, bool inches, entries& boxes) {
+    if (val(boxes.*port.inner_radius_box) == 0.0) {
+        boxes.*port.inner_radius_box = length_text(design.radinnroot, inches);
+    }
+    if (val(boxes.*port.outer_radius_box) == 0.0) {
+        boxes.*port.outer_radius_box = length_text(design.outer_root, inches);
+    }
+}
+
+void read_port_radii(const port_fields& port, const entries& boxes, bool inches, port_params& ports) {
+    ports.*port.inner_r = length_of(boxes.*port.inner_radius_box, inches);
+    ports.*port.outer_r = length_of(boxes.*port.outer_radius_box, inches);
+    ports.port_radius = length_of(boxes.port_radii, inches);
+}
+
+void reread_design(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors) {
+    design.numlobes = to_int32(val(boxes.numlobes));
+    for (const auto& [box, field] : ROTOR_LENGTHS) {
+        design.*field = length_of(boxes.*box, inches);
+    }
+    design.clearn_half = inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
+    design.coarseness = to_int16(val(boxes.coarseness));
+    set_rolling_circles(design, rotors);
+    rotors.lobe_centre_offset = design.ecc + design.radinnroot;
+}
+
+}  // namespace kvt
