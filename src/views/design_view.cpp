@@ -1,21 +1,11 @@
 #include "views/design_view.hpp"
 
 #include "core/checked_math.hpp"
-
-#include <cmath>
-#include <limits>
+#include "views/twips.hpp"
 
 namespace kvt {
 
 namespace {
-
-/// Coordinates of line elements are single-precision. Throws overflow for what such a number can't hold.
-float single(double twips) {
-    if (!(std::fabs(twips) <= static_cast<double>(std::numeric_limits<float>::max()))) {
-        throw run_time_error(failure::overflow, "line coordinate");
-    }
-    return static_cast<float>(twips);
-}
 
 struct plot_point {
     float x = 0.0F, y = 0.0F;
