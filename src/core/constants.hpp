@@ -11,6 +11,8 @@ inline constexpr double PI_H = 1.5707963;
 inline constexpr double TWO_PI_D = 6.2831853;
 /// Sweep angles of the outer profile.
 inline constexpr double THREE_PI_D = 9.424778;
+/// Full turn of the performance model: shaft speed, contact stress, theoretical torque.
+inline constexpr double TWO_PI_P = 6.2831854;
 /// Angles of the drawn arcs only.
 inline constexpr double PI_L = 3.14159265358979;
 /// Angles of the drawn arcs only.

@@ -81,6 +81,12 @@ constexpr std::array LABEL_FIELDS = {
     label_field{"Form1", "min_chamb_vol", &labels::min_chamb_vol},
     label_field{"Form1", "units_label", &labels::units_label},
     label_field{"Form1", "unittype", &labels::unittype},
+    label_field{"perf_res", "max_speed", &labels::max_speed},
+    label_field{"perf_res", "Label5", &labels::Label5},
+    label_field{"perf_res", "max_shaft_side_load", &labels::max_shaft_side_load},
+    label_field{"perf_res", "side_load_direction", &labels::side_load_direction},
+    label_field{"perf_res", "max_cutter_inner", &labels::max_cutter_inner},
+    label_field{"perf_res", "Label1", &labels::Label1},
 };
 
 }  // namespace

@@ -61,6 +61,12 @@ struct labels {
     std::string unittype = "Lit/Min/1000rpm";      ///< selected text of the capacity unit list
     std::string hiddenprojnamelabel;               ///< the name typed in the New Project dialog
     std::string title = "Kavetta V2021";           ///< title of the main window
+    std::string max_speed;                         ///< " 7403 RPM": highest speed without cavitation
+    std::string Label5;                            ///< of perf_res: what limits that speed
+    std::string max_shaft_side_load;               ///< "216.78 N"
+    std::string side_load_direction;               ///< "-29.27 °"
+    std::string max_cutter_inner;                  ///< "15.36 mm": largest tool that can cut the inner rotor
+    std::string Label1;                            ///< of perf_res: the pressure ripple in percent
 };
 
 using label_field = named_field<labels, std::string>;

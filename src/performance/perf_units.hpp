@@ -1,0 +1,30 @@
+// The unit factors of the performance model. Several are rounded; each is part of every result and is kept.
+#pragma once
+
+namespace kvt {
+
+/// Pascals of one atmosphere, and also of one bar: the model makes no difference between them.
+inline constexpr double BAR_PA = 101300.0;
+/// Psi in one bar.
+inline constexpr double PSI_PER_BAR = 14.5;
+/// Millimetres and inches of mercury in one atmosphere.
+inline constexpr double MMHG_PER_ATMOSPHERE = 760.0;
+inline constexpr double INHG_PER_ATMOSPHERE = 29.92;
+/// Cubic feet in one cubic metre, and pounds in one kilogram.
+inline constexpr double CUBIC_FEET_PER_CUBIC_METRE = 35.31467;
+inline constexpr double POUNDS_PER_KILOGRAM = 2.205;
+/// Pascals of one GPa and of one ksi, for the bulk modulus.
+inline constexpr double GPA_PA = 1000000000.0;
+inline constexpr double KSI_PA = 6894750.0;
+/// Megapascals of one GPa and of one ksi, for Young's modulus.
+inline constexpr double GPA_MPA = 1000.0;
+inline constexpr double KSI_MPA = 6.8947;
+
+/// rpm times cm3 a revolution, divided by this, is m3/s.
+inline constexpr double CC_RPM_PER_M3S = 60000000.0;
+/// cm3 a revolution times Pa, divided by this, is the theoretical torque in N m: TWO_PI_P in millionths.
+inline constexpr double CC_PA_PER_NM = 6283185.4;
+/// mm2, divided by this, is the square of the radius in m of a round pipe of that area: PI_D in millionths.
+inline constexpr double PIPE_MM2_PER_M2 = 3141592.6999999997;
+
+}  // namespace kvt
