@@ -1,6 +1,8 @@
 #include "app/calculate_profiles.hpp"
 
+#include "app/design_ports.hpp"
 #include "app/enabling_chain.hpp"
+#include "app/result_forms.hpp"
 #include "core/checked_math.hpp"
 #include "core/number_text.hpp"
 #include "core/text_table.hpp"
@@ -16,16 +18,11 @@
 #include "geometry/outer_rotor.hpp"
 #include "geometry/trochoid.hpp"
 
-#include <array>
 #include <string>
 
 namespace kvt {
 
 namespace {
-
-constexpr std::array<std::string_view, 8> RESULT_FORMS = {
-    "perf_res",        "EFFIC_graphview2",  "FLOW_graphview2",      "HERTZ_graphview2",
-    "LOAD_graphview2", "OVREFF_graphview2", "PRESS_RIP_graphview2", "VE_graphview2"};
 
 void tell(const program& kavetta, user& person, message text) {
     person.show_message(message_text(text, kavetta.app_state.language));
@@ -37,9 +34,7 @@ void reset_results(program& kavetta, user& person) {
     if (kavetta.app_state.zoom_all_requested == -1) {
         return;
     }
-    for (const std::string_view form : RESULT_FORMS) {
-        person.unload_form(form);
-    }
+    unload_result_forms(person);
     kavetta.app_state.profiles_calculated = -1;
     apply_chain(kavetta.enabling, chain_event::profiles_started);
 }
@@ -86,7 +81,7 @@ void closing_steps(program& kavetta, user& person) {
     state.view_cx = state.view_size / 2.0;
     state.view_cy = state.view_size / 2.0;
     state.view_zoom = 1.0;
-    // Ports on display (inlet_portline has more than one element) are designed and drawn anew here, for the new rotors.
+    design_ports_again(kavetta, person);
     state.zoom_all_requested = 0;
     person.set_busy(false);
 }
@@ -125,6 +120,33 @@ run_end outer_rotor_steps(program& kavetta, user& person) {
         check_interference(kavetta, person);
     }
     return run_end::ok;
+}
+
+/// The Error exit after a failure from the fillet check on: its message, then the closing steps. These design the ports
+/// again, and when that fails too, its message ends the run.
+run_end error_exit(program& kavetta, user& person) {
+    tell(kavetta, person, message::radouter_too_small);
+    try {
+        closing_steps(kavetta, person);
+    } catch (const run_time_error&) {
+        tell(kavetta, person, message::radouter_too_small);
+        kavetta.app_state.zoom_all_requested = 0;
+        person.set_busy(false);
+    }
+    return run_end::error;
+}
+
+/// The steps whose run-time failures the Error exit handles, up to the end of the run.
+run_end handled_steps(program& kavetta, user& person) {
+    try {
+        const run_end end = outer_rotor_steps(kavetta, person);
+        if (end != run_end::failure) {
+            closing_steps(kavetta, person);
+        }
+        return end;
+    } catch (const run_time_error&) {
+        return error_exit(kavetta, person);
+    }
 }
 
 }  // namespace
@@ -170,17 +192,7 @@ run_end calculate_profiles(program& kavetta, user& person) {
     if (exceeds_maximum_diameter(design)) {
         return failure_exit(kavetta, person, message::does_not_fit_diameter);
     }
-    run_end end = run_end::ok;
-    try {
-        end = outer_rotor_steps(kavetta, person);
-    } catch (const run_time_error&) {
-        tell(kavetta, person, message::radouter_too_small);
-        end = run_end::error;
-    }
-    if (end != run_end::failure) {
-        closing_steps(kavetta, person);
-    }
-    return end;
+    return handled_steps(kavetta, person);
 }
 
 }  // namespace kvt

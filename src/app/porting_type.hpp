@@ -8,6 +8,9 @@
 
 namespace kvt {
 
+/// Both double-sided boxes together untick and disable shadow_ports; any other combination enables it.
+void apply_shadow_rule(program& kavetta);
+
 /// The click on inlet_double_sided, outlet_double_sided, shadow_ports or metering_groove, after the box changed:
 /// performance must be calculated anew; both double-sided boxes together untick and disable shadow_ports;
 /// metering_groove decides whether the groove entries can be used.

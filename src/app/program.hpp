@@ -9,15 +9,22 @@
 #include "core/rotor_profiles.hpp"
 #include "core/user.hpp"
 #include "core/window_rectangles.hpp"
+#include "performance/perf_inputs.hpp"
+#include "performance/perf_results.hpp"
+#include "ports/port_params.hpp"
 #include "views/design_view.hpp"
 
 #include <filesystem>
+#include <string>
 
 namespace kvt {
 
 struct program {
     kvt::design_params design_params;
     kvt::rotor_profiles rotor_profiles;
+    kvt::port_params port_params;
+    kvt::perf_inputs perf_inputs;
+    kvt::perf_results perf_results;
     kvt::app_state app_state;
     kvt::entries entries;
     kvt::labels labels;
@@ -28,6 +35,8 @@ struct program {
 
     /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes nothing there.
     std::filesystem::path folder;
+    /// The date that reports carry, when it was given; empty: today's date in the short form of the locale.
+    std::string date;
 };
 
 }  // namespace kvt

@@ -43,6 +43,7 @@ struct app_state {
     // Geometry flags.
     std::int16_t profiles_calculated = 0;  ///< -1 once Calculate Profiles has passed its start
     std::int16_t zoom_all_requested = 0;   ///< -1: the next run is a repeat asked for by the zoom-all button
+    std::int16_t recalc_quiet = 0;         ///< -1: Design Ports runs for a Zoom All; results and enablings stay
     bool assist_on = false;                ///< Des_assist_check: Design assist in place of Calculate Profiles
 
     // The Design view. Lengths in twips.

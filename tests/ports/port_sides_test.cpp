@@ -1,0 +1,110 @@
+// Tests of the corners of a side: closed forms on the axis, replaced angles, crossing fillets.
+#include "ports/port_sides.hpp"
+
+#include "ports/port_entries.hpp"
+#include "support/port_design.hpp"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace kvt {
+namespace {
+
+/// Entries and radii read, side lines set.
+struct read_ports : port_design {
+    explicit read_ports(const port_fields& port) : fields(port) {}
+
+    void read() {
+        read_port_angles(fields, rotors, boxes, ports);
+        read_port_radii(fields, boxes, inches, ports);
+        set_side_lines(fields, design, ports);
+    }
+
+    const port_fields& fields;
+};
+
+TEST(port_sides, unfilleted_corners_lie_on_the_two_circles) {
+    read_ports tested(inlet_fields());
+    tested.read();
+    const port_params& ports = tested.ports;
+    EXPECT_NEAR(std::hypot(ports.inlet_p1_x, ports.inlet_p1_y), 14.5, 1e-12);
+    EXPECT_NEAR(std::hypot(ports.inlet_p2_x, ports.inlet_p2_y), 14.5, 1e-12);
+    EXPECT_NEAR(std::hypot(ports.inlet_p3_x + 2.85, ports.inlet_p3_y), 22.4, 1e-12);
+    EXPECT_NEAR(std::hypot(ports.inlet_p4_x + 2.85, ports.inlet_p4_y), 22.4, 1e-12);
+}
+
+TEST(port_sides, start_angles_of_zero_take_the_closed_form) {
+    read_ports tested(inlet_fields());
+    tested.boxes.inlet_start_inner = "0";
+    tested.boxes.inlet_start_outer = "0.0";
+    tested.read();
+    port_work work = tested.work();
+    EXPECT_EQ(set_start_corners(inlet_fields(), work), port_end::finished);
+    const port_params& ports = tested.ports;
+    EXPECT_NEAR(ports.inlet_c1_y, std::sin(std::atan(1.5 / 16.0)) * 16.0, 1e-12);
+    EXPECT_NEAR(ports.inlet_t1_deg, std::atan(1.5 / 16.0) * 180.0 / 3.1415927, 1e-12);
+    EXPECT_NEAR(ports.inlet_t4_deg, std::atan(1.5 / 20.9) * 180.0 / 3.1415927, 1e-12);
+    EXPECT_EQ(ports.inlet_start_inner_deg, 0.0);
+    EXPECT_EQ(ports.inlet_start_outer_deg, 0.0);
+}
+
+TEST(port_sides, one_start_angle_of_zero_is_searched) {
+    read_ports tested(inlet_fields());
+    tested.boxes.inlet_start_inner = "0";
+    tested.read();
+    port_work work = tested.work();
+    const port_end end = set_start_corners(inlet_fields(), work);
+    EXPECT_EQ(end, port_end::finished);
+    EXPECT_NE(tested.ports.inlet_start_inner_deg, 0.0) << "the angle of the tangent point";
+}
+
+TEST(port_sides, end_angles_of_180_become_0_in_the_record) {
+    read_ports tested(outlet_fields());
+    tested.boxes.outlet_end_inner = "180";
+    tested.boxes.outlet_end_outer = "180.000";
+    tested.read();
+    port_work work = tested.work();
+    EXPECT_EQ(set_end_corners(outlet_fields(), work), port_end::finished);
+    EXPECT_EQ(tested.ports.outlet_end_inner_deg, 0.0);
+    EXPECT_EQ(tested.ports.outlet_end_outer_deg, 0.0);
+    EXPECT_EQ(tested.boxes.outlet_end_inner, "180") << "the entry stays";
+    EXPECT_NEAR(tested.ports.outlet_t2_deg, 180.0 - std::atan(1.5 / 16.1) * 180.0 / 3.1415927, 1e-12);
+    EXPECT_NEAR(tested.ports.outlet_t3_deg, 180.0 - std::atan(1.5 / 20.7) * 180.0 / 3.1415927, 1e-12);
+}
+
+TEST(port_sides, angles_become_those_of_the_tangent_points_but_for_the_outlet_s_outer_start) {
+    for (const port_fields* fields : {&inlet_fields(), &outlet_fields()}) {
+        read_ports tested(*fields);
+        tested.read();
+        const double entered = tested.ports.*fields->corners[START_OUTER].angle_deg;
+        port_work work = tested.work();
+        EXPECT_EQ(set_start_corners(*fields, work), port_end::finished);
+        EXPECT_EQ(set_end_corners(*fields, work), port_end::finished);
+        const point2 s1 = fields->corners[START_INNER].s.get(tested.ports);
+        const point2 s3 = fields->corners[END_OUTER].s.get(tested.ports);
+        const point2 s4 = fields->corners[START_OUTER].s.get(tested.ports);
+        const auto degrees = [](double y, double x) { return std::atan(y / x) * 180.0 / 3.1415927; };
+        EXPECT_EQ(tested.ports.*fields->corners[START_INNER].angle_deg, degrees(s1.y, s1.x));
+        EXPECT_EQ(tested.ports.*fields->corners[END_OUTER].angle_deg, degrees(s3.y, 2.85 + s3.x) + 180.0);
+        const double outer_start = tested.ports.*fields->corners[START_OUTER].angle_deg;
+        EXPECT_EQ(outer_start, fields->keeps_start_outer_angle ? entered : degrees(s4.y, 2.85 + s4.x));
+    }
+}
+
+TEST(port_sides, fillets_cross_in_x_on_a_side_to_the_right_and_in_y_on_one_to_the_left) {
+    port_params ports;
+    ports.side_angle_start = 0.5;
+    ports.inlet_c1_x = 2.0;
+    ports.inlet_c4_x = 1.0;
+    EXPECT_TRUE(start_fillets_cross(inlet_fields(), ports));
+    ports.side_angle_start = -0.5;
+    EXPECT_FALSE(start_fillets_cross(inlet_fields(), ports));
+    ports.inlet_c1_y = 1.0;
+    EXPECT_TRUE(start_fillets_cross(inlet_fields(), ports));
+    ports.side_angle_start = 0.0;
+    ports.inlet_c1_x = 1.0;
+    EXPECT_FALSE(start_fillets_cross(inlet_fields(), ports)) << "equal centres don't cross";
+}
+
+}  // namespace
+}  // namespace kvt
