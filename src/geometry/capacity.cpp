@@ -21,11 +21,13 @@ double annulus_volume(const design_params& design, const rotor_profiles& rotors)
     return (tip * tip - design.radinnroot * design.radinnroot) * PI_D * design.thick / 1000.0;
 }
 
+double cc_in_capacity_unit(std::int16_t capacity_unit) {
+    const bool known = capacity_unit >= 1 && capacity_unit <= 5;
+    return known ? CC_IN_UNIT[static_cast<std::size_t>(capacity_unit - 1)] : 1.0;
+}
+
 fixed4 capacity_in_unit(fixed4 capacity_cc, std::int16_t capacity_unit) {
-    if (capacity_unit < 1 || capacity_unit > 5) {
-        return capacity_cc;
-    }
-    const double divisor = CC_IN_UNIT[static_cast<std::size_t>(capacity_unit - 1)];
+    const double divisor = cc_in_capacity_unit(capacity_unit);
     if (divisor == 1.0) {
         return capacity_cc;
     }

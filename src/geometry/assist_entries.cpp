@@ -1,0 +1,90 @@
+#include "geometry/assist_entries.hpp"
+
+#include "core/checked_math.hpp"
+#include "core/constants.hpp"
+#include "core/number_text.hpp"
+#include "geometry/capacity.hpp"
+
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+using box = std::string entries::*;
+
+struct entry_check {
+    box entry;
+    message text;
+};
+
+constexpr std::array<entry_check, 9> ASSIST_CHECKS = {{
+    {&entries::volumereqd, message::input_volumereqd},
+    {&entries::numlobes, message::input_numlobes},
+    {&entries::shaftdiameter, message::input_shaftdiameter},
+    {&entries::clearn, message::input_clearn},
+    {&entries::thick, message::input_thick},
+    {&entries::minmaterial, message::input_minmaterial},
+    {&entries::maxdiameter, message::input_maxdiameter},
+    {&entries::axial_clear, message::input_axial_clear},
+    {&entries::radial_clear, message::input_radial_clear},
+}};
+
+/// A length and the entry it is read from.
+struct assist_length {
+    box entry;
+    double design_params::*field;
+};
+
+constexpr std::array<assist_length, 6> ASSIST_LENGTHS = {{
+    {&entries::thick, &design_params::thick},
+    {&entries::maxdiameter, &design_params::maxdiameter},
+    {&entries::minmaterial, &design_params::minmaterial},
+    {&entries::shaftdiameter, &design_params::shaftdiameter},
+    {&entries::axial_clear, &design_params::axial_clear},
+    {&entries::radial_clear, &design_params::radial_clear},
+}};
+
+std::string in_entry_unit(double millimetres, bool inches) {
+    return fixed4::from(inches ? millimetres / MM_PER_INCH : millimetres).text();
+}
+
+}  // namespace
+
+std::optional<message> first_refused_assist_entry(const entries& boxes) {
+    for (const auto& [entry, text] : ASSIST_CHECKS) {
+        if (!(val(boxes.*entry) > 0.0)) {
+            return text;
+        }
+    }
+    return std::nullopt;
+}
+
+void read_assist_entries(const entries& boxes, bool inches, design_params& design) {
+    const double factor = inches ? MM_PER_INCH : 1.0;
+    design.numlobes = to_int32(val(boxes.numlobes));
+    // Half of the clearance is taken first and converted then, unlike in Calculate Profiles.
+    design.clearn_half = checked_finite(val(boxes.clearn) / 2.0 * factor);
+    for (const auto& [entry, field] : ASSIST_LENGTHS) {
+        design.*field = checked_finite(val(boxes.*entry) * factor);
+    }
+}
+
+fixed4 required_capacity_cc(const entries& boxes, std::int16_t capacity_unit) {
+    return fixed4::from(val(boxes.volumereqd) * cc_in_capacity_unit(capacity_unit));
+}
+
+void write_root_and_eccentricity(const design_params& design, bool inches, entries& boxes) {
+    boxes.ecc = inches ? in_entry_unit(design.ecc, inches) : number_text(design.ecc);
+    boxes.radinnroot = in_entry_unit(design.radinnroot, inches);
+}
+
+void write_lobe_radius(const design_params& design, bool inches, entries& boxes) {
+    boxes.radouter = in_entry_unit(design.radouter, inches);
+}
+
+void write_assist_outer_root(const design_params& design, entries& boxes) {
+    boxes.outer_root = fixed4::from(design.outer_root).text();
+}
+
+}  // namespace kvt
