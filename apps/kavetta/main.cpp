@@ -55,5 +55,7 @@ int main(int argc, char** argv) {
     if (!desktop.start(project_argument())) {
         return 0;
     }
+    // The end of the program raises no further close events.
+    QObject::connect(&desktop.runner(), &kvt::command_runner::ended, [] { QApplication::exit(0); });
     return QApplication::exec();
 }

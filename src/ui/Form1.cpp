@@ -54,7 +54,7 @@ const std::vector<std::vector<entry_row>>& entry_groups() {
 /// Room between the controls, pixels: close enough that the form fits its place in the default layout.
 constexpr int ROW_SPACING = 2;
 constexpr int GROUP_SPACING = 5;
-constexpr int MARGIN = 8;
+constexpr int MARGIN = 6;
 constexpr int ENTRY_WIDTH = 92;
 
 }  // namespace
@@ -78,7 +78,7 @@ Form1::Form1(form_context context) : mdi_form("Form1", context) {
 
 void Form1::add_header(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
-    row->setSpacing(6);
+    row->setSpacing(4);
     dimens1_ = new QRadioButton;
     dimens2_ = new QRadioButton;
     dimens1_->setObjectName("dimens1");
@@ -100,7 +100,7 @@ void Form1::add_header(QVBoxLayout& layout) {
 
 void Form1::add_requirement(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
-    row->setSpacing(6);
+    row->setSpacing(4);
     QLineEdit* required = number_box("volumereqd", ENTRY_WIDTH - 24);
     QLabel* label = named_label("Label13");
     label->setBuddy(required);
@@ -156,7 +156,7 @@ void Form1::add_buttons(QVBoxLayout& layout) {
     background->setObjectName("Des_assist_bkgnd");
     auto* row = new QHBoxLayout(background);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(6);
+    row->setSpacing(4);
     calc_ = button("Calc");
     calc_->setDefault(true);
     accent(*calc_);

@@ -2,8 +2,6 @@
 
 #include "app/start_up.hpp"
 
-#include <QCoreApplication>
-
 namespace kvt {
 
 desktop::desktop(const std::filesystem::path& folder)
@@ -13,8 +11,6 @@ desktop::desktop(const std::filesystem::path& folder)
       window_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
     person_.attach(&window_, [this] { window_.refresh(); });
-    // The end of the program raises no further close events.
-    QObject::connect(&runner_, &command_runner::ended, [] { QCoreApplication::exit(0); });
 }
 
 bool desktop::start(const std::string& path) {

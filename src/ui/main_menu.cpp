@@ -9,13 +9,17 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
+
 namespace kvt {
 
 namespace {
 
-/// A recent entry that was never set still holds its design-time caption.
-bool holds_a_project(const std::string& caption, std::size_t index) {
-    return !caption.empty() && caption != "&" + std::to_string(index + 1);
+/// The design-time captions of the recent entries; one that was never set moves down the list with the others.
+constexpr std::array<std::string_view, 4> DESIGN_TIME_CAPTIONS = {"&1", "&2", "&3", "&4"};
+
+bool holds_a_project(const std::string& caption) {
+    return !caption.empty() && std::ranges::find(DESIGN_TIME_CAPTIONS, caption) == DESIGN_TIME_CAPTIONS.end();
 }
 
 }  // namespace
@@ -87,7 +91,7 @@ void main_menu::refresh_recent_entries() {
     for (std::size_t index = 0; index < recent_.size(); ++index) {
         const std::string& caption = context_.kavetta.app_state.mnufileprev[index];
         recent_.at(index)->setText(literal_text(caption));
-        recent_.at(index)->setVisible(holds_a_project(caption, index));
+        recent_.at(index)->setVisible(holds_a_project(caption));
     }
 }
 

@@ -15,6 +15,23 @@
 
 namespace kvt {
 
+namespace {
+
+/// Behind a message box the window becomes active a little later, and the child window then takes back its old focus.
+void focus_when_active(QWidget* target) {
+    auto* once = new QObject(target);
+    QObject::connect(qApp, &QApplication::focusChanged, once, [once, target](QWidget*, const QWidget* now) {
+        if (now == nullptr || now->window() != target->window()) {
+            return;
+        }
+        once->deleteLater();
+        QMetaObject::invokeMethod(
+            target, [target] { target->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
+    });
+}
+
+}  // namespace
+
 qt_user::qt_user(const program& kavetta) : kavetta_(kavetta) {}
 
 void qt_user::attach(QMainWindow* window, std::function<void()> refresh) {
@@ -125,6 +142,9 @@ void qt_user::set_focus(std::string_view control) {
         }
     }
     target->setFocus(Qt::OtherFocusReason);
+    if (!target->isActiveWindow()) {
+        focus_when_active(target);
+    }
 }
 
 void qt_user::set_busy(bool busy) {
