@@ -17,8 +17,8 @@ constexpr std::int64_t UNIFORM_POINTS = 3600;
 constexpr double HALF_TURN_POINTS = 1800.0;
 
 /// More than the points of a bound lose by rounding, as a part of the trochoid's size.
-constexpr double POINT_ROUNDING = 1e-11;
-constexpr double RADIUS_ROUNDING = 1e-9;
+constexpr double POINT_ROUNDING = 2e-14;
+constexpr double RADIUS_ROUNDING = 1e-11;
 
 double uniform_angle(std::int64_t i) {
     return static_cast<double>(i) * PI_D / HALF_TURN_POINTS;

@@ -17,7 +17,7 @@ namespace {
 constexpr double ECC_REDUCTION = 0.01;
 
 // What a bound leaves to rounding when steps are passed over: more than the formulas can lose.
-constexpr double RELATIVE_ROUNDING = 1e-9;
+constexpr double RELATIVE_ROUNDING = 1e-12;
 constexpr double SQUARE_ROUNDING = 1e-13;
 /// More than the rounding of ecc to four decimals changes, mm.
 constexpr double ECC_ROUNDING = 0.0001;
