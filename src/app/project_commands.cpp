@@ -1,5 +1,6 @@
 #include "app/project_commands.hpp"
 
+#include "app/design_assist.hpp"
 #include "app/program_title.hpp"
 #include "app/project_entries.hpp"
 #include "app/project_reset.hpp"
@@ -42,10 +43,6 @@ void show_done_status(const program& kavetta, user& person, message id, std::str
 void bind_to_file(program& kavetta) {
     kavetta.labels.title = project_title(kavetta.app_state.project_name);
     kavetta.app_state.project_has_file = true;
-}
-
-void switch_assist_off(program& kavetta) {
-    kavetta.app_state.assist_on = false;
 }
 
 void remember_projects_folder(program& kavetta) {
@@ -97,7 +94,7 @@ void load_project(program& kavetta, user& person, std::string_view path) {
     bind_to_file(kavetta);
     project_reset(kavetta, person, reset_kind::open_project);
     update_recent_list(state, state.project_path);
-    switch_assist_off(kavetta);
+    hide_assist(kavetta);
 }
 
 void open_project_file(program& kavetta, user& person, std::string_view path) {
@@ -176,7 +173,7 @@ void new_project(program& kavetta, user& person) {
     state.project_has_file = false;
     kavetta.labels.title = project_title(state.project_name);
     project_reset(kavetta, person, reset_kind::new_project);
-    switch_assist_off(kavetta);
+    hide_assist(kavetta);
 }
 
 }  // namespace kvt

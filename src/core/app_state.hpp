@@ -45,6 +45,7 @@ struct app_state {
     std::int16_t zoom_all_requested = 0;   ///< -1: the next run is a repeat asked for by the zoom-all button
     std::int16_t recalc_quiet = 0;         ///< -1: Design Ports runs for a Zoom All; results and enablings stay
     bool assist_on = false;                ///< Des_assist_check: Design assist in place of Calculate Profiles
+    bool assist_hidden = false;            ///< designer and its frame lines are hidden, from New or Open until assist_on
 
     // The Design view. Lengths in twips.
     double rotation_angle = 0.0;        ///< rotation of the inner rotor in the view, degrees
