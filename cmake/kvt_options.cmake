@@ -4,7 +4,7 @@ target_compile_features(kvt_options INTERFACE cxx_std_20)
 
 # assert stays active in every build: a stop is worth more than a silently wrong number in a workshop's file.
 set(CMAKE_CXX_FLAGS_RELEASE "-O2")
-set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g")
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
 
 # Results must be the same on every machine with the same C library: no fused multiply-add, no fast-math.
 target_compile_options(kvt_options INTERFACE -ffp-contract=off)
