@@ -23,7 +23,7 @@ void keep_or_drop_outer_root(entries& boxes, design_params& design) {
         design.outer_root = val(boxes.outer_root);
     } else {
         design.outer_root = 0.0;
-        boxes.outer_root = "0";
+        boxes.outer_root = number_text(design.outer_root);
     }
 }
 

@@ -1,0 +1,70 @@
+// Tests of the area ratio.
+#include "geometry/area_ratio.hpp"
+
+#include "support/sample_design.hpp"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace kvt {
+
+namespace {
+
+/// The area between the origin and the points first .. last of a profile, signed.
+double shoelace(const std::vector<double>& x, const std::vector<double>& y, std::size_t last) {
+    double sum = 0.0;
+    for (std::size_t i = 1; i <= last; ++i) {
+        sum += x[i - 1] * y[i] - x[i] * y[i - 1];
+    }
+    return sum / 2.0;
+}
+
+}  // namespace
+
+TEST(inner_profile_area, is_that_of_the_open_polygon) {
+    rotor_profiles rotors = rotor_pair_of(sample_design());
+    const double expected = shoelace(rotors.inner_x, rotors.inner_y, 3599);
+    EXPECT_NEAR(inner_profile_area(rotors), expected, 1e-8 * expected);
+}
+
+TEST(outer_profile_area, is_that_of_the_polygon_where_the_profile_does_not_turn_back) {
+    design_params design = sample_design();
+    design.fillet = 0.0;
+    design.radouter = 9.0;  // seen from the inner axis, the flanks of smaller lobes hide a part of the root
+    rotor_profiles rotors = rotor_pair_of(design);
+    const double expected = shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last));
+    EXPECT_NEAR(outer_profile_area(rotors), expected, 1e-8 * expected);
+}
+
+TEST(outer_profile_area, counts_the_parts_that_turn_back_as_positive) {
+    design_params design = sample_design();
+    design.fillet = 0.0;
+    rotor_profiles rotors = rotor_pair_of(design);
+    double expected = 0.0;
+    for (std::size_t m = 1; m <= static_cast<std::size_t>(rotors.outer_last); ++m) {
+        expected += std::fabs(rotors.outer_x[m - 1] * rotors.outer_y[m] - rotors.outer_x[m] * rotors.outer_y[m - 1]);
+    }
+    EXPECT_NEAR(outer_profile_area(rotors), expected / 2.0, 1e-8 * expected);
+    EXPECT_GT(expected / 2.0,
+              1.0 + shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last)));
+}
+
+TEST(area_ratio, is_cut_to_two_decimals_of_a_percent) {
+    rotor_profiles rotors = rotor_pair_of(sample_design());
+    labels outputs;
+    calculate_area_ratio(rotors, outputs);
+    const double inner = inner_profile_area(rotors);
+    const double outer = outer_profile_area(rotors);
+    EXPECT_NEAR((outer - inner) / outer * 100.0, 28.655, 0.005);
+    EXPECT_EQ(outputs.area_ratio, "28.65 %");
+}
+
+TEST(area_ratio, sizes_its_radii_anew_for_each_profile) {
+    rotor_profiles rotors = rotor_pair_of(sample_design());
+    inner_profile_area(rotors);
+    EXPECT_EQ(rotors.radius_scratch.size(), 7201U);
+    outer_profile_area(rotors);
+    EXPECT_EQ(rotors.radius_scratch.size(), static_cast<std::size_t>(rotors.outer_xy_last) + 1);
+}
+
+}  // namespace kvt
