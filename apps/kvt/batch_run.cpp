@@ -1,6 +1,7 @@
 #include "kvt/batch_run.hpp"
 
 #include "app/calculate_profiles.hpp"
+#include "app/design_assist.hpp"
 #include "app/project_commands.hpp"
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
@@ -25,6 +26,18 @@ batch_end end_of(run_end end) {
             break;
     }
     return batch_end::error;
+}
+
+batch_end end_of(assist_end end) {
+    switch (end) {
+        case assist_end::found:
+            return batch_end::ok;
+        case assist_end::refused:
+            return batch_end::validation;
+        case assist_end::does_not_fit:
+            break;
+    }
+    return batch_end::failure;
 }
 
 void type_entries(program& kavetta, user& person, const design_source& source) {
@@ -86,6 +99,18 @@ std::optional<batch_end> open_design(program& kavetta, batch_user& person, const
         return batch_end::fatal;
     }
     return std::nullopt;
+}
+
+batch_end find_design(program& kavetta, batch_user& person, const design_source& source) {
+    if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
+        return *early;
+    }
+    try {
+        return end_of(design_assist(kavetta, person));
+    } catch (const run_time_error& error) {
+        person.show_message(run_time_error_line(error, source.language));
+        return batch_end::fatal;
+    }
 }
 
 batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source) {

@@ -49,6 +49,10 @@ std::string run_time_error_line(const run_time_error& error, std::int16_t langua
 /// read_error (told on the user's stream only, like the line in the status bar) or fatal (told by a message).
 std::optional<batch_end> open_design(program& kavetta, batch_user& person, const design_source& source);
 
+/// open_design, then the Design assist: ok when it found dimensions, validation when it refused an entry, failure when
+/// they do not fit the maximum diameter.
+batch_end find_design(program& kavetta, batch_user& person, const design_source& source);
+
 /// open_design, then Calculate Profiles.
 batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source);
 

@@ -1,5 +1,6 @@
 #include "kvt/command_line.hpp"
 
+#include "kvt/assist_command.hpp"
 #include "kvt/calc_command.hpp"
 #include "kvt/export_command.hpp"
 
@@ -23,6 +24,7 @@ constexpr const char* EXAMPLES =
     "  kvt calc engine_oil.KVT\n"
     "  kvt calc engine_oil.KVT --set thick=12 --set fillet=0 --json -\n"
     "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
+    "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed, 2 usage,\n"
     "3 the project file could not be read. Messages go to standard error.";
@@ -33,6 +35,7 @@ struct command_line {
     std::vector<std::string> typed;  ///< the --set options as given
     std::string stage = "performance";
     std::string export_folder;
+    assist_request assist;  ///< its source is that of calc
 };
 
 /// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be typed.
@@ -100,6 +103,15 @@ CLI::App* add_export(CLI::App& app, command_line& line) {
     return files;
 }
 
+CLI::App* add_assist(CLI::App& app, command_line& line) {
+    CLI::App* assist = app.add_subcommand("assist", "Find rotor dimensions for the required capacity");
+    add_design_options(*assist, line);
+    assist->add_flag("--json", line.assist.json, "Print everything as JSON, without the summary");
+    assist->add_option("--write", line.assist.write_file, "Save the project with the dimensions found")
+        ->type_name("FILE.KVT");
+    return assist;
+}
+
 }  // namespace
 
 int run_command_line(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
@@ -110,6 +122,7 @@ int run_command_line(int argc, const char* const* argv, std::ostream& out, std::
     command_line line;
     add_calc(app, line);
     CLI::App* files = add_export(app, line);
+    CLI::App* assist = add_assist(app, line);
     try {
         app.parse(argc, argv);
         for (const std::string& option : line.typed) {
@@ -117,6 +130,10 @@ int run_command_line(int argc, const char* const* argv, std::ostream& out, std::
         }
     } catch (const CLI::ParseError& ended) {
         return app.exit(ended, out, err) == 0 ? EXIT_OK : EXIT_USAGE;
+    }
+    if (assist->parsed()) {
+        line.assist.source = line.calc.source;
+        return assist_design(line.assist, out, err);
     }
     return files->parsed() ? export_design(line.calc.source, line.export_folder, out, err)
                            : calc_design(line.calc, out, err);

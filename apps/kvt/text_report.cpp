@@ -3,8 +3,8 @@
 #include "core/fixed4.hpp"
 #include "core/number_text.hpp"
 #include "core/text_table.hpp"
+#include "kvt/aligned_lines.hpp"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string_view>
@@ -99,12 +99,6 @@ bool is_reported(row_kind kind, batch_end end) {
     return kind == row_kind::entry ? end != batch_end::read_error : end == batch_end::ok;
 }
 
-/// The number of characters of a UTF-8 text: every byte that does not continue one.
-std::size_t width(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
 }  // namespace
 
 std::string text_report(const program& kavetta, const batch_result& result) {
@@ -116,16 +110,7 @@ std::string text_report(const program& kavetta, const batch_result& result) {
         }
     }
     lines.emplace_back(caption_text("kvt", "ended", language), batch_end_name(result.end));
-
-    std::size_t widest = 0;
-    for (const auto& [caption, value] : lines) {
-        widest = std::max(widest, width(caption));
-    }
-    std::string report;
-    for (const auto& [caption, value] : lines) {
-        report += caption + std::string(widest - width(caption) + 2, ' ') + value + "\n";
-    }
-    return report;
+    return aligned_lines(lines);
 }
 
 }  // namespace kvt

@@ -1,0 +1,31 @@
+#include "kvt/aligned_lines.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+namespace kvt {
+
+namespace {
+
+/// The number of characters of a UTF-8 text: every byte that does not continue one.
+std::size_t width(std::string_view text) {
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+}  // namespace
+
+std::string aligned_lines(const std::vector<std::pair<std::string, std::string>>& rows) {
+    std::size_t widest = 0;
+    for (const auto& [caption, value] : rows) {
+        widest = std::max(widest, width(caption));
+    }
+    std::string lines;
+    for (const auto& [caption, value] : rows) {
+        lines += caption + std::string(widest - width(caption) + 2, ' ') + value + "\n";
+    }
+    return lines;
+}
+
+}  // namespace kvt
