@@ -1,10 +1,10 @@
 // app_state: the state of the program beside the design itself.
 #pragma once
 
+#include "core/fixed4.hpp"
+
 #include <cstdint>
 #include <string>
-
-#include "core/fixed4.hpp"
 
 namespace kvt {
 
@@ -24,8 +24,8 @@ struct app_state {
     fixed4 volumereqd_value;                   ///< required capacity in the unit of capacity_unit
 
     // The open project.
-    std::string project_path;     ///< full path of the project file, UTF-8; empty until Open or Save As
-    std::string project_name;     ///< name in the title bar and in line 2 of the file
+    std::string project_path;  ///< full path of the project file, UTF-8; empty until Open or Save As
+    std::string project_name;  ///< name in the title bar and in line 2 of the file
     bool project_has_file = false;
     std::string projects_folder;  ///< folder in which the file dialogs start; empty at start-up
     std::string mnufileprev[4] = {"&1", "&2", "&3", "&4"};  ///< the captions of the recent entries are their state
@@ -45,7 +45,7 @@ struct app_state {
     std::int16_t zoom_all_requested = 0;   ///< -1: the next run is a repeat asked for by the zoom-all button
     std::int16_t recalc_quiet = 0;         ///< -1: Design Ports runs for a Zoom All; results and enablings stay
     bool assist_on = false;                ///< Des_assist_check: Design assist in place of Calculate Profiles
-    bool assist_hidden = false;            ///< designer and its frame lines are hidden, from New or Open until assist_on
+    bool assist_hidden = false;  ///< designer and its frame lines are hidden, from New or Open until assist_on
 
     // The Design view. Lengths in twips.
     double rotation_angle = 0.0;        ///< rotation of the inner rotor in the view, degrees
@@ -54,8 +54,8 @@ struct app_state {
     double view_scale = 0.0;            ///< twips per millimetre
     double view_cx = 3000.0;            ///< position of the pump's origin in the picture
     double view_cy = 3000.0;
-    double view_ecc = 0.0;   ///< ecc * view_scale
-    double view_zoom = 0.0;  ///< factor of the last zoom
+    double view_ecc = 0.0;                                                            ///< ecc * view_scale
+    double view_zoom = 0.0;                                                           ///< factor of the last zoom
     std::int16_t zoom_start_x = 0, zoom_start_y = 0, zoom_end_x = 0, zoom_end_y = 0;  ///< rubber band corners
     double angleline_count = 0.0;  ///< element count of angleline at the last reset
 };

@@ -6,7 +6,10 @@ namespace kvt {
 
 namespace {
 
-#define KVT_ENABLING(form, name) enabling_field{form, #name, &enabling::name}
+#define KVT_ENABLING(form, name)     \
+    enabling_field {                 \
+        form, #name, &enabling::name \
+    }
 
 constexpr std::array ENABLING_FIELDS = {
     KVT_ENABLING("MDIForm1", mnumodel),

@@ -1,10 +1,10 @@
 // enabling: which buttons, menus and entries can be used. Commands set it; forms show it.
 #pragma once
 
+#include "core/named_fields.hpp"
+
 #include <span>
 #include <string_view>
-
-#include "core/named_fields.hpp"
 
 namespace kvt {
 

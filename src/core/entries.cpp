@@ -6,8 +6,14 @@ namespace kvt {
 
 namespace {
 
-#define KVT_TEXT(form, name) entry_field{form, #name, &entries::name, entry_kind::text}
-#define KVT_CHECK(form, name) entry_field{form, #name, &entries::name, entry_kind::check}
+#define KVT_TEXT(form, name)                          \
+    entry_field {                                     \
+        form, #name, &entries::name, entry_kind::text \
+    }
+#define KVT_CHECK(form, name)                          \
+    entry_field {                                      \
+        form, #name, &entries::name, entry_kind::check \
+    }
 
 constexpr std::array ENTRY_FIELDS = {
     KVT_TEXT("Form1", volumereqd),

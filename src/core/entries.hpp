@@ -1,11 +1,11 @@
 // entries: the texts of all boxes of the input forms, exactly as the user typed them, and the check boxes.
 #pragma once
 
+#include "core/named_fields.hpp"
+
 #include <span>
 #include <string>
 #include <string_view>
-
-#include "core/named_fields.hpp"
 
 namespace kvt {
 
@@ -53,20 +53,20 @@ const entry_field* find_entry(std::string_view name);
 
 /// The result labels and list texts of the forms: outputs that the program sets and the forms show.
 struct labels {
-    std::string capacity = "0.0";                  ///< Approx. Capacity, text of the fixed-point value
-    std::string area_ratio;                        ///< "28.65 %"
-    std::string max_chamb_vol;                     ///< "1038 mm3"
-    std::string min_chamb_vol;                     ///< "35.35 mm3"
-    std::string units_label = "Lit/Min/1000rpm";   ///< the capacity unit beside the capacity
-    std::string unittype = "Lit/Min/1000rpm";      ///< selected text of the capacity unit list
-    std::string hiddenprojnamelabel;               ///< the name typed in the New Project dialog
-    std::string title = "Kavetta V2021";           ///< title of the main window
-    std::string max_speed;                         ///< " 7403 RPM": highest speed without cavitation
-    std::string Label5;                            ///< of perf_res: what limits that speed
-    std::string max_shaft_side_load;               ///< "216.78 N"
-    std::string side_load_direction;               ///< "-29.27 °"
-    std::string max_cutter_inner;                  ///< "15.36 mm": largest tool that can cut the inner rotor
-    std::string Label1;                            ///< of perf_res: the pressure ripple in percent
+    std::string capacity = "0.0";                 ///< Approx. Capacity, text of the fixed-point value
+    std::string area_ratio;                       ///< "28.65 %"
+    std::string max_chamb_vol;                    ///< "1038 mm3"
+    std::string min_chamb_vol;                    ///< "35.35 mm3"
+    std::string units_label = "Lit/Min/1000rpm";  ///< the capacity unit beside the capacity
+    std::string unittype = "Lit/Min/1000rpm";     ///< selected text of the capacity unit list
+    std::string hiddenprojnamelabel;              ///< the name typed in the New Project dialog
+    std::string title = "Kavetta V2021";          ///< title of the main window
+    std::string max_speed;                        ///< " 7403 RPM": highest speed without cavitation
+    std::string Label5;                           ///< of perf_res: what limits that speed
+    std::string max_shaft_side_load;              ///< "216.78 N"
+    std::string side_load_direction;              ///< "-29.27 °"
+    std::string max_cutter_inner;                 ///< "15.36 mm": largest tool that can cut the inner rotor
+    std::string Label1;                           ///< of perf_res: the pressure ripple in percent
 };
 
 using label_field = named_field<labels, std::string>;

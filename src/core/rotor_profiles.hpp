@@ -1,11 +1,11 @@
 // rotor_profiles: everything that Calculate Profiles computes. Lengths mm; angles in arrays radians.
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "core/constants.hpp"
 #include "core/fixed4.hpp"
+
+#include <cstdint>
+#include <vector>
 
 namespace kvt {
 
@@ -32,7 +32,7 @@ struct rotor_profiles {
 
     static std::vector<double> fixed_array() { return std::vector<double>(FIXED_ARRAY_LAST + 1, 0.0); }
 
-    std::vector<double> troch_x = fixed_array();      ///< trochoid points 0 .. P; element P repeats element 0
+    std::vector<double> troch_x = fixed_array();  ///< trochoid points 0 .. P; element P repeats element 0
     std::vector<double> troch_y = fixed_array();
     std::vector<double> troch_angle = fixed_array();  ///< generating angle, then the uniform index angle i PI_D/(P/2)
     std::vector<double> troch_slope = fixed_array();  ///< dy/dx, central difference, 0 where dx is 0
@@ -40,17 +40,17 @@ struct rotor_profiles {
     std::vector<double> troch_xy_spare;               ///< sized here, filled by the CAD routines only
     std::vector<double> inner_x = fixed_array();      ///< inner rotor profile, 0 .. P-1
     std::vector<double> inner_y = fixed_array();
-    std::vector<double> inner_plot_xy;                ///< flat x, y of every coarseness-th inner point, closed
-    std::vector<double> outer_xy;                     ///< flat x, y of the outer rotor profile
-    std::vector<double> outer_x;                      ///< the same points as two lists
+    std::vector<double> inner_plot_xy;  ///< flat x, y of every coarseness-th inner point, closed
+    std::vector<double> outer_xy;       ///< flat x, y of the outer rotor profile
+    std::vector<double> outer_x;        ///< the same points as two lists
     std::vector<double> outer_y;
-    std::vector<double> fillet_x;                     ///< first fillet only, 0 .. 100, about the outer centre
+    std::vector<double> fillet_x;  ///< first fillet only, 0 .. 100, about the outer centre
     std::vector<double> fillet_y;
     std::vector<double> fillet_r;                     ///< its distance from the outer centre
     std::vector<double> rot_inner_x = fixed_array();  ///< working copies, turned to a chamber position
     std::vector<double> rot_inner_y = fixed_array();
     std::vector<double> rot_outer_xy = fixed_array();
-    std::vector<double> radius_scratch;               ///< working radii of the area sums
+    std::vector<double> radius_scratch;  ///< working radii of the area sums
 
     // Scratch points of the outer profile generation, reused by output routines; nobody may expect them to survive.
     double pt_a_x = 0.0, pt_a_y = 0.0;  ///< root end of a flank

@@ -1,10 +1,10 @@
 // window_rectangles: where the windows stand, in twips (15 to a pixel at 100 % scaling), as data.
 #pragma once
 
+#include "core/named_fields.hpp"
+
 #include <span>
 #include <string_view>
-
-#include "core/named_fields.hpp"
 
 namespace kvt {
 
