@@ -38,8 +38,8 @@ viewwinfrm::viewwinfrm(form_context context) : mdi_form("viewwinfrm", context) {
     picture_ = new design_picture(content);
     bottom_row_ = bottom_row();
     bottom_row_->setParent(content);
-    bind(content, false);
-    setMinimumSize(bottom_row_->minimumSizeHint().width(), HEIGHT_BEYOND_PICTURE / TWIPS_PER_PIXEL);
+    content_ = content;
+    bind(content, true);
 }
 
 QWidget* viewwinfrm::bottom_row() {
@@ -99,10 +99,16 @@ void viewwinfrm::size_picture() {
     if (!isMaximized()) {
         resize(side + WIDTH_BEYOND_PICTURE / TWIPS_PER_PIXEL, height());
     }
-    const QRect room = widget()->rect();
-    const int row_height = bottom_row_->sizeHint().height();
-    picture_->setGeometry((room.width() - side) / 2, std::max(0, (room.height() - row_height - side) / 2), side, side);
-    bottom_row_->setGeometry(0, room.height() - row_height, room.width(), row_height);
+    place_controls(side);
+}
+
+/// The picture in the middle, the row below it. With a large font, or in a small form, the content scrolls.
+void viewwinfrm::place_controls(int side) {
+    const QSize row = bottom_row_->sizeHint();
+    content_->setMinimumSize(std::max(side, row.width()), side + row.height());
+    const QSize room = widget()->size().expandedTo(content_->minimumSize());
+    picture_->setGeometry((room.width() - side) / 2, (room.height() - row.height() - side) / 2, side, side);
+    bottom_row_->setGeometry(0, room.height() - row.height(), room.width(), row.height());
 }
 
 }  // namespace kvt

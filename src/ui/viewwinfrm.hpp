@@ -22,7 +22,9 @@ class viewwinfrm : public mdi_form {
     QWidget* bottom_row();
     void zoom_all();
     void size_picture();
+    void place_controls(int side);
 
+    QWidget* content_;
     design_picture* picture_;
     QWidget* bottom_row_;
 };

@@ -1,0 +1,130 @@
+// No text is clipped and no two controls overlap, in both languages and at several font sizes.
+#include "ui/Aboutform.hpp"
+#include "ui/Form2.hpp"
+#include "ui/desktop_fixture.hpp"
+#include "ui/newprojectname.hpp"
+
+#include <QMdiSubWindow>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace kvt {
+
+namespace {
+
+class layout_test : public desktop_test {
+  protected:
+    /// Labels and buttons must be as large as their texts; a label that wraps must be as high as its lines.
+    static void expect_no_clipped_text(const QWidget& form, const std::string& what) {
+        for (const QWidget* control : form.findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<const QLabel*>(control);
+            const bool has_text = label != nullptr || qobject_cast<const QAbstractButton*>(control) != nullptr;
+            if (!has_text || !control->isVisibleTo(&form) || control->objectName().isEmpty() ||
+                control->objectName().startsWith("qt_")) {
+                continue;
+            }
+            const bool wraps = label != nullptr && label->wordWrap();
+            const QSize needed = wraps ? QSize(0, label->heightForWidth(label->width())) : control->minimumSizeHint();
+            EXPECT_GE(control->width(), needed.width()) << what << " " << control->objectName().toStdString();
+            EXPECT_GE(control->height(), needed.height()) << what << " " << control->objectName().toStdString();
+        }
+    }
+
+    static void expect_no_overlap(const QWidget& form, const std::string& what) {
+        QList<const QWidget*> controls;
+        for (const QWidget* control : form.findChildren<QWidget*>()) {
+            const bool is_leaf = control->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).isEmpty() ||
+                                 control->inherits("QComboBox");
+            const bool is_ours = !control->objectName().isEmpty() && !control->objectName().startsWith("qt_");
+            if (is_leaf && is_ours && control->isVisibleTo(&form)) {
+                controls.append(control);
+            }
+        }
+        EXPECT_GE(controls.size(), 2) << what;
+        for (qsizetype a = 0; a < controls.size(); ++a) {
+            for (qsizetype b = a + 1; b < controls.size(); ++b) {
+                EXPECT_FALSE(area(*controls[a], form).intersects(area(*controls[b], form)))
+                    << what << " " << controls[a]->objectName().toStdString() << " and "
+                    << controls[b]->objectName().toStdString();
+            }
+        }
+    }
+
+    static QRect area(const QWidget& control, const QWidget& form) {
+        return {control.mapTo(&form, QPoint(0, 0)), control.size()};
+    }
+
+    static void look_at(const QWidget& form, const std::string& what) {
+        expect_no_clipped_text(form, what);
+        expect_no_overlap(form, what);
+    }
+
+    void look_at_everything(const std::string& what) {
+        for (const char* name : {"Form1", "viewwinfrm"}) {
+            look_at(*find<QMdiSubWindow>(name), what + " " + name);
+        }
+        Form2 prompt(kavetta(), nullptr);
+        newprojectname name(kavetta(), nullptr, [] {});
+        Aboutform about(kavetta(), nullptr);
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about}) {
+            dialog->setModal(false);
+            dialog->show();
+            settle();
+            look_at(*dialog, what + " " + dialog->objectName().toStdString());
+            dialog->hide();
+        }
+    }
+};
+
+/// Sets the application's font size and puts it back.
+class font_size {
+  public:
+    explicit font_size(double points) : before_(QApplication::font()) {
+        QFont font = before_;
+        font.setPointSizeF(points);
+        QApplication::setFont(font);
+    }
+    ~font_size() { QApplication::setFont(before_); }
+
+  private:
+    QFont before_;
+};
+
+}  // namespace
+
+TEST_F(layout_test, nothing_is_clipped_or_overlaps_in_either_language_at_any_font_size) {
+    for (const double points : {8.0, 9.0, 12.0, 18.0}) {
+        const font_size size(points);
+        for (const char language : {'1', '2'}) {
+            write_settings(language);
+            start(design_file("n07_engine_oil_groove"));
+            press("Calc");
+            look_at_everything(std::to_string(points) + " pt, language " + language);
+        }
+    }
+}
+
+TEST_F(layout_test, the_design_form_fits_its_place_in_the_default_layout_without_scrolling) {
+    for (const char language : {'1', '2'}) {
+        write_settings(language);
+        start(design_file("n07_engine_oil_groove"));
+        press("Calc");
+        settle();
+        const auto* form = find<QMdiSubWindow>("Form1");
+        EXPECT_EQ(form->geometry(), QRect(0, 0, 362, 539));
+        const auto* scrolled = form->findChild<QScrollArea*>();
+        EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible()) << language;
+        EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible()) << language;
+    }
+}
+
+TEST_F(layout_test, a_design_form_smaller_than_its_content_scrolls) {
+    start();
+    auto* form = find<QMdiSubWindow>("Form1");
+    form->resize(300, 250);
+    settle();
+    EXPECT_TRUE(form->findChild<QScrollArea*>()->verticalScrollBar()->isVisible());
+    expect_no_clipped_text(*form, "small");
+}
+
+}  // namespace kvt
