@@ -11,6 +11,7 @@ import sys
 FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
 
 COVERED_BY = {
+    "apps/kvt/aligned_lines.cpp": "tests/kvt/text_report_test.cpp",
     "apps/kvt/batch_run.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/batch_user.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/json_view.cpp": "tests/kvt/json_report_test.cpp",
@@ -20,6 +21,7 @@ COVERED_BY = {
     "src/app/project_reset.cpp": "tests/app/enabling_chain_test.cpp",
     "src/app/run_command.cpp": "tests/app/exit_program_test.cpp",
     "src/app/settings_commands.cpp": "tests/app/exit_program_test.cpp",
+    "src/geometry/assist_lobe.cpp": "tests/geometry/assist_search_test.cpp",
     "src/geometry/chamber_window.cpp": "tests/geometry/chambers_test.cpp",
     "src/geometry/maximum_chamber.cpp": "tests/geometry/chambers_test.cpp",
     "src/geometry/minimum_chamber.cpp": "tests/geometry/chambers_test.cpp",

@@ -91,7 +91,11 @@ json json_entries(const entries& boxes) {
 json json_labels(const program& kavetta) {
     json object = json::object();
     for (const label_field& field : label_fields()) {
-        object[std::string(field.name)] = kavetta.labels.*field.member;
+        const std::string& text = kavetta.labels.*field.member;
+        // The result form has no labels before Calculate Performance has filled them.
+        if (field.form != "perf_res" || !text.empty()) {
+            object[std::string(field.name)] = text;
+        }
     }
     object["rotated_angle"] = kavetta.entries.rotated_angle;
     return object;
