@@ -12,7 +12,11 @@ double lobe_centre_radius(const design_params& design, const rotor_profiles& rot
 }
 
 double fillet_angle(const design_params& design, const rotor_profiles& rotors) {
-    const double C = lobe_centre_radius(design, rotors);
+    return fillet_angle(design, lobe_centre_radius(design, rotors));
+}
+
+double fillet_angle(const design_params& design, double centre_radius) {
+    const double C = centre_radius;
     const double to_fillet = design.outer_root - design.fillet;
     const double reach = design.radouter + design.fillet;
     const double c = checked_divide(to_fillet * to_fillet + C * C - reach * reach, (to_fillet + to_fillet) * C);
@@ -24,9 +28,13 @@ bool fillets_too_large(const design_params& design, double alpha) {
 }
 
 outer_flank flank_of_lobe(const design_params& design, const rotor_profiles& rotors) {
+    return flank_of_lobe(design, lobe_centre_radius(design, rotors));
+}
+
+outer_flank flank_of_lobe(const design_params& design, double centre_radius) {
     outer_flank flank;
-    flank.alpha = fillet_angle(design, rotors);
-    const double C = lobe_centre_radius(design, rotors);
+    flank.alpha = fillet_angle(design, centre_radius);
+    const double C = centre_radius;
     const double Ro = design.radouter;
     const double Fx = (design.outer_root - design.fillet) * std::cos(flank.alpha);
     const double Fy = (design.outer_root - design.fillet) * std::sin(flank.alpha);

@@ -15,6 +15,8 @@ double lobe_centre_radius(const design_params& design, const rotor_profiles& rot
 /// Rr outer_root, Ro radouter, f fillet. Source: docs/formulas/outer_rotor.md, "Fillet angle".
 /// Throws invalid_procedure_call when the lobe doesn't reach the root circle, division_by_zero when it just does.
 double fillet_angle(const design_params& design, const rotor_profiles& rotors);
+/// The same for lobe centres at this radius C.
+double fillet_angle(const design_params& design, double centre_radius);
 
 /// Whether the fillets of a lobe reach those of its neighbour: alpha * 2 N / PI_D > 2. Exactly 2 passes.
 bool fillets_too_large(const design_params& design, double alpha);
@@ -31,5 +33,7 @@ struct outer_flank {
 ///     w = (C^2 + T^2 - Ro^2) / ((C + C) T)   beta = arc cosine of w
 /// F is the fillet centre at alpha. Source: docs/formulas/outer_rotor.md, "Tangent point".
 outer_flank flank_of_lobe(const design_params& design, const rotor_profiles& rotors);
+/// The same for lobe centres at this radius C.
+outer_flank flank_of_lobe(const design_params& design, double centre_radius);
 
 }  // namespace kvt

@@ -5,6 +5,7 @@
 #include "core/design_params.hpp"
 #include "core/rotor_profiles.hpp"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -41,11 +42,19 @@ struct drawn_circle {
     bool visible = false;
 };
 
+/// The rubber band, Line3: the lines 0 to 3 run along the top, the left, the right and the bottom of a band that is
+/// drawn down to the right.
+struct rubber_band {
+    std::array<drawn_line, 4> lines;
+    bool visible = false;
+};
+
 /// The members are named as the controls of viewwinfrm and stand in their stacking order, lowest first.
 struct design_view {
     std::vector<drawn_arc> Picture1;  ///< outer rotor, drawing width 2
     line_array metering_groove_extraline, anglelineout, angleline, metering_groove_portline;
     line_array outlet_portline, inlet_portline;
+    rubber_band Line3;    ///< dotted, drawing width 1
     line_array Line1;     ///< inner rotor
     drawn_circle Shape1;  ///< outside diameter
 };
@@ -71,11 +80,23 @@ double drawing_angle(double dx, double dy);
 void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
                       design_view& view);
 
+/// Where the outer rotor stands in the picture: its centre in twips, y down, and the angle in radians, y up, that is
+/// added to those of its lobes.
+struct outer_rotor_place {
+    double x = 0.0, y = 0.0, start_angle = 0.0;
+};
+
 /// The first drawing of the outer rotor by Calculate Profiles: fillet, lobe and root arcs about the view's centre.
 /// y is flipped, unlike in the inner rotor's lines. Without fillets there are no fillet arcs. The end angles are those
 /// of drawing_angle from each arc's centre. Arcs drawn before a failure stay. Throws run_time_error for an angle whose
 /// x difference is 0.
 void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
                       design_view& view);
+
+/// The arcs of the outer rotor again, at a place, with the scale view_scale: in the order and by the rules of the first
+/// drawing, but computed from the design alone (lobe centres at radouter + radinnroot + ecc). Picture1 is not cleared.
+/// Throws run_time_error as the first drawing does.
+void redraw_outer_rotor(const design_params& design, const outer_rotor_place& place, const app_state& state,
+                        design_view& view);
 
 }  // namespace kvt

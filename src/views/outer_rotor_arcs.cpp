@@ -21,22 +21,23 @@ struct drawn_flank {
     double lobe_angle = 0.0;  ///< tangent point seen from the lobe centre
 };
 
-/// Draws the arcs of one design about the view's centre.
+/// Draws the arcs of one design with its lobe centres at a radius.
 class outer_rotor_drawing {
   public:
-    outer_rotor_drawing(const design_params& design, const rotor_profiles& rotors, const app_state& state,
-                        design_view& view)
+    outer_rotor_drawing(const design_params& design, double centre_radius, const outer_rotor_place& place,
+                        double view_scale, std::vector<drawn_arc>& arcs)
         : design_(design),
-          state_(state),
-          view_(view),
-          flank_(flank_of_lobe(design, rotors)),
-          lobe_centre_radius_(lobe_centre_radius(design, rotors)) {}
+          place_(place),
+          view_scale_(view_scale),
+          arcs_(arcs),
+          flank_(flank_of_lobe(design, centre_radius)),
+          lobe_centre_radius_(centre_radius) {}
 
     void run() {
         const double pitch = checked_divide(TWO_PI_D, design_.numlobes);
         std::vector<drawn_flank> first;
         std::vector<drawn_flank> second;
-        double theta = 0.0;
+        double theta = place_.start_angle;
         for (std::int32_t lobe = 0; lobe < design_.numlobes; ++lobe) {
             theta = theta + pitch;
             first.push_back(flank(theta, theta - flank_.alpha, theta - flank_.beta, true));
@@ -69,14 +70,14 @@ class outer_rotor_drawing {
     }
 
     void add_arc(const point2& centre, double radius, double start, double end) {
-        const double half = state_.view_size / 2.0;
-        view_.Picture1.push_back({half + centre.x * state_.view_scale, half - centre.y * state_.view_scale,
-                                  radius * state_.view_scale, start, end});
+        arcs_.push_back(
+            {place_.x + centre.x * view_scale_, place_.y - centre.y * view_scale_, radius * view_scale_, start, end});
     }
 
     const design_params& design_;
-    const app_state& state_;
-    design_view& view_;
+    const outer_rotor_place place_;
+    const double view_scale_;
+    std::vector<drawn_arc>& arcs_;
     const outer_flank flank_;
     const double lobe_centre_radius_;
 };
@@ -96,7 +97,15 @@ double drawing_angle(double dx, double dy) {
 
 void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
                       design_view& view) {
-    outer_rotor_drawing(design, rotors, state, view).run();
+    const double half = state.view_size / 2.0;
+    outer_rotor_drawing(design, lobe_centre_radius(design, rotors), {half, half, 0.0}, state.view_scale, view.Picture1)
+        .run();
+}
+
+void redraw_outer_rotor(const design_params& design, const outer_rotor_place& place, const app_state& state,
+                        design_view& view) {
+    const double centre_radius = design.radouter + (design.radinnroot + design.ecc);
+    outer_rotor_drawing(design, centre_radius, place, state.view_scale, view.Picture1).run();
 }
 
 }  // namespace kvt

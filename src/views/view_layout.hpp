@@ -1,0 +1,32 @@
+// view_layout: the resize rule of the Design view: a square picture that follows the form's height.
+#pragma once
+
+#include "core/app_state.hpp"
+
+#include <optional>
+
+namespace kvt {
+
+/// A place of a control, twips from the form's upper left corner.
+struct control_place {
+    double left = 0.0, top = 0.0;
+
+    friend bool operator==(const control_place&, const control_place&) = default;
+};
+
+/// Sizes and places in twips.
+struct view_layout {
+    double picture_side = 0.0;
+    double form_height = 0.0, form_width = 0.0;  ///< not for a maximised form, which keeps its size
+    control_place rotate_rotors_cw, rotate_rotors_ccw, rotate_label, rotated_angle, zoom_all_command;
+
+    friend bool operator==(const view_layout&, const view_layout&) = default;
+};
+
+/// The form has a height of so many twips: view_size becomes the height less 1185, at most 32767; nothing more when
+/// that is negative. Otherwise the form is as high as the picture and 1185, and as wide as the picture and 390, so
+/// width follows height. The drawing keeps its scale until the next Calculate Profiles. Throws overflow for a height
+/// below the range of 16 bits.
+std::optional<view_layout> resize_view(double form_height, app_state& state);
+
+}  // namespace kvt
