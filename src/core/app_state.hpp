@@ -40,6 +40,10 @@ struct app_state {
     std::string last_update_check;
     bool exit_cancelled = false;  ///< set by Cancel at the exit question, never set back
 
+    // The explanation windows: true while the window is closed.
+    bool explain_closed = true;
+    bool port_explain_closed = true;
+
     // Geometry flags.
     std::int16_t profiles_calculated = 0;  ///< -1 once Calculate Profiles has passed its start
     std::int16_t zoom_all_requested = 0;   ///< -1: the next run is a repeat asked for by the zoom-all button

@@ -16,6 +16,8 @@ namespace {
 
 /// Significant digits of the text of a double.
 constexpr int SIGNIFICANT_DIGITS = 15;
+/// Those of a single-precision number.
+constexpr int SINGLE_DIGITS = 7;
 /// Powers of ten of the first digit outside which a text is written with an exponent.
 constexpr int LOWEST_FIXED_EXPONENT = -4;
 constexpr int LOWEST_LARGE_EXPONENT = 15;
@@ -126,11 +128,11 @@ struct decimal_digits {
     int exponent = 0;
 };
 
-decimal_digits rounded_digits(double value) {
+decimal_digits rounded_digits(double value, int significant_digits = SIGNIFICANT_DIGITS) {
     // Sign, digit, point, 14 digits, e, sign, three exponent digits.
     std::array<char, SIGNIFICANT_DIGITS + 16> buffer;
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
-                                      std::chars_format::scientific, SIGNIFICANT_DIGITS - 1);
+                                      std::chars_format::scientific, significant_digits - 1);
     const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
     const std::size_t e = text.find('e');
     decimal_digits parts;
@@ -201,6 +203,11 @@ std::string str(double value) {
 
 std::string print_form(std::int64_t value) {
     return (value < 0 ? "" : " ") + std::to_string(value) + " ";
+}
+
+std::string print_form_single(float value) {
+    const decimal_digits parts = rounded_digits(checked_finite(static_cast<double>(value)), SINGLE_DIGITS);
+    return (parts.negative ? "-" : " ") + laid_out(parts) + " ";
 }
 
 std::string commas_to_points(std::string_view text) {

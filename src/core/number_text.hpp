@@ -34,6 +34,10 @@ std::string str(double value);
 /// The formatted-print form of an integer in a file: sign or blank, digits, one trailing blank (" 1 ").
 std::string print_form(std::int64_t value);
 
+/// The formatted-print form of a single-precision number: sign or blank, up to 7 significant digits without trailing
+/// zeros, one trailing blank (" 8085 "). Throws overflow for an infinite value and for one that is not a number.
+std::string print_form_single(float value);
+
 /// The text with every "," replaced by ".".
 std::string commas_to_points(std::string_view text);
 

@@ -3,6 +3,8 @@
 
 #include "core/named_fields.hpp"
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -20,6 +22,16 @@ struct window_rectangle {
     friend bool operator==(const window_rectangle&, const window_rectangle&) = default;
 };
 
+/// The stored rectangle of a chart, whole twips. A value of 0 stands for the chart's own default.
+struct chart_rectangle {
+    std::int16_t height = 0;
+    std::int16_t width = 0;
+    std::int16_t top = 0;
+    std::int16_t left = 0;
+
+    friend bool operator==(const chart_rectangle&, const chart_rectangle&) = default;
+};
+
 /// The built-in layout.
 struct window_rectangles {
     window_rectangle Form1{8085, 5430, 0, 0};
@@ -28,6 +40,11 @@ struct window_rectangles {
     window_rectangle Perffrm{8085, 3525, 0, 5450};
     window_rectangle select_graphs{2355, 4395, 8100, 10220};
     bool main_window_maximised = true;
+    std::optional<window_rectangle> MDIForm1;  ///< of the main window while it is not maximised
+    std::optional<window_rectangle> explain,
+        port_explain;  ///< of the explanation windows, when the layout file had one
+    chart_rectangle FLOW_graphview2, LOAD_graphview2, HERTZ_graphview2, PRESS_RIP_graphview2;
+    chart_rectangle VE_graphview2, EFFIC_graphview2, OVREFF_graphview2;
 
     friend bool operator==(const window_rectangles&, const window_rectangles&) = default;
 };
@@ -36,5 +53,10 @@ using window_rectangle_field = named_field<window_rectangles, window_rectangle>;
 
 /// The five fixed windows in the order of the layout file.
 std::span<const window_rectangle_field> window_rectangle_fields();
+
+using chart_rectangle_field = named_field<window_rectangles, chart_rectangle>;
+
+/// The seven charts in the order of the layout file.
+std::span<const chart_rectangle_field> chart_rectangle_fields();
 
 }  // namespace kvt

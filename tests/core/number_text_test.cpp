@@ -281,6 +281,21 @@ TEST(number_of_text, is_val_or_a_type_mismatch_for_any_text) {
     EXPECT_GT(read_count, 0);
 }
 
+TEST(print_form_single, has_a_place_for_the_sign_seven_digits_and_a_blank_behind) {
+    EXPECT_EQ(print_form_single(8085.0F), " 8085 ");
+    EXPECT_EQ(print_form_single(-30.0F), "-30 ");
+    EXPECT_EQ(print_form_single(0.0F), " 0 ");
+    EXPECT_EQ(print_form_single(-0.0F), " 0 ");
+    EXPECT_EQ(print_form_single(7.5F), " 7.5 ");
+    EXPECT_EQ(print_form_single(0.1F), " 0.1 ");
+    EXPECT_EQ(print_form_single(1234.5678F), " 1234.568 ");
+}
+
+TEST(print_form_single, fails_for_what_is_no_finite_number) {
+    EXPECT_FAILURE(print_form_single(std::numeric_limits<float>::infinity()), failure::overflow);
+    EXPECT_FAILURE(print_form_single(std::numeric_limits<float>::quiet_NaN()), failure::overflow);
+}
+
 }  // namespace
 
 }  // namespace kvt
