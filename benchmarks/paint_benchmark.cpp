@@ -1,0 +1,58 @@
+// How long a repaint of the rotor pair takes: 3600 elements of the inner rotor, a picture of 700 by 700 pixels.
+#include "app/calculate_profiles.hpp"
+#include "app/project_entries.hpp"
+#include "core/project_file.hpp"
+#include "core/text_file.hpp"
+#include "support/scripted_user.hpp"
+#include "ui/design_painting.hpp"
+
+#include <QImage>
+#include <QPainter>
+
+#include <benchmark/benchmark.h>
+#include <string>
+
+namespace {
+
+constexpr int SIDE = 700;
+
+/// The pair of a delivered design, drawn for a picture of that side at coarseness 1.
+kvt::design_view drawn_pair() {
+    kvt::program kavetta;
+    kvt::scripted_user person;
+    std::string name;
+    const auto file = std::string(KVT_TEST_DATA) + "/designs/n07_engine_oil_groove.KVT";
+    kvt::assign_project_record(kavetta, kvt::read_project(kvt::read_file(file), name));
+    kavetta.entries.coarseness = "1";
+    kavetta.app_state.view_size = SIDE * 15;
+    kvt::calculate_profiles(kavetta, person);
+    return kavetta.design_view;
+}
+
+void paint_the_pair(benchmark::State& state) {
+    const kvt::design_painting painting(drawn_pair());
+    QImage sheet(SIDE, SIDE, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        sheet.fill(Qt::white);
+        QPainter painter(&sheet);
+        painting.paint(painter);
+    }
+}
+
+void take_over_and_paint_the_pair(benchmark::State& state) {
+    const kvt::design_view view = drawn_pair();
+    QImage sheet(SIDE, SIDE, QImage::Format_ARGB32_Premultiplied);
+    state.counters["elements"] = static_cast<double>(view.Line1.elements.size());
+    for (auto _ : state) {
+        const kvt::design_painting painting(view);
+        sheet.fill(Qt::white);
+        QPainter painter(&sheet);
+        painting.paint(painter);
+    }
+}
+
+}  // namespace
+
+BENCHMARK(paint_the_pair)->Unit(benchmark::kMillisecond);
+BENCHMARK(take_over_and_paint_the_pair)->Unit(benchmark::kMillisecond);
+BENCHMARK_MAIN();
