@@ -1,23 +1,23 @@
 // scripted_user: a user for tests that answers from a script and keeps a log of everything a command did to it.
 #pragma once
 
+#include "core/user.hpp"
+
 #include <deque>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "core/user.hpp"
-
 namespace kvt {
 
 class scripted_user : public user {
   public:
-    std::vector<std::string> messages;   ///< the texts of the message boxes, in order
+    std::vector<std::string> messages;  ///< the texts of the message boxes, in order
     std::vector<std::string> questions;
     std::vector<std::string> statuses;
-    std::vector<std::string> log;        ///< everything, one line a call: "unload perf_res", "focus ecc", ...
-    std::vector<file_dialog> dialogs;    ///< the dialogs that were shown
+    std::vector<std::string> log;      ///< everything, one line a call: "unload perf_res", "focus ecc", ...
+    std::vector<file_dialog> dialogs;  ///< the dialogs that were shown
     // The script. A question, dialog or prompt that the script does not foresee throws.
     std::deque<answer> answers;
     std::deque<std::optional<std::string>> files;
