@@ -1,6 +1,7 @@
 #include "app/calculate_performance.hpp"
 
 #include "app/enabling_chain.hpp"
+#include "app/stale_results.hpp"
 #include "core/text_table.hpp"
 #include "performance/delivered_flow.hpp"
 #include "performance/drive_power.hpp"
@@ -88,6 +89,7 @@ bool calculate_performance(program& kavetta, user& person) {
     read_inputs(kavetta);
     run_performance(kavetta, person);
     apply_chain(kavetta.enabling, chain_event::performance_calculated);
+    note_stage(kavetta, stage::performance);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "app/design_ports.hpp"
 #include "app/enabling_chain.hpp"
 #include "app/result_forms.hpp"
+#include "app/stale_results.hpp"
 #include "core/checked_math.hpp"
 #include "core/number_text.hpp"
 #include "core/text_table.hpp"
@@ -189,6 +190,7 @@ run_end calculate_profiles(program& kavetta, user& person) {
     set_rolling_circles(design, rotors);
     rotors.lobe_centre_offset = design.radinnroot + design.ecc;
     apply_outer_root_rules(rotors, inches, state.language, design, boxes, person);
+    note_stage(kavetta, stage::profiles);
     if (exceeds_maximum_diameter(design)) {
         return failure_exit(kavetta, person, message::does_not_fit_diameter);
     }

@@ -4,6 +4,7 @@
 #include "app/port_report_file.hpp"
 #include "app/porting_type.hpp"
 #include "app/result_forms.hpp"
+#include "app/stale_results.hpp"
 #include "core/number_text.hpp"
 #include "core/text_table.hpp"
 #include "ports/build_ports.hpp"
@@ -144,6 +145,9 @@ ports_designed design_ports(program& kavetta, user& person) {
     person.set_busy(true);
     const ports_designed done = build_and_draw(kavetta, person);
     person.set_busy(false);
+    if (done.inlet && done.outlet) {
+        note_stage(kavetta, stage::ports);
+    }
     if (kavetta.app_state.recalc_quiet == -1) {
         kavetta.app_state.recalc_quiet = 0;
     }

@@ -1,5 +1,6 @@
 #include "app/exit_program.hpp"
 
+#include "app/autosave.hpp"
 #include "app/project_commands.hpp"
 #include "app/run_command.hpp"
 #include "app/settings_commands.hpp"
@@ -14,11 +15,14 @@ bool exit_program(program& kavetta, user& person) {
             kavetta.app_state.exit_cancelled = true;
             return false;
         case answer::yes:
-            if (!save_project_as(kavetta, person)) {
+            if (save_project_as(kavetta, person)) {
+                forget_unsaved_entries(kavetta);
+            } else {
                 save_recovery(kavetta);
             }
             break;
         case answer::no:
+            forget_unsaved_entries(kavetta);
             break;
     }
     save_settings(kavetta);

@@ -1,6 +1,7 @@
 // program: all state of one Kavetta, one instance a process in the desktop program, many in the batch program.
 #pragma once
 
+#include "app/stage_entries.hpp"
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
 #include "core/design_params.hpp"
@@ -32,6 +33,11 @@ struct program {
     kvt::enabling enabling;
     kvt::window_rectangles window_rectangles;
     kvt::design_view design_view;
+
+    kvt::stage_entries stage_entries;
+
+    /// The project that autosave wrote last or that the entries started from, as bytes.
+    std::string autosaved;
 
     /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes nothing there.
     std::filesystem::path folder;

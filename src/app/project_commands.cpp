@@ -81,20 +81,25 @@ void write_project_as(program& kavetta, user& person, const std::string& path) {
 
 }  // namespace
 
-void load_project(program& kavetta, user& person, std::string_view path) {
+void load_entries(program& kavetta, user& person, const std::string& path) {
     app_state& state = kavetta.app_state;
-    state.project_path = path;
-    const project_record record = read_project(read_file(state.project_path), state.project_name);
+    const project_record record = read_project(read_file(path), state.project_name);
     assign_project_record(kavetta, record);
     if (state.drawing_units == INCHES) {
         set_inch_labels(kavetta);
     } else {
         set_mm_labels(kavetta);
     }
-    bind_to_file(kavetta);
     project_reset(kavetta, person, reset_kind::open_project);
-    update_recent_list(state, state.project_path);
     hide_assist(kavetta);
+}
+
+void load_project(program& kavetta, user& person, std::string_view path) {
+    app_state& state = kavetta.app_state;
+    state.project_path = path;
+    load_entries(kavetta, person, state.project_path);
+    bind_to_file(kavetta);
+    update_recent_list(state, state.project_path);
 }
 
 void open_project_file(program& kavetta, user& person, std::string_view path) {

@@ -3,6 +3,7 @@
 
 #include "app/program.hpp"
 
+#include <string>
 #include <string_view>
 
 namespace kvt {
@@ -23,6 +24,10 @@ void previous_design(program& kavetta, user& person, int index);
 /// What Open and Previous design share: read the file, assign everything, set the title, reset the project, update
 /// the recent list, switch the assist off. Throws run_time_error; what was assigned before it stays.
 void load_project(program& kavetta, user& person, std::string_view path);
+
+/// The part of load_project that takes entries and items over and resets the results: the project gets neither a path
+/// nor a file nor a title. Throws like load_project.
+void load_entries(program& kavetta, user& person, const std::string& path);
 
 /// Save: to project_path when the project has a file, else Save As. Throws run_time_error when it can't be written.
 void save_project(program& kavetta, user& person);

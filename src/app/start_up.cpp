@@ -1,5 +1,6 @@
 #include "app/start_up.hpp"
 
+#include "app/autosave.hpp"
 #include "app/project_commands.hpp"
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
@@ -78,10 +79,12 @@ void load_settings(program& kavetta) {
 
 void start_project(program& kavetta, user& person, std::string_view path) {
     app_state& state = kavetta.app_state;
-    const start_choice choice = path.empty() ? person.ask_new_or_open() : start_choice::neither;
+    const bool recovered = offer_unsaved_entries(kavetta, person);
+    const bool prompted = !recovered && path.empty();
+    const start_choice choice = prompted ? person.ask_new_or_open() : start_choice::neither;
     state.new_pressed = choice == start_choice::new_project;
     state.open_pressed = choice == start_choice::open_project;
-    if (!path.empty()) {
+    if (!recovered && !path.empty()) {
         open_project_file(kavetta, person, path);
     } else if (state.new_pressed) {
         new_project(kavetta, person);
@@ -89,6 +92,7 @@ void start_project(program& kavetta, user& person, std::string_view path) {
         open_project(kavetta, person);
     }
     set_captions(kavetta);
+    start_autosave(kavetta);
 }
 
 }  // namespace kvt

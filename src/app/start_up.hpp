@@ -18,7 +18,7 @@ void fill_program_folder(const std::filesystem::path& folder, const std::filesys
 void load_settings(program& kavetta);
 
 /// The prompt New or Open and its command, then the captions of the language. With a path, opens that project in
-/// place of the prompt.
+/// place of the prompt. Entries that an earlier run left unsaved are offered first, and take the place of both.
 void start_project(program& kavetta, user& person, std::string_view path = {});
 
 }  // namespace kvt
