@@ -1,6 +1,7 @@
 // kavetta: the desktop program.
 #include "app/run_command.hpp"
 #include "app/start_up.hpp"
+#include "core/app_state.hpp"
 #include "core/run_time_error.hpp"
 #include "ui/application_style.hpp"
 #include "ui/desktop.hpp"
@@ -30,8 +31,9 @@ std::optional<std::filesystem::path> filled_program_folder() {
         kvt::fill_program_folder(folder, share_folder());
         return folder;
     } catch (const kvt::run_time_error& error) {
-        QMessageBox::critical(nullptr, kvt::qt_text("Kavetta"),
-                              kvt::qt_text(std::to_string(error.number()) + ": " + error.text() + "\n" + error.what()));
+        QMessageBox::critical(
+            nullptr, kvt::qt_text("Kavetta"),
+            kvt::qt_text(std::to_string(error.number()) + ": " + error.text(kvt::ENGLISH) + "\n" + error.what()));
         return std::nullopt;
     }
 }

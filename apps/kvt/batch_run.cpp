@@ -80,7 +80,7 @@ int exit_status(batch_end end) {
 
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
     return std::string(message_text(message::run_time_failure, language)) + number_text(error.number()) + ": " +
-           error.text();
+           error.text(language);
 }
 
 std::optional<batch_end> open_design(program& kavetta, batch_user& person, const design_source& source) {

@@ -82,7 +82,7 @@ bool offer_unsaved_entries(program& kavetta, user& person) {
         kavetta.labels.title = project_title(kavetta.app_state.project_name);
         return true;
     } catch (const run_time_error& error) {
-        person.show_status(std::string(message_text(message::open_failed, language)) + error.text());
+        person.show_status(std::string(message_text(message::open_failed, language)) + error.text(language));
         return false;
     }
 }

@@ -33,7 +33,8 @@ file_dialog project_dialog(const program& kavetta, message title_end) {
 }
 
 void show_failure_status(const program& kavetta, user& person, message id, const run_time_error& error) {
-    person.show_status(std::string(message_text(id, kavetta.app_state.language)) + error.text());
+    person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
+                       error.text(kavetta.app_state.language));
 }
 
 void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {

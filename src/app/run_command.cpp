@@ -12,7 +12,8 @@ namespace {
 
 std::string fatal_text(const program& kavetta, const run_time_error& error, const std::filesystem::path& recovery) {
     const auto text = [&kavetta](message id) { return std::string(message_text(id, kavetta.app_state.language)); };
-    std::string told = text(message::run_time_failure) + std::to_string(error.number()) + ": " + error.text() + ". ";
+    std::string told = text(message::run_time_failure) + std::to_string(error.number()) + ": " +
+                       error.text(kavetta.app_state.language) + ". ";
     told += recovery.empty() ? text(message::entries_not_saved) : text(message::entries_saved_to) + recovery.string();
     return told;
 }

@@ -1,35 +1,51 @@
 // The texts of the run-time failures and the text for developers that the exception carries.
 #include "core/run_time_error.hpp"
 
+#include "core/app_state.hpp"
+#include "core/text_table.hpp"
+
 namespace kvt {
 
-const char* failure_text(failure kind) {
+namespace {
+
+message message_of(failure kind) {
     switch (kind) {
         case failure::invalid_procedure_call:
-            return "Invalid procedure call or argument";
+            return message::failure_invalid_procedure_call;
         case failure::overflow:
-            return "Overflow";
+            return message::failure_overflow;
         case failure::subscript_out_of_range:
-            return "Subscript out of range";
+            return message::failure_subscript_out_of_range;
         case failure::division_by_zero:
-            return "Division by zero";
+            return message::failure_division_by_zero;
         case failure::type_mismatch:
-            return "Type mismatch";
+            return message::failure_type_mismatch;
         case failure::file_not_found:
-            return "File not found";
+            return message::failure_file_not_found;
         case failure::input_past_end:
-            return "Input past end of file";
+            return message::failure_input_past_end;
         case failure::path_file_access:
-            return "Path/File access error";
+            return message::failure_path_file_access;
         case failure::path_not_found:
-            return "Path not found";
+            return message::failure_path_not_found;
         case failure::invalid_property_value:
-            return "Invalid property value";
+            return message::failure_invalid_property_value;
     }
-    return "Unknown failure";
+    return message::failure_invalid_procedure_call;
+}
+
+std::string developer_text(failure kind, const std::string& detail) {
+    const std::string text(failure_text(kind, ENGLISH));
+    return detail.empty() ? text : text + ": " + detail;
+}
+
+}  // namespace
+
+std::string_view failure_text(failure kind, std::int16_t language) {
+    return message_text(message_of(kind), language);
 }
 
 run_time_error::run_time_error(failure kind, const std::string& detail)
-    : std::runtime_error(detail.empty() ? failure_text(kind) : failure_text(kind) + (": " + detail)), kind_(kind) {}
+    : std::runtime_error(developer_text(kind, detail)), kind_(kind) {}
 
 }  // namespace kvt

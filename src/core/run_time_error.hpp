@@ -1,8 +1,10 @@
 // A run-time failure: a number, a text, thrown by the checked helpers and caught exactly where a command says so.
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kvt {
 
@@ -20,8 +22,8 @@ enum class failure : int {
     invalid_property_value = 380
 };
 
-/// The short English text of a failure, e.g. "Division by zero".
-const char* failure_text(failure kind);
+/// The short text of a failure: "Division by zero", for language 2 "Division durch Null".
+std::string_view failure_text(failure kind, std::int16_t language);
 
 /// Thrown when a run fails: division by zero, root of a negative number, index past a bound, overflow of a 16-bit
 /// counter, a text that is no number, a file that cannot be read or written.
@@ -33,7 +35,7 @@ class run_time_error : public std::runtime_error {
     failure kind() const { return kind_; }
     int number() const { return static_cast<int>(kind_); }
     /// The text shown to the user.
-    std::string text() const { return failure_text(kind_); }
+    std::string text(std::int16_t language) const { return std::string(failure_text(kind_, language)); }
 
   private:
     failure kind_;
