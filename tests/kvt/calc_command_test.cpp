@@ -100,7 +100,8 @@ TEST(calc_command, speaks_german_with_language_2) {
     const kvt_run run = calc_engine_oil({"--language", "2", "--set", "ecc=0"});
     EXPECT_EQ(run.report()["messages"], texts{"Die Exzentrizität kann gleich nicht sein, auf null zu stellen!!"});
     EXPECT_EQ(run.err, "Die Exzentrizität kann gleich nicht sein, auf null zu stellen!!\n");
-    EXPECT_EQ(calc_engine_oil({"--language", "2", "--set", "numlobes=8x"}).err, "Laufzeitfehler 13: Type mismatch\n");
+    EXPECT_EQ(calc_engine_oil({"--language", "2", "--set", "numlobes=8x"}).err,
+              "Laufzeitfehler 13: Unverträglicher Typ\n");
 }
 
 TEST(calc_command, writes_the_json_to_a_file_beside_the_summary) {
