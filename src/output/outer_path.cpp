@@ -1,0 +1,151 @@
+#include "output/outer_path.hpp"
+
+#include "core/checked_math.hpp"
+#include "core/constants.hpp"
+#include "core/number_text.hpp"
+#include "geometry/outer_arc.hpp"
+#include "geometry/outer_flank.hpp"
+
+#include <cmath>
+
+namespace kvt {
+
+namespace {
+
+constexpr int FILLET_STEPS = 10;
+constexpr int ROOT_STEPS = 50;
+constexpr int LOBE_STEPS = 250;
+
+point2 polar_point(double radius, double angle) {
+    return {radius * std::cos(angle), radius * std::sin(angle)};
+}
+
+double lobe_centre_radius(const design_params& design) {
+    return design.radinnroot + design.ecc + design.radouter;
+}
+
+/// Grows arc by arc; each arc starts where the one before ended.
+class path_builder {
+  public:
+    explicit path_builder(point2 first) : path_{first, {}}, end_(first) {}
+
+    void arc(outer_arc_kind kind, point2 centre, double radius, point2 end) {
+        path_.arcs.push_back({kind, centre, radius, end_, end});
+        end_ = end;
+    }
+    point2 first() const { return path_.first; }
+    const outer_path& path() const { return path_; }
+
+  private:
+    outer_path path_;
+    point2 end_;
+};
+
+/// The path of lobes with this design's radii about centres at radius C, joined by root arcs and fillets.
+outer_path path_with_roots(const design_params& design, double C, const outer_flank& flank) {
+    const double step = checked_divide(TWO_PI_D, design.numlobes);
+    const double fillet_centre_radius = design.outer_root - design.fillet;
+    const auto root_end = [&](double angle) { return polar_point(design.outer_root, angle); };
+    const auto lobe_end = [&](double angle) { return polar_point(flank.tangent_radius, angle); };
+    path_builder built(root_end(step - flank.alpha));
+    const auto fillet = [&](double angle, point2 end) {
+        if (design.fillet != 0.0) {
+            built.arc(outer_arc_kind::fillet, polar_point(fillet_centre_radius, angle), design.fillet, end);
+        }
+    };
+    double theta = 0.0;
+    for (std::int32_t lobe = 0; lobe < design.numlobes; ++lobe) {
+        theta = theta + step;
+        if (lobe > 0) {
+            built.arc(outer_arc_kind::root, {}, design.outer_root, root_end(theta - flank.alpha));
+        }
+        fillet(theta - flank.alpha, lobe_end(theta - flank.beta));
+        built.arc(outer_arc_kind::lobe, polar_point(C, theta), design.radouter, lobe_end(theta + flank.beta));
+        fillet(theta + flank.alpha, root_end(theta + flank.alpha));
+    }
+    built.arc(outer_arc_kind::root, {}, design.outer_root, built.first());
+    return built.path();
+}
+
+/// The path of lobe arcs of this radius alone, with corners halfway between the lobes.
+outer_path path_with_corners(std::int32_t numlobes, double C, double lobe_radius) {
+    const double step = checked_divide(TWO_PI_D, numlobes);
+    const double half = checked_divide(TWO_PI_D, 2.0 * numlobes);
+    const double x = C * std::cos(half);
+    const double rho = x - checked_sqrt(lobe_radius * lobe_radius - (C * C - x * x));
+    path_builder built(polar_point(rho, step - half));
+    double theta = 0.0;
+    for (std::int32_t lobe = 0; lobe < numlobes; ++lobe) {
+        theta = theta + step;
+        built.arc(outer_arc_kind::lobe, polar_point(C, theta), lobe_radius, polar_point(rho, theta + half));
+    }
+    return built.path();
+}
+
+point2 difference(point2 point, point2 centre) {
+    return {point.x - centre.x, point.y - centre.y};
+}
+
+/// Appends the points 1 .. steps of an arc from angle a0 over sweep, counterclockwise when positive.
+void add_samples(const outer_path_arc& arc, double a0, double sweep, int steps, std::vector<point2>& points) {
+    for (int j = 1; j <= steps; ++j) {
+        const point2 sample = polar_point(arc.radius, a0 + j * sweep / steps);
+        points.push_back({arc.centre.x + sample.x, arc.centre.y + sample.y});
+    }
+}
+
+void add_arc(const outer_path_arc& arc, std::vector<point2>& points) {
+    const point2 start = difference(arc.start, arc.centre);
+    const point2 end = difference(arc.end, arc.centre);
+    if (arc.kind == outer_arc_kind::lobe) {
+        const arc_angles angles = lobe_arc(start, end, arc.radius);
+        add_samples(arc, angles.a0, -angles.sweep, LOBE_STEPS, points);
+        return;
+    }
+    const arc_angles angles = fillet_or_root_arc(start, end, arc.radius);
+    const int steps = arc.kind == outer_arc_kind::fillet ? FILLET_STEPS : ROOT_STEPS;
+    add_samples(arc, angles.a0, angles.sweep, steps, points);
+}
+
+}  // namespace
+
+design_params outer_rotor_entries(const entries& boxes, bool with_inches) {
+    const double unit = with_inches ? MM_PER_INCH : 1.0;
+    design_params design;
+    design.numlobes = to_int32(val(boxes.numlobes));
+    design.ecc = val(boxes.ecc) * unit;
+    design.radouter = val(boxes.radouter) * unit;
+    design.radinnroot = val(boxes.radinnroot) * unit;
+    design.fillet = val(boxes.fillet) * unit;
+    design.outer_root = val(boxes.outer_root) * unit;
+    return design;
+}
+
+outer_path outer_rotor_path(const design_params& design) {
+    const double C = lobe_centre_radius(design);
+    return path_with_roots(design, C, flank_of_lobe(design, C));
+}
+
+outer_path outer_rotor_offset_path(const design_params& design, double tool_radius) {
+    const double C = lobe_centre_radius(design);
+    design_params offset = design;
+    offset.radouter = design.radouter + tool_radius;
+    offset.outer_root = design.outer_root - tool_radius;
+    offset.fillet = design.fillet - tool_radius < 0.0 ? 0.0 : design.fillet - tool_radius;
+    const outer_flank flank = flank_of_lobe(offset, C);
+    if (2.0 * flank.alpha * design.numlobes >= TWO_PI_D) {
+        return path_with_corners(design.numlobes, C, offset.radouter);
+    }
+    return path_with_roots(offset, C, flank);
+}
+
+std::vector<point2> outer_path_points(const outer_path& path) {
+    std::vector<point2> points{path.first};
+    for (const outer_path_arc& arc : path.arcs) {
+        add_arc(arc, points);
+    }
+    points.push_back(path.first);
+    return points;
+}
+
+}  // namespace kvt
