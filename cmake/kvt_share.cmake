@@ -29,3 +29,9 @@ target_compile_definitions(kvt_share INTERFACE KVT_SHARE_FOLDER="${share_folder}
 add_dependencies(kvt_share kvt_share_files)
 
 install(DIRECTORY "${share_folder}/" DESTINATION "${CMAKE_INSTALL_DATADIR}/Kavetta")
+
+# Files that the build makes in the share folder: with the delivered ones they are there before a program is.
+function(kvt_deliver target)
+    add_custom_target(${target} ALL DEPENDS ${ARGN})
+    add_dependencies(kvt_share ${target})
+endfunction()

@@ -1,0 +1,89 @@
+// kvt_pictures: draws the explanation pictures that are delivered with the program, in both languages.
+// Usage: kvt_pictures DESIGN.KVT OUT_FOLDER. The design is calculated and its ports designed; their drawing is the
+// picture. Exit status 1 when the design is refused or a text can't be read.
+#include "app/calculate_profiles.hpp"
+#include "app/design_ports.hpp"
+#include "app/project_commands.hpp"
+#include "core/run_time_error.hpp"
+#include "pictures/explanation_painting.hpp"
+#include "views/port_explanation.hpp"
+#include "views/rotor_explanation.hpp"
+
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int WIDTH = 900;        ///< pixels
+constexpr int JPEG_QUALITY = 95;  ///< thin lines stay clean
+
+/// Nobody is there to answer; a message means that the design was refused.
+class silent_user : public kvt::user {
+  public:
+    void show_message(std::string_view text) override {
+        std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
+        has_refused = true;
+    }
+    kvt::answer ask(std::string_view, kvt::question_buttons) override { return kvt::answer::cancel; }
+    std::optional<std::string> choose_file(const kvt::file_dialog&) override { return std::nullopt; }
+    std::optional<std::string> ask_project_name() override { return std::nullopt; }
+    kvt::start_choice ask_new_or_open() override { return kvt::start_choice::neither; }
+    void show_status(std::string_view) override {}
+    void show_form(std::string_view) override {}
+    void unload_form(std::string_view) override {}
+    void set_focus(std::string_view) override {}
+    void set_busy(bool) override {}
+    void show_progress(std::string_view, int) override {}
+
+    bool has_refused = false;
+};
+
+/// The design with its ports. The report of the ports goes to a folder that does not stay.
+bool calculate(const char* design, kvt::program& kavetta) {
+    const QTemporaryDir folder;
+    silent_user person;
+    kvt::load_project(kavetta, person, design);
+    kavetta.folder = folder.path().toStdString();
+    kavetta.app_state.projects_folder = folder.path().toStdString();
+    const bool has_rotors = kvt::calculate_profiles(kavetta, person) == kvt::run_end::ok;
+    return has_rotors && kvt::design_ports(kavetta, person) == kvt::ports_designed{true, true, true} &&
+           !person.has_refused;
+}
+
+bool write(const kvt::explanation& drawing, std::int16_t language, const QString& path) {
+    const kvt::painted_explanation painted = kvt::paint_explanation(drawing, WIDTH, language);
+    const std::vector<std::string> findings = kvt::unreadable_texts(painted);
+    for (const std::string& finding : findings) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(path), finding.c_str());
+    }
+    return painted.picture.save(path, "JPG", JPEG_QUALITY) && findings.empty();
+}
+
+bool write_pictures(const kvt::program& kavetta, const QString& folder) {
+    const kvt::explanation rotors = kvt::explain_rotors(kavetta.design_params, kavetta.rotor_profiles);
+    const kvt::explanation ports =
+        kvt::explain_ports(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params);
+    bool all_written = write(rotors, kvt::ENGLISH, folder + "/explain screen - small1.jpg");
+    all_written = write(rotors, kvt::GERMAN, folder + "/explain screen - small german1.jpg") && all_written;
+    all_written = write(ports, kvt::ENGLISH, folder + "/port explain - small2.jpg") && all_written;
+    return write(ports, kvt::GERMAN, folder + "/port explain - small german2.jpg") && all_written;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
+    if (argc != 3) {
+        std::fputs("usage: kvt_pictures DESIGN.KVT OUT_FOLDER\n", stderr);
+        return 2;
+    }
+    try {
+        kvt::program kavetta;
+        return calculate(argv[1], kavetta) && write_pictures(kavetta, argv[2]) ? 0 : 1;
+    } catch (const kvt::run_time_error& error) {
+        std::fprintf(stderr, "%s: %s\n", argv[1], error.what());
+        return 1;
+    }
+}
