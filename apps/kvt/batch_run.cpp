@@ -1,7 +1,9 @@
 #include "kvt/batch_run.hpp"
 
+#include "app/calculate_performance.hpp"
 #include "app/calculate_profiles.hpp"
 #include "app/design_assist.hpp"
+#include "app/design_ports.hpp"
 #include "app/project_commands.hpp"
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
@@ -49,6 +51,28 @@ void type_entries(program& kavetta, user& person, const design_source& source) {
     }
 }
 
+bool is_whole(const ports_designed& done, const program& kavetta) {
+    return done.inlet && done.outlet && (done.groove || kavetta.entries.metering_groove != "1");
+}
+
+/// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it true.
+void run_stages(program& kavetta, batch_user& person, calc_stage last, batch_result& result) {
+    result.profiles_reached = true;
+    result.end = end_of(calculate_profiles(kavetta, person));
+    result.profiles_reached = result.end != batch_end::validation;
+    if (result.end != batch_end::ok || last == calc_stage::profiles) {
+        return;
+    }
+    result.ports_reached = true;
+    result.refused = !is_whole(design_ports(kavetta, person), kavetta);
+    if (last == calc_stage::ports) {
+        return;
+    }
+    result.performance_reached = true;
+    result.performance_reached = calculate_performance(kavetta, person);
+    result.refused = result.refused || !result.performance_reached;
+}
+
 }  // namespace
 
 std::string_view batch_end_name(batch_end end) {
@@ -76,6 +100,10 @@ int exit_status(batch_end end) {
         return EXIT_UNREADABLE;
     }
     return end == batch_end::ok ? EXIT_OK : EXIT_REFUSED;
+}
+
+int exit_status(const batch_result& result) {
+    return result.refused ? EXIT_REFUSED : exit_status(result.end);
 }
 
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
@@ -113,17 +141,19 @@ batch_end find_design(program& kavetta, batch_user& person, const design_source&
     }
 }
 
-batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source) {
+batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source, calc_stage last) {
+    batch_result result;
     if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
-        return {*early, false};
+        result.end = *early;
+        return result;
     }
     try {
-        const batch_end end = end_of(calculate_profiles(kavetta, person));
-        return {end, end != batch_end::validation};
+        run_stages(kavetta, person, last, result);
     } catch (const run_time_error& error) {
         person.show_message(run_time_error_line(error, source.language));
-        return {batch_end::fatal, true};
+        result.end = batch_end::fatal;
     }
+    return result;
 }
 
 }  // namespace kvt

@@ -1,4 +1,5 @@
-// batch_run: what a user would do by hand: open the project, type into the entries, press Calculate Profiles.
+// batch_run: what a user would do by hand: open the project, type into the entries, press Calculate Profiles, Design
+// Ports and Calculate Performance.
 #pragma once
 
 #include "app/program.hpp"
@@ -26,9 +27,15 @@ struct design_source {
 /// others are the ends of Calculate Profiles.
 enum class batch_end { ok, validation, failure, closing, error, fatal, read_error };
 
+/// The stages of a calculation in their order; each needs the one before.
+enum class calc_stage { profiles, ports, performance };
+
 struct batch_result {
     batch_end end = batch_end::ok;
-    bool profiles_reached = false;  ///< Calculate Profiles got past the validation, so its records say something
+    bool profiles_reached = false;     ///< Calculate Profiles got past the validation, so its records say something
+    bool ports_reached = false;        ///< Design Ports ran, so port_params says something
+    bool performance_reached = false;  ///< Calculate Performance got past its validation
+    bool refused = false;              ///< Design Ports or Calculate Performance refused an entry; the end stays ok
 };
 
 /// The name of an end as reports write it: "ok", "validation", ...
@@ -41,6 +48,8 @@ inline constexpr int EXIT_USAGE = 2;       ///< the command line was wrong; noth
 inline constexpr int EXIT_UNREADABLE = 3;  ///< the project file could not be read
 
 int exit_status(batch_end end);
+/// EXIT_REFUSED, too, for a run that ended ok with a refused port or performance entry.
+int exit_status(const batch_result& result);
 
 /// "Run-time error 11: Division by zero", its beginning in the given language.
 std::string run_time_error_line(const run_time_error& error, std::int16_t language);
@@ -53,7 +62,8 @@ std::optional<batch_end> open_design(program& kavetta, batch_user& person, const
 /// they do not fit the maximum diameter.
 batch_end find_design(program& kavetta, batch_user& person, const design_source& source);
 
-/// open_design, then Calculate Profiles.
-batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source);
+/// open_design, then the stages up to `last` one after the other, as long as Calculate Profiles ended ok. A refused
+/// port does not keep Calculate Performance from running, as on the screen.
+batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source, calc_stage last);
 
 }  // namespace kvt

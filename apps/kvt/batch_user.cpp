@@ -1,12 +1,15 @@
 #include "kvt/batch_user.hpp"
 
+#include <algorithm>
 #include <ostream>
 
 namespace kvt {
 
 void batch_user::show_message(std::string_view text) {
     messages_.emplace_back(text);
-    err_ << text << '\n';
+    std::string lines(text);
+    std::ranges::replace(lines, '\r', '\n');
+    err_ << lines << '\n';
 }
 
 answer batch_user::ask(std::string_view question, question_buttons) {

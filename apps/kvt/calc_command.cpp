@@ -11,17 +11,18 @@ namespace kvt {
 int calc_design(const calc_request& request, std::ostream& out, std::ostream& err) {
     batch_user person(err);
     program kavetta;
-    const batch_result result = calculate_design(kavetta, person, request.source);
+    kavetta.date = request.date;
+    const batch_result result = calculate_design(kavetta, person, request.source, request.last);
     if (request.json_file != "-") {
         out << text_report(kavetta, result);
     }
     if (request.json_file.empty()) {
-        return exit_status(result.end);
+        return exit_status(result);
     }
     const std::string report = json_report(kavetta, person.messages(), result, request.full);
     if (request.json_file == "-") {
         out << report;
-        return exit_status(result.end);
+        return exit_status(result);
     }
     try {
         write_file(request.json_file, report);
@@ -29,7 +30,7 @@ int calc_design(const calc_request& request, std::ostream& out, std::ostream& er
         err << request.json_file << ": " << run_time_error_line(error, request.source.language) << '\n';
         return result.end == batch_end::read_error ? EXIT_UNREADABLE : EXIT_REFUSED;
     }
-    return exit_status(result.end);
+    return exit_status(result);
 }
 
 }  // namespace kvt

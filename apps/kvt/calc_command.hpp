@@ -12,6 +12,8 @@ struct calc_request {
     design_source source;
     std::string json_file;  ///< path of the JSON file; "-" is standard output; empty for none
     bool full = false;      ///< arrays and view too
+    calc_stage last = calc_stage::performance;
+    std::string date;  ///< of the port report; empty: today
 };
 
 /// Runs the design. The summary goes to `out`, or the JSON and nothing else when json_file is "-". Messages go to

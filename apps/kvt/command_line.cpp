@@ -5,6 +5,7 @@
 #include "kvt/export_command.hpp"
 
 #include <CLI/CLI.hpp>
+#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -17,7 +18,8 @@ constexpr const char* VERSION = KVT_VERSION;
 
 constexpr const char* ABOUT =
     "kvt calculates gerotor pump designs from project files (.KVT) without a window,\n"
-    "as the desktop program does with Open and Calculate Profiles.";
+    "as the desktop program does with Open, Calculate Profiles, Design Ports and\n"
+    "Calculate Performance.";
 
 constexpr const char* EXAMPLES =
     "Examples:\n"
@@ -37,6 +39,9 @@ struct command_line {
     std::string export_folder;
     assist_request assist;  ///< its source is that of calc
 };
+
+const std::map<std::string, calc_stage> STAGES = {
+    {"profiles", calc_stage::profiles}, {"ports", calc_stage::ports}, {"performance", calc_stage::performance}};
 
 /// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be typed.
 typed_entry parse_typed(const std::string& option) {
@@ -86,11 +91,9 @@ CLI::App* add_calc(CLI::App& app, command_line& line) {
                      "Write everything as JSON to a file; with - to standard output, without the summary")
         ->type_name("FILE|-");
     calc->add_flag("--full", line.calc.full, "JSON with all profile points and the lines of the Design view");
-    calc->add_option("--stage", line.stage,
-                     "Stop after a stage; default: as far as it goes. Ports and performance are\n"
-                     "not calculated yet, so that all three stop after the profiles")
+    calc->add_option("--stage", line.stage, "Stop after a stage; default: as far as it goes")
         ->type_name("profiles|ports|performance")
-        ->check(plain(CLI::IsMember({"profiles", "ports", "performance"})));
+        ->check(plain(CLI::IsMember(STAGES)));
     return calc;
 }
 
@@ -128,6 +131,7 @@ int run_command_line(int argc, const char* const* argv, std::ostream& out, std::
         for (const std::string& option : line.typed) {
             line.calc.source.typed.push_back(parse_typed(option));
         }
+        line.calc.last = STAGES.at(line.stage);
     } catch (const CLI::ParseError& ended) {
         return app.exit(ended, out, err) == 0 ? EXIT_OK : EXIT_USAGE;
     }

@@ -71,12 +71,16 @@ json json_of_fields(const record& source, std::span<const json_field<record>, co
     return object;
 }
 
+/// The first elements of an array, as many as are in use.
+inline json used_part(const std::vector<double>& all, std::size_t used) {
+    const auto count = static_cast<std::ptrdiff_t>(std::min(all.size(), used));
+    return std::vector<double>(all.begin(), all.begin() + count);
+}
+
 template <typename record, std::size_t count>
 void add_arrays(json& object, const record& source, std::span<const json_array<record>, count> arrays) {
     for (const json_array<record>& array : arrays) {
-        const std::vector<double>& all = source.*array.member;
-        const std::size_t used = std::min(all.size(), array.used_count(source));
-        object[std::string(array.name)] = json(std::vector<double>(all.begin(), all.begin() + std::ptrdiff_t(used)));
+        object[std::string(array.name)] = used_part(source.*array.member, array.used_count(source));
     }
 }
 

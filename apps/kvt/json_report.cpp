@@ -1,6 +1,8 @@
 #include "kvt/json_report.hpp"
 
+#include "app/port_report_file.hpp"
 #include "kvt/json_fields.hpp"
+#include "kvt/json_performance.hpp"
 #include "kvt/json_view.hpp"
 
 #include <algorithm>
@@ -109,6 +111,23 @@ json json_rotors(const rotor_profiles& rotors, bool full) {
     return object;
 }
 
+/// An outline is cut behind its last point; before it was ever built it is empty.
+json json_ports(const port_params& ports, bool full) {
+    json object = json::object();
+    for (const port_field<double>& field : port_values()) {
+        object[std::string(field.name)] = ports.*field.member;
+    }
+    for (const port_field<std::int16_t>& field : port_indexes()) {
+        object[std::string(field.name)] = ports.*field.member;
+    }
+    if (full) {
+        for (const port_array& array : port_arrays()) {
+            object[std::string(array.name)] = used_part(ports.*array.member, count_of_last(ports.*array.last));
+        }
+    }
+    return object;
+}
+
 }  // namespace
 
 std::string json_report(const program& kavetta, const std::vector<std::string>& messages, const batch_result& result,
@@ -124,6 +143,13 @@ std::string json_report(const program& kavetta, const std::vector<std::string>& 
         if (full) {
             report["view"] = json_view(kavetta.design_view);
         }
+    }
+    if (result.ports_reached) {
+        report["port_params"] = json_ports(kavetta.port_params, full);
+        report["report_lines"] = port_report(kavetta);
+    }
+    if (result.performance_reached) {
+        report["perf_results"] = json_performance(kavetta.perf_results, full);
     }
     return json_text(report, full);
 }

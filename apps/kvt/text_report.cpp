@@ -1,12 +1,11 @@
 #include "kvt/text_report.hpp"
 
-#include "core/fixed4.hpp"
-#include "core/number_text.hpp"
-#include "core/text_table.hpp"
 #include "kvt/aligned_lines.hpp"
+#include "kvt/performance_summary.hpp"
+#include "kvt/port_summary.hpp"
+#include "kvt/report_texts.hpp"
 
 #include <array>
-#include <cmath>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -29,12 +28,6 @@ struct report_row {
 
 std::string length_unit(const program& kavetta) {
     return kavetta.app_state.drawing_units == INCHES ? " in" : " mm";
-}
-
-/// Four decimals at most; numbers that the fixed-point type can't hold keep all their digits.
-std::string rounded(double value) {
-    constexpr double LARGEST = 1.0e9;
-    return std::abs(value) < LARGEST ? fixed4::from(value).text() : number_text(value);
 }
 
 std::string length(const program& kavetta, double millimetres) {
@@ -90,11 +83,6 @@ constexpr std::array REPORT_ROWS = {
     report_row{row_kind::result, "kvt", "roll_radius", roll_radius},
 };
 
-std::string caption_text(std::string_view form, std::string_view name, std::int16_t language) {
-    const text_row* row = find_caption(form, name);
-    return std::string(row == nullptr ? name : row_text(*row, language));
-}
-
 bool is_reported(row_kind kind, batch_end end) {
     return kind == row_kind::entry ? end != batch_end::read_error : end == batch_end::ok;
 }
@@ -110,7 +98,14 @@ std::string text_report(const program& kavetta, const batch_result& result) {
         }
     }
     lines.emplace_back(caption_text("kvt", "ended", language), batch_end_name(result.end));
-    return aligned_lines(lines);
+    std::string report = aligned_lines(lines);
+    if (result.ports_reached) {
+        report += "\n" + port_summary(kavetta);
+    }
+    if (result.performance_reached) {
+        report += "\n" + performance_summary(kavetta);
+    }
+    return report;
 }
 
 }  // namespace kvt

@@ -16,7 +16,10 @@ std::vector<std::string> keys(const json& object) {
     return names;
 }
 
-const texts ALL_KEYS = {"ended", "messages", "entries", "labels", "design_params", "rotor_profiles"};
+const texts ALL_KEYS = {"ended",          "messages",    "entries",      "labels",      "design_params",
+                        "rotor_profiles", "port_params", "report_lines", "perf_results"};
+const texts KEYS_OF_PORTS(ALL_KEYS.begin(), ALL_KEYS.end() - 1);
+const texts KEYS_OF_PROFILES(ALL_KEYS.begin(), ALL_KEYS.end() - 3);
 const texts KEYS_WITHOUT_RUN = {"ended", "messages", "entries", "labels"};
 
 TEST(calc_command, ends_ok_without_a_message_for_a_good_design) {
@@ -55,7 +58,7 @@ TEST(calc_command, ends_with_failure_when_the_shaft_is_too_thick) {
         texts{"The material thickness between the drive shaft and the Radius of Inner Root is less than specified. "
               "Reduce the shaft size or increase the Inner Root size."});
     EXPECT_EQ(run.report()["design_params"]["shaftdiameter"], 33.0);
-    EXPECT_EQ(keys(run.report()), ALL_KEYS);
+    EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
 
 TEST(calc_command, ends_with_closing_when_the_trochoid_has_loops) {
@@ -66,7 +69,7 @@ TEST(calc_command, ends_with_closing_when_the_trochoid_has_loops) {
         run.report()["messages"],
         texts{"This design will create an inner rotor with errors. Try increasing the Radius of the Inner Root, "
               "reducing the eccentricity, reducing the Radius Outer Lobes or reducing the number of Outer lobes"});
-    EXPECT_EQ(keys(run.report()), ALL_KEYS);
+    EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
 
 TEST(calc_command, ends_with_error_when_the_lobes_do_not_reach_the_root) {
@@ -75,7 +78,7 @@ TEST(calc_command, ends_with_error_when_the_lobes_do_not_reach_the_root) {
     EXPECT_EQ(run.report()["ended"], "error");
     // This message exists in English only.
     EXPECT_EQ(run.report()["messages"].back(), "The value of Radius Outer Lobes is too small, enter a larger value");
-    EXPECT_EQ(keys(run.report()), ALL_KEYS);
+    EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
 
 TEST(calc_command, ends_with_fatal_when_leaving_an_entry_fails) {
@@ -93,7 +96,7 @@ TEST(calc_command, ends_with_fatal_when_the_run_itself_fails) {
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "fatal");
     EXPECT_EQ(run.report()["messages"], texts{"Run-time error 13: Type mismatch"});
-    EXPECT_EQ(keys(run.report()), ALL_KEYS);
+    EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
 
 TEST(calc_command, speaks_german_with_language_2) {
@@ -120,10 +123,55 @@ TEST(calc_command, ends_with_1_when_the_json_cannot_be_written) {
     EXPECT_NE(run.err.find("missing/report.json: Run-time error 76: Path not found"), std::string::npos) << run.err;
 }
 
-TEST(calc_command, accepts_every_stage) {
-    for (const std::string stage : {"profiles", "ports", "performance"}) {
-        EXPECT_EQ(calc_engine_oil({"--stage", stage}).status, 0) << stage;
-    }
+TEST(calc_command, stops_after_the_stage_asked_for) {
+    EXPECT_EQ(keys(calc_engine_oil({"--stage", "profiles"}).report()), KEYS_OF_PROFILES);
+    EXPECT_EQ(keys(calc_engine_oil({"--stage", "ports"}).report()), KEYS_OF_PORTS);
+    EXPECT_EQ(keys(calc_engine_oil({"--stage", "performance"}).report()), ALL_KEYS);
+    EXPECT_EQ(calc_engine_oil({"--stage", "1"}).status, 2);
+}
+
+TEST(calc_command, stays_ok_with_status_1_when_a_port_is_refused_and_goes_on) {
+    const kvt_run run = calc_engine_oil({"--set", "groove_length=80"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.report()["ended"], "ok");
+    EXPECT_EQ(run.report()["messages"], texts{"Port extends too far into 'Inlet' region of pump"});
+    EXPECT_EQ(keys(run.report()), ALL_KEYS);
+}
+
+// Without a groove length no port is built at all, and the performance of no port divides by its area.
+TEST(calc_command, ends_with_fatal_when_no_port_was_ever_built) {
+    const kvt_run run = calc_engine_oil({"--set", "groove_length=0"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.report()["ended"], "fatal");
+    EXPECT_EQ(run.report()["messages"],
+              (texts{"Enter a value for the length of the Metering Groove", "Run-time error 11: Division by zero"}));
+    EXPECT_EQ(run.report()["entries"]["groove_length"], "");
+}
+
+TEST(calc_command, prints_a_message_of_two_lines_as_two_lines) {
+    const kvt_run run = calc_engine_oil({"--set", "inlet_inner_radius=30"});
+    EXPECT_EQ(run.err,
+              "The specified port radius is too large for the Inlet Port\nPlease enter a smaller port radius\n");
+    EXPECT_EQ(run.report()["messages"],
+              texts{"The specified port radius is too large for the Inlet Port\rPlease enter a smaller port radius"});
+}
+
+TEST(calc_command, reports_no_performance_when_its_entries_are_refused) {
+    const kvt_run run = calc_engine_oil({"--set", "kin_visc=0", "--language", "2"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.report()["ended"], "ok");
+    EXPECT_EQ(run.report()["messages"],
+              texts{"Tragen Sie eine Viskosität für die gepumpte Flüssigkeit, ein in cSt (centistokes)"});
+    EXPECT_EQ(keys(run.report()), KEYS_OF_PORTS);
+}
+
+TEST(calc_command, ends_with_fatal_when_the_performance_fails) {
+    const kvt_run run = calc_engine_oil({"--set", "vap_press=800"});  // above an atmosphere of 760 mmHg
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.report()["ended"], "fatal");
+    EXPECT_EQ(run.report()["messages"], texts{"Run-time error 5: Invalid procedure call or argument"});
+    EXPECT_EQ(keys(run.report()), ALL_KEYS);
+    EXPECT_EQ(run.report()["perf_results"]["fill_velocity"], 0.0);
 }
 
 void expect_read_error(const std::string& project, const std::string& reason) {

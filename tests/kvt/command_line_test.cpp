@@ -65,7 +65,8 @@ TEST(command_line, takes_options_before_the_project) {
 }
 
 TEST(command_line, cuts_control_from_text_at_the_first_equals_sign) {
-    EXPECT_EQ(calc_engine_oil({"--set", "friction=a=b"}).report()["entries"]["friction"], "a=b");
+    const kvt_run run = calc_engine_oil({"--set", "friction=a=b", "--stage", "profiles"});
+    EXPECT_EQ(run.report()["entries"]["friction"], "a=b");
 }
 
 TEST(command_line, takes_an_empty_text) {

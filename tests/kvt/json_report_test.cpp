@@ -27,7 +27,8 @@ TEST(json_report, gives_every_entry_of_the_three_input_forms) {
 
 TEST(json_report, gives_the_labels_as_the_forms_show_them) {
     const json labels = calc_engine_oil({}).report()["labels"];
-    EXPECT_EQ(labels.size(), 7U);
+    EXPECT_EQ(labels.size(), 13U);  // Form1's six, the six of perf_res, and the angle
+    EXPECT_EQ(calc_engine_oil({"--stage", "ports"}).report()["labels"].size(), 7U);
     EXPECT_EQ(labels["units_label"], "Lit/Min/1000rpm");
     EXPECT_EQ(labels["unittype"], "Lit/Min/1000rpm");
     EXPECT_EQ(labels["rotated_angle"], "0");
@@ -98,6 +99,19 @@ TEST(json_report, gives_no_fillet_points_for_a_design_without_fillets) {
     EXPECT_EQ(length(rotors, "fillet_r"), 0U);
 }
 
+TEST(json_report, gives_the_outlines_of_the_ports_up_to_their_last_point) {
+    const json report = calc_engine_oil({"--full"}).report();
+    const json& ports = report["port_params"];
+    EXPECT_EQ(report["report_lines"].size(), 24U);
+    for (const std::string port : {"inlet_port", "outlet_port", "groove"}) {
+        const std::size_t count = ports[port + "_last"].get<std::size_t>() + 1;
+        EXPECT_GT(count, 100U) << port;
+        EXPECT_EQ(length(ports, (port + "_x").c_str()), count) << port;
+        EXPECT_EQ(length(ports, (port + "_y").c_str()), count) << port;
+    }
+    EXPECT_FALSE(calc_engine_oil({}).report()["port_params"].contains("inlet_port_x"));
+}
+
 TEST(json_report, gives_the_plotted_points_of_a_coarser_drawing) {
     const json rotors = calc_engine_oil({"--full", "--set", "coarseness=9"}).report()["rotor_profiles"];
     EXPECT_EQ(length(rotors, "inner_plot_xy"), 802U);  // 400 points and the closing one
@@ -116,7 +130,8 @@ TEST(json_report, gives_the_lines_and_arcs_of_the_design_view) {
     EXPECT_EQ(view["Line1"].size(), 3601U);       // 3600 pairs of neighbours and the closing line
     EXPECT_EQ(view["Picture1"].size(), 8U * 4U);  // two fillets, the lobe and the root of each of 8 lobes
     EXPECT_EQ(view["Shape1"]["visible"], true);
-    EXPECT_EQ(view["inlet_portline"], json::array());
+    EXPECT_GT(view["inlet_portline"].size(), 100U);
+    EXPECT_EQ(calc_engine_oil({"--full", "--stage", "profiles"}).report()["view"]["inlet_portline"], json::array());
     for (const char* field : {"x1", "y1", "x2", "y2"}) {
         EXPECT_TRUE(view["Line1"][0][field].is_number()) << field;
     }
@@ -130,7 +145,7 @@ TEST(json_report, keeps_every_bit_of_a_number) {
     kavetta.design_params.ecc = 0.1 + 0.2;
     kavetta.design_params.fillet = std::numeric_limits<double>::denorm_min();
     kavetta.design_params.thick = 1.0 / 3.0;
-    const json design = json::parse(json_report(kavetta, {}, {batch_end::ok, true}, false))["design_params"];
+    const json design = json::parse(json_report(kavetta, {}, {.profiles_reached = true}, false))["design_params"];
     EXPECT_EQ(design["ecc"].get<double>(), 0.1 + 0.2);
     EXPECT_EQ(design["fillet"].get<double>(), std::numeric_limits<double>::denorm_min());
     EXPECT_EQ(design["thick"].get<double>(), 1.0 / 3.0);
@@ -139,7 +154,7 @@ TEST(json_report, keeps_every_bit_of_a_number) {
 TEST(json_report, replaces_bytes_that_are_no_utf8) {
     program kavetta;
     kavetta.entries.friction = "0.1\xFF";
-    const json report = json::parse(json_report(kavetta, {"\xE4"}, {batch_end::ok, false}, false));
+    const json report = json::parse(json_report(kavetta, {"\xE4"}, {}, false));
     EXPECT_EQ(report["entries"]["friction"], "0.1\xEF\xBF\xBD");
     EXPECT_EQ(report["messages"][0], "\xEF\xBF\xBD");
 }

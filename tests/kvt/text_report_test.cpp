@@ -26,7 +26,7 @@ std::string value_of(const std::string& report, const std::string& caption) {
 }
 
 TEST(text_report, shows_entries_with_units_and_the_results) {
-    const std::string report = run_kvt({"calc", example("engine_oil")}).out;
+    const std::string report = run_kvt({"calc", example("engine_oil"), "--stage", "profiles"}).out;
     EXPECT_EQ(captions_of(report),
               (std::vector<std::string>{"No. Outer Lobes", "Eccentricity", "Radius Outer Lobes", "Radius Inner Root",
                                         "Rotor Thickness", "Outer Rotor Fillet Radii", "Outer Rotor Root Radius",
@@ -58,7 +58,8 @@ TEST(text_report, shows_inches_for_a_design_in_inches) {
 }
 
 TEST(text_report, puts_all_values_in_one_column_in_german_too) {
-    const std::vector<std::string> lines = split_lines(run_kvt({"calc", example("engine_oil"), "--language", "2"}).out);
+    const kvt_run run = run_kvt({"calc", example("engine_oil"), "--language", "2", "--stage", "profiles"});
+    const std::vector<std::string> lines = split_lines(run.out);
     ASSERT_EQ(lines.size(), 15U);
     EXPECT_TRUE(lines[0].starts_with("Äußere Läppchen ")) << lines[0];
     const auto column = [](const std::string& line) {
@@ -80,6 +81,12 @@ TEST(text_report, shows_no_results_of_a_run_that_was_stopped) {
 TEST(text_report, shows_the_end_alone_for_a_file_that_could_not_be_read) {
     const temporary_folder folder;
     EXPECT_EQ(run_kvt({"calc", folder.file("none.KVT")}).out, "Ended  read_error\n");
+}
+
+TEST(text_report, ends_with_the_ports_when_the_performance_was_refused) {
+    const std::string report = run_kvt({"calc", example("engine_oil"), "--set", "friction=0"}).out;
+    EXPECT_NE(report.find("Port Fillet Radii"), std::string::npos);
+    EXPECT_EQ(report.find("Volumetric Efficiency"), std::string::npos);
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ TEST(typed_entry, replaces_the_text_of_a_box) {
 }
 
 TEST(typed_entry, keeps_texts_of_the_port_and_performance_forms_as_typed) {
-    const json boxes = entries_after({"--set", "Outlet_inner_radius= 17,4 ", "--set", "speed_hi=6500 rpm"});
+    const json boxes =
+        entries_after({"--set", "Outlet_inner_radius= 17,4 ", "--set", "speed_hi=6500 rpm", "--stage", "profiles"});
     EXPECT_EQ(boxes["Outlet_inner_radius"], " 17,4 ");
     EXPECT_EQ(boxes["speed_hi"], "6500 rpm");
 }

@@ -142,13 +142,16 @@ TEST(whole_road, closes_the_plotted_outline) {
     }
 }
 
-TEST(whole_road, gives_the_same_report_in_both_languages_but_for_messages) {
+TEST(whole_road, gives_the_same_report_in_both_languages_but_for_texts) {
     for (const std::string& project : all_designs()) {
         json english = run_kvt({"calc", project, "--json", "-", "--language", "1"}).report();
         json german = run_kvt({"calc", project, "--json", "-", "--language", "2"}).report();
-        english.erase("messages");
-        german.erase("messages");
-        EXPECT_EQ(english, german) << project;
+        for (json* report : {&english, &german}) {
+            report->erase("messages");
+            (*report)["labels"].erase("Label5");
+            (*report)["labels"].erase("Label1");
+        }
+        EXPECT_TRUE(english == german) << project;
     }
 }
 
