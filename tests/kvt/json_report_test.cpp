@@ -75,7 +75,7 @@ std::size_t length(const json& rotors, const char* name) {
 }
 
 TEST(json_report, cuts_the_arrays_to_their_used_length) {
-    const json rotors = calc_engine_oil({"--full"}).report()["rotor_profiles"];
+    const json rotors = calc_engine_oil({"--full", "--stage", "profiles"}).report()["rotor_profiles"];
     EXPECT_EQ(rotors["profile_points"], 3600.0);
     EXPECT_EQ(length(rotors, "troch_x"), 3601U);
     EXPECT_EQ(length(rotors, "troch_y"), 3601U);
@@ -93,14 +93,15 @@ TEST(json_report, cuts_the_arrays_to_their_used_length) {
 }
 
 TEST(json_report, gives_no_fillet_points_for_a_design_without_fillets) {
-    const json rotors = calc_engine_oil({"--full", "--set", "fillet=0"}).report()["rotor_profiles"];
+    const json rotors =
+        calc_engine_oil({"--full", "--stage", "profiles", "--set", "fillet=0"}).report()["rotor_profiles"];
     EXPECT_EQ(length(rotors, "fillet_x"), 0U);
     EXPECT_EQ(length(rotors, "fillet_y"), 0U);
     EXPECT_EQ(length(rotors, "fillet_r"), 0U);
 }
 
 TEST(json_report, gives_the_outlines_of_the_ports_up_to_their_last_point) {
-    const json report = calc_engine_oil({"--full"}).report();
+    const json report = calc_engine_oil({"--full", "--stage", "ports"}).report();
     const json& ports = report["port_params"];
     EXPECT_EQ(report["report_lines"].size(), 24U);
     for (const std::string port : {"inlet_port", "outlet_port", "groove"}) {
@@ -113,12 +114,13 @@ TEST(json_report, gives_the_outlines_of_the_ports_up_to_their_last_point) {
 }
 
 TEST(json_report, gives_the_plotted_points_of_a_coarser_drawing) {
-    const json rotors = calc_engine_oil({"--full", "--set", "coarseness=9"}).report()["rotor_profiles"];
+    const json rotors =
+        calc_engine_oil({"--full", "--stage", "profiles", "--set", "coarseness=9"}).report()["rotor_profiles"];
     EXPECT_EQ(length(rotors, "inner_plot_xy"), 802U);  // 400 points and the closing one
 }
 
 TEST(json_report, gives_the_outer_profile_twice_in_the_same_numbers) {
-    const json rotors = calc_engine_oil({"--full"}).report()["rotor_profiles"];
+    const json rotors = calc_engine_oil({"--full", "--stage", "profiles"}).report()["rotor_profiles"];
     for (std::size_t i = 0; i < length(rotors, "outer_x"); ++i) {
         ASSERT_EQ(rotors["outer_x"][i], rotors["outer_xy"][2 * i]) << i;
         ASSERT_EQ(rotors["outer_y"][i], rotors["outer_xy"][2 * i + 1]) << i;
@@ -126,7 +128,7 @@ TEST(json_report, gives_the_outer_profile_twice_in_the_same_numbers) {
 }
 
 TEST(json_report, gives_the_lines_and_arcs_of_the_design_view) {
-    const json view = calc_engine_oil({"--full"}).report()["view"];
+    const json view = calc_engine_oil({"--full", "--stage", "ports"}).report()["view"];
     EXPECT_EQ(view["Line1"].size(), 3601U);       // 3600 pairs of neighbours and the closing line
     EXPECT_EQ(view["Picture1"].size(), 8U * 4U);  // two fillets, the lobe and the root of each of 8 lobes
     EXPECT_EQ(view["Shape1"]["visible"], true);
