@@ -1,6 +1,7 @@
 #include "app/calculate_performance.hpp"
 
 #include "app/enabling_chain.hpp"
+#include "app/result_forms.hpp"
 #include "app/stale_results.hpp"
 #include "core/text_table.hpp"
 #include "performance/delivered_flow.hpp"
@@ -14,21 +15,9 @@
 #include "performance/pressure_ripple.hpp"
 #include "performance/sliding_velocity.hpp"
 
-#include <array>
-
 namespace kvt {
 
 namespace {
-
-constexpr std::array<std::string_view, 7> CHART_FORMS = {
-    "EFFIC_graphview2",  "FLOW_graphview2",      "HERTZ_graphview2", "LOAD_graphview2",
-    "OVREFF_graphview2", "PRESS_RIP_graphview2", "VE_graphview2"};
-
-void close_charts(user& person) {
-    for (const std::string_view form : CHART_FORMS) {
-        person.unload_form(form);
-    }
-}
 
 /// Tells the first entry that is refused and empties it.
 bool has_refused_entry(program& kavetta, user& person) {
@@ -81,7 +70,7 @@ void run_performance(program& kavetta, user& person) {
 }
 
 bool calculate_performance(program& kavetta, user& person) {
-    close_charts(person);
+    unload_chart_forms(person);
     clean_up_perf_entries(kavetta.entries);
     if (has_refused_entry(kavetta, person)) {
         return false;

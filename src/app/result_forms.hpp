@@ -8,4 +8,7 @@ namespace kvt {
 /// Unloads perf_res and the seven chart forms.
 void unload_result_forms(user& person);
 
+/// Unloads the seven chart forms.
+void unload_chart_forms(user& person);
+
 }  // namespace kvt

@@ -4,6 +4,7 @@
 #include "core/constants.hpp"
 #include "core/number_text.hpp"
 #include "geometry/capacity.hpp"
+#include "geometry/required_entries.hpp"
 
 #include <array>
 
@@ -12,23 +13,6 @@ namespace kvt {
 namespace {
 
 using box = std::string entries::*;
-
-struct entry_check {
-    box entry;
-    message text;
-};
-
-constexpr std::array<entry_check, 9> ASSIST_CHECKS = {{
-    {&entries::volumereqd, message::input_volumereqd},
-    {&entries::numlobes, message::input_numlobes},
-    {&entries::shaftdiameter, message::input_shaftdiameter},
-    {&entries::clearn, message::input_clearn},
-    {&entries::thick, message::input_thick},
-    {&entries::minmaterial, message::input_minmaterial},
-    {&entries::maxdiameter, message::input_maxdiameter},
-    {&entries::axial_clear, message::input_axial_clear},
-    {&entries::radial_clear, message::input_radial_clear},
-}};
 
 /// A length and the entry it is read from.
 struct assist_length {
@@ -52,12 +36,10 @@ std::string in_entry_unit(double millimetres, bool inches) {
 }  // namespace
 
 std::optional<message> first_refused_assist_entry(const entries& boxes) {
-    for (const auto& [entry, text] : ASSIST_CHECKS) {
-        if (!(val(boxes.*entry) > 0.0)) {
-            return text;
-        }
+    if (!(val(boxes.volumereqd) > 0.0)) {
+        return message::input_volumereqd;
     }
-    return std::nullopt;
+    return first_missing_entry(boxes, REQUIRED_ENTRIES);
 }
 
 void read_assist_entries(const entries& boxes, bool inches, design_params& design) {

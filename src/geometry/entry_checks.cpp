@@ -3,6 +3,7 @@
 #include "core/checked_math.hpp"
 #include "core/constants.hpp"
 #include "core/number_text.hpp"
+#include "geometry/required_entries.hpp"
 
 #include <array>
 
@@ -23,22 +24,8 @@ constexpr std::array<box, 13> DECIMAL_COMMA_ALLOWED = {
 
 constexpr double SMALLEST_LOBE_NUMBER = 3.0;
 
-/// One check of the validation: the entry must be above 0. ecc is tested as a text instead.
-struct entry_check {
-    box entry;
-    message text;
-};
-
-constexpr std::array<entry_check, 12> ENTRY_CHECKS = {{
-    {&entries::numlobes, message::input_numlobes},
-    {&entries::shaftdiameter, message::input_shaftdiameter},
-    {&entries::clearn, message::input_clearn},
-    {&entries::thick, message::input_thick},
-    {&entries::minmaterial, message::input_minmaterial},
-    {&entries::maxdiameter, message::input_maxdiameter},
-    {&entries::axial_clear, message::input_axial_clear},
-    {&entries::radial_clear, message::input_radial_clear},
-    {&entries::ecc, message::eccentricity_zero},
+/// Checked after the eccentricity, which is tested as a text.
+constexpr std::array<required_entry, 3> LAST_CHECKS = {{
     {&entries::radinnroot, message::input_radinnroot},
     {&entries::radouter, message::input_radouter},
     {&entries::coarseness, message::input_coarseness},
@@ -96,15 +83,14 @@ void clean_up_entries(entries& boxes, design_params& design, user& person, std::
 }
 
 std::optional<refused_entry> first_refused_entry(const entries& boxes) {
-    for (const auto& [entry, text] : ENTRY_CHECKS) {
-        const std::string& typed = boxes.*entry;
-        if (entry == &entries::ecc) {
-            if (typed == "0" || typed.empty()) {
-                return refused_entry{text, "ecc"};
-            }
-        } else if (!(val(typed) > 0.0)) {
-            return refused_entry{text, ""};
-        }
+    if (const auto missing = first_missing_entry(boxes, REQUIRED_ENTRIES)) {
+        return refused_entry{*missing, ""};
+    }
+    if (boxes.ecc == "0" || boxes.ecc.empty()) {
+        return refused_entry{message::eccentricity_zero, "ecc"};
+    }
+    if (const auto missing = first_missing_entry(boxes, LAST_CHECKS)) {
+        return refused_entry{*missing, ""};
     }
     return std::nullopt;
 }
