@@ -10,6 +10,7 @@
 #include "core/rotor_profiles.hpp"
 #include "core/user.hpp"
 #include "core/window_rectangles.hpp"
+#include "output/cnc_source.hpp"
 #include "performance/perf_inputs.hpp"
 #include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"
@@ -33,6 +34,7 @@ struct program {
     kvt::enabling enabling;
     kvt::window_rectangles window_rectangles;
     kvt::design_view design_view;
+    kvt::cnc_choices cnc_choices;  ///< of the last run of the CNC output dialog
 
     kvt::stage_entries stage_entries;
 

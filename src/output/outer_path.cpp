@@ -86,25 +86,14 @@ point2 difference(point2 point, point2 centre) {
     return {point.x - centre.x, point.y - centre.y};
 }
 
-/// Appends the points 1 .. steps of an arc from angle a0 over sweep, counterclockwise when positive.
-void add_samples(const outer_path_arc& arc, double a0, double sweep, int steps, std::vector<point2>& points) {
+/// The points 1 .. steps of an arc from angle a0 over sweep, counterclockwise when positive.
+std::vector<point2> samples(const outer_path_arc& arc, double a0, double sweep, int steps) {
+    std::vector<point2> points;
     for (int j = 1; j <= steps; ++j) {
         const point2 sample = polar_point(arc.radius, a0 + j * sweep / steps);
         points.push_back({arc.centre.x + sample.x, arc.centre.y + sample.y});
     }
-}
-
-void add_arc(const outer_path_arc& arc, std::vector<point2>& points) {
-    const point2 start = difference(arc.start, arc.centre);
-    const point2 end = difference(arc.end, arc.centre);
-    if (arc.kind == outer_arc_kind::lobe) {
-        const arc_angles angles = lobe_arc(start, end, arc.radius);
-        add_samples(arc, angles.a0, -angles.sweep, LOBE_STEPS, points);
-        return;
-    }
-    const arc_angles angles = fillet_or_root_arc(start, end, arc.radius);
-    const int steps = arc.kind == outer_arc_kind::fillet ? FILLET_STEPS : ROOT_STEPS;
-    add_samples(arc, angles.a0, angles.sweep, steps, points);
+    return points;
 }
 
 }  // namespace
@@ -139,10 +128,22 @@ outer_path outer_rotor_offset_path(const design_params& design, double tool_radi
     return path_with_roots(offset, C, flank);
 }
 
+std::vector<point2> arc_points(const outer_path_arc& arc) {
+    const point2 start = difference(arc.start, arc.centre);
+    const point2 end = difference(arc.end, arc.centre);
+    if (arc.kind == outer_arc_kind::lobe) {
+        const arc_angles angles = lobe_arc(start, end, arc.radius);
+        return samples(arc, angles.a0, -angles.sweep, LOBE_STEPS);
+    }
+    const arc_angles angles = fillet_or_root_arc(start, end, arc.radius);
+    return samples(arc, angles.a0, angles.sweep, arc.kind == outer_arc_kind::fillet ? FILLET_STEPS : ROOT_STEPS);
+}
+
 std::vector<point2> outer_path_points(const outer_path& path) {
     std::vector<point2> points{path.first};
     for (const outer_path_arc& arc : path.arcs) {
-        add_arc(arc, points);
+        const std::vector<point2> added = arc_points(arc);
+        points.insert(points.end(), added.begin(), added.end());
     }
     points.push_back(path.first);
     return points;

@@ -42,8 +42,13 @@ outer_path outer_rotor_path(const design_params& design);
 ///     rho = x - sqrt((r + tool_radius)^2 - (C^2 - x^2))      x = C cos(TWO_PI_D / (2 N))
 outer_path outer_rotor_offset_path(const design_params& design, double tool_radius);
 
-/// The first point, then 10 points a fillet, 50 a root, 250 a lobe (an arc's end is its last point), then the first
-/// point again: 1 + 320 N + 1 points, without fillets 1 + 300 N + 1.
+/// The points of an arc behind its start, the last one at its end: 10 a fillet, 50 a root, 250 a lobe.
+///     centre + radius (cos, sin) of start + j (end - start) / n      j = 1 .. n
+/// Throws division_by_zero for an end straight above or below the centre.
+std::vector<point2> arc_points(const outer_path_arc& arc);
+
+/// The first point, the points of every arc, then the first point again: 1 + 320 N + 1 points, without fillets
+/// 1 + 300 N + 1.
 std::vector<point2> outer_path_points(const outer_path& path);
 
 }  // namespace kvt
