@@ -2,6 +2,7 @@
 #include "core/number_text.hpp"
 
 #include "core/checked_math.hpp"
+#include "core/fifteen_digits.hpp"
 
 #include <algorithm>
 #include <array>
@@ -14,9 +15,7 @@ namespace kvt {
 
 namespace {
 
-/// Significant digits of the text of a double.
-constexpr int SIGNIFICANT_DIGITS = 15;
-/// Those of a single-precision number.
+/// Significant digits of the text of a single-precision number.
 constexpr int SINGLE_DIGITS = 7;
 /// Powers of ten of the first digit outside which a text is written with an exponent.
 constexpr int LOWEST_FIXED_EXPONENT = -4;
@@ -121,34 +120,27 @@ double scanned_value(std::string_view number) {
     return 0.0;
 }
 
-/// The parts of a double's text: up to 15 digits without trailing zeros, and the power of ten of the first one.
-struct decimal_digits {
-    bool negative = false;
-    std::string digits;
-    int exponent = 0;
-};
-
-decimal_digits rounded_digits(double value, int significant_digits = SIGNIFICANT_DIGITS) {
-    // Sign, digit, point, 14 digits, e, sign, three exponent digits.
-    std::array<char, SIGNIFICANT_DIGITS + 16> buffer;
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
-                                      std::chars_format::scientific, significant_digits - 1);
-    const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
-    const std::size_t e = text.find('e');
-    decimal_digits parts;
-    parts.negative = std::signbit(value) && value != 0.0;
-    parts.digits = std::string(text.substr(0, 1)) + std::string(text.substr(2, e - 2));
-    parts.digits.erase(std::max<std::size_t>(parts.digits.find_last_not_of('0') + 1, 1));
-    parts.exponent = static_cast<int>(written_exponent(text.substr(e + 1)));
-    return parts;
+/// The seven digits of a single-precision number; the rest are zeros.
+fifteen_digits seven_digits_of(double magnitude) {
+    std::array<char, 32> buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                   std::chars_format::scientific, SINGLE_DIGITS - 1)
+                         .ptr;
+    double rounded = 0.0;
+    std::from_chars(buffer.data(), end, rounded);
+    return fifteen_digits_of(rounded);
 }
 
 /// Digits with a point behind the first `whole_count`; no point when nothing follows it.
-std::string with_point(const std::string& digits, std::size_t whole_count) {
+void append_with_point(std::string& text, std::string_view digits, std::size_t whole_count) {
     if (digits.size() <= whole_count) {
-        return digits + std::string(whole_count - digits.size(), '0');
+        text += digits;
+        text.append(whole_count - digits.size(), '0');
+        return;
     }
-    return digits.substr(0, whole_count) + "." + digits.substr(whole_count);
+    text += digits.substr(0, whole_count);
+    text += '.';
+    text += digits.substr(whole_count);
 }
 
 /// "E-05", "E+15", "E+100": the sign always, two digits at least.
@@ -157,14 +149,23 @@ std::string exponent_text(int exponent) {
     return (exponent < 0 ? "E-" : "E+") + std::string(digits.size() < 2 ? 1 : 0, '0') + digits;
 }
 
-std::string laid_out(const decimal_digits& parts) {
+/// The digits behind a sign, which a value of zeros only never has.
+std::string laid_out(double value, const fifteen_digits& parts, std::string_view positive_sign) {
+    constexpr std::size_t LONGEST = 24;
+    std::string text;
+    text.reserve(LONGEST);
+    text += value < 0.0 ? "-" : positive_sign;
     if (parts.exponent < LOWEST_FIXED_EXPONENT || parts.exponent >= LOWEST_LARGE_EXPONENT) {
-        return with_point(parts.digits, 1) + exponent_text(parts.exponent);
+        append_with_point(text, parts.significant(), 1);
+        text += exponent_text(parts.exponent);
+    } else if (parts.exponent < 0) {
+        text += "0.";
+        text.append(static_cast<std::size_t>(-parts.exponent - 1), '0');
+        text += parts.significant();
+    } else {
+        append_with_point(text, parts.significant(), static_cast<std::size_t>(parts.exponent) + 1);
     }
-    if (parts.exponent < 0) {
-        return "0." + std::string(static_cast<std::size_t>(-parts.exponent - 1), '0') + parts.digits;
-    }
-    return with_point(parts.digits, static_cast<std::size_t>(parts.exponent) + 1);
+    return text;
 }
 
 }  // namespace
@@ -192,8 +193,7 @@ std::int16_t integer16_of_text(std::string_view text) {
 }
 
 std::string number_text(double value) {
-    const decimal_digits parts = rounded_digits(checked_finite(value));
-    return (parts.negative ? "-" : "") + laid_out(parts);
+    return laid_out(value, fifteen_digits_of(std::abs(checked_finite(value))), "");
 }
 
 std::string str(double value) {
@@ -206,8 +206,8 @@ std::string print_form(std::int64_t value) {
 }
 
 std::string print_form_single(float value) {
-    const decimal_digits parts = rounded_digits(checked_finite(static_cast<double>(value)), SINGLE_DIGITS);
-    return (parts.negative ? "-" : " ") + laid_out(parts) + " ";
+    const auto wide = checked_finite(static_cast<double>(value));
+    return laid_out(wide, seven_digits_of(std::abs(wide)), " ") + " ";
 }
 
 std::string commas_to_points(std::string_view text) {

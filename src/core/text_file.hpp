@@ -1,6 +1,7 @@
 // Text files of 8-bit lines: CR LF when written; CR LF, lone CR and lone LF when read.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -15,11 +16,26 @@ class text_lines {
     /// move every later line of a positional file.
     void line(std::string_view utf8);
     /// Appends one line of code page bytes as they are. Throws like line.
-    void raw_line(std::string_view bytes);
+    void raw_line(std::string_view bytes) {
+        raw_part(bytes);
+        end_line();
+    }
     const std::string& bytes() const { return bytes_; }
+
+    // For long files, piece by piece, without a copy of each line.
+
+    /// Appends code page bytes to the line that the next end_line ends.
+    void raw_part(std::string_view bytes) { bytes_ += bytes; }
+    /// Ends the line. Throws like line; then all of it is dropped.
+    void end_line();
+    /// Appends whole lines of a template, each with its CR LF. No line may be open.
+    void raw_block(std::string_view lines);
+    /// Room for a text of that size.
+    void reserve(std::size_t size) { bytes_.reserve(size); }
 
   private:
     std::string bytes_;
+    std::size_t line_start_ = 0;  // where the line begins that is not ended yet
 };
 
 /// The lines of a file's bytes, without their ends. A last line without its end counts; an end at the very end of

@@ -73,4 +73,27 @@ TEST(fixed_number, is_nearest_for_random_numbers) {
     }
 }
 
+/// k in units of the last decimal, e.g. 1250 as "1.250".
+std::string shown(std::int64_t k, int decimals) {
+    std::string digits = std::to_string(k);
+    digits.insert(0, std::max(decimals + 1 - static_cast<int>(digits.size()), 0), '0');
+    return digits.insert(digits.size() - static_cast<std::size_t>(decimals), ".");
+}
+
+TEST(fixed_number, decides_near_a_half_by_the_15_digit_text) {
+    random_values random;
+    for (int run = property_count(20000); run > 0; --run) {
+        const int decimals = random.whole(1, 6);
+        const std::int64_t k = random.whole(0, random.whole(0, 2000000000));
+        const double half = (static_cast<double>(k) + 0.5) / std::pow(10.0, decimals);
+        double value = half;
+        for (int steps = random.whole(-40, 40); steps != 0; steps += steps < 0 ? 1 : -1) {
+            value = std::nextafter(value, steps < 0 ? 0.0 : 1e300);
+        }
+        const bool is_half = number_text(value) == number_text(half);
+        ASSERT_EQ(fixed_number(value, decimals), shown(is_half || value > half ? k + 1 : k, decimals))
+            << number_text(value) << " with " << decimals;
+    }
+}
+
 }  // namespace kvt

@@ -53,6 +53,34 @@ TEST(text_lines, refuses_a_line_end_inside_a_line) {
     EXPECT_EQ(text.bytes(), "");
 }
 
+TEST(text_lines, takes_a_line_piece_by_piece) {
+    text_lines text;
+    text.reserve(100);
+    text.raw_part("X");
+    text.raw_part("1.5");
+    text.end_line();
+    text.end_line();
+    EXPECT_EQ(text.bytes(), "X1.5\r\n\r\n");
+}
+
+TEST(text_lines, drops_a_line_of_pieces_with_a_line_end_inside) {
+    text_lines text;
+    text.raw_line("kept");
+    text.raw_part("a");
+    text.raw_part("\r\nb");
+    EXPECT_FAILURE(text.end_line(), failure::invalid_property_value);
+    EXPECT_EQ(text.bytes(), "kept\r\n");
+    text.raw_line("next");
+    EXPECT_EQ(text.bytes(), "kept\r\nnext\r\n");
+}
+
+TEST(text_lines, takes_lines_of_a_template_with_their_ends) {
+    text_lines text;
+    text.raw_block(" 0\r\nSEQEND\r\n");
+    text.raw_line("EOF");
+    EXPECT_EQ(text.bytes(), " 0\r\nSEQEND\r\nEOF\r\n");
+}
+
 struct split_case {
     const char* bytes;
     lines expected;
