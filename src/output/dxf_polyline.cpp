@@ -51,8 +51,12 @@ dxf_polyline::dxf_polyline(text_lines& out) : out_(out) {
 }
 
 void dxf_polyline::vertex(std::string_view x, std::string_view y) {
+    out_.raw_block("VERTEX\r\n 8\r\nLINELAYER\r\n 10\r\n");
+    out_.raw_line(x);
+    out_.raw_block(" 20\r\n");
+    out_.raw_line(y);
     // The " 0" behind a vertex begins the next one, or the end of the sequence.
-    write_lines(out_, {"VERTEX", " 8", "LINELAYER", " 10", x, " 20", y, " 30", ZERO, " 0"});
+    out_.raw_block(" 30\r\n0.000000\r\n 0\r\n");
 }
 
 void dxf_polyline::end() {

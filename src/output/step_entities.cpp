@@ -16,48 +16,46 @@ const std::string& value_of(std::span<const step_value> values, std::string_view
     return found->text;
 }
 
-/// Appends the reference that begins at text[at], raised by the offset; answers where the text goes on.
-std::size_t append_raised(std::string& line, std::string_view text, std::size_t at, int offset) {
+/// Writes the reference that begins at text[at], raised by the offset; answers where the text goes on.
+std::size_t write_raised(text_lines& out, std::string_view text, std::size_t at, int offset) {
     int number = 0;
     const auto end = std::from_chars(text.data() + at + 1, text.data() + text.size(), number).ptr;
-    append_reference(line, number + offset);
+    write_reference(out, number + offset);
     return static_cast<std::size_t>(end - text.data());
 }
 
-std::size_t append_value(std::string& line, std::string_view text, std::size_t at, std::span<const step_value> values) {
+std::size_t write_value(text_lines& out, std::string_view text, std::size_t at, std::span<const step_value> values) {
     const std::size_t end = text.find('}', at);
-    line += value_of(values, text.substr(at + 1, end - at - 1));
+    out.raw_part(value_of(values, text.substr(at + 1, end - at - 1)));
     return end + 1;
 }
 
-void append_row_text(std::string& line, std::string_view text, std::span<const step_value> values, int offset) {
+void write_row_text(text_lines& out, std::string_view text, std::span<const step_value> values, int offset) {
     std::size_t at = 0;
     while (at < text.size()) {
         const std::size_t mark = std::min(text.find_first_of("#{", at), text.size());
-        line += text.substr(at, mark - at);
+        out.raw_part(text.substr(at, mark - at));
         at = mark;
         if (at < text.size()) {
-            at = text[at] == '#' ? append_raised(line, text, at, offset) : append_value(line, text, at, values);
+            at = text[at] == '#' ? write_raised(out, text, at, offset) : write_value(out, text, at, values);
         }
     }
 }
 
 }  // namespace
 
-void append_reference(std::string& line, int number) {
-    std::array<char, 16> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    line += '#';
-    line.append(digits.data(), end);
+void write_reference(text_lines& out, int number) {
+    std::array<char, 16> text;
+    text[0] = '#';
+    const auto end = std::to_chars(text.data() + 1, text.data() + text.size(), number).ptr;
+    out.raw_part({text.data(), static_cast<std::size_t>(end - text.data())});
 }
 
 void write_step_rows(text_lines& out, std::span<const step_row> rows, std::span<const step_value> values, int offset) {
-    std::string line;
     for (const step_row& row : rows) {
-        line.clear();
-        append_reference(line, row.number + offset);
-        append_row_text(line, row.text, values, offset);
-        out.raw_line(line);
+        write_reference(out, row.number + offset);
+        write_row_text(out, row.text, values, offset);
+        out.end_line();
     }
 }
 

@@ -26,7 +26,7 @@ struct step_value {
 /// A text may hold a name only that `values` has.
 void write_step_rows(text_lines& out, std::span<const step_row> rows, std::span<const step_value> values, int offset);
 
-/// The number's digits behind "#", appended to a line.
-void append_reference(std::string& line, int number);
+/// Appends "#" and the number to the open line.
+void write_reference(text_lines& out, int number);
 
 }  // namespace kvt

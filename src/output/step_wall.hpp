@@ -40,9 +40,10 @@ class step_wall {
     std::size_t begin_of(wall_half half) const { return half == wall_half::first ? 0 : middle_; }
     std::size_t end_of(wall_half half) const { return half == wall_half::first ? middle_ : places_.size(); }
 
-    void append_control_point(std::size_t index, int layer);
-    void append_multiplicities(wall_half half);
-    void append_knots(wall_half half);
+    void write_surface_row(std::size_t index, std::string_view end);
+    void write_control_point(std::size_t index, int layer);
+    void write_multiplicities(wall_half half);
+    void write_knots(wall_half half);
 
     text_lines& out_;
     std::vector<std::string> places_;  // "x, y" of each point
@@ -50,7 +51,6 @@ class step_wall {
     double bottom_, depth_;
     int first_point_, offset_;
     std::string knots_[2];  // of both halves, as text
-    std::string line_;
 };
 
 }  // namespace kvt
