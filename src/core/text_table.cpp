@@ -34,12 +34,14 @@ consteval auto form_rows() {
 #include "core/texts/cnc.inc"
 #include "core/texts/explanations.inc"
 #include "core/texts/fontfrm.inc"
+#include "core/texts/dxf.inc"
 #include "core/texts/kvt.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/perf_res.inc"
 #include "core/texts/portdes.inc"
 #include "core/texts/progressfrm.inc"
 #include "core/texts/select_graphs.inc"
+#include "core/texts/step.inc"
 #include "core/texts/viewwinfrm.inc"
     });
 }
