@@ -37,9 +37,9 @@ TEST(explanation_pictures, are_delivered_under_their_names) {
     for (const char* name : PICTURES) {
         const QImage picture = delivered(name);
         ASSERT_FALSE(picture.isNull()) << name;
-        EXPECT_EQ(picture.width(), 900) << name;
-        EXPECT_GT(picture.height(), 350) << name;
-        EXPECT_LT(picture.height(), 700) << name;
+        EXPECT_EQ(picture.width(), 1800) << name;
+        EXPECT_GT(picture.height(), 700) << name;
+        EXPECT_LT(picture.height(), 1300) << name;
     }
 }
 

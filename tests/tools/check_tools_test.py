@@ -8,6 +8,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools"))
 
 import check_format  # noqa: E402
+import check_guide  # noqa: E402
 import check_includes  # noqa: E402
 import check_line_ends  # noqa: E402
 import check_pages  # noqa: E402
@@ -68,6 +69,39 @@ class includes_test(tree_test):
     def test_an_unknown_room_is_reported(self):
         self.write("src/misc/a.cpp", "")
         self.expect_one(self.check(), "src/misc")
+
+
+class guide_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        for form in check_guide.FORMS:
+            self.write(f"src/core/texts/{form}.inc", "")
+        self.write("src/core/texts/Perffrm.inc", '{caption, "Perffrm", "Label7", "&Pressure Range (bar)", "Druck"},\n')
+        self.write("tools/screenshots/main.cpp", 'pictures["workplace"]')
+        self.write("tools/pictures/CMakeLists.txt", '"${share_folder}/explain.jpg"')
+        self.write("src/ui/Form1.hpp", "")
+
+    def page(self, content):
+        self.write("docs/guide/01-first.md", content)
+
+    def check(self):
+        return check_guide.findings(self.root)
+
+    def test_a_caption_is_named_without_its_unit_and_access_key(self):
+        self.page("Type the **Pressure Range**.")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_caption_that_no_page_names_is_reported(self):
+        self.page("Type the pressures.")
+        self.expect_one(self.check(), "Perffrm.Label7", "Pressure Range")
+
+    def test_pictures_of_forms_and_delivered_ones_are_known(self):
+        self.page("Pressure Range ![a](screen:Form1) ![b](screen:workplace) ![c](share:explain.jpg)")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_picture_that_nobody_takes_is_reported(self):
+        self.page("Pressure Range ![a](screen:Form9)")
+        self.expect_one(self.check(), "Form9")
 
 
 class texts_test(tree_test):

@@ -14,9 +14,11 @@ namespace kvt {
 
 namespace {
 
-constexpr int TEXT_PIXELS = 12;
-constexpr double TEXT_GAP = 4.0;      ///< between a leader and its text, pixels
-constexpr double ARROW_LENGTH = 8.0;  ///< pixels
+// Sizes at a width of 900 pixels; a wider picture has everything larger.
+constexpr double USUAL_WIDTH = 900.0;
+constexpr double TEXT_PIXELS = 12.0;
+constexpr double TEXT_GAP = 4.0;  ///< between a leader and its text
+constexpr double ARROW_LENGTH = 8.0;
 constexpr double ARROW_HALF_WIDTH = 2.5;
 
 const QColor DIMENSION_COLOUR(0x1f, 0x3a, 0x68);
@@ -53,12 +55,15 @@ const outline_look& look_of(outline_style style) {
 class explanation_painter {
   public:
     explanation_painter(const explanation& drawing, int width, std::int16_t language)
-        : drawing_(drawing), language_(language), scale_(width / (drawing.right - drawing.left)) {
+        : drawing_(drawing),
+          language_(language),
+          scale_(width / (drawing.right - drawing.left)),
+          size_(width / USUAL_WIDTH) {
         const int height = static_cast<int>(std::lround((drawing.top - drawing.bottom) * scale_));
         painted_.picture = QImage(width, height, QImage::Format_RGB32);
         painted_.picture.fill(Qt::white);
         font_.setFamilies({"Liberation Sans", "DejaVu Sans"});
-        font_.setPixelSize(TEXT_PIXELS);
+        font_.setPixelSize(static_cast<int>(std::lround(TEXT_PIXELS * size_)));
     }
 
     painted_explanation run() {
@@ -95,7 +100,7 @@ class explanation_painter {
 
     void paint(const explained_outline& outline) {
         const outline_look& look = look_of(outline.style);
-        painter_->setPen(QPen(look.pen, look.width, look.dashes, Qt::FlatCap, Qt::RoundJoin));
+        painter_->setPen(QPen(look.pen, look.width * size_, look.dashes, Qt::FlatCap, Qt::RoundJoin));
         if (outline.is_filled) {
             painter_->setBrush(look.fill);
             painter_->drawPolygon(pixels(outline.points));
@@ -107,7 +112,7 @@ class explanation_painter {
 
     void paint_lines(const explained_parameter& parameter) {
         painter_->setBrush(Qt::NoBrush);
-        painter_->setPen(QPen(LEADER_COLOUR, 0.8));
+        painter_->setPen(QPen(LEADER_COLOUR, 0.8 * size_));
         painter_->drawPolyline(pixels(parameter.leader));
         for (const extension_line& line : parameter.extensions) {
             painter_->drawLine(pixel(line.from), pixel(line.to));
@@ -116,7 +121,7 @@ class explanation_painter {
             const point2 before = parameter.leader[parameter.leader.size() - 2];
             paint_arrow(pixel(parameter.leader.back()), pixel(before));
         }
-        painter_->setPen(QPen(DIMENSION_COLOUR, 1.2));
+        painter_->setPen(QPen(DIMENSION_COLOUR, 1.2 * size_));
         for (const measured_line& line : parameter.lines) {
             paint(line);
         }
@@ -147,7 +152,7 @@ class explanation_painter {
         painter_->setBrush(Qt::NoBrush);
         painter_->drawPath(path);
         // An arrow points along the chord over its own length, so that it lies on the arc.
-        const double share = std::min(1.0, ARROW_LENGTH / std::max(path.length(), 1.0));
+        const double share = std::min(1.0, ARROW_LENGTH * size_ / std::max(path.length(), 1.0));
         paint_arrow(path.pointAtPercent(0.0), path.pointAtPercent(share));
         paint_arrow(path.pointAtPercent(1.0), path.pointAtPercent(1.0 - share));
     }
@@ -159,8 +164,8 @@ class explanation_painter {
         if (length < 0.5) {
             return;
         }
-        const QPointF along = way / length * ARROW_LENGTH;
-        const QPointF across = QPointF(-way.y(), way.x()) / length * ARROW_HALF_WIDTH;
+        const QPointF along = way / length * ARROW_LENGTH * size_;
+        const QPointF across = QPointF(-way.y(), way.x()) / length * ARROW_HALF_WIDTH * size_;
         const QPen pen = painter_->pen();
         painter_->setPen(Qt::NoPen);
         painter_->setBrush(DIMENSION_COLOUR);
@@ -182,9 +187,9 @@ class explanation_painter {
         QRectF place(QPointF(), QSizeF(metrics.horizontalAdvance(text), metrics.height()));
         place.moveCenter(pixel(where));
         if (side == text_side::right_of) {
-            place.moveLeft(pixel(where).x() + TEXT_GAP);
+            place.moveLeft(pixel(where).x() + TEXT_GAP * size_);
         } else if (side == text_side::left_of) {
-            place.moveRight(pixel(where).x() - TEXT_GAP);
+            place.moveRight(pixel(where).x() - TEXT_GAP * size_);
         }
         painter_->setPen(Qt::black);
         painter_->drawText(place, Qt::AlignCenter | Qt::TextDontClip, text);
@@ -196,6 +201,7 @@ class explanation_painter {
     const explanation& drawing_;
     const std::int16_t language_;
     const double scale_;  ///< pixels a mm
+    const double size_;   ///< of texts, arrows and lines
     QFont font_;
     QPainter* painter_ = nullptr;
     painted_explanation painted_;

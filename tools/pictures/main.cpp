@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int WIDTH = 900;        ///< pixels
+constexpr int WIDTH = 1800;       ///< pixels; twice what a window shows, for dense screens
 constexpr int JPEG_QUALITY = 95;  ///< thin lines stay clean
 
 /// Nobody is there to answer; a message means that the design was refused.

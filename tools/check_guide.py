@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+"""Reports captions of the forms that the user's guide does not name, and pictures that nobody takes.
+
+Usage: check_guide.py [ROOT]. Every label, button and box of the forms below must stand in docs/guide in English as the
+form shows it; a unit in brackets at its end may be left out. A picture is named as screen:FORM or share:FILE.
+"""
+import pathlib
+import re
+import sys
+
+FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "viewwinfrm", "MDIForm1", "Form2"]
+ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
+PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
+
+# Captions that are no word of the guide, with the reason.
+WITHOUT_PAGE = {
+    ("MDIForm1", "mnuupdates"): "hidden",
+    ("MDIForm1", "mnuupdatesauto"): "hidden",
+    ("MDIForm1", "mnuupdateschecknow"): "hidden",
+}
+# Menus whose entries come with a later version; the guide names the menu.
+LATER_MENUS = ("mnumodel", "mnustep", "mnudxf", "mnudata")
+
+
+def captions(root):
+    """Yields form, control and English caption."""
+    for form in FORMS:
+        text = (root / f"src/core/texts/{form}.inc").read_text(encoding="utf-8")
+        for _, name, control, english in ROW.findall(text):
+            yield name, control, english
+
+
+def is_left_out(form, control):
+    if (form, control) in WITHOUT_PAGE:
+        return True
+    return form == "MDIForm1" and any(control.startswith(menu) and control != menu for menu in LATER_MENUS)
+
+
+def spoken(caption):
+    """The caption as the guide writes it: without access keys, colons at the end, units in brackets."""
+    text = caption.replace("&", "").strip().rstrip(":").strip()
+    return re.sub(r"\s*\([^)]*\)$", "", text)
+
+
+def guide_text(root):
+    pages = sorted((root / "docs/guide").glob("*.md"))
+    return " ".join(" ".join(page.read_text(encoding="utf-8").split()) for page in pages)
+
+
+def caption_findings(root):
+    text = guide_text(root)
+    for form, control, english in captions(root):
+        if is_left_out(form, control) or len(spoken(english)) < 2:
+            continue
+        # Blanks between two column heads are layout.
+        if not all(part in text for part in re.split(r"\s{3,}", spoken(english))):
+            yield f'docs/guide: {form}.{control} is not named: "{english}"'
+
+
+def picture_findings(root):
+    tool = (root / "tools/screenshots/main.cpp").read_text(encoding="utf-8")
+    delivered = (root / "tools/pictures/CMakeLists.txt").read_text(encoding="utf-8")
+    for page in sorted((root / "docs/guide").glob("*.md")):
+        for kind, name in PICTURE.findall(page.read_text(encoding="utf-8")):
+            if kind == "share" and f"/{name}" not in delivered:
+                yield f"{page.relative_to(root)}: no such delivered picture: {name}"
+            elif kind == "screen" and f'"{name}"' not in tool and not (root / f"src/ui/{name}.hpp").exists():
+                yield f"{page.relative_to(root)}: no form or picture: {name}"
+
+
+def findings(root):
+    yield from caption_findings(root)
+    yield from picture_findings(root)
+
+
+if __name__ == "__main__":
+    found = list(findings(pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".")))
+    print("\n".join(found) or "The guide names every field of every form.")
+    sys.exit(1 if found else 0)
