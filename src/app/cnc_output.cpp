@@ -1,14 +1,14 @@
 #include "app/cnc_output.hpp"
 
 #include "app/program_title.hpp"
+#include "app/saved_text.hpp"
 #include "core/checked_math.hpp"
 #include "core/number_text.hpp"
-#include "core/text_file.hpp"
 #include "core/text_table.hpp"
 #include "output/cnc_lines.hpp"
 #include "output/inner_offset.hpp"
 
-#include <optional>
+#include <string_view>
 
 namespace kvt {
 
@@ -169,35 +169,15 @@ void remember_path(app_state& state, const cnc_file& file, const std::string& pa
     }
 }
 
-/// What the writer appended is saved, also when it failed.
-void save_cnc_file(const program& kavetta, user& person, const cnc_file& file, const std::string& path) {
-    text_lines text;
-    std::optional<run_time_error> failed;
-    try {
-        file.write(cnc_source_of(kavetta), text);
-    } catch (const run_time_error& error) {
-        failed = error;
-    }
-    try {
-        write_file(path, text.bytes());
-    } catch (const run_time_error& error) {
-        failed = error;
-    }
-    if (failed) {
-        person.show_status(std::string(text_of(kavetta, message::save_failed)) +
-                           failed->text(kavetta.app_state.language));
-    }
-}
-
 void ask_and_save(program& kavetta, user& person, std::size_t index) {
     const cnc_file& file = cnc_files()[index];
-    const std::optional<std::string> path = person.choose_file(save_dialog(kavetta, file));
-    if (!path || path->empty()) {
-        return;
-    }
-    remember_path(kavetta.app_state, file, *path);
-    save_cnc_file(kavetta, person, file, *path);
-    if (index == INNER_OFFSET) {
+    bool written = false;
+    ask_and_save_text(kavetta, person, save_dialog(kavetta, file), [&](text_lines& text, const std::string& path) {
+        written = true;
+        remember_path(kavetta.app_state, file, path);
+        file.write(cnc_source_of(kavetta), text);
+    });
+    if (written && index == INNER_OFFSET) {
         if (const std::string notice = wrong_side_notice(kavetta); !notice.empty()) {
             person.show_message(notice);
         }

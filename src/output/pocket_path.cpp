@@ -111,6 +111,10 @@ class path_joiner {
     std::vector<point2> path_;
 };
 
+bool is_nearer(point2 from, point2 first, point2 second) {
+    return std::hypot(first.x - from.x, first.y - from.y) <= std::hypot(second.x - from.x, second.y - from.y);
+}
+
 /// Int((f - t) / (0.5 t)).
 int pass_count(const pocket_shape& pocket) {
     const double t = pocket.tool_radius;
@@ -131,8 +135,9 @@ std::vector<point2> pocket_path(const pocket_shape& pocket) {
     for (int k = 1; k <= passes; ++k) {
         joined.add(moved_inward(region, pocket.fillet_r - k * 0.5 * t));
     }
-    bool forward = true;
-    for (std::vector<point2>& arc : clearing_arcs(pocket, region)) {
+    std::vector<std::vector<point2>> arcs = clearing_arcs(pocket, region);
+    bool forward = joined.empty() || arcs.empty() || is_nearer(joined.end(), arcs.front().front(), arcs.front().back());
+    for (std::vector<point2>& arc : arcs) {
         if (!forward) {
             std::ranges::reverse(arc);
         }
