@@ -3,8 +3,12 @@
 #include "app/exit_program.hpp"
 #include "ui/Aboutform.hpp"
 #include "ui/Form1.hpp"
+#include "ui/Perffrm.hpp"
 #include "ui/drawn_icons.hpp"
+#include "ui/loaded_form.hpp"
+#include "ui/portdes.hpp"
 #include "ui/qt_text.hpp"
+#include "ui/select_graphs.hpp"
 #include "ui/viewwinfrm.hpp"
 
 #include <QAction>
@@ -34,6 +38,9 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     auto* design = new Form1(context);
     connect(design, &Form1::exit_asked, this, &MDIForm1::ask_exit);
     add_form(new viewwinfrm(context), true);
+    add_form(new Perffrm(context), true);
+    add_form(new portdes(context), true);
+    add_form(new select_graphs(context), true);
     add_form(design, true);
     connect(&context.runner, &command_runner::finished, this, &MDIForm1::refresh);
     refresh();
@@ -45,10 +52,23 @@ void MDIForm1::add_form(mdi_form* form, bool is_shown) {
     forms_.append(form);
 }
 
+void MDIForm1::load_child(std::string_view form) {
+    loaded_form* made = load_form(form, context_);
+    if (made == nullptr) {
+        return;
+    }
+    add_form(made, false);
+    made->refresh();
+    QRect place(QPoint(0, 0), made->start_size().boundedTo(area_->size()));
+    place.moveCenter(area_->rect().center());
+    made->setGeometry(place);
+}
+
 void MDIForm1::refresh() {
     setWindowTitle(qt_text(context_.kavetta.labels.title));
     menu_->refresh();
-    for (mdi_form* form : forms_) {
+    forms_.removeAll(nullptr);
+    for (const QPointer<mdi_form>& form : forms_) {
         form->refresh();
     }
 }

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QPointer>
 
 class QMdiArea;
 
@@ -22,6 +23,9 @@ class MDIForm1 : public QMainWindow {
     void refresh();
     /// Places the child windows and the main window itself as the program's window rectangles say, and shows them.
     void show_layout();
+    /// Builds one of the forms that are forgotten when they close, in the middle of the window, not shown yet. Throws
+    /// run_time_error when its load fails.
+    void load_child(std::string_view form);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -36,7 +40,7 @@ class MDIForm1 : public QMainWindow {
     form_context context_;
     QMdiArea* area_;
     main_menu* menu_;
-    QList<mdi_form*> forms_;
+    QList<QPointer<mdi_form>> forms_;  ///< a form that was closed for good is nullptr
 };
 
 }  // namespace kvt

@@ -10,7 +10,8 @@ desktop::desktop(const std::filesystem::path& folder)
       entry_focus_(runner_),
       window_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
-    person_.attach(&window_, [this] { window_.refresh(); });
+    person_.attach(
+        &window_, [this] { window_.refresh(); }, [this](std::string_view form) { window_.load_child(form); });
 }
 
 bool desktop::start(const std::string& path) {

@@ -6,6 +6,7 @@
 #include "ui/qt_text.hpp"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -101,10 +102,19 @@ void form_binding::show_text(QWidget& control, std::string_view name) {
         button->setText(caption);
     } else if (auto* group = qobject_cast<QGroupBox*>(&control)) {
         group->setTitle(caption);
+    } else if (auto* list = qobject_cast<QComboBox*>(&control)) {
+        list->setPlaceholderText(caption);
     }
 }
 
 void form_binding::show_enabled(QWidget& control, std::string_view name) {
+    // The label of an entry can be used when the entry can.
+    const auto* label = qobject_cast<QLabel*>(&control);
+    if (label != nullptr && label->buddy() != nullptr) {
+        const std::string buddy = utf8_text(label->buddy()->objectName());
+        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, buddy) && !is_not_built_yet(form_, buddy));
+        return;
+    }
     if (find_on_form(enabling_fields(), form_, name) != nullptr || is_not_built_yet(form_, name)) {
         control.setEnabled(is_enabled(context_.kavetta.enabling, form_, name) && !is_not_built_yet(form_, name));
     }

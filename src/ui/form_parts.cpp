@@ -1,6 +1,11 @@
 #include "ui/form_parts.hpp"
 
+#include "core/app_state.hpp"
+#include "core/text_table.hpp"
+#include "ui/qt_text.hpp"
+
 #include <QApplication>
+#include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +17,11 @@ namespace {
 
 /// Room above and below the text of a box together, pixels.
 constexpr int BOX_MARGINS = 6;
+/// Room left and right of the digits of a box together, pixels.
+constexpr int DIGIT_MARGINS = 8;
+/// Room between a number, its unit and the border of the box, pixels.
+constexpr int UNIT_MARGIN = 5;
+constexpr double COMPACT_SHARE = 8.0 / 9.0;
 
 }  // namespace
 
@@ -46,6 +56,55 @@ QLineEdit* number_box(const char* name, int width) {
     box->setFixedHeight(box->fontMetrics().height() + BOX_MARGINS);
     box->setAlignment(Qt::AlignRight);
     return box;
+}
+
+QFont compact_font() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * COMPACT_SHARE);
+    return font;
+}
+
+QLineEdit* compact_box(const char* name, int digits) {
+    QLineEdit* box = number_box(name, 0);
+    box->setFont(compact_font());
+    box->setFixedSize(box->fontMetrics().horizontalAdvance('0') * digits + DIGIT_MARGINS,
+                      box->fontMetrics().height() + BOX_MARGINS);
+    return box;
+}
+
+QLabel* add_unit(QLineEdit& box, const QString& widest) {
+    auto* unit = new QLabel(&box);
+    unit->setObjectName(box.objectName() + "_unit");
+    unit->setFont(box.font());
+    unit->setForegroundRole(QPalette::PlaceholderText);
+    unit->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const int width = unit->fontMetrics().horizontalAdvance(widest) + UNIT_MARGIN;
+    unit->setGeometry(box.width() - 1, 0, width, box.height());
+    box.setFixedWidth(box.width() + width);
+    box.setTextMargins(0, 0, width, 0);
+    return unit;
+}
+
+QPushButton* command_button(const char* name) {
+    auto* button = new QPushButton;
+    button->setObjectName(name);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QCheckBox* named_check(const char* name) {
+    auto* check = new QCheckBox;
+    check->setObjectName(name);
+    check->setFocusPolicy(Qt::TabFocus);
+    check->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    return check;
+}
+
+void show_length_unit(const app_state& state, const QList<QLabel*>& labels) {
+    const message unit = state.drawing_units == INCHES ? message::unit_inches : message::unit_mm;
+    for (QLabel* label : labels) {
+        label->setText(qt_text(message_text(unit, state.language)));
+    }
 }
 
 QFrame* hairline() {

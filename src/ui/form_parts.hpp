@@ -1,12 +1,18 @@
 // The controls that forms are put together from, each with its product name.
 #pragma once
 
+#include <QFont>
+#include <QList>
+
+class QCheckBox;
 class QFrame;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace kvt {
+
+struct app_state;
 
 /// A label whose text comes from the program's captions or labels.
 QLabel* named_label(const char* name);
@@ -19,6 +25,23 @@ void accent(QPushButton& button);
 
 /// A box for a number, right-aligned, with a fixed width in pixels.
 QLineEdit* number_box(const char* name, int width);
+
+/// The font of a form with many entries in little room: a ninth smaller than that of the application.
+QFont compact_font();
+
+/// A box for a number in the compact font, wide enough for so many digits.
+QLineEdit* compact_box(const char* name, int digits);
+
+/// Widens a compact box by a faint unit behind the number, as wide as its widest text; the label is named as the entry
+/// with "_unit".
+QLabel* add_unit(QLineEdit& box, const QString& widest);
+
+/// A button and a check box that Tab reaches and a click does not focus, so that Enter stays with the main button.
+QPushButton* command_button(const char* name);
+QCheckBox* named_check(const char* name);
+
+/// Shows the length unit in force in the labels beside lengths.
+void show_length_unit(const app_state& state, const QList<QLabel*>& labels);
 
 /// A thin horizontal line between groups.
 QFrame* hairline();

@@ -1,6 +1,7 @@
 #include "ui/menu_tree.hpp"
 
 #include "app/exit_program.hpp"
+#include "app/explanation_windows.hpp"
 #include "app/project_commands.hpp"
 
 #include <array>
@@ -71,8 +72,8 @@ const std::array MENU_ROWS = {
     menu_row{"mnuupdateschecknow", "mnuupdates"},
 
     menu_row{"mnuhelp", "", MENU},
-    menu_row{"mnuhelpexplain", "mnuhelp"},
-    menu_row{"mnuhelpport_explain", "mnuhelp"},
+    menu_row{"mnuhelpexplain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_gerotor_explanation>},
+    menu_row{"mnuhelpport_explain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_porting_explanation>},
     menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, QKeySequence::HelpContents},
     menu_row{"mnuhelpabout", "mnuhelp"},
 };

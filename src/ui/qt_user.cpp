@@ -4,6 +4,7 @@
 #include "ui/Form2.hpp"
 #include "ui/file_dialogs.hpp"
 #include "ui/newprojectname.hpp"
+#include "ui/progressfrm.hpp"
 #include "ui/qt_text.hpp"
 
 #include <QApplication>
@@ -30,13 +31,19 @@ void focus_when_active(QWidget* target) {
     });
 }
 
+/// A carriage return inside a message, with or without a line feed, is one line break.
+QString with_line_breaks(QString text) {
+    return text.replace("\r\n", "\n").replace('\r', '\n');
+}
+
 }  // namespace
 
 qt_user::qt_user(const program& kavetta) : kavetta_(kavetta) {}
 
-void qt_user::attach(QMainWindow* window, std::function<void()> refresh) {
+void qt_user::attach(QMainWindow* window, std::function<void()> refresh, std::function<void(std::string_view)> load) {
     window_ = window;
     refresh_ = std::move(refresh);
+    load_ = std::move(load);
 }
 
 /// Dialogs before the main window is on the screen stand alone.
@@ -58,7 +65,7 @@ void qt_user::prepare(QMessageBox& box, std::string_view text) const {
     refresh();
     box.setWindowTitle(qt_text(program_title()));
     box.setTextFormat(Qt::PlainText);
-    box.setText(qt_text(text));
+    box.setText(with_line_breaks(qt_text(text)));
 }
 
 void qt_user::show_message(std::string_view text) {
@@ -118,16 +125,28 @@ void qt_user::show_status(std::string_view text) {
     }
 }
 
+QMdiSubWindow* qt_user::child(std::string_view form) const {
+    return window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form));
+}
+
 void qt_user::show_form(std::string_view form) {
-    if (auto* window = window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form))) {
+    if (window_ == nullptr) {
+        return;
+    }
+    if (child(form) == nullptr) {
+        load_(form);
+    }
+    if (QMdiSubWindow* window = child(form)) {
         window->show();
+        window->raise();
     }
 }
 
 void qt_user::unload_form(std::string_view form) {
-    if (auto* window = window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form))) {
-        window->hide();
-        window->deleteLater();
+    if (form == "progressfrm") {
+        delete progress_;
+    } else if (QMdiSubWindow* window = child(form)) {
+        window->close();
     }
 }
 
@@ -160,7 +179,12 @@ void qt_user::set_busy(bool busy) {
 }
 
 void qt_user::show_progress(std::string_view text, int percent) {
-    show_status(std::string(text) + " " + std::to_string(percent) + " %");
+    if (progress_ == nullptr) {
+        progress_ = new progressfrm(kavetta_, parent());
+    }
+    progress_->show_progress(qt_text(text), percent);
+    // The work runs in this thread: the window is painted here, and the user's events wait.
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 }  // namespace kvt

@@ -10,16 +10,20 @@
 #include <functional>
 
 class QMainWindow;
+class QMdiSubWindow;
 class QMessageBox;
 
 namespace kvt {
+
+class progressfrm;
 
 class qt_user : public user {
   public:
     explicit qt_user(const program& kavetta);
 
-    /// The window that dialogs stand above, and how to show the program's state before one appears.
-    void attach(QMainWindow* window, std::function<void()> refresh);
+    /// The window that dialogs stand above, how to show the program's state before one appears, and how to load a form
+    /// that is not there.
+    void attach(QMainWindow* window, std::function<void()> refresh, std::function<void(std::string_view)> load);
 
     void show_message(std::string_view text) override;
     answer ask(std::string_view question, question_buttons buttons) override;
@@ -35,6 +39,7 @@ class qt_user : public user {
 
   private:
     QWidget* parent() const;
+    QMdiSubWindow* child(std::string_view form) const;
     QString button_text(message id) const;
     void prepare(QMessageBox& box, std::string_view text) const;
     void refresh() const;
@@ -42,6 +47,8 @@ class qt_user : public user {
     const program& kavetta_;
     QPointer<QMainWindow> window_;
     std::function<void()> refresh_;
+    std::function<void(std::string_view)> load_;
+    QPointer<progressfrm> progress_;
     bool busy_ = false;
 };
 

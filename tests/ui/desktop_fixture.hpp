@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
@@ -57,16 +58,39 @@ class desktop_test : public testing::Test {
     MDIForm1& window() { return desk().window(); }
     kvt::program& kavetta() { return desk().program(); }
 
+    /// The control of a name; where several forms have one, that of the Design form.
     template <typename control>
     control* find(const char* name) {
-        auto* found = window().findChild<control*>(name);
+        auto* found = window().findChild<QWidget*>("Form1")->findChild<control*>(name);
+        if (found == nullptr) {
+            found = window().findChild<control*>(name);
+        }
         EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    template <typename control>
+    control* find_on(const char* form, const char* name) {
+        auto* found = find<QWidget>(form)->template findChild<control*>(name);
+        EXPECT_NE(found, nullptr) << form << "." << name;
         return found;
     }
     QLineEdit* box(const char* name) { return find<QLineEdit>(name); }
     std::string shown(const char* name) { return utf8_text(box(name)->text()); }
     std::string label(const char* name) { return utf8_text(find<QLabel>(name)->text()); }
+    std::string label_on(const char* form, const char* name) {
+        return utf8_text(find_on<QLabel>(form, name)->text());
+    }
     std::string status() { return utf8_text(window().statusBar()->currentMessage()); }
+
+    /// The window of a form that is built when it is shown; nullptr while it is not.
+    QMdiSubWindow* loaded(const char* form) { return window().findChild<QMdiSubWindow*>(form); }
+
+    /// A delivered design in the program's folder, so that files written beside it stay there.
+    std::string own_design_file(const std::string& name) {
+        const std::filesystem::path own = folder.path() / "projects" / (name + ".KVT");
+        std::filesystem::copy_file(design_file(name), own, std::filesystem::copy_options::overwrite_existing);
+        return own.string();
+    }
 
     /// Clicks into a box, marks what it holds, and types key by key.
     void type(const char* name, const std::string& text) {

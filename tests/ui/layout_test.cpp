@@ -2,7 +2,9 @@
 #include "ui/Aboutform.hpp"
 #include "ui/Form2.hpp"
 #include "ui/desktop_fixture.hpp"
+#include "ui/fontfrm.hpp"
 #include "ui/newprojectname.hpp"
+#include "ui/progressfrm.hpp"
 
 #include <QMdiSubWindow>
 #include <QScrollArea>
@@ -60,13 +62,16 @@ class layout_test : public desktop_test {
     }
 
     void look_at_everything(const std::string& what) {
-        for (const char* name : {"Form1", "viewwinfrm"}) {
+        for (const char* name : {"Form1", "portdes", "Perffrm", "viewwinfrm", "select_graphs", "perf_res"}) {
             look_at(*find<QMdiSubWindow>(name), what + " " + name);
         }
         Form2 prompt(kavetta(), nullptr);
         newprojectname name(kavetta(), nullptr, [] {});
         Aboutform about(kavetta(), nullptr);
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about}) {
+        fontfrm font(kavetta(), nullptr);
+        progressfrm progress(kavetta(), nullptr);
+        progress.show_progress("Outer rotor", 40);
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress}) {
             dialog->setModal(false);
             dialog->show();
             settle();
@@ -97,8 +102,10 @@ TEST_F(layout_test, nothing_is_clipped_or_overlaps_in_either_language_at_any_fon
         const font_size size(points);
         for (const char language : {'1', '2'}) {
             write_settings(language);
-            start(design_file("n07_engine_oil_groove"));
+            start(own_design_file("n07_engine_oil_groove"));
             press("Calc");
+            press("design_ports");
+            press("calc_perf");
             look_at_everything(std::to_string(points) + " pt, language " + language);
         }
     }
@@ -115,6 +122,27 @@ TEST_F(layout_test, the_design_form_fits_its_place_in_the_default_layout_without
         const auto* scrolled = form->findChild<QScrollArea*>();
         EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible()) << language;
         EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible()) << language;
+    }
+}
+
+TEST_F(layout_test, the_other_forms_fit_their_places_without_scrolling_in_both_languages_and_units) {
+    for (const char* design : {"n07_engine_oil_groove", "n07_inch_hydraulic"}) {
+        for (const char language : {'1', '2'}) {
+            write_settings(language);
+            start(own_design_file(design));
+            press("Calc");
+            press("design_ports");
+            press("calc_perf");
+            settle();
+            EXPECT_EQ(find<QMdiSubWindow>("portdes")->geometry(), QRect(0, 540, 680, 193));
+            EXPECT_EQ(find<QMdiSubWindow>("Perffrm")->geometry(), QRect(363, 0, 235, 539));
+            EXPECT_EQ(find<QMdiSubWindow>("select_graphs")->geometry(), QRect(681, 540, 293, 157));
+            for (const char* form : {"portdes", "Perffrm", "select_graphs", "perf_res"}) {
+                const auto* scrolled = find<QMdiSubWindow>(form)->findChild<QScrollArea*>();
+                EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible()) << design << language << form;
+                EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible()) << design << language << form;
+            }
+        }
     }
 }
 

@@ -1,0 +1,67 @@
+// select_graphs: ticking the results to draw.
+#include "ui/desktop_fixture.hpp"
+
+#include <QCheckBox>
+
+namespace kvt {
+
+namespace {
+
+class select_graphs_test : public desktop_test {};
+
+constexpr const char* CHECKS[] = {"flow_checkbox", "power_checkbox", "stress_checkbox",   "ripple_checkbox",
+                                  "ve_checkbox",   "effic_checkbox", "ovr_effic_checkbox"};
+
+}  // namespace
+
+TEST_F(select_graphs_test, a_tick_is_an_entry_of_the_program) {
+    start();
+    for (const char* check : CHECKS) {
+        EXPECT_EQ(kavetta().entries.*find_entry(check)->member, "0") << check;
+        press(check);
+        EXPECT_EQ(kavetta().entries.*find_entry(check)->member, "1") << check;
+    }
+}
+
+TEST_F(select_graphs_test, a_new_project_unticks_all) {
+    start(own_design_file("n04_fuel"));
+    press("flow_checkbox");
+    press("ovr_effic_checkbox");
+    robot.names.emplace_back("next");
+    robot.answers.emplace_back("No");
+    choose("mnufilenew");
+    for (const char* check : CHECKS) {
+        EXPECT_FALSE(find<QCheckBox>(check)->isChecked()) << check;
+    }
+}
+
+TEST_F(select_graphs_test, charts_and_export_are_not_built_yet) {
+    start(own_design_file("n07_engine_oil_groove"));
+    press("Calc");
+    press("design_ports");
+    press("calc_perf");
+    EXPECT_TRUE(kavetta().enabling.create_charts);
+    EXPECT_FALSE(find<QPushButton>("create_charts")->isEnabled());
+    EXPECT_FALSE(find<QPushButton>("export_excel")->isEnabled());
+}
+
+TEST_F(select_graphs_test, captions_follow_the_language) {
+    start();
+    press("Image2");
+    EXPECT_EQ(find<QWidget>("select_graphs")->windowTitle(), "Diagramme");
+    EXPECT_EQ(utf8_text(find<QCheckBox>("ripple_checkbox")->text()), "Druck Kleine Welle");
+    EXPECT_EQ(utf8_text(find<QPushButton>("export_excel")->text()), "Exportieren Excel");
+}
+
+TEST_F(select_graphs_test, tab_goes_down_the_results_and_then_the_efficiencies) {
+    start();
+    find<QCheckBox>(CHECKS[0])->setFocus();
+    settle();
+    for (const char* check : CHECKS) {
+        EXPECT_TRUE(find<QCheckBox>(check)->hasFocus()) << check;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        settle();
+    }
+}
+
+}  // namespace kvt
