@@ -1,6 +1,7 @@
 #include "app/start_up.hpp"
 
 #include "app/autosave.hpp"
+#include "app/design_assist.hpp"
 #include "app/project_commands.hpp"
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
@@ -75,6 +76,7 @@ void load_settings(program& kavetta) {
     state.capacity_unit = 1;
     kavetta.labels.unittype = CAPACITY_UNIT_TEXTS[0];
     state.project_has_file = false;
+    hide_assist(kavetta);
 }
 
 void start_project(program& kavetta, user& person, std::string_view path) {

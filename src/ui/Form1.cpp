@@ -5,6 +5,7 @@
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
 #include "core/text_table.hpp"
+#include "ui/assist_area.hpp"
 #include "ui/form_parts.hpp"
 #include "ui/language_flag.hpp"
 #include "ui/qt_text.hpp"
@@ -52,8 +53,8 @@ const std::vector<std::vector<entry_row>>& entry_groups() {
 }
 
 /// Room between the controls, pixels: close enough that the form fits its place in the default layout.
-constexpr int ROW_SPACING = 2;
-constexpr int GROUP_SPACING = 5;
+constexpr int ROW_SPACING = 1;
+constexpr int GROUP_SPACING = 4;
 constexpr int MARGIN = 6;
 constexpr int ENTRY_WIDTH = 92;
 
@@ -65,7 +66,6 @@ Form1::Form1(form_context context) : mdi_form("Form1", context) {
     layout->setContentsMargins(MARGIN, GROUP_SPACING, MARGIN, GROUP_SPACING);
     layout->setSpacing(GROUP_SPACING);
     add_header(*layout);
-    layout->addWidget(hairline());
     add_requirement(*layout);
     add_entries(*layout);
     add_buttons(*layout);
@@ -113,7 +113,8 @@ void Form1::add_requirement(QVBoxLayout& layout) {
     row->addWidget(label, 1);
     row->addWidget(required);
     row->addWidget(unittype_);
-    layout.addLayout(row);
+    assist_ = new assist_area(context_, row);
+    layout.addWidget(assist_);
 }
 
 void Form1::add_entries(QVBoxLayout& layout) {
@@ -152,24 +153,15 @@ QPushButton* Form1::button(const char* name) {
 }
 
 void Form1::add_buttons(QVBoxLayout& layout) {
-    auto* background = new QFrame;
-    background->setObjectName("Des_assist_bkgnd");
-    auto* row = new QHBoxLayout(background);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
     row->setSpacing(4);
     calc_ = button("Calc");
     calc_->setDefault(true);
     accent(*calc_);
-    QPushButton* designer = button("designer");
-    designer->setVisible(false);
-    QPushButton* assist = button("Des_assist_check");
-    assist->setCheckable(true);
     cleardesign_ = button("cleardesign");
     row->addWidget(calc_, 1);
-    row->addWidget(designer, 1);
-    row->addWidget(assist);
     row->addWidget(cleardesign_);
-    layout.addWidget(background);
+    layout.addLayout(row);
 }
 
 void Form1::add_results(QVBoxLayout& layout) {
@@ -178,7 +170,7 @@ void Form1::add_results(QVBoxLayout& layout) {
     card->setBackgroundRole(QPalette::Base);
     card->setAutoFillBackground(true);
     auto* grid = new QGridLayout(card);
-    grid->setContentsMargins(MARGIN, 4, MARGIN, 4);
+    grid->setContentsMargins(MARGIN, 3, MARGIN, 3);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(ROW_SPACING);
     grid->setColumnStretch(0, 1);
@@ -220,10 +212,20 @@ void Form1::connect_commands() {
 
 void Form1::refresh() {
     mdi_form::refresh();
+    show_assist();
     show_units();
     unittype_->setToolTip(tooltip_of(context_.kavetta, "Form1", "unittype"));
     image1_->setChecked(context_.kavetta.app_state.language == ENGLISH);
     image2_->setChecked(context_.kavetta.app_state.language == GERMAN);
+}
+
+/// The button that runs at Enter is the one that can be pressed.
+void Form1::show_assist() {
+    assist_->refresh();
+    const bool is_on = context_.kavetta.app_state.assist_on;
+    calc_->setEnabled(!is_on);
+    calc_->setDefault(!is_on);
+    set_main_button(is_on ? assist_->designer() : calc_);
 }
 
 void Form1::show_units() {
@@ -242,6 +244,7 @@ void Form1::changeEvent(QEvent* event) {
     mdi_form::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && calc_ != nullptr) {
         accent(*calc_);
+        assist_->refresh();
     }
 }
 

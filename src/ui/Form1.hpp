@@ -13,6 +13,7 @@ class QVBoxLayout;
 
 namespace kvt {
 
+class assist_area;
 class language_flag;
 
 class Form1 : public mdi_form {
@@ -40,11 +41,13 @@ class Form1 : public mdi_form {
     void add_results(QVBoxLayout& layout);
     QPushButton* button(const char* name);
     void connect_commands();
+    void show_assist();
     void show_units();
 
     QRadioButton* dimens1_ = nullptr;
     QRadioButton* dimens2_ = nullptr;
     QComboBox* unittype_ = nullptr;
+    assist_area* assist_ = nullptr;
     language_flag* image1_ = nullptr;
     language_flag* image2_ = nullptr;
     QPushButton* calc_ = nullptr;

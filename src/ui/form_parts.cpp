@@ -44,8 +44,10 @@ QLabel* result_label(const char* name) {
 
 void accent(QPushButton& button) {
     QPalette palette = QApplication::palette();
-    palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
-    palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight));
+        palette.setColor(group, QPalette::ButtonText, palette.color(group, QPalette::HighlightedText));
+    }
     button.setPalette(palette);
 }
 
@@ -112,7 +114,7 @@ QFrame* hairline() {
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Plain);
     line->setForegroundRole(QPalette::Mid);
-    line->setFixedHeight(5);
+    line->setFixedHeight(3);
     return line;
 }
 

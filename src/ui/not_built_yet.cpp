@@ -43,8 +43,6 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
     {"MDIForm1", "mnuupdatesauto"},
     {"MDIForm1", "mnuupdateschecknow"},
     {"MDIForm1", "mnuhelpcontents"},
-    {"Form1", "designer"},
-    {"Form1", "Des_assist_check"},
     {"Perffrm", "GT_combo"},
     {"Perffrm", "GT_fluid"},
     {"Perffrm", "GT_Sim_Button"},

@@ -178,9 +178,10 @@ TEST_F(Form1_test, tab_reaches_every_entry_in_reading_order) {
         settle();
     }
     const std::vector<std::string> expected = {
-        "volumereqd",   "unittype",   "numlobes",      "ecc",         "radinnroot",  "radouter", "outer_root",
-        "fillet",       "thick",      "shaftdiameter", "minmaterial", "maxdiameter", "clearn",   "axial_clear",
-        "radial_clear", "coarseness", "Calc",          "cleardesign", "dimens1",     "Image1",   "Image2"};
+        "volumereqd",  "unittype",   "Des_assist_check", "numlobes",     "ecc",           "radinnroot",
+        "radouter",    "outer_root", "fillet",           "thick",        "shaftdiameter", "minmaterial",
+        "maxdiameter", "clearn",     "axial_clear",      "radial_clear", "coarseness",    "Calc",
+        "cleardesign", "dimens1",    "Image1",           "Image2"};
     EXPECT_EQ(reached, expected);
 }
 
