@@ -12,6 +12,9 @@ namespace kvt {
 command_runner::command_runner(program& kavetta, user& person) : program_(kavetta), person_(person) {}
 
 void command_runner::run(const command& action) {
+    if (!running_ && !ended_) {
+        emit starting();
+    }
     run_left_entry();
     run_with(entry_in_use_, action);
 }
@@ -57,6 +60,23 @@ void command_runner::run_with(const std::string& entry, const command& action) {
     if (ended_) {
         emit ended();
     }
+}
+
+bool command_runner::step(const std::function<void(program&)>& action) {
+    if (running_ || ended_) {
+        return false;
+    }
+    running_ = true;
+    ended_ = run_command(program_, person_, [&] {
+        action(program_);
+        return false;
+    });
+    running_ = false;
+    if (ended_) {
+        emit finished();
+        emit ended();
+    }
+    return !ended_;
 }
 
 }  // namespace kvt

@@ -25,6 +25,14 @@ class command_runner : public QObject {
     /// The same for a command after which the program goes on.
     void act(const std::function<void(program&, user&)>& action);
 
+    /// Runs a step of the Design view, e.g. a tick of a held button, under the same rule. No entry is left for it and
+    /// no form shown anew: the view takes it over itself. True when it ran and the program goes on; a fatal failure
+    /// ends the program like that of a command.
+    bool step(const std::function<void(program&)>& action);
+
+    /// An entry was edited: who follows the typing shows its state anew.
+    void note_edit() { emit edited(); }
+
     bool is_running() const { return running_; }
     bool has_ended() const { return ended_; }
 
@@ -34,6 +42,9 @@ class command_runner : public QObject {
     void leave(const std::string& name);
 
   signals:
+    /// A command begins: what goes on by itself stops. Not for a step, nor for the handler of an entry that was left.
+    void starting();
+    void edited();
     /// Forms show the program's state anew.
     void finished();
     /// The program ends; nothing is asked any more.

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPen>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -18,8 +19,15 @@ namespace {
 constexpr double LONGEST_JOINED = 4.0;
 constexpr double INVISIBLE = 0.02;
 
-/// Line width of the outer rotor's arcs and of the outside circle, pixels.
+/// Line width of both rotors and of the outside circle, pixels.
 constexpr double OUTLINE_WIDTH = 2.0;
+
+/// An arc is drawn with cubic curves; one of a quarter turn is off by 0.00027 of its radius, and a shorter one by the
+/// sixth power of its share of a quarter. After a zoom the radius can be thousands of pixels.
+constexpr double QUARTER_CURVE_ERROR = 0.00027;
+constexpr double LARGEST_CURVE_ERROR = 0.02;  ///< pixels
+constexpr double SMALLEST_CURVE = 0.01;       ///< of a quarter turn
+constexpr double QUARTER_TURN = std::numbers::pi / 2.0;
 
 struct line_style {
     line_array design_view::*member;
@@ -27,24 +35,18 @@ struct line_style {
     double width;  ///< pixels
 };
 
-/// The line arrays in stacking order, lowest first.
-constexpr std::array LINE_STYLES = {
+/// The line arrays of the ports in stacking order, lowest first.
+constexpr std::array PORT_STYLES = {
     line_style{&design_view::metering_groove_extraline, 0, 192, 0, 2.0},
     line_style{&design_view::anglelineout, 0, 0, 0, 1.0},
     line_style{&design_view::angleline, 0, 0, 0, 1.0},
     line_style{&design_view::metering_groove_portline, 255, 128, 0, 2.0},
     line_style{&design_view::outlet_portline, 255, 0, 0, 2.0},
     line_style{&design_view::inlet_portline, 0, 0, 255, 2.0},
-    line_style{&design_view::Line1, 0, 0, 0, 2.0},
 };
 
 double pixels(double twips) {
     return twips / TWIPS_PER_PIXEL;
-}
-
-/// Screen degrees only: nothing computed from them reaches a file.
-double degrees(double radians) {
-    return radians * 180.0 / std::numbers::pi;
 }
 
 QPointF start_of(const drawn_line& line) {
@@ -84,35 +86,101 @@ std::vector<QPolygonF> outlines_of(const line_array& array) {
     return outlines;
 }
 
+/// The largest turn of one cubic curve at a radius in pixels, radians.
+double largest_curve(double radius) {
+    const double share = std::pow(LARGEST_CURVE_ERROR / (QUARTER_CURVE_ERROR * radius), 1.0 / 6.0);
+    return QUARTER_TURN * std::clamp(share, SMALLEST_CURVE, 1.0);
+}
+
+/// The point of a circle at an angle in radians, y down.
+QPointF on_circle(QPointF centre, double radius, double angle) {
+    return {centre.x() + radius * std::cos(angle), centre.y() - radius * std::sin(angle)};
+}
+
+/// A cubic curve from the end of the path along a circle, counter-clockwise as seen on the screen; its handles are
+/// 4/3 tan(turn/4) of the radius long.
+void add_curve(QPainterPath& path, QPointF centre, double radius, double from, double to) {
+    const double handle = radius * 4.0 / 3.0 * std::tan((to - from) / 4.0);
+    const auto along = [handle](double angle) { return handle * QPointF(-std::sin(angle), -std::cos(angle)); };
+    const QPointF end = on_circle(centre, radius, to);
+    path.cubicTo(on_circle(centre, radius, from) + along(from), end - along(to), end);
+}
+
 /// Arcs run counter-clockwise as seen on the screen; an end before the start lies one turn further.
 void add_arc(QPainterPath& path, const drawn_arc& arc) {
     const double radius = pixels(arc.radius);
-    const QRectF box(pixels(arc.x) - radius, pixels(arc.y) - radius, 2.0 * radius, 2.0 * radius);
-    const double start = degrees(arc.start_angle);
-    double sweep = degrees(arc.end_angle) - start;
-    if (sweep < 0.0) {
-        sweep += 360.0;
+    if (!(radius > 0.0)) {
+        return;
     }
-    path.arcMoveTo(box, start);
-    path.arcTo(box, start, sweep);
+    const QPointF centre(pixels(arc.x), pixels(arc.y));
+    const double turn = arc.end_angle - arc.start_angle;
+    const double sweep = turn < 0.0 ? turn + 2.0 * std::numbers::pi : turn;
+    const int curves = std::max(1, static_cast<int>(std::ceil(sweep / largest_curve(radius))));
+    path.moveTo(on_circle(centre, radius, arc.start_angle));
+    for (int curve = 0; curve < curves; ++curve) {
+        add_curve(path, centre, radius, arc.start_angle + sweep * curve / curves,
+                  arc.start_angle + sweep * (curve + 1) / curves);
+    }
+}
+
+/// The outside circle as two half turns.
+QPainterPath circle_path(const drawn_circle& circle) {
+    QPainterPath path;
+    if (circle.visible) {
+        const drawn_arc upper{circle.x, circle.y, circle.diameter / 2.0, 0.0, std::numbers::pi};
+        const drawn_arc lower{circle.x, circle.y, circle.diameter / 2.0, std::numbers::pi, 2.0 * std::numbers::pi};
+        add_arc(path, upper);
+        add_arc(path, lower);
+    }
+    return path;
+}
+
+QPen outline_pen(const QColor& colour, double width) {
+    return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 }  // namespace
 
 design_painting::design_painting(const design_view& view) {
+    take_rotors(view);
+    take_ports(view);
+    take_band(view.Line3);
+}
+
+void design_painting::take_rotors(const design_view& view) {
+    arcs_ = QPainterPath();
     for (const drawn_arc& arc : view.Picture1) {
         add_arc(arcs_, arc);
     }
-    for (const line_style& style : LINE_STYLES) {
+    inner_rotor_ = outlines_of(view.Line1);
+    circle_ = circle_path(view.Shape1);
+}
+
+void design_painting::take_ports(const design_view& view) {
+    ports_.clear();
+    for (const line_style& style : PORT_STYLES) {
         std::vector<QPolygonF> outlines = outlines_of(view.*style.member);
         if (!outlines.empty()) {
-            layers_.push_back({QColor(style.red, style.green, style.blue), style.width, std::move(outlines)});
+            ports_.push_back({QColor(style.red, style.green, style.blue), style.width, std::move(outlines)});
         }
     }
-    if (view.Shape1.visible) {
-        const double radius = pixels(view.Shape1.diameter) / 2.0;
-        circle_.addEllipse(QPointF(pixels(view.Shape1.x), pixels(view.Shape1.y)), radius, radius);
+}
+
+bool design_painting::take_band(const rubber_band& band) {
+    if (!band.visible && band_.isEmpty()) {
+        return false;
     }
+    band_.clear();
+    if (band.visible) {
+        for (const drawn_line& line : band.lines) {
+            band_.append(QLineF(start_of(line), end_of(line)));
+        }
+    }
+    return true;
+}
+
+bool design_painting::is_empty() const {
+    return arcs_.isEmpty() && ports_.empty() && band_.isEmpty() && inner_rotor_.empty() && circle_.isEmpty();
 }
 
 void design_painting::paint(QPainter& painter) const {
@@ -120,11 +188,19 @@ void design_painting::paint(QPainter& painter) const {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::black, OUTLINE_WIDTH));
     painter.drawPath(arcs_);
-    for (const layer& drawn : layers_) {
-        painter.setPen(QPen(drawn.colour, drawn.width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const layer& drawn : ports_) {
+        painter.setPen(outline_pen(drawn.colour, drawn.width));
         for (const QPolygonF& outline : drawn.outlines) {
             painter.drawPolyline(outline);
         }
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(Qt::black, 1.0, Qt::DotLine));
+    painter.drawLines(band_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(outline_pen(Qt::black, OUTLINE_WIDTH));
+    for (const QPolygonF& outline : inner_rotor_) {
+        painter.drawPolyline(outline);
     }
     painter.setPen(QPen(Qt::black, OUTLINE_WIDTH));
     painter.drawPath(circle_);

@@ -4,8 +4,10 @@
 #include "views/design_view.hpp"
 
 #include <QColor>
+#include <QLineF>
 #include <QPainterPath>
 #include <QPolygonF>
+#include <QVector>
 
 #include <vector>
 
@@ -20,8 +22,13 @@ class design_painting {
     /// Takes the data over; 15 twips are one logical pixel.
     explicit design_painting(const design_view& view);
 
+    /// Takes the rotors over again, which a turn moves; ports and rubber band stay.
+    void take_rotors(const design_view& view);
+    /// Takes the rubber band over again. False when there was none to see and there is none now.
+    bool take_band(const rubber_band& band);
+
     void paint(QPainter& painter) const;
-    bool is_empty() const { return layers_.empty() && arcs_.isEmpty() && circle_.isEmpty(); }
+    bool is_empty() const;
 
   private:
     struct layer {
@@ -30,9 +37,14 @@ class design_painting {
         std::vector<QPolygonF> outlines;
     };
 
-    QPainterPath arcs_;          ///< outer rotor, lowest
-    std::vector<layer> layers_;  ///< line arrays in stacking order
-    QPainterPath circle_;        ///< outside diameter, topmost
+    void take_ports(const design_view& view);
+
+    // In stacking order, lowest first.
+    QPainterPath arcs_;         ///< outer rotor
+    std::vector<layer> ports_;  ///< ports, their angles, groove
+    QVector<QLineF> band_;      ///< rubber band, dotted
+    std::vector<QPolygonF> inner_rotor_;
+    QPainterPath circle_;  ///< outside diameter
 };
 
 }  // namespace kvt

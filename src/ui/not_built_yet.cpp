@@ -48,9 +48,6 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
     {"Perffrm", "GT_Sim_Button"},
     {"select_graphs", "create_charts"},
     {"select_graphs", "export_excel"},
-    {"viewwinfrm", "rotate_rotors_cw"},
-    {"viewwinfrm", "rotate_rotors_ccw"},
-    {"viewwinfrm", "rotated_angle"},
 });
 
 }  // namespace

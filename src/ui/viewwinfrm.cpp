@@ -1,14 +1,17 @@
 #include "ui/viewwinfrm.hpp"
 
-#include "app/calculate_profiles.hpp"
+#include "app/cursor_text.hpp"
+#include "app/view_commands.hpp"
 #include "ui/design_picture.hpp"
 #include "ui/drawn_icons.hpp"
+#include "ui/hold_button.hpp"
+#include "ui/qt_text.hpp"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QToolButton>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -16,19 +19,12 @@ namespace kvt {
 
 namespace {
 
-/// What the form is higher and wider than its square picture, twips.
-constexpr int HEIGHT_BEYOND_PICTURE = 1185;
-constexpr int WIDTH_BEYOND_PICTURE = 390;
-/// view_size is a 16-bit integer.
-constexpr int LARGEST_VIEW_SIZE = 32767;
+/// The time between two turns of one degree while a button is held, milliseconds.
+constexpr int TURN_INTERVAL = 10;
+constexpr int ANGLE_WIDTH = 56;
 
-QToolButton* rotate_button(const char* name, const QIcon& icon) {
-    auto* button = new QToolButton;
-    button->setObjectName(name);
-    button->setIcon(icon);
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setAutoRaise(false);
-    return button;
+int pixels(double twips) {
+    return qRound(twips / TWIPS_PER_PIXEL);
 }
 
 }  // namespace
@@ -40,6 +36,8 @@ viewwinfrm::viewwinfrm(form_context context) : mdi_form("viewwinfrm", context) {
     bottom_row_->setParent(content);
     content_ = content;
     bind(content, true);
+    connect_picture();
+    connect(&context_.runner, &command_runner::starting, this, &viewwinfrm::stop_turning);
 }
 
 QWidget* viewwinfrm::bottom_row() {
@@ -50,22 +48,54 @@ QWidget* viewwinfrm::bottom_row() {
     layout->setHorizontalSpacing(6);
     auto* label = new QLabel;
     label->setObjectName("rotate_label");
-    auto* angle = new QLineEdit;
-    angle->setObjectName("rotated_angle");
-    angle->setFixedWidth(56);
-    angle->setAlignment(Qt::AlignRight);
-    label->setBuddy(angle);
+    angle_ = new QLineEdit;
+    angle_->setObjectName("rotated_angle");
+    angle_->setFixedWidth(ANGLE_WIDTH);
+    angle_->setAlignment(Qt::AlignRight);
+    label->setBuddy(angle_);
     auto* zoom = new QPushButton;
     zoom->setObjectName("zoom_all_command");
     zoom->setFocusPolicy(Qt::TabFocus);
-    connect(zoom, &QPushButton::clicked, this, &viewwinfrm::zoom_all);
+    connect(zoom, &QPushButton::clicked, this, [this] { context_.runner.act(zoom_all); });
+    connect(angle_, &QLineEdit::returnPressed, this,
+            [this] { context_.runner.act([](program& kavetta, user&) { take_typed_angle(kavetta); }); });
     layout->addWidget(label, 0, 0, 1, 4);
-    layout->addWidget(rotate_button("rotate_rotors_cw", clockwise_icon(palette())), 1, 0);
-    layout->addWidget(rotate_button("rotate_rotors_ccw", counter_clockwise_icon(palette())), 1, 1);
-    layout->addWidget(angle, 1, 2);
+    layout->addWidget(rotate_button("rotate_rotors_cw", clockwise_icon(palette()), turning::clockwise), 1, 0);
+    layout->addWidget(rotate_button("rotate_rotors_ccw", counter_clockwise_icon(palette()), turning::counter_clockwise),
+                      1, 1);
+    layout->addWidget(angle_, 1, 2);
     layout->setColumnStretch(3, 1);
     layout->addWidget(zoom, 1, 4);
     return row;
+}
+
+/// A button and its timer, Timer_ and the button's name without the "rotors".
+hold_button* viewwinfrm::rotate_button(const char* name, const QIcon& icon, turning direction) {
+    auto* button = new hold_button;
+    button->setObjectName(name);
+    button->setIcon(icon);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoRaise(false);
+    auto* timer = new QTimer(this);
+    timer->setObjectName(direction == turning::clockwise ? "Timer_rotate_cw" : "Timer_rotate_ccw");
+    timer->setInterval(TURN_INTERVAL);
+    timer->setTimerType(Qt::PreciseTimer);
+    timers_.append(timer);
+    connect(button, &hold_button::held, timer, qOverload<>(&QTimer::start));
+    connect(button, &hold_button::let_go, timer, &QTimer::stop);
+    connect(timer, &QTimer::timeout, this, [this, direction] { turn(direction); });
+    return button;
+}
+
+void viewwinfrm::connect_picture() {
+    connect(picture_, &design_picture::pressed, this, [this](double x, double y) {
+        context_.runner.act([x, y](program& kavetta, user&) { rubber_band_down(kavetta, x, y); });
+    });
+    connect(picture_, &design_picture::moved, this, &viewwinfrm::move_band);
+    connect(picture_, &design_picture::released, this, [this](double x, double y) {
+        context_.runner.act([x, y](program& kavetta, user& person) { rubber_band_up(kavetta, person, x, y); });
+    });
+    connect(picture_, &design_picture::left, this, [this] { emit cursor_moved(QString()); });
 }
 
 void viewwinfrm::refresh() {
@@ -73,11 +103,29 @@ void viewwinfrm::refresh() {
     picture_->show_view(context_.kavetta.design_view);
 }
 
-void viewwinfrm::zoom_all() {
-    context_.runner.act([](program& kavetta, user& person) {
-        kavetta.app_state.zoom_all_requested = -1;
-        calculate_profiles(kavetta, person);
-    });
+void viewwinfrm::move_band(double x, double y) {
+    if (context_.runner.step([x, y](program& kavetta) { rubber_band_move(kavetta, x, y); })) {
+        picture_->show_band(context_.kavetta.design_view.Line3);
+        emit cursor_moved(qt_text(cursor_text(context_.kavetta, x, y)));
+    }
+}
+
+void viewwinfrm::turn(turning direction) {
+    if (context_.runner.step([direction](program& kavetta) { rotation_tick(kavetta, direction); })) {
+        angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
+        picture_->show_rotors(context_.kavetta.design_view);
+    }
+}
+
+void viewwinfrm::stop_turning() {
+    for (QTimer* timer : timers_) {
+        timer->stop();
+    }
+}
+
+void viewwinfrm::hideEvent(QHideEvent* event) {
+    stop_turning();
+    mdi_form::hideEvent(event);
 }
 
 void viewwinfrm::resizeEvent(QResizeEvent* event) {
@@ -87,19 +135,15 @@ void viewwinfrm::resizeEvent(QResizeEvent* event) {
     }
 }
 
-/// The side of the picture follows the form's height, and the form's width follows the picture. Maximised, the form
-/// keeps its size. The drawing stays as it is until the next Calculate Profiles.
 void viewwinfrm::size_picture() {
-    const int side_twips = height() * TWIPS_PER_PIXEL - HEIGHT_BEYOND_PICTURE;
-    if (side_twips < 0) {
+    const std::optional<view_layout> layout = resize_design_view(context_.kavetta, height() * TWIPS_PER_PIXEL);
+    if (!layout) {
         return;
     }
-    context_.kavetta.app_state.view_size = static_cast<std::int16_t>(std::min(side_twips, LARGEST_VIEW_SIZE));
-    const int side = side_twips / TWIPS_PER_PIXEL;
     if (!isMaximized()) {
-        resize(side + WIDTH_BEYOND_PICTURE / TWIPS_PER_PIXEL, height());
+        resize(pixels(layout->form_width), pixels(layout->form_height));
     }
-    place_controls(side);
+    place_controls(pixels(layout->picture_side));
 }
 
 /// The picture in the middle, the row below it. With a large font, or in a small form, the content scrolls.

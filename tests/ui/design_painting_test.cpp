@@ -107,4 +107,65 @@ TEST(design_painting, keeps_corners_and_gaps) {
     EXPECT_EQ(ink(image, 50, 50), 0);
 }
 
+TEST(design_painting, the_rubber_band_is_dotted_and_lies_above_the_ports_and_below_the_inner_rotor) {
+    design_view view;
+    view.Line3.visible = true;
+    view.Line3.lines[0] = {150, 750, 1350, 750};
+    const QImage alone = painted(view);
+    int dark = 0;
+    for (int x = 10; x < 90; ++x) {
+        dark += ink(alone, x, 50) == 255 ? 1 : 0;
+    }
+    EXPECT_GT(dark, 20);
+    EXPECT_LT(dark, 60);
+    add_line(view.inlet_portline, {150, 750, 1350, 750});
+    const QImage over_port = painted(view);
+    int black = 0;
+    for (int x = 10; x < 90; ++x) {
+        black += over_port.pixel(x, 50) == qRgb(0, 0, 0) ? 1 : 0;
+    }
+    EXPECT_EQ(black, dark);
+    add_line(view.Line1, {150, 750, 1350, 750});
+    EXPECT_EQ(painted(view).pixel(11, 50), qRgb(0, 0, 0));
+    EXPECT_EQ(painted(view).pixel(12, 50), qRgb(0, 0, 0));
+}
+
+TEST(design_painting, a_turn_takes_the_rotors_over_and_keeps_ports_and_band) {
+    design_view view;
+    add_line(view.inlet_portline, {150, 750, 1350, 750});
+    design_painting painting(view);
+    design_view turned;
+    add_line(turned.Line1, {150, 300, 1350, 300});
+    painting.take_rotors(turned);
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painting.paint(painter);
+    EXPECT_EQ(image.pixel(50, 50), qRgb(0, 0, 255));
+    EXPECT_EQ(image.pixel(50, 20), qRgb(0, 0, 0));
+}
+
+TEST(design_painting, a_band_that_nobody_sees_is_no_change) {
+    design_painting painting;
+    rubber_band band;
+    EXPECT_FALSE(painting.take_band(band));
+    band.visible = true;
+    EXPECT_TRUE(painting.take_band(band));
+    band.visible = false;
+    EXPECT_TRUE(painting.take_band(band));
+    EXPECT_TRUE(painting.is_empty());
+}
+
+TEST(design_painting, a_zoomed_arc_keeps_its_place_to_the_pixel) {
+    // A radius of 40,000 pixels: the arc from the right to the top passes through (r cos a, r sin a) for every a; one
+    // curve for a quarter turn would be off by 11 pixels at 21 degrees.
+    for (const double a : {0.2, 0.37, 0.7, 1.2}) {
+        const double radius = 600000.0;
+        design_view view;
+        view.Picture1.push_back(
+            {750.0 - radius * std::cos(a), 750.0 + radius * std::sin(a), radius, 0.0, std::numbers::pi / 2});
+        EXPECT_GT(ink(painted(view), 49, 49) + ink(painted(view), 50, 50), 200) << a;
+    }
+}
+
 }  // namespace kvt

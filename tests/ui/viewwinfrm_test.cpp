@@ -1,7 +1,9 @@
-// viewwinfrm: the resize rule, the picture, Zoom All.
+// viewwinfrm: the resize rule, the picture, zoom, Zoom All, rotation.
 #include "ui/desktop_fixture.hpp"
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTimer>
 
 namespace kvt {
 
@@ -11,6 +13,29 @@ class viewwinfrm_test : public desktop_test {
   protected:
     QMdiSubWindow* form() { return find<QMdiSubWindow>("viewwinfrm"); }
     QSize picture() { return find<QWidget>("Picture1")->size(); }
+    QWidget* sheet() { return find<QWidget>("Picture1"); }
+    QTimer* timer(const char* name) { return find<QTimer>(name); }
+    double angle() { return kavetta().app_state.rotation_angle; }
+
+    void calculate() {
+        start(design_file("n07_engine_oil_groove"));
+        press("Calc");
+    }
+    /// A drag in the picture, pixels.
+    void drag(QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseMove(sheet(), from);
+        QTest::mousePress(sheet(), button, {}, from);
+        QTest::mouseMove(sheet(), to);
+        QTest::mouseRelease(sheet(), button, {}, to);
+        settle();
+    }
+    void hold(const char* name) { QTest::mousePress(find<QWidget>(name), Qt::LeftButton); }
+    void let_go(const char* name) { QTest::mouseRelease(find<QWidget>(name), Qt::LeftButton); }
+    void type_angle(const std::string& text) {
+        type("rotated_angle", text);
+        QTest::keyClick(box("rotated_angle"), Qt::Key_Return);
+        settle();
+    }
 };
 
 int dark_pixels(const QImage& image, const QRect& area) {
@@ -97,6 +122,196 @@ TEST_F(viewwinfrm_test, closing_hides_it_and_keeps_its_drawing) {
     EXPECT_FALSE(form()->isVisible());
     EXPECT_FALSE(kavetta().design_view.Picture1.empty());
     EXPECT_FALSE(desk().runner().has_ended());
+}
+
+TEST_F(viewwinfrm_test, a_drag_zooms_so_that_its_larger_side_fills_the_picture) {
+    calculate();
+    const double scale = kavetta().app_state.view_scale;
+    drag({300, 150}, {350, 250});
+    EXPECT_EQ(kavetta().app_state.view_zoom, 4.0);  // 400 pixels / 100
+    EXPECT_EQ(kavetta().app_state.view_scale, 4.0 * scale);
+    EXPECT_EQ(kavetta().app_state.view_cx, (3000.0 - 4500.0) * 4.0);
+    EXPECT_TRUE(kavetta().design_view.Shape1.visible);
+    EXPECT_FALSE(kavetta().design_view.Line3.visible);
+}
+
+TEST_F(viewwinfrm_test, a_drag_to_the_upper_left_with_another_button_zooms_to_the_same_band) {
+    calculate();
+    drag({300, 150}, {350, 250});
+    const double cx = kavetta().app_state.view_cx;
+    press("zoom_all_command");
+    drag({350, 250}, {300, 150}, Qt::RightButton);
+    EXPECT_EQ(kavetta().app_state.view_zoom, 4.0);
+    EXPECT_EQ(kavetta().app_state.view_cx, cx);
+}
+
+TEST_F(viewwinfrm_test, shows_a_dotted_band_while_the_mouse_is_held) {
+    calculate();
+    QTest::mouseMove(sheet(), {190, 190});
+    QTest::mousePress(sheet(), Qt::LeftButton, {}, {190, 190});
+    QTest::mouseMove(sheet(), {215, 205});
+    const QImage held = sheet()->grab().toImage();
+    // The middle of the inner rotor is white paper otherwise.
+    const int upper = dark_pixels(held, QRect(190, 190, 26, 1));
+    EXPECT_GT(upper, 5);
+    EXPECT_LT(upper, 26);
+    EXPECT_GT(dark_pixels(held, QRect(215, 190, 1, 16)), 3);
+    QTest::mouseRelease(sheet(), Qt::LeftButton, {}, {190, 205});
+    settle();
+    EXPECT_EQ(dark_pixels(sheet()->grab().toImage(), QRect(185, 185, 40, 40)), 0);
+}
+
+TEST_F(viewwinfrm_test, a_click_without_a_drag_changes_nothing) {
+    calculate();
+    const double scale = kavetta().app_state.view_scale;
+    drag({200, 100}, {200, 100});
+    drag({200, 100}, {260, 100});
+    EXPECT_EQ(kavetta().app_state.view_scale, scale);
+}
+
+TEST_F(viewwinfrm_test, a_drag_may_end_outside_the_picture) {
+    calculate();
+    const double scale = kavetta().app_state.view_scale;
+    drag({100, 100}, {600, -400});
+    EXPECT_EQ(kavetta().app_state.view_scale, scale * 0.8);  // 400 / 500
+    drag({100, 100}, {90000, 90000});
+    EXPECT_FALSE(desk().runner().has_ended());
+}
+
+TEST_F(viewwinfrm_test, before_anything_is_drawn_neither_mouse_nor_angle_do_anything) {
+    start();
+    drag({100, 100}, {200, 200});
+    type_angle("30");
+    EXPECT_EQ(kavetta().app_state.view_zoom, 0.0);
+    EXPECT_EQ(angle(), 0.0);
+    EXPECT_FALSE(find<QWidget>("rotate_rotors_cw")->isEnabled());
+    EXPECT_FALSE(find<QWidget>("rotate_rotors_ccw")->isEnabled());
+}
+
+TEST_F(viewwinfrm_test, zoom_all_brings_the_whole_pair_back_and_turns_it_to_zero) {
+    calculate();
+    const double scale = kavetta().app_state.view_scale;
+    drag({300, 150}, {350, 250});
+    type_angle("30");
+    press("zoom_all_command");
+    EXPECT_EQ(kavetta().app_state.view_scale, scale);
+    EXPECT_EQ(angle(), 0.0);
+    EXPECT_EQ(shown("rotated_angle"), "0");
+}
+
+TEST_F(viewwinfrm_test, a_held_button_turns_by_one_degree_every_ten_milliseconds_until_it_is_let_go) {
+    calculate();
+    EXPECT_EQ(timer("Timer_rotate_cw")->interval(), 10);
+    EXPECT_EQ(timer("Timer_rotate_ccw")->interval(), 10);
+    const auto before = kavetta().design_view.Line1.elements;
+    hold("rotate_rotors_cw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return angle() >= 5.0; }));
+    let_go("rotate_rotors_cw");
+    const double reached = angle();
+    EXPECT_EQ(shown("rotated_angle"), std::to_string(static_cast<int>(reached)));
+    EXPECT_NE(kavetta().design_view.Line1.elements, before);
+    EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
+    EXPECT_EQ(kavetta().app_state.outer_rotation_angle, 6.0 * reached / 7.0);
+}
+
+TEST_F(viewwinfrm_test, the_other_button_goes_below_zero_to_359) {
+    calculate();
+    hold("rotate_rotors_ccw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return angle() != 0.0; }));
+    let_go("rotate_rotors_ccw");
+    EXPECT_GT(angle(), 300.0);
+}
+
+TEST_F(viewwinfrm_test, a_tick_is_seen_on_the_screen) {
+    calculate();
+    const QImage before = sheet()->grab().toImage();
+    hold("rotate_rotors_cw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return angle() >= 3.0; }));
+    let_go("rotate_rotors_cw");
+    EXPECT_NE(sheet()->grab().toImage(), before);
+}
+
+TEST_F(viewwinfrm_test, only_the_left_button_turns) {
+    calculate();
+    QTest::mousePress(find<QWidget>("rotate_rotors_cw"), Qt::RightButton);
+    EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
+    QTest::mouseRelease(find<QWidget>("rotate_rotors_cw"), Qt::RightButton);
+}
+
+TEST_F(viewwinfrm_test, let_go_elsewhere_it_turns_on_until_the_mouse_goes_up_on_the_button) {
+    calculate();
+    QWidget* button = find<QWidget>("rotate_rotors_cw");
+    QTest::mousePress(button, Qt::LeftButton);
+    QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-200, -50));
+    EXPECT_TRUE(timer("Timer_rotate_cw")->isActive());
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
+}
+
+TEST_F(viewwinfrm_test, a_command_stops_the_turning_first) {
+    calculate();
+    for (const char* command : {"zoom_all_command", "Image2", "Image1", "dimens2"}) {
+        hold("rotate_rotors_cw");
+        EXPECT_TRUE(timer("Timer_rotate_cw")->isActive());
+        press(command);
+        EXPECT_FALSE(timer("Timer_rotate_cw")->isActive()) << command;
+    }
+    hold("rotate_rotors_ccw");
+    QTest::mousePress(sheet(), Qt::LeftButton, {}, {10, 10});
+    EXPECT_FALSE(timer("Timer_rotate_ccw")->isActive());
+}
+
+TEST_F(viewwinfrm_test, turning_goes_on_when_the_button_is_pressed_right_after_typing_in_another_window) {
+    calculate();
+    type("ecc", "2,8");
+    hold("rotate_rotors_cw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return angle() >= 5.0; }));
+    let_go("rotate_rotors_cw");
+    EXPECT_EQ(find<QMdiArea>("")->activeSubWindow(), form());
+}
+
+TEST_F(viewwinfrm_test, closing_the_form_stops_the_turning) {
+    calculate();
+    hold("rotate_rotors_cw");
+    form()->close();
+    EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
+}
+
+TEST_F(viewwinfrm_test, takes_a_typed_angle) {
+    calculate();
+    type_angle("12.7");
+    EXPECT_EQ(shown("rotated_angle"), "12");
+    type_angle("800");
+    EXPECT_EQ(shown("rotated_angle"), "440");
+    type_angle("abc");
+    EXPECT_EQ(shown("rotated_angle"), "0");
+    type_angle("-10");
+    EXPECT_EQ(shown("rotated_angle"), "350");
+}
+
+TEST_F(viewwinfrm_test, a_failure_in_a_tick_ends_the_program_like_that_of_a_command) {
+    calculate();
+    kavetta().rotor_profiles.inner_plot_xy[0] = 0.0;
+    type("ecc", "2.75");
+    hold("rotate_rotors_cw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return desk().runner().has_ended(); }));
+    ASSERT_EQ(robot.messages.size(), 1U);
+    EXPECT_NE(robot.messages[0].find("Run-time error 11"), std::string::npos) << robot.messages[0];
+    EXPECT_NE(read_file(folder.path() / "recovery.KVT").find("2.75\r\n"), std::string::npos);
+}
+
+TEST_F(viewwinfrm_test, the_status_bar_tells_where_the_mouse_is_in_the_length_unit_in_force) {
+    calculate();
+    form()->move(364, 0);  // the screen of the tests is 800 pixels wide
+    QTest::mouseMove(sheet(), {100, 100});
+    QTest::mouseMove(sheet(), {200, 200});
+    const app_state& state = kavetta().app_state;
+    const double x_mm = (200 * 15 - state.view_cx - state.view_ecc) / state.view_scale;
+    EXPECT_NEAR(x_mm, -2.85, 1e-9);  // the picture's centre is the outer rotor's
+    EXPECT_EQ(label("cursor_position"), "-2.85, 0.00 mm");
+    press("dimens2");
+    QTest::mouseMove(sheet(), {201, 200});
+    EXPECT_TRUE(label("cursor_position").ends_with(" in")) << label("cursor_position");
 }
 
 }  // namespace kvt
