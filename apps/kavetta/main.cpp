@@ -54,10 +54,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     kvt::desktop desktop(*folder);
-    if (!desktop.start(project_argument())) {
-        return 0;
-    }
     // The end of the program raises no further close events.
     QObject::connect(&desktop.runner(), &kvt::command_runner::ended, [] { QApplication::exit(0); });
-    return QApplication::exec();
+    return desktop.show_splash(project_argument()) ? QApplication::exec() : 0;
 }

@@ -3,7 +3,6 @@
 #include "app/design_assist.hpp"
 #include "ui/qt_text.hpp"
 
-#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QPushButton>
@@ -37,11 +36,16 @@ QFrame* frame_line(const char* name) {
     return line;
 }
 
-/// A ground in the assist's colour with black ink, in a dark theme too.
-QPalette green_palette() {
-    QPalette palette = QApplication::palette();
+/// A ground in the assist's colour with black ink, in a dark theme too. What stands on it keeps its own colours.
+QPalette green_ground() {
+    QPalette palette;
     palette.setColor(QPalette::Window, ASSIST_GREEN);
     palette.setColor(QPalette::WindowText, Qt::black);
+    return palette;
+}
+
+QPalette green_button() {
+    QPalette palette;
     palette.setColor(QPalette::Button, ASSIST_GREEN);
     palette.setColor(QPalette::ButtonText, Qt::black);
     return palette;
@@ -103,12 +107,9 @@ void assist_area::refresh() {
     check_->setChecked(look.green);
     designer_->setEnabled(look.designer_enabled);
     designer_->setVisible(look.designer_visible);
-    const QPalette plain = QApplication::palette();
-    const QPalette green = green_palette();
-    ground_->setPalette(look.green ? green : plain);
-    check_->setPalette(look.green ? green : plain);
-    designer_->setPalette(plain);
-    QPalette line = plain;
+    ground_->setPalette(look.green ? green_ground() : QPalette());
+    check_->setPalette(look.green ? green_button() : QPalette());
+    QPalette line;
     line.setColor(QPalette::Window, look.green ? ASSIST_GREEN : QColor(Qt::black));
     for (QFrame* frame_line : frame_lines_) {
         frame_line->setPalette(line);

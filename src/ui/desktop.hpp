@@ -5,8 +5,12 @@
 #include "ui/command_runner.hpp"
 #include "ui/entry_focus.hpp"
 #include "ui/qt_user.hpp"
+#include "ui/splashform.hpp"
+
+#include <QTimer>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 namespace kvt {
@@ -16,20 +20,33 @@ class desktop {
     /// folder is the program's folder, already filled.
     explicit desktop(const std::filesystem::path& folder);
 
-    /// Reads the settings, asks new or open (or opens the project of path in its place), then shows the windows.
-    /// False when the program ended meanwhile.
+    /// Reads the settings and shows the splash picture; when its time is over the program starts. False when the
+    /// program ended meanwhile.
+    bool show_splash(const std::string& path = {});
+
+    /// Asks new or open (or opens the project of path in its place), reads the layout, then shows the windows; from
+    /// then on changed entries are saved every 30 s. Reads the settings first when that was not done. False when the
+    /// program ended meanwhile.
     bool start(const std::string& path = {});
 
     kvt::program& program() { return program_; }
     command_runner& runner() { return runner_; }
     MDIForm1& window() { return window_; }
+    /// The timer that saves changed entries.
+    QTimer& autosave_timer() { return autosave_timer_; }
 
   private:
+    bool load();
+    void save_unsaved();
+
     kvt::program program_;
     qt_user person_;
     command_runner runner_;
     entry_focus entry_focus_;
     MDIForm1 window_;
+    std::unique_ptr<splashform> splash_;
+    QTimer autosave_timer_;
+    bool is_loaded_ = false;
 };
 
 }  // namespace kvt

@@ -10,7 +10,8 @@ namespace kvt {
 QIcon clockwise_icon(const QPalette& palette);
 QIcon counter_clockwise_icon(const QPalette& palette);
 
-/// A small gerotor pair.
+/// A small gerotor pair, as a picture with a side in pixels.
+QPixmap program_picture(int side);
 QIcon program_icon();
 
 }  // namespace kvt

@@ -42,21 +42,28 @@ form_binding::form_binding(form_context context, std::string form, QWidget& root
 }
 
 void form_binding::bind_entries() {
+    command_runner& runner = context_.runner;
     for (const entry_field& field : entry_fields()) {
         if (field.form != form_) {
             continue;
         }
         std::string& entry = context_.kavetta.entries.*field.member;
         if (auto* box = root_.findChild<QLineEdit*>(qt_text(field.name))) {
-            QObject::connect(box, &QLineEdit::textEdited, box,
-                             [&entry](const QString& text) { entry = utf8_text(text); });
+            QObject::connect(box, &QLineEdit::textEdited, box, [&entry, &runner](const QString& text) {
+                entry = utf8_text(text);
+                runner.note_edit();
+            });
+            // A project file dropped on a box is one dropped on the window.
+            box->setAcceptDrops(false);
             validate_entry(*box, [context = context_] {
                 const std::int16_t language = context.kavetta.app_state.language;
                 context.person.show_status(message_text(message::character_refused, language));
             });
         } else if (auto* check = root_.findChild<QAbstractButton*>(qt_text(field.name))) {
-            QObject::connect(check, &QAbstractButton::clicked, check,
-                             [&entry](bool checked) { entry = checked ? "1" : "0"; });
+            QObject::connect(check, &QAbstractButton::clicked, check, [&entry, &runner](bool checked) {
+                entry = checked ? "1" : "0";
+                runner.note_edit();
+            });
         }
     }
 }

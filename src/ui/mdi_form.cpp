@@ -46,7 +46,26 @@ void mdi_form::refresh() {
 }
 
 void mdi_form::place(const window_rectangle& rectangle) {
+    if (isMaximized() || isMinimized() || isShaded()) {
+        setWindowState(Qt::WindowNoState);
+    }
     setGeometry(pixels(rectangle.left), pixels(rectangle.top), pixels(rectangle.width), pixels(rectangle.height));
+}
+
+void mdi_form::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    note_place();
+}
+
+void mdi_form::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    note_place();
+}
+
+void mdi_form::note_place() {
+    if (!isMaximized() && !isMinimized() && !isShaded()) {
+        normal_place_ = geometry();
+    }
 }
 
 void mdi_form::closeEvent(QCloseEvent* event) {

@@ -25,11 +25,15 @@ class mdi_form : public QMdiSubWindow {
 
     /// Places the window, frame included; twips, 15 to a logical pixel.
     void place(const window_rectangle& rectangle);
+    /// The place, frame included, that the window has or goes back to when it is neither maximised nor minimised.
+    QRect normal_place() const { return normal_place_; }
 
   protected:
     /// Closing hides the form: its entries live in the program.
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
     /// Takes the content. With scrolling, a window smaller than the content shows scroll bars.
     void bind(QWidget* content, bool scrolls);
@@ -39,7 +43,10 @@ class mdi_form : public QMdiSubWindow {
     form_context context_;
 
   private:
+    void note_place();
+
     std::string form_;
+    QRect normal_place_;
     std::optional<form_binding> binding_;
     QPushButton* main_button_ = nullptr;
 };

@@ -3,6 +3,7 @@
 #include "app/exit_program.hpp"
 #include "app/explanation_windows.hpp"
 #include "app/project_commands.hpp"
+#include "ui/help_file.hpp"
 
 #include <array>
 
@@ -71,10 +72,13 @@ const std::array MENU_ROWS = {
     menu_row{"mnuupdatesauto", "mnuupdates", ENTRY, false, NO_KEY, nullptr, true},
     menu_row{"mnuupdateschecknow", "mnuupdates"},
 
+    // Its entries are the titles of the child windows.
+    menu_row{"mnuwindow", "", MENU},
+
     menu_row{"mnuhelp", "", MENU},
     menu_row{"mnuhelpexplain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_gerotor_explanation>},
     menu_row{"mnuhelpport_explain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_porting_explanation>},
-    menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, QKeySequence::HelpContents},
+    menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, QKeySequence::HelpContents, going_on<open_help_file>},
     menu_row{"mnuhelpabout", "mnuhelp"},
 };
 

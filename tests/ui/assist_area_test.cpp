@@ -70,6 +70,7 @@ TEST_F(assist_area_test, turns_green_when_switched_on_and_takes_the_place_of_cal
     EXPECT_EQ(frame_colours(), std::set<QRgb>{GREEN.rgb()});
     EXPECT_EQ(ground(), GREEN);
     EXPECT_EQ(button("Des_assist_check")->palette().color(QPalette::Button), GREEN);
+    EXPECT_NE(button("designer")->palette().color(QPalette::Button), GREEN);
     EXPECT_TRUE(box("ecc")->isEnabled());
 }
 

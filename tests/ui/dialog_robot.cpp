@@ -95,6 +95,9 @@ void dialog_robot::answer_other(QDialog& dialog) {
         type_keys(dialog.findChild<QLineEdit*>("txtprojectname"), qt_text(name.value_or("")));
         press(dialog, name ? "cmdOK" : "cmdCancel");
     } else if (dialog.objectName() == "Form2" && !prompts.empty()) {
+        if (at_prompt) {
+            at_prompt();
+        }
         const std::string button = next(prompts);
         if (button.empty()) {
             QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -3,6 +3,7 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMouseEvent>
 #include <QTimer>
 
 namespace kvt {
@@ -28,6 +29,11 @@ class viewwinfrm_test : public desktop_test {
         QTest::mouseMove(sheet(), to);
         QTest::mouseRelease(sheet(), button, {}, to);
         settle();
+    }
+    /// The mouse moves over the picture with no button held.
+    void hover(QPointF place) {
+        QMouseEvent event(QEvent::MouseMove, place, sheet()->mapToGlobal(place), Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(sheet(), &event);
     }
     void hold(const char* name) { QTest::mousePress(find<QWidget>(name), Qt::LeftButton); }
     void let_go(const char* name) { QTest::mouseRelease(find<QWidget>(name), Qt::LeftButton); }
@@ -302,16 +308,17 @@ TEST_F(viewwinfrm_test, a_failure_in_a_tick_ends_the_program_like_that_of_a_comm
 
 TEST_F(viewwinfrm_test, the_status_bar_tells_where_the_mouse_is_in_the_length_unit_in_force) {
     calculate();
-    form()->move(364, 0);  // the screen of the tests is 800 pixels wide
-    QTest::mouseMove(sheet(), {100, 100});
-    QTest::mouseMove(sheet(), {200, 200});
+    hover({200, 200});
     const app_state& state = kavetta().app_state;
     const double x_mm = (200 * 15 - state.view_cx - state.view_ecc) / state.view_scale;
     EXPECT_NEAR(x_mm, -2.85, 1e-9);  // the picture's centre is the outer rotor's
     EXPECT_EQ(label("cursor_position"), "-2.85, 0.00 mm");
     press("dimens2");
-    QTest::mouseMove(sheet(), {201, 200});
+    hover({201, 200});
     EXPECT_TRUE(label("cursor_position").ends_with(" in")) << label("cursor_position");
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(sheet(), &leave);
+    EXPECT_EQ(label("cursor_position"), "");
 }
 
 }  // namespace kvt

@@ -1,0 +1,18 @@
+// present_layout: where the windows stand on the screen at this moment.
+#pragma once
+
+#include "core/screen_layout.hpp"
+
+class QMainWindow;
+
+namespace kvt {
+
+/// The rectangles of the main window, of its child windows and of the open charts, twips. A child window counts with
+/// the place it has when it is neither maximised nor minimised, shown or hidden; an explanation window and a chart have
+/// one while they are there, the main window while its state is normal.
+present_windows present_layout(const QMainWindow& window);
+
+/// Puts the main window where its rectangle says; its frame belongs to the place, not to the size.
+void place_main_window(QMainWindow& window, const window_rectangle& rectangle);
+
+}  // namespace kvt

@@ -1,0 +1,54 @@
+// status_hints: the hint of stale results follows the typing.
+#include "ui/desktop_fixture.hpp"
+
+namespace kvt {
+
+namespace {
+
+class status_hints_test : public desktop_test {
+  protected:
+    bool is_shown() { return find<QLabel>("stale_hint")->isVisible(); }
+};
+
+}  // namespace
+
+TEST_F(status_hints_test, nothing_is_stale_before_profiles_are_calculated) {
+    start();
+    type("ecc", "2.5");
+    EXPECT_FALSE(is_shown());
+}
+
+TEST_F(status_hints_test, comes_with_a_key_and_goes_with_the_next_run) {
+    start(design_file("n07_engine_oil_groove"));
+    press("Calc");
+    EXPECT_FALSE(is_shown());
+    QTest::keyClick(box("ecc"), '1');
+    EXPECT_TRUE(is_shown());
+    EXPECT_EQ(label("stale_hint"), "Entries have changed: Calculate Profiles again");
+    QTest::keyClick(box("ecc"), Qt::Key_Backspace);
+    EXPECT_EQ(is_shown(), shown("ecc") != "2.85");
+    type("ecc", "2.8");
+    EXPECT_TRUE(is_shown());
+    EXPECT_TRUE(find<QPushButton>("Calc")->isEnabled()) << "typing disables nothing";
+    press("Calc");
+    EXPECT_FALSE(is_shown());
+}
+
+TEST_F(status_hints_test, stays_beside_other_lines_of_the_status_bar_and_speaks_german) {
+    write_settings('2');
+    start(design_file("n07_engine_oil_groove"));
+    press("Calc");
+    type("ecc", "2.8");
+    desk().window().statusBar()->showMessage("another line");
+    EXPECT_TRUE(is_shown());
+    EXPECT_EQ(label("stale_hint"), "Eingaben wurden geändert: Profile neu berechnen");
+}
+
+TEST_F(status_hints_test, a_change_of_the_length_unit_makes_results_stale) {
+    start(design_file("n07_engine_oil_groove"));
+    press("Calc");
+    press("dimens2");
+    EXPECT_TRUE(is_shown());
+}
+
+}  // namespace kvt

@@ -1,0 +1,68 @@
+// window_menu: the titles of the child windows, and how a hidden one comes back.
+#include "ui/desktop_fixture.hpp"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace kvt {
+
+namespace {
+
+class window_menu_test : public desktop_test {
+  protected:
+    std::vector<std::string> titles() {
+        std::vector<std::string> found;
+        for (const QAction* entry : find<QMenu>("mnuwindow")->actions()) {
+            found.push_back(utf8_text(entry->text()));
+        }
+        return found;
+    }
+    QMdiSubWindow* form(const char* name) { return find<QMdiSubWindow>(name); }
+    QMdiSubWindow* active() { return find<QMdiArea>("")->activeSubWindow(); }
+};
+
+}  // namespace
+
+TEST_F(window_menu_test, has_the_titles_of_the_five_windows) {
+    start();
+    const std::vector<std::string> expected = {"Design", "Port Design", "Design View", "Performance", "Charts"};
+    EXPECT_EQ(titles(), expected);
+}
+
+TEST_F(window_menu_test, shows_the_titles_in_german) {
+    write_settings('2');
+    start();
+    EXPECT_EQ(utf8_text(find<QMenu>("mnuwindow")->title()), "Fenster");
+    EXPECT_EQ(titles()[0], utf8_text(form("Form1")->windowTitle()));
+    EXPECT_EQ(titles()[2], "Entwerfen Sie Blick");
+}
+
+TEST_F(window_menu_test, shows_a_closed_window_again_in_front_with_its_entries) {
+    start();
+    type("rotated_angle", "5");
+    form("viewwinfrm")->close();
+    EXPECT_FALSE(form("viewwinfrm")->isVisible());
+    choose("mnuwindow_viewwinfrm");
+    EXPECT_TRUE(form("viewwinfrm")->isVisible());
+    EXPECT_EQ(active(), form("viewwinfrm"));
+    EXPECT_EQ(shown("rotated_angle"), "5");
+}
+
+TEST_F(window_menu_test, brings_a_minimised_window_back) {
+    start();
+    form("portdes")->showMinimized();
+    choose("mnuwindow_portdes");
+    EXPECT_FALSE(form("portdes")->isMinimized());
+    EXPECT_EQ(active(), form("portdes"));
+}
+
+TEST_F(window_menu_test, is_the_last_menu_before_help) {
+    start();
+    const QList<QAction*> bar = window().menuBar()->actions();
+    EXPECT_EQ(bar[bar.size() - 2]->menu()->objectName(), "mnuwindow");
+    EXPECT_EQ(bar[bar.size() - 1]->menu()->objectName(), "mnuhelp");
+}
+
+}  // namespace kvt
