@@ -142,15 +142,20 @@ batch_end find_design(program& kavetta, batch_user& person, const design_source&
 }
 
 batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source, calc_stage last) {
-    batch_result result;
     if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
+        batch_result result;
         result.end = *early;
         return result;
     }
+    return calculate_open_design(kavetta, person, last);
+}
+
+batch_result calculate_open_design(program& kavetta, batch_user& person, calc_stage last) {
+    batch_result result;
     try {
         run_stages(kavetta, person, last, result);
     } catch (const run_time_error& error) {
-        person.show_message(run_time_error_line(error, source.language));
+        person.show_message(run_time_error_line(error, kavetta.app_state.language));
         result.end = batch_end::fatal;
     }
     return result;

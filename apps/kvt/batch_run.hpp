@@ -65,5 +65,7 @@ batch_end find_design(program& kavetta, batch_user& person, const design_source&
 /// open_design, then the stages up to `last` one after the other, as long as Calculate Profiles ended ok. A refused
 /// port does not keep Calculate Performance from running, as on the screen.
 batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source, calc_stage last);
+/// The stages alone, for a design that is open.
+batch_result calculate_open_design(program& kavetta, batch_user& person, calc_stage last);
 
 }  // namespace kvt

@@ -3,6 +3,7 @@
 #include "kvt/assist_command.hpp"
 #include "kvt/calc_command.hpp"
 #include "kvt/export_command.hpp"
+#include "kvt/export_options.hpp"
 
 #include <CLI/CLI.hpp>
 #include <map>
@@ -36,7 +37,7 @@ struct command_line {
     calc_request calc;
     std::vector<std::string> typed;  ///< the --set options as given
     std::string stage = "performance";
-    std::string export_folder;
+    export_request files;   ///< its source is that of calc
     assist_request assist;  ///< its source is that of calc
 };
 
@@ -100,9 +101,7 @@ CLI::App* add_calc(CLI::App& app, command_line& line) {
 CLI::App* add_export(CLI::App& app, command_line& line) {
     CLI::App* files = app.add_subcommand("export", "Write the files of a design to a folder");
     add_design_options(*files, line);
-    files->add_option("--out", line.export_folder, "Folder to write to; created when it is missing")
-        ->type_name("DIR")
-        ->required();
+    add_export_options(*files, line.files);
     return files;
 }
 
@@ -139,8 +138,11 @@ int run_command_line(int argc, const char* const* argv, std::ostream& out, std::
         line.assist.source = line.calc.source;
         return assist_design(line.assist, out, err);
     }
-    return files->parsed() ? export_design(line.calc.source, line.export_folder, out, err)
-                           : calc_design(line.calc, out, err);
+    if (files->parsed()) {
+        line.files.source = line.calc.source;
+        return export_design(line.files, out, err);
+    }
+    return calc_design(line.calc, out, err);
 }
 
 }  // namespace kvt

@@ -1,6 +1,9 @@
 #include "kvt/export_command.hpp"
 
+#include "app/port_report_file.hpp"
 #include "app/project_entries.hpp"
+#include "kvt/export_cnc.hpp"
+#include "ports/port_report.hpp"
 
 #include <ostream>
 #include <system_error>
@@ -9,11 +12,11 @@ namespace kvt {
 
 namespace {
 
-/// DIR/<name of the input>.KVT.
-std::string exported_project_path(const design_source& source, const std::filesystem::path& folder) {
+/// <name of the input>.KVT.
+std::string exported_project_name(const design_source& source) {
     std::filesystem::path name = std::filesystem::path(source.project).filename();
     name.replace_extension(".KVT");
-    return (folder / name).string();
+    return name.string();
 }
 
 void create_folder(const std::filesystem::path& folder) {
@@ -24,25 +27,55 @@ void create_folder(const std::filesystem::path& folder) {
     }
 }
 
-}  // namespace
-
-int export_design(const design_source& source, const std::filesystem::path& folder, std::ostream& out,
-                  std::ostream& err) {
-    batch_user person(err);
-    program kavetta;
-    if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
-        return exit_status(*early);
-    }
-    const std::string path = exported_project_path(source, folder);
+/// The project as it stands, before anything is calculated. False when it could not be written.
+bool export_project(const program& kavetta, const export_request& request, std::ostream& out, std::ostream& err) {
+    const std::string path = (request.folder / exported_project_name(request.source)).string();
     try {
-        create_folder(folder);
+        create_folder(request.folder);
         write_entries(kavetta, path);
     } catch (const run_time_error& error) {
-        err << path << ": " << run_time_error_line(error, source.language) << '\n';
-        return EXIT_REFUSED;
+        err << path << ": " << run_time_error_line(error, request.source.language) << '\n';
+        return false;
     }
     out << path << '\n';
-    return EXIT_OK;
+    return true;
+}
+
+void export_port_report(const program& kavetta, export_folder& folder) {
+    folder.write(PORT_REPORT_NAME, [&](text_lines& lines) {
+        for (const std::string& line : port_report(kavetta)) {
+            lines.line(line);
+        }
+    });
+}
+
+/// The ports were finished by this run: a refused outlet leaves no outline.
+bool has_ports(const program& kavetta) {
+    return kavetta.port_params.outlet_port_last > 0;
+}
+
+}  // namespace
+
+int export_design(const export_request& request, std::ostream& out, std::ostream& err) {
+    batch_user person(err);
+    program kavetta;
+    kavetta.date = request.date;
+    if (const std::optional<batch_end> early = open_design(kavetta, person, request.source)) {
+        return exit_status(*early);
+    }
+    if (!export_project(kavetta, request, out, err)) {
+        return EXIT_REFUSED;
+    }
+    const batch_result result = calculate_open_design(kavetta, person, calc_stage::ports);
+    if (!result.ports_reached) {
+        return exit_status(result);
+    }
+    export_folder folder(request.folder, request.source.language, out, err);
+    export_cnc_files(kavetta, person, request, folder);
+    if (has_ports(kavetta)) {
+        export_port_report(kavetta, folder);
+    }
+    return folder.complete() ? exit_status(result) : EXIT_REFUSED;
 }
 
 }  // namespace kvt

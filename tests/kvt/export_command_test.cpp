@@ -1,4 +1,4 @@
-// Tests of kvt export: the project saved again, with what was typed, and nothing else.
+// Tests of kvt export: the project saved again with what was typed, and the files of the design.
 #include "kvt/kvt_run.hpp"
 
 namespace kvt {
@@ -14,29 +14,35 @@ kvt_run export_engine_oil(const std::string& folder, const std::vector<std::stri
 
 TEST(export_command, writes_the_project_under_its_name_with_that_path_as_first_line) {
     const temporary_folder folder;
-    const kvt_run run = export_engine_oil(folder.path().string());
+    const kvt_run run = export_engine_oil(folder.path().string(), {"--cnc", "inner_xy"});
     const std::string written = folder.file("engine_oil.KVT");
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.out, written + "\n");
+    EXPECT_EQ(run.out,
+              written + "\n" + folder.file("inner_xy.cnc") + "\n" + folder.file("port_radius_coordinates.txt") + "\n");
     EXPECT_EQ(run.err, "");
     std::vector<std::string> expected = split_lines(read_file(example("engine_oil")));
     expected[0] = written;
     EXPECT_EQ(split_lines(read_file(written)), expected);
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 3);
 }
 
 TEST(export_command, writes_typed_texts_as_they_are_before_any_calculation) {
     const temporary_folder folder;
-    export_engine_oil(folder.path().string(), {"--set", "thick=12,50", "--set", "ecc=0", "--capacity-unit", "4"});
+    const kvt_run run =
+        export_engine_oil(folder.path().string(), {"--set", "thick=12,50", "--set", "ecc=0", "--capacity-unit", "4"});
     const std::vector<std::string> lines = split_lines(read_file(folder.file("engine_oil.KVT")));
     EXPECT_EQ(lines[5], "12,50");
-    EXPECT_EQ(lines[10], "0");  // Calculate Profiles would refuse it
+    EXPECT_EQ(lines[10], "0");
     EXPECT_EQ(lines[16], " 4 ");
+    // Calculate Profiles refuses it, and the project stays alone.
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "The Eccentricity cannot be equal to zero!!\n");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
 }
 
 TEST(export_command, creates_the_folder) {
     const temporary_folder folder;
-    EXPECT_EQ(export_engine_oil(folder.file("new/files")).status, 0);
+    EXPECT_EQ(export_engine_oil(folder.file("new/files"), {"--cnc", "outer_gcode"}).status, 0);
     EXPECT_TRUE(fs::exists(folder.file("new/files/engine_oil.KVT")));
 }
 
@@ -44,12 +50,13 @@ TEST(export_command, gives_the_extension_of_projects_to_any_input) {
     const temporary_folder folder;
     const std::string input = folder.file("pump.v2.txt");
     write_file(input, read_file(example("engine_oil")));
-    EXPECT_EQ(run_kvt({"export", input, "--out", folder.path().string()}).out, folder.file("pump.v2.KVT") + "\n");
+    const kvt_run run = run_kvt({"export", input, "--out", folder.path().string(), "--cnc", "outer_gcode"});
+    EXPECT_TRUE(run.out.starts_with(folder.file("pump.v2.KVT") + "\n")) << run.out;
 }
 
 TEST(export_command, writes_a_project_that_calculates_to_the_same_numbers) {
     const temporary_folder folder;
-    export_engine_oil(folder.path().string());
+    export_engine_oil(folder.path().string(), {"--cnc", "outer_gcode"});
     const kvt_run again = run_kvt({"calc", folder.file("engine_oil.KVT"), "--json", "-", "--full"});
     EXPECT_EQ(again.out, calc_engine_oil({"--full"}).out);
 }

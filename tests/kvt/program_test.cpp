@@ -79,13 +79,14 @@ TEST_F(program_test, ends_with_3_and_json_alone_for_an_unreadable_file) {
 
 TEST_F(program_test, writes_what_the_options_name_and_nothing_else) {
     EXPECT_EQ(start("calc " + project + " --json report.json").status, 0);
-    EXPECT_EQ(start("export " + project + " --out files").status, 0);
+    EXPECT_EQ(start("export " + project + " --out files --cnc outer_gcode").status, 0);
     std::vector<std::string> left;
     for (const auto& file : fs::recursive_directory_iterator(folder.file("home"))) {
         left.push_back(fs::relative(file.path(), folder.file("home")).string());
     }
     std::sort(left.begin(), left.end());
-    EXPECT_EQ(left, (std::vector<std::string>{"files", "files/engine_oil.KVT", "report.json"}));
+    EXPECT_EQ(left, (std::vector<std::string>{"files", "files/engine_oil.KVT", "files/outer_gcode.cnc",
+                                              "files/port_radius_coordinates.txt", "report.json"}));
 }
 
 }  // namespace

@@ -1,0 +1,39 @@
+// The folder that a design's files are written to, and what is told about them.
+#pragma once
+
+#include "app/saved_text.hpp"
+
+#include <cstdint>
+#include <filesystem>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+namespace kvt {
+
+/// Paths of written files go to `out`, one a line; notes and failures to `err`.
+class export_folder {
+  public:
+    export_folder(std::filesystem::path path, std::int16_t language, std::ostream& out, std::ostream& err)
+        : path_(std::move(path)), language_(language), out_(out), err_(err) {}
+
+    std::string path_of(std::string_view name) const { return (path_ / name).string(); }
+    std::ostream& err() { return err_; }
+
+    /// Saves a file as far as its writer gets. A failure is told, and refuses the file.
+    void write(std::string_view name, const text_writer& writer);
+    /// "NAME: TEXT" on standard error.
+    void note(std::string_view name, std::string_view text);
+    /// A file that was asked for is not there, or not whole.
+    void refuse() { complete_ = false; }
+    bool complete() const { return complete_; }
+
+  private:
+    std::filesystem::path path_;
+    std::int16_t language_;
+    std::ostream& out_;
+    std::ostream& err_;
+    bool complete_ = true;
+};
+
+}  // namespace kvt
