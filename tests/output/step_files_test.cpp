@@ -108,6 +108,16 @@ TEST_F(rotor_files, have_all_points_of_an_outer_rotor_without_fillets) {
     EXPECT_EQ(read.solids().at(0).contours.at(1).points.size(), 2100U);  // 300 a lobe
 }
 
+TEST_F(rotor_files, turn_their_walls_away_from_the_material) {
+    write_step_assembly(out, HEADER, design, rotors);
+    const step_reader read(out.bytes());
+    EXPECT_EQ(read.wall_sides(),
+              (std::vector<std::string>{"#13 right", "#14 right", "#1000026 left", "#1000027 left"}));
+    for (const step_solid& solid : read.solids()) {
+        EXPECT_GT(signed_area(solid.contours.at(1).points), 0.0);  // counter-clockwise: the inside lies to the left
+    }
+}
+
 TEST_F(rotor_files, hold_two_separate_solids_in_the_assembly) {
     write_step_assembly(out, HEADER, design, rotors);
     const step_reader read(out.bytes());

@@ -223,6 +223,26 @@ std::vector<std::string> step_reader::spline_problems() const {
     return problems;
 }
 
+std::vector<std::string> step_reader::wall_sides() const {
+    std::vector<std::string> sides;
+    for (const int number : numbers_of("ADVANCED_FACE")) {
+        const step_entity& face = entity(number);
+        const step_entity& surface = entity(face.references.back());
+        if (surface.keyword() != "B_SPLINE_SURFACE_WITH_KNOTS") {
+            continue;
+        }
+        const auto rows = lists_in(lists_in(parameters_of(surface.text)).at(0));
+        const std::vector<double> top = point(references_in(rows.at(0)).front());
+        const std::vector<double> bottom = point(references_in(rows.at(0)).back());
+        // Along a row v goes from one end of the wall to the other, from row to row u goes along the contour. Seen
+        // along u, the normal u x v of a wall whose v goes down points to the left.
+        const bool downwards = bottom.at(2) < top.at(2);
+        const bool same_sense = face.text.find(".T.") != std::string_view::npos;
+        sides.push_back("#" + std::to_string(number) + (downwards == same_sense ? " left" : " right"));
+    }
+    return sides;
+}
+
 std::vector<step_contour> step_reader::contours_of(const std::vector<int>& curves) const {
     std::map<double, std::map<int, std::vector<int>>> by_height;  // the control points of a curve by its first one
     for (const int curve : curves) {

@@ -47,6 +47,9 @@ class step_reader {
     /// knots that don't ascend or of another count, surfaces whose borders are no curve's control points. Empty when
     /// all is well.
     std::vector<std::string> spline_problems() const;
+    /// Spline faces whose outward side, by the row order of their control points and their sense, lies to the right of
+    /// a counter-clockwise contour (walls of prisms do) or to its left (a bore does): "#13 right", "#26 left".
+    std::vector<std::string> wall_sides() const;
     std::vector<step_solid> solids() const;
 
   private:
