@@ -1,56 +1,113 @@
-// kvt_screenshots: pictures of the program with a calculated design, in both languages, in a light and a dark palette.
-// Usage: kvt_screenshots OUT_FOLDER PROJECT.KVT. With QT_SCALE_FACTOR=2 the pictures are those of a dense screen.
-#include "app/calculate_profiles.hpp"
-#include "core/text_file.hpp"
+// kvt_screenshots: pictures of the running program.
+//   kvt_screenshots guide SHARE PROJECT.KVT OUT     the pictures of the user's guide, English, light
+//   kvt_screenshots pieces SHARE PROJECT.KVT OUT    every form in both languages, light and dark
+//   kvt_screenshots sheets PIECES OUT               one contact sheet a form from such pieces
+// SHARE is the folder of the delivered files. With QT_SCALE_FACTOR=2 the pictures are those of a dense screen.
+#include "app/design_assist.hpp"
+#include "core/app_state.hpp"
+#include "core/run_time_error.hpp"
+#include "screenshots/contact_sheets.hpp"
+#include "screenshots/form_pictures.hpp"
 #include "ui/application_style.hpp"
-#include "ui/desktop.hpp"
-#include "ui/qt_text.hpp"
 
 #include <QApplication>
-#include <QTemporaryDir>
+#include <QDir>
+#include <QMdiSubWindow>
 
+#include <cmath>
 #include <cstdio>
 #include <string>
 
 namespace {
 
-constexpr int WIDTH = 1040;
-constexpr int HEIGHT = 640;
-
-/// Starts the program in a folder of its own, opens the project, calculates, and saves a picture of the window.
-bool take_picture(const std::string& project, char language, const QString& picture) {
-    const QTemporaryDir folder;
-    const std::filesystem::path path = kvt::utf8_text(folder.path());
-    kvt::write_file(path / "KVT.ini", std::string("\r\n\r\n\r\n\r\n") + language + "\r\nmanual\r\n##\r\n");
-    kvt::desktop desktop(path);
-    desktop.program().window_rectangles.main_window_maximised = false;
-    if (!desktop.start(project)) {
-        return false;
+bool save(const kvt::form_pictures& pictures, const QDir& folder) {
+    bool all_saved = !pictures.empty();
+    for (const auto& [name, picture] : pictures) {
+        all_saved = picture.save(folder.filePath(name + ".png")) && all_saved;
     }
-    desktop.window().resize(WIDTH, HEIGHT);
-    desktop.runner().act([](kvt::program& kavetta, kvt::user& person) { kvt::calculate_profiles(kavetta, person); });
-    QApplication::processEvents();
-    return desktop.window().grab().save(picture);
+    return all_saved;
+}
+
+/// The pictures before the ports: the rotors alone, and the Design form with its assist.
+kvt::form_pictures early_pictures(kvt::staged_program& stage) {
+    stage.calculate_rotors();
+    kvt::form_pictures pictures;
+    pictures["viewwinfrm_rotors"] = kvt::pictures_of_children(stage.window())["viewwinfrm"];
+    stage.runner().act([](kvt::program& kavetta, kvt::user&) { kvt::set_assist(kavetta, true); });
+    kvt::staged_program::settle();
+    pictures["Form1_assist"] = kvt::pictures_of_children(stage.window())["Form1"];
+    stage.runner().act([](kvt::program& kavetta, kvt::user&) { kvt::set_assist(kavetta, false); });
+    return pictures;
+}
+
+bool take_guide_pictures(const std::string& share, const std::string& project, const QDir& out) {
+    kvt::staged_program stage(share, project, kvt::ENGLISH);
+    kvt::form_pictures pictures = early_pictures(stage);
+    const bool calculated = stage.calculate();
+    pictures.merge(kvt::pictures_of_children(stage.window()));
+    pictures.merge(kvt::pictures_of_dialogs(stage.program()));
+    for (const char* name : {"explain", "port_explain", "perf_res"}) {
+        if (auto* form = stage.window().findChild<QMdiSubWindow*>(name)) {
+            form->hide();
+        }
+    }
+    kvt::staged_program::settle();
+    pictures["workplace"] = stage.window().grab();
+    return save(pictures, out) && calculated;
+}
+
+bool take_pieces(const std::string& share, const std::string& project, const QDir& out) {
+    const QPalette light = QApplication::palette();
+    const int percent = static_cast<int>(std::lround(qApp->devicePixelRatio() * 100.0));
+    bool all_taken = true;
+    for (const bool is_dark : {false, true}) {
+        QApplication::setPalette(is_dark ? kvt::dark_palette() : light);
+        for (const std::int16_t language : {kvt::ENGLISH, kvt::GERMAN}) {
+            kvt::staged_program stage(share, project, language);
+            all_taken = stage.calculate() && all_taken;
+            kvt::form_pictures pictures = kvt::pictures_of_children(stage.window());
+            pictures.merge(kvt::pictures_of_dialogs(stage.program()));
+            pictures["MDIForm1"] = stage.window().grab();
+            kvt::form_pictures pieces;
+            for (const auto& [name, picture] : pictures) {
+                const QString piece = kvt::piece_name(name, language == kvt::ENGLISH ? "english" : "german",
+                                                      is_dark ? "dark" : "light", percent);
+                pieces[piece.chopped(4)] = picture;
+            }
+            all_taken = save(pieces, out) && all_taken;
+        }
+    }
+    return all_taken;
+}
+
+int usage() {
+    std::fputs(
+        "usage: kvt_screenshots guide|pieces SHARE PROJECT.KVT OUT\n"
+        "       kvt_screenshots sheets PIECES OUT\n",
+        stderr);
+    return 2;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 3) {
-        std::fputs("usage: kvt_screenshots OUT_FOLDER PROJECT.KVT\n", stderr);
-        return 2;
-    }
     kvt::set_application_style(application);
-    const QPalette light = QApplication::palette();
-    bool all_taken = true;
-    for (const bool is_dark : {false, true}) {
-        QApplication::setPalette(is_dark ? kvt::dark_palette() : light);
-        for (const char language : {'1', '2'}) {
-            const QString name = QString("%1/kavetta_%2_%3.png")
-                                     .arg(argv[1], language == '1' ? "english" : "german", is_dark ? "dark" : "light");
-            all_taken = take_picture(argv[2], language, name) && all_taken;
+    const std::string mode = argc > 1 ? argv[1] : "";
+    const QDir out(argc > 1 ? argv[argc - 1] : "");
+    try {
+        if (mode == "guide" && argc == 5) {
+            return take_guide_pictures(argv[2], argv[3], out) ? 0 : 1;
         }
+        if (mode == "pieces" && argc == 5) {
+            return take_pieces(argv[2], argv[3], out) ? 0 : 1;
+        }
+        if (mode == "sheets" && argc == 4) {
+            return kvt::write_contact_sheets(argv[2], argv[3]) > 0 ? 0 : 1;
+        }
+    } catch (const kvt::run_time_error& error) {
+        std::fprintf(stderr, "kvt_screenshots: %s\n", error.what());
+        return 1;
     }
-    return all_taken ? 0 : 1;
+    return usage();
 }

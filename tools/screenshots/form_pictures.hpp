@@ -1,0 +1,21 @@
+// form_pictures: what every form looks like at the moment, by the form's name.
+#pragma once
+
+#include "screenshots/staged_program.hpp"
+
+#include <QPixmap>
+#include <QString>
+
+#include <map>
+
+namespace kvt {
+
+using form_pictures = std::map<QString, QPixmap>;
+
+/// Every child window that is open, with its frame.
+form_pictures pictures_of_children(MDIForm1& window);
+
+/// The prompt, the name dialog, the About box, the font and the progress window, the start picture.
+form_pictures pictures_of_dialogs(const program& kavetta);
+
+}  // namespace kvt

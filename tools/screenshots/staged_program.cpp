@@ -1,0 +1,77 @@
+#include "screenshots/staged_program.hpp"
+
+#include "app/calculate_performance.hpp"
+#include "app/calculate_profiles.hpp"
+#include "app/design_ports.hpp"
+#include "app/start_up.hpp"
+#include "core/text_file.hpp"
+#include "ui/qt_text.hpp"
+
+#include <QApplication>
+#include <QDialog>
+
+#include <cstdio>
+
+namespace kvt {
+
+namespace {
+
+constexpr int WIDTH = 1040;
+constexpr int HEIGHT = 800;
+constexpr int WATCH_MS = 20;
+
+}  // namespace
+
+staged_program::staged_program(const std::string& share, const std::string& project, std::int16_t language) {
+    const std::filesystem::path path = utf8_text(folder_.path());
+    fill_program_folder(path, share);
+    write_file(path / "KVT.ini", "\r\n\r\n\r\n\r\n" + std::to_string(language) + "\r\nmanual\r\n##\r\n");
+    QObject::connect(&watch_, &QTimer::timeout, [this] { close_dialog(); });
+    watch_.start(WATCH_MS);
+    desktop_ = std::make_unique<desktop>(path);
+    program().window_rectangles.main_window_maximised = false;
+    // A copy: Design Ports writes its report beside the project.
+    const std::filesystem::path copy = path / "projects" / std::filesystem::path(project).filename();
+    write_file(copy, read_file(project));
+    desktop_->start(copy.string());
+    window().showNormal();
+    window().resize(WIDTH, HEIGHT);
+    settle();
+}
+
+bool staged_program::calculate_rotors() {
+    bool done = false;
+    runner().act(
+        [&done](kvt::program& kavetta, user& person) { done = calculate_profiles(kavetta, person) == run_end::ok; });
+    settle();
+    return done;
+}
+
+bool staged_program::calculate() {
+    bool done = calculate_rotors();
+    runner().act([&done](kvt::program& kavetta, user& person) {
+        const ports_designed ports = design_ports(kavetta, person);
+        done = done && ports.inlet && ports.outlet;
+        done = done && calculate_performance(kavetta, person);
+        for (const char* form : {"explain", "port_explain"}) {
+            person.show_form(form);
+        }
+    });
+    settle();
+    return done;
+}
+
+void staged_program::settle() {
+    for (int round = 0; round < 5; ++round) {
+        QApplication::processEvents();
+    }
+}
+
+void staged_program::close_dialog() {
+    if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        std::fprintf(stderr, "closed: %s %s\n", qPrintable(dialog->objectName()), qPrintable(dialog->windowTitle()));
+        dialog->reject();
+    }
+}
+
+}  // namespace kvt

@@ -1,0 +1,39 @@
+// staged_program: the desktop program in a folder of its own, with a project that has gone through all stages.
+#pragma once
+
+#include "ui/desktop.hpp"
+
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <memory>
+#include <string>
+
+namespace kvt {
+
+/// Whoever looks at the pictures answers nothing: a dialog that nobody expects is closed and named on standard error.
+class staged_program {
+  public:
+    /// share: the delivered files. language: ENGLISH or GERMAN.
+    staged_program(const std::string& share, const std::string& project, std::int16_t language);
+
+    /// Calculates profiles, ports and performance, and opens the explanation windows. False when a stage was refused.
+    bool calculate();
+    /// The rotors alone, without ports.
+    bool calculate_rotors();
+
+    kvt::program& program() { return desktop_->program(); }
+    MDIForm1& window() { return desktop_->window(); }
+    command_runner& runner() { return desktop_->runner(); }
+    /// Lets what waits in the event loop happen.
+    static void settle();
+
+  private:
+    void close_dialog();
+
+    QTemporaryDir folder_;
+    QTimer watch_;
+    std::unique_ptr<desktop> desktop_;
+};
+
+}  // namespace kvt
