@@ -22,11 +22,11 @@ namespace {
 constexpr int ROW_SPACING = 4;
 constexpr int COLUMN_SPACING = 3;
 constexpr int GROUP_SPACING = 7;
-constexpr int MARGIN = 5;
+constexpr int MARGIN = 4;
 /// Entries alone in their row, and entries in pairs.
-constexpr int SINGLE_DIGITS = 7;
-constexpr int PAIR_DIGITS = 5;
-constexpr int PERCENTAGE_DIGITS = 5;
+constexpr const char* WIDEST_SINGLE = "0.00012";
+constexpr const char* WIDEST_IN_PAIR = "29000";
+constexpr const char* WIDEST_PERCENTAGE = "99.5";
 
 /// The grid's columns: the caption, the left box of a pair, what stands between, the right or only box.
 constexpr int CAPTION = 0;
@@ -48,9 +48,9 @@ void add_heading(QGridLayout& grid, const char* name) {
 }
 
 /// A caption with the box at the end of its row.
-QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry, int digits = SINGLE_DIGITS) {
+QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry, const char* widest = WIDEST_SINGLE) {
     const int row = grid.rowCount();
-    QLineEdit* box = compact_box(entry, digits);
+    QLineEdit* box = compact_box(entry, widest);
     QLabel* text = named_label(label);
     text->setBuddy(box);
     grid.addWidget(text, row, CAPTION, 1, BETWEEN);
@@ -60,7 +60,7 @@ QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry, in
 
 /// A percentage: the sign stands in the box, behind the number.
 void add_percentage(QGridLayout& grid, const char* label, const char* entry) {
-    QLineEdit* box = add_entry(grid, label, entry, PERCENTAGE_DIGITS);
+    QLineEdit* box = add_entry(grid, label, entry, WIDEST_PERCENTAGE);
     const QString sign = qt_text(message_text(message::unit_percent, ENGLISH));
     add_unit(*box, sign)->setText(sign);
 }
@@ -68,12 +68,12 @@ void add_percentage(QGridLayout& grid, const char* label, const char* entry) {
 /// A caption with two boxes. between may be nullptr: the boxes are columns then.
 void add_pair(QGridLayout& grid, const char* label, const char* left, const char* between, const char* right) {
     const int row = grid.rowCount();
-    QLineEdit* left_box = compact_box(left, PAIR_DIGITS);
+    QLineEdit* left_box = compact_box(left, WIDEST_IN_PAIR);
     QLabel* text = named_label(label);
     text->setBuddy(left_box);
     grid.addWidget(text, row, CAPTION);
     grid.addWidget(left_box, row, LEFT_BOX);
-    QLineEdit* right_box = compact_box(right, PAIR_DIGITS);
+    QLineEdit* right_box = compact_box(right, WIDEST_IN_PAIR);
     if (between != nullptr) {
         QLabel* to = named_label(between);
         to->setBuddy(right_box);
@@ -124,7 +124,7 @@ void Perffrm::add_fluid(QGridLayout& grid) {
 
 void Perffrm::add_materials(QGridLayout& grid) {
     add_heading(grid, "Label13");
-    auto* heads = new column_heads("Label12", compact_box("", PAIR_DIGITS)->width());
+    auto* heads = new column_heads("Label12", compact_box_width(WIDEST_IN_PAIR));
     grid.addWidget(heads, grid.rowCount(), LEFT_BOX, 1, 3);
     add_pair(grid, "Label10", "young_inner", nullptr, "young_outer");
     add_pair(grid, "Label11", "poissons_inner", nullptr, "poissons_outer");

@@ -35,7 +35,7 @@ QPalette dark_palette() {
     const QColor text(226, 228, 232);
     const QColor faint(128, 131, 138);
     QPalette palette(text, window.lighter(125), window.lighter(180), window.darker(150), window.lighter(130), text,
-                     Qt::white, QColor(32, 33, 36), window);
+                     Qt::white, window.lighter(140), window);
     palette.setColor(QPalette::Highlight, QColor(47, 111, 178));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, window.lighter(130));

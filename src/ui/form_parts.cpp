@@ -17,8 +17,8 @@ namespace {
 
 /// Room above and below the text of a box together, pixels.
 constexpr int BOX_MARGINS = 6;
-/// Room left and right of the digits of a box together, pixels.
-constexpr int DIGIT_MARGINS = 8;
+/// Room left and right of the number in a box together, pixels.
+constexpr int NUMBER_MARGINS = 10;
 /// Room between a number, its unit and the border of the box, pixels.
 constexpr int UNIT_MARGIN = 5;
 constexpr double COMPACT_SHARE = 8.0 / 9.0;
@@ -66,12 +66,15 @@ QFont compact_font() {
     return font;
 }
 
-QLineEdit* compact_box(const char* name, int digits) {
+QLineEdit* compact_box(const char* name, const char* widest) {
     QLineEdit* box = number_box(name, 0);
     box->setFont(compact_font());
-    box->setFixedSize(box->fontMetrics().horizontalAdvance('0') * digits + DIGIT_MARGINS,
-                      box->fontMetrics().height() + BOX_MARGINS);
+    box->setFixedSize(compact_box_width(widest), box->fontMetrics().height() + BOX_MARGINS);
     return box;
+}
+
+int compact_box_width(const char* widest) {
+    return QFontMetrics(compact_font()).horizontalAdvance(widest) + NUMBER_MARGINS;
 }
 
 QLabel* add_unit(QLineEdit& box, const QString& widest) {

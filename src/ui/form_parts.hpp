@@ -29,8 +29,9 @@ QLineEdit* number_box(const char* name, int width);
 /// The font of a form with many entries in little room: a ninth smaller than that of the application.
 QFont compact_font();
 
-/// A box for a number in the compact font, wide enough for so many digits.
-QLineEdit* compact_box(const char* name, int digits);
+/// A box for a number in the compact font, as wide as the widest number needs.
+QLineEdit* compact_box(const char* name, const char* widest);
+int compact_box_width(const char* widest);
 
 /// Widens a compact box by a faint unit behind the number, as wide as its widest text; the label is named as the entry
 /// with "_unit".

@@ -27,8 +27,8 @@ constexpr int ROW_SPACING = 2;
 constexpr int COLUMN_SPACING = 3;
 constexpr int MARGIN = 4;
 constexpr int FRAME_MARGIN = 1;
-/// "146.27" has five digits and a point, which is half as wide.
-constexpr int ENTRY_DIGITS = 6;
+/// An angle as it is filled in.
+constexpr const char* WIDEST_NUMBER = "146.27";
 
 QGridLayout* frame_grid(QGroupBox& frame) {
     auto* grid = new QGridLayout(&frame);
@@ -104,7 +104,7 @@ QGroupBox* portdes::outlet_frame() {
 
 void portdes::add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length) {
     const int row = grid.rowCount();
-    QLineEdit* box = compact_box(entry, ENTRY_DIGITS);
+    QLineEdit* box = compact_box(entry, WIDEST_NUMBER);
     QLabel* text = named_label(label);
     text->setBuddy(box);
     (is_length ? length_units_ : angle_units_).append(add_unit(*box, widest_unit()));
@@ -132,7 +132,7 @@ QGroupBox* portdes::type_frame() {
     for (const auto& [label, entry] : {std::pair{"Label10", "groove_length"}, std::pair{"Label11", "groove_width"},
                                        std::pair{"Label12", "groove_depth"}}) {
         QLabel* text = named_label(label);
-        QLineEdit* box = compact_box(entry, ENTRY_DIGITS);
+        QLineEdit* box = compact_box(entry, WIDEST_NUMBER);
         box->setMaximumWidth(QWIDGETSIZE_MAX);
         text->setBuddy(box);
         groove->addWidget(text, 0, column);
@@ -147,7 +147,7 @@ QWidget* portdes::fillet_row() {
     QBoxLayout* layout = nullptr;
     QWidget* row = row_of(layout);
     QLabel* text = named_label("Label1");
-    QLineEdit* box = compact_box("port_radii", ENTRY_DIGITS);
+    QLineEdit* box = compact_box("port_radii", WIDEST_NUMBER);
     text->setBuddy(box);
     length_units_.append(add_unit(*box, widest_unit()));
     layout->addWidget(text);

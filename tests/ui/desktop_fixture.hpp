@@ -77,9 +77,7 @@ class desktop_test : public testing::Test {
     QLineEdit* box(const char* name) { return find<QLineEdit>(name); }
     std::string shown(const char* name) { return utf8_text(box(name)->text()); }
     std::string label(const char* name) { return utf8_text(find<QLabel>(name)->text()); }
-    std::string label_on(const char* form, const char* name) {
-        return utf8_text(find_on<QLabel>(form, name)->text());
-    }
+    std::string label_on(const char* form, const char* name) { return utf8_text(find_on<QLabel>(form, name)->text()); }
     std::string status() { return utf8_text(window().statusBar()->currentMessage()); }
 
     /// The window of a form that is built when it is shown; nullptr while it is not.

@@ -53,6 +53,19 @@ TEST_F(select_graphs_test, captions_follow_the_language) {
     EXPECT_EQ(utf8_text(find<QPushButton>("export_excel")->text()), "Exportieren Excel");
 }
 
+TEST_F(select_graphs_test, every_control_is_explained_in_both_languages) {
+    start();
+    const std::string english = utf8_text(find<QCheckBox>("flow_checkbox")->toolTip());
+    press("Image2");
+    for (const char* check : CHECKS) {
+        EXPECT_TRUE(find<QCheckBox>(check)->toolTip().startsWith("Diagramm de")) << check;
+    }
+    EXPECT_NE(utf8_text(find<QPushButton>("create_charts")->toolTip()), "");
+    EXPECT_NE(utf8_text(find<QPushButton>("export_excel")->toolTip()), "");
+    EXPECT_EQ(english,
+              "Chart of the delivered flow over the delivery pressure, in Lit/min, or in USGall/min with inches.");
+}
+
 TEST_F(select_graphs_test, tab_goes_down_the_results_and_then_the_efficiencies) {
     start();
     find<QCheckBox>(CHECKS[0])->setFocus();
