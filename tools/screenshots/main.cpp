@@ -40,19 +40,33 @@ kvt::form_pictures early_pictures(kvt::staged_program& stage) {
     return pictures;
 }
 
-bool take_guide_pictures(const std::string& share, const std::string& project, const QDir& out) {
-    kvt::staged_program stage(share, project, kvt::ENGLISH);
-    kvt::form_pictures pictures = early_pictures(stage);
-    const bool calculated = stage.calculate();
-    pictures.merge(kvt::pictures_of_children(stage.window()));
-    pictures.merge(kvt::pictures_of_dialogs(stage.program()));
+/// The main window with the five windows that are always there.
+QPixmap picture_of_workplace(kvt::staged_program& stage) {
     for (const char* name : {"explain", "port_explain", "perf_res"}) {
         if (auto* form = stage.window().findChild<QMdiSubWindow*>(name)) {
             form->hide();
         }
     }
     kvt::staged_program::settle();
-    pictures["workplace"] = stage.window().grab();
+    return stage.window().grab();
+}
+
+/// Dialogs that need a command's context are opened by their menu entries.
+kvt::form_pictures pictures_of_all_dialogs(kvt::staged_program& stage) {
+    kvt::form_pictures pictures = kvt::pictures_of_dialogs(stage.program());
+    if (const QPixmap cnc = stage.dialog_of("mnudatacnc"); !cnc.isNull()) {
+        pictures["Form3"] = cnc;
+    }
+    return pictures;
+}
+
+bool take_guide_pictures(const std::string& share, const std::string& project, const QDir& out) {
+    kvt::staged_program stage(share, project, kvt::ENGLISH);
+    kvt::form_pictures pictures = early_pictures(stage);
+    const bool calculated = stage.calculate();
+    pictures.merge(kvt::pictures_of_children(stage.window()));
+    pictures.merge(pictures_of_all_dialogs(stage));
+    pictures["workplace"] = picture_of_workplace(stage);
     return save(pictures, out) && calculated;
 }
 
@@ -66,8 +80,8 @@ bool take_pieces(const std::string& share, const std::string& project, const QDi
             kvt::staged_program stage(share, project, language);
             all_taken = stage.calculate() && all_taken;
             kvt::form_pictures pictures = kvt::pictures_of_children(stage.window());
-            pictures.merge(kvt::pictures_of_dialogs(stage.program()));
-            pictures["MDIForm1"] = stage.window().grab();
+            pictures.merge(pictures_of_all_dialogs(stage));
+            pictures["MDIForm1"] = picture_of_workplace(stage);
             kvt::form_pictures pieces;
             for (const auto& [name, picture] : pictures) {
                 const QString piece = kvt::piece_name(name, language == kvt::ENGLISH ? "english" : "german",

@@ -7,10 +7,9 @@
 #include "core/text_file.hpp"
 #include "ui/qt_text.hpp"
 
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
-
-#include <cstdio>
 
 namespace kvt {
 
@@ -61,6 +60,15 @@ bool staged_program::calculate() {
     return done;
 }
 
+QPixmap staged_program::dialog_of(const QString& menu_entry) {
+    last_dialog_ = QPixmap();
+    if (auto* entry = window().findChild<QAction*>(menu_entry)) {
+        entry->trigger();
+        settle();
+    }
+    return last_dialog_;
+}
+
 void staged_program::settle() {
     for (int round = 0; round < 5; ++round) {
         QApplication::processEvents();
@@ -69,7 +77,7 @@ void staged_program::settle() {
 
 void staged_program::close_dialog() {
     if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-        std::fprintf(stderr, "closed: %s %s\n", qPrintable(dialog->objectName()), qPrintable(dialog->windowTitle()));
+        last_dialog_ = dialog->grab();
         dialog->reject();
     }
 }

@@ -3,6 +3,7 @@
 
 #include "ui/desktop.hpp"
 
+#include <QPixmap>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -11,7 +12,7 @@
 
 namespace kvt {
 
-/// Whoever looks at the pictures answers nothing: a dialog that nobody expects is closed and named on standard error.
+/// Whoever looks at the pictures answers nothing: a dialog is closed as soon as it was seen.
 class staged_program {
   public:
     /// share: the delivered files. language: ENGLISH or GERMAN.
@@ -25,6 +26,8 @@ class staged_program {
     kvt::program& program() { return desktop_->program(); }
     MDIForm1& window() { return desktop_->window(); }
     command_runner& runner() { return desktop_->runner(); }
+    /// The dialog that a menu entry opens, closed again; nothing when it opens none.
+    QPixmap dialog_of(const QString& menu_entry);
     /// Lets what waits in the event loop happen.
     static void settle();
 
@@ -33,6 +36,7 @@ class staged_program {
 
     QTemporaryDir folder_;
     QTimer watch_;
+    QPixmap last_dialog_;
     std::unique_ptr<desktop> desktop_;
 };
 
