@@ -3,6 +3,7 @@
 #include "app/port_report_file.hpp"
 #include "app/project_entries.hpp"
 #include "kvt/export_cnc.hpp"
+#include "kvt/export_drawings.hpp"
 #include "ports/port_report.hpp"
 
 #include <ostream>
@@ -72,6 +73,7 @@ int export_design(const export_request& request, std::ostream& out, std::ostream
     }
     export_folder folder(request.folder, request.source.language, out, err);
     export_cnc_files(kavetta, person, request, folder);
+    export_drawings(kavetta, request, folder);
     if (has_ports(kavetta)) {
         export_port_report(kavetta, folder);
     }

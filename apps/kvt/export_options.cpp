@@ -1,9 +1,12 @@
 #include "kvt/export_options.hpp"
 
 #include "app/cnc_output.hpp"
+#include "app/dxf_output.hpp"
+#include "app/step_output.hpp"
 #include "core/number_text.hpp"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 
@@ -75,6 +78,32 @@ void add_cnc_options(CLI::App& command, export_request& files) {
     command.add_flag("--clockwise", files.clockwise, "X/Y files of the inner rotor run clockwise");
 }
 
+std::string dxf_name_problem(const std::string& name) {
+    const bool known = std::ranges::find(DXF_FILES, name, dxf_file_name) != std::end(DXF_FILES);
+    return name == "all" || known ? "" : "'" + name + "' is no DXF file";
+}
+
+std::string step_name_problem(const std::string& name) {
+    const bool known = std::ranges::find(STEP_FILES, name, step_file_name) != std::end(STEP_FILES);
+    return name == "all" || known ? "" : "'" + name + "' is no STEP file";
+}
+
+void add_drawing_options(CLI::App& command, export_request& files) {
+    command
+        .add_option("--dxf", files.dxf,
+                    "DXF files to write, separated by commas: inner, outer, inlet, outlet, groove, or all")
+        ->type_name("TYPE,...")
+        ->delimiter(',')
+        ->check(check_of(dxf_name_problem));
+    command
+        .add_option("--step", files.step,
+                    "STEP files to write, separated by commas: inner, outer, assembly, ports, or all")
+        ->type_name("TYPE,...")
+        ->delimiter(',')
+        ->check(check_of(step_name_problem));
+    command.add_flag("--gt", files.gt, "The STEP files of the simulation exchange, too");
+}
+
 }  // namespace
 
 void add_export_options(CLI::App& command, export_request& files) {
@@ -82,6 +111,7 @@ void add_export_options(CLI::App& command, export_request& files) {
         ->type_name("DIR")
         ->required();
     add_cnc_options(command, files);
+    add_drawing_options(command, files);
     command.add_option("--date", files.date, "Date that the files carry; default: today's in the form of the locale")
         ->type_name("YYYY-MM-DD")
         ->check(check_of(date_problem));
