@@ -87,8 +87,9 @@ TEST_F(guide_pdf, a_picture_takes_room) {
     page("01-first.md", "# First\n\n![a](screen:high)\n\n## Below\n\nText.\n");
     QImage(100, 100, QImage::Format_RGB32).save(QString::fromStdString(folder.file("high.png")));
     EXPECT_EQ(book().contents()[1].page, 3);
-    // Two pictures of most of a page's height do not fit on one.
-    page("01-first.md", "# First\n\n![a](screen:high)\n\n![a](screen:high)\n\n## Below\n\nText.\n");
+    // Three pictures of 0.42 of a page do not fit on one.
+    page("01-first.md",
+         "# First\n\n![a](screen:high)\n\n![a](screen:high)\n\n![a](screen:high)\n\n## Below\n\nText.\n");
     QImage(1500, 1900, QImage::Format_RGB32).save(QString::fromStdString(folder.file("high.png")));
     EXPECT_EQ(book().contents()[1].page, 4);
 }

@@ -24,6 +24,8 @@ constexpr double PICTURE_SCALING = 2.0;
 /// The layout takes sizes of pictures in pixels of a screen; on paper a form is shown a little smaller.
 constexpr double SCREEN_PIXELS_PER_INCH = 96.0;
 constexpr double PIXELS_PER_INCH = 125.0;
+/// Of the height of a page that a picture may take.
+constexpr double LARGEST_SHARE_OF_PAGE = 0.42;
 
 QString picture_file(const QString& name, const picture_folders& folders) {
     if (name.startsWith("screen:")) {
@@ -81,7 +83,7 @@ guide_chapter::guide_chapter(const QString& markdown, const picture_folders& fol
     load_pictures(markdown, folders);
     style_headings();
     style_tables();
-    size_pictures(page.width(), device->logicalDpiX());
+    size_pictures(device->logicalDpiX());
     document_->setPageSize(page);
     keep_headings_with_text();
     find_headings();
@@ -110,7 +112,7 @@ void guide_chapter::load_pictures(const QString& markdown, const picture_folders
     }
 }
 
-void guide_chapter::size_pictures(double largest_width, double dots_per_inch) {
+void guide_chapter::size_pictures(double dots_per_inch) {
     for (QTextBlock block = document_->begin(); block.isValid(); block = block.next()) {
         for (QTextBlock::iterator part = block.begin(); !part.atEnd(); ++part) {
             QTextImageFormat format = part.fragment().charFormat().toImageFormat();
@@ -120,9 +122,12 @@ void guide_chapter::size_pictures(double largest_width, double dots_per_inch) {
             const QVariant resource = document_->resource(QTextDocument::ImageResource, QUrl(format.name()));
             const QImage image = qvariant_cast<QImage>(resource);
             const double wanted = image.width() / PICTURE_SCALING * SCREEN_PIXELS_PER_INCH / PIXELS_PER_INCH;
-            const double width = std::min(wanted, largest_width * SCREEN_PIXELS_PER_INCH / dots_per_inch);
+            const double shape = image.isNull() ? 0.0 : static_cast<double>(image.height()) / image.width();
+            const double highest = LARGEST_SHARE_OF_PAGE * page_.height() / std::max(shape, 0.01);
+            const double width =
+                std::min(wanted, std::min(page_.width(), highest) * SCREEN_PIXELS_PER_INCH / dots_per_inch);
             format.setWidth(width);
-            format.setHeight(image.isNull() ? 0.0 : width * image.height() / image.width());
+            format.setHeight(width * shape);
             QTextCursor cursor(document_.get());
             cursor.setPosition(part.fragment().position());
             cursor.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);

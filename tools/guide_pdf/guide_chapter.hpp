@@ -41,7 +41,7 @@ class guide_chapter {
 
   private:
     void load_pictures(const QString& markdown, const picture_folders& folders);
-    void size_pictures(double largest_width, double dots_per_inch);
+    void size_pictures(double dots_per_inch);
     void style_headings();
     void style_tables();
     int page_of(const QTextBlock& block) const;
