@@ -1,0 +1,53 @@
+// The STEP and DXF files of whole designs against golden files, shortened.
+#include "app/dxf_output.hpp"
+#include "app/step_output.hpp"
+#include "support/cnc_design.hpp"
+#include "support/shortened_golden.hpp"
+
+#include <gtest/gtest.h>
+
+namespace kvt {
+namespace {
+
+class drawing_goldens : public testing::TestWithParam<const char*> {
+  protected:
+    program kavetta = design_with_ports(GetParam());
+    std::string folder = std::string(GetParam()) + "/";
+};
+
+TEST_P(drawing_goldens, are_written_as_they_stand) {
+    kavetta.date = "11/03/21";
+    for (const step_file file : STEP_FILES) {
+        const std::string name = std::string(step_file_name(file)) + ".stp";
+        text_lines text;
+        append_step_file(text, file, kavetta, "C:\\pumps\\" + name);
+        expect_shortened_golden(folder + name, text.bytes());
+    }
+    for (const dxf_file file : DXF_FILES) {
+        text_lines text;
+        append_dxf_file(text, file, kavetta);
+        expect_shortened_golden(folder + std::string(dxf_file_name(file)) + ".dxf", text.bytes());
+    }
+}
+
+/// Odd N with fillets, groove and shadow ports; even N; no fillets and sharp ports; inches.
+INSTANTIATE_TEST_SUITE_P(designs, drawing_goldens,
+                         testing::Values("n07_engine_oil_groove", "n04_fuel", "n03_transfer_sharp",
+                                         "n07_inch_hydraulic"),
+                         [](const auto& design) { return std::string(design.param); });
+
+TEST(shortened, keeps_the_ends_of_runs_and_of_long_lines) {
+    std::string bytes = "head\r\n";
+    for (int i = 0; i < 9; ++i) {
+        bytes += "X" + std::to_string(i) + ".5 #1\r\n";
+    }
+    // Weights 1 to 9; behind "#" stands no number: 0.5 + 2 * 1.5 + 3 * 2.5 + ... + 9 * 8.5 = 262.5.
+    EXPECT_EQ(shortened(bytes + "tail\r\n"),
+              "head\r\nX0.5 #1\r\nX1.5 #1\r\n... 5 lines like these ...\r\nX7.5 #1\r\nX8.5 #1\r\ntail\r\n"
+              "... 11 lines, 9 numbers, weighted sum 262.5000\r\n");
+    EXPECT_EQ(shortened(std::string(500, 'a') + "\r\n"), std::string(150, 'a') + " ... " + std::string(150, 'a') +
+                                                             "\r\n... 1 lines, 0 numbers, weighted sum 0.0000\r\n");
+}
+
+}  // namespace
+}  // namespace kvt
