@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMdiSubWindow>
+#include <QStatusBar>
 
 #include <cmath>
 #include <cstdio>
@@ -48,6 +49,8 @@ QPixmap picture_of_workplace(kvt::staged_program& stage) {
         }
     }
     kvt::staged_program::settle();
+    // It names the folder of this run.
+    stage.window().statusBar()->clearMessage();
     return stage.window().grab();
 }
 
