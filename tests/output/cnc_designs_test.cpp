@@ -137,7 +137,7 @@ void expect_cleared(random_values& random, const pocket_region& pocket, const st
         const point2 point = {random.real(low.x, high.x), random.real(low.y, high.y)};
         bool excepted = !pocket.contains(point);
         for (const point2& corner : sharp_corners) {
-            excepted = excepted || std::hypot(point.x - corner.x, point.y - corner.y) < 1.5 * tool_radius;
+            excepted = excepted || std::hypot(point.x - corner.x, point.y - corner.y) < 3.0 * tool_radius;
         }
         if (!excepted) {
             ASSERT_LE(distance_from_path(point, path), tool_radius + 0.005) << point.x << " " << point.y;
