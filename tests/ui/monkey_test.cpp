@@ -62,28 +62,45 @@ class monkey_test : public testing::Test {
         } while (!on_screen->start(with_design ? projects[static_cast<std::size_t>(random.whole(0, 3))] : ""));
         on_screen->window().activateWindow();
         QCoreApplication::processEvents();
+        find_boxes();
+        ASSERT_EQ(boxes.size() + checks.size(), entry_fields().size()) << "every entry has its box";
     }
 
-    /// What the boxes show is what the program has, for every entry of every form that is there.
-    void expect_no_lost_entry(int event) const {
-        const entries& kept = on_screen->program().entries;
+    /// The boxes of all forms with their entries; these forms stay as long as the program.
+    void find_boxes() {
+        boxes.clear();
+        checks.clear();
         for (const entry_field& field : entry_fields()) {
             const auto* form = on_screen->window().findChild<QMdiSubWindow*>(qt_text(field.form));
             if (form == nullptr) {
                 continue;
             }
-            const std::string& entry = kept.*field.member;
-            if (const auto* box = form->findChild<QLineEdit*>(qt_text(field.name))) {
-                ASSERT_EQ(utf8_text(box->text()), entry) << field.form << "." << field.name << ", event " << event;
-            } else if (const auto* check = form->findChild<QAbstractButton*>(qt_text(field.name))) {
-                ASSERT_EQ(check->isChecked(), entry == "1") << field.form << "." << field.name << ", event " << event;
+            if (auto* box = form->findChild<QLineEdit*>(qt_text(field.name))) {
+                boxes.emplace_back(box, &field);
+            } else if (auto* check = form->findChild<QAbstractButton*>(qt_text(field.name))) {
+                checks.emplace_back(check, &field);
             }
+        }
+    }
+
+    /// What the boxes show is what the program has, for every entry of every form.
+    void expect_no_lost_entry(int event) const {
+        const entries& kept = on_screen->program().entries;
+        for (const auto& [box, field] : boxes) {
+            ASSERT_NE(box, nullptr) << field->name << " has gone, event " << event;
+            ASSERT_EQ(utf8_text(box->text()), kept.*field->member) << field->name << ", event " << event;
+        }
+        for (const auto& [check, field] : checks) {
+            ASSERT_NE(check, nullptr) << field->name << " has gone, event " << event;
+            ASSERT_EQ(check->isChecked(), kept.*field->member == "1") << field->name << ", event " << event;
         }
     }
 
     temporary_folder folder;
     std::vector<std::string> projects;
     std::unique_ptr<desktop> on_screen;
+    std::vector<std::pair<QPointer<QLineEdit>, const entry_field*>> boxes;
+    std::vector<std::pair<QPointer<QAbstractButton>, const entry_field*>> checks;
 };
 
 }  // namespace
