@@ -7,6 +7,7 @@
 #include "output/dxf_polyline.hpp"
 #include "output/outer_path.hpp"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,7 @@ std::string port_number(double mm, bool inches) {
 /// The first `count` points of an outline, then point 0.
 void write_port_outline(text_lines& out, const std::vector<double>& x, const std::vector<double>& y, std::int64_t count,
                         bool inches) {
-    dxf_polyline polyline(out);
+    dxf_polyline polyline(out, static_cast<std::size_t>(count) + 1);
     const auto vertex = [&](std::int64_t i) {
         polyline.vertex(port_number(checked_at(x, i), inches), port_number(checked_at(y, i), inches));
     };
@@ -51,12 +52,12 @@ std::int64_t count_up_to_zero(const std::vector<double>& x, std::int16_t last) {
 }  // namespace
 
 void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool inches) {
-    dxf_polyline polyline(out);
+    const std::int32_t point_count = to_int32(rotors.profile_points);
+    dxf_polyline polyline(out, static_cast<std::size_t>(point_count) + 1);
     const auto vertex = [&](std::int64_t i) {
         polyline.vertex(length_number(checked_at(rotors.inner_x, i), inches),
                         length_number(checked_at(rotors.inner_y, i), inches));
     };
-    const std::int32_t point_count = to_int32(rotors.profile_points);
     for (std::int32_t i = 0; i < point_count; ++i) {
         vertex(i);
     }
@@ -65,8 +66,10 @@ void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool i
 }
 
 void write_dxf_outer_rotor(text_lines& out, const entries& boxes) {
-    dxf_polyline polyline(out);
-    for (const point2& point : outer_path_points(outer_rotor_path(outer_rotor_entries(boxes, false)))) {
+    constexpr std::size_t POINTS_PER_LOBE = 320;
+    const design_params typed = outer_rotor_entries(boxes, false);
+    dxf_polyline polyline(out, POINTS_PER_LOBE * static_cast<std::size_t>(std::clamp(typed.numlobes, 0, 100)));
+    for (const point2& point : outer_path_points(outer_rotor_path(typed))) {
         polyline.vertex(fixed_number(point.x, DECIMALS), fixed_number(point.y, DECIMALS));
     }
     polyline.end();

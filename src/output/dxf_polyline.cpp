@@ -21,6 +21,10 @@ constexpr auto LAYERS = std::to_array<dxf_layer>({{"0", "7"},
 
 constexpr std::string_view ZERO = "0.000000";
 
+// About so long are the lines around the vertices, and those of one vertex.
+constexpr std::size_t HEAD_BYTES = 1000;
+constexpr std::size_t BYTES_PER_VERTEX = 80;
+
 void write_lines(text_lines& out, std::initializer_list<std::string_view> lines) {
     for (const std::string_view line : lines) {
         out.raw_line(line);
@@ -39,7 +43,8 @@ void write_layer_table(text_lines& out) {
 
 }  // namespace
 
-dxf_polyline::dxf_polyline(text_lines& out) : out_(out) {
+dxf_polyline::dxf_polyline(text_lines& out, std::size_t vertex_count) : out_(out) {
+    out.reserve(out.bytes().size() + HEAD_BYTES + BYTES_PER_VERTEX * vertex_count);
     write_lines(out, {" 0", "SECTION", " 2", "HEADER", " 0", "ENDSEC"});
     write_layer_table(out);
     write_lines(out, {" 0", "SECTION", " 2", "BLOCKS", " 0", "ENDSEC"});

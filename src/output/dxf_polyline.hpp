@@ -3,6 +3,7 @@
 
 #include "core/text_file.hpp"
 
+#include <cstddef>
 #include <string_view>
 
 namespace kvt {
@@ -10,7 +11,8 @@ namespace kvt {
 /// Writes the file's lines as its vertices come: the head at once, a vertex a call, the end when told.
 class dxf_polyline {
   public:
-    explicit dxf_polyline(text_lines& out);
+    /// vertex_count is a hint of how much text will come.
+    dxf_polyline(text_lines& out, std::size_t vertex_count);
     /// One vertex; x and y are the texts of its numbers.
     void vertex(std::string_view x, std::string_view y);
     void end();
