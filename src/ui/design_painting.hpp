@@ -40,11 +40,11 @@ class design_painting {
     void take_ports(const design_view& view);
 
     // In stacking order, lowest first.
-    QPainterPath arcs_;         ///< outer rotor
-    std::vector<layer> ports_;  ///< ports, their angles, groove
-    QVector<QLineF> band_;      ///< rubber band, dotted
+    std::vector<QPainterPath> arcs_;  ///< outer rotor
+    std::vector<layer> ports_;        ///< ports, their angles, groove
+    QVector<QLineF> band_;            ///< rubber band, dotted
     std::vector<QPolygonF> inner_rotor_;
-    QPainterPath circle_;  ///< outside diameter
+    std::vector<QPainterPath> circle_;  ///< outside diameter
 };
 
 }  // namespace kvt

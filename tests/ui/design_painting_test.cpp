@@ -168,4 +168,13 @@ TEST(design_painting, a_zoomed_arc_keeps_its_place_to_the_pixel) {
     }
 }
 
+TEST(design_painting, leaves_out_what_lies_outside_of_any_picture) {
+    design_view view;
+    add_line(view.Line1, {60000, 60000, 90000, 60000});
+    view.Picture1.push_back({60000, 60000, 600, 0.0, 3.0});
+    EXPECT_TRUE(design_painting(view).is_empty());
+    add_line(view.Line1, {-90000, 750, 90000, 750});  // its ends lie outside, its middle does not
+    EXPECT_EQ(painted(view).pixel(50, 50), qRgb(0, 0, 0));
+}
+
 }  // namespace kvt
