@@ -4,7 +4,6 @@
 #include "app/project_commands.hpp"
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
-#include "core/text_table.hpp"
 #include "ui/assist_area.hpp"
 #include "ui/form_parts.hpp"
 #include "ui/language_flag.hpp"
@@ -145,20 +144,13 @@ void Form1::add_entry(QGridLayout& grid, const char* label, const char* entry, b
     }
 }
 
-QPushButton* Form1::button(const char* name) {
-    auto* made = new QPushButton;
-    made->setObjectName(name);
-    made->setFocusPolicy(Qt::TabFocus);
-    return made;
-}
-
 void Form1::add_buttons(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     row->setSpacing(4);
-    calc_ = button("Calc");
+    calc_ = command_button("Calc");
     calc_->setDefault(true);
     accent(*calc_);
-    cleardesign_ = button("cleardesign");
+    cleardesign_ = command_button("cleardesign");
     row->addWidget(calc_, 1);
     row->addWidget(cleardesign_);
     layout.addLayout(row);
@@ -233,10 +225,7 @@ void Form1::show_units() {
     const bool inches = state.drawing_units == INCHES;
     (inches ? dimens2_ : dimens1_)->setChecked(true);
     unittype_->setCurrentText(qt_text(context_.kavetta.labels.unittype));
-    const message unit = inches ? message::unit_inches : message::unit_mm;
-    for (QLabel* label : length_units_) {
-        label->setText(qt_text(message_text(unit, state.language)));
-    }
+    show_length_unit(state, length_units_);
     findChild<QLabel*>("hiddenprojnamelabel")->setText(qt_text(context_.kavetta.labels.hiddenprojnamelabel));
 }
 

@@ -39,7 +39,6 @@ class Form1 : public mdi_form {
     void add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length);
     void add_buttons(QVBoxLayout& layout);
     void add_results(QVBoxLayout& layout);
-    QPushButton* button(const char* name);
     void connect_commands();
     void show_assist();
     void show_units();

@@ -1,6 +1,7 @@
 #include "ui/assist_area.hpp"
 
 #include "app/design_assist.hpp"
+#include "ui/form_parts.hpp"
 #include "ui/qt_text.hpp"
 
 #include <QFrame>
@@ -16,13 +17,6 @@ constexpr int FRAME_LINE = 2;
 constexpr int MARGIN = 3;
 
 constexpr QColor ASSIST_GREEN(0, 255, 0);
-
-QPushButton* button(const char* name) {
-    auto* made = new QPushButton;
-    made->setObjectName(name);
-    made->setFocusPolicy(Qt::TabFocus);
-    return made;
-}
 
 /// A bar that keeps its room while it is hidden, so that nothing moves when the assist is switched.
 QFrame* frame_line(const char* name) {
@@ -54,7 +48,10 @@ QPalette green_button() {
 }  // namespace
 
 assist_area::assist_area(form_context context, QLayout* requirement)
-    : context_(context), ground_(new QFrame), check_(button("Des_assist_check")), designer_(button("designer")) {
+    : context_(context),
+      ground_(new QFrame),
+      check_(command_button("Des_assist_check")),
+      designer_(command_button("designer")) {
     add_ground(requirement);
     add_frame_lines();
     connect_commands();
