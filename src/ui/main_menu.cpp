@@ -5,6 +5,7 @@
 #include "ui/qt_text.hpp"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -36,6 +37,12 @@ void main_menu::add_row(const menu_row& row, QMainWindow& window) {
         QMenu* menu = window.menuBar()->addMenu(name);
         menu->setObjectName(name);
         menu->menuAction()->setVisible(!row.is_hidden);
+        if (row.opening != nullptr) {
+            connect(menu, &QMenu::aboutToShow, this, [this, opening = row.opening] {
+                opening(context_.kavetta);
+                refresh();
+            });
+        }
         menus_[name] = menu;
         actions_[name] = menu->menuAction();
         return;
@@ -56,9 +63,7 @@ void main_menu::add_entry(const menu_row& row, QMenu& menu) {
     action->setVisible(!row.is_hidden);
     action->setCheckable(row.is_checkable);
     action->setChecked(row.is_checkable);
-    if (row.shortcut != QKeySequence::UnknownKey) {
-        action->setShortcuts(row.shortcut);
-    }
+    action->setShortcut(QKeySequence(QString(row.shortcut), QKeySequence::PortableText));
     if (row.command != nullptr) {
         connect(action, &QAction::triggered, this, [this, command = row.command] { context_.runner.run(command); });
     }

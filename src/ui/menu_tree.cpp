@@ -1,8 +1,10 @@
 #include "ui/menu_tree.hpp"
 
+#include "app/dxf_output.hpp"
 #include "app/exit_program.hpp"
 #include "app/explanation_windows.hpp"
 #include "app/project_commands.hpp"
+#include "app/step_output.hpp"
 #include "ui/help_file.hpp"
 
 #include <array>
@@ -18,22 +20,34 @@ bool going_on(program& kavetta, user& person) {
     return false;
 }
 
+template <step_file file>
+bool step_entry(program& kavetta, user& person) {
+    save_step_file(kavetta, person, file);
+    return false;
+}
+
+template <dxf_file file>
+bool dxf_entry(program& kavetta, user& person) {
+    save_dxf_file(kavetta, person, file);
+    return false;
+}
+
 constexpr auto MENU = menu_kind::menu;
 constexpr auto ENTRY = menu_kind::entry;
-constexpr auto NO_KEY = QKeySequence::UnknownKey;
+constexpr auto NO_KEY = "";
 
 const std::array MENU_ROWS = {
     menu_row{"mnufile", "", MENU},
-    menu_row{"mnufilenew", "mnufile", ENTRY, false, QKeySequence::New, going_on<new_project>},
-    menu_row{"mnufileopen", "mnufile", ENTRY, false, QKeySequence::Open, going_on<open_project>},
-    menu_row{"mnufilesave", "mnufile", ENTRY, false, QKeySequence::Save, going_on<save_project>},
-    menu_row{"mnufilesaveas", "mnufile", ENTRY, false, QKeySequence::SaveAs,
+    menu_row{"mnufilenew", "mnufile", ENTRY, false, "Ctrl+N", going_on<new_project>},
+    menu_row{"mnufileopen", "mnufile", ENTRY, false, "Ctrl+O", going_on<open_project>},
+    menu_row{"mnufilesave", "mnufile", ENTRY, false, "Ctrl+S", going_on<save_project>},
+    menu_row{"mnufilesaveas", "mnufile", ENTRY, false, "Ctrl+Shift+S",
              [](program& kavetta, user& person) {
                  save_project_as(kavetta, person);
                  return false;
              }},
-    menu_row{"mnufileprint", "mnufile", ENTRY, false, QKeySequence::Print},
-    menu_row{"mnufileexit", "mnufile", ENTRY, false, QKeySequence::Quit, exit_program},
+    menu_row{"mnufileprint", "mnufile", ENTRY, false, "Ctrl+P"},
+    menu_row{"mnufileexit", "mnufile", ENTRY, false, "Ctrl+Q", exit_program},
     menu_row{"sep", "mnufile", menu_kind::separator},
     menu_row{"mnufileprev", "mnufile", menu_kind::recent_entries},
 
@@ -46,19 +60,20 @@ const std::array MENU_ROWS = {
     menu_row{"mnumodelporting", "mnumodel"},
 
     menu_row{"mnustep", "", MENU},
-    menu_row{"mnustepinner", "mnustep"},
-    menu_row{"mnustepouter", "mnustep"},
-    menu_row{"mnustepassy", "mnustep"},
-    menu_row{"mnustepports", "mnustep"},
+    menu_row{"mnustepinner", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::inner>},
+    menu_row{"mnustepouter", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::outer>},
+    menu_row{"mnustepassy", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::assembly>},
+    menu_row{"mnustepports", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::ports>},
+    // These two stay hidden: the simulation exchange writes their files by itself.
     menu_row{"mnustepports_inlet_GT", "mnustep", ENTRY, true},
     menu_row{"mnustepport_outlet_GT", "mnustep", ENTRY, true},
 
-    menu_row{"mnudxf", "", MENU},
-    menu_row{"mnudxfinner", "mnudxf"},
-    menu_row{"mnudxfouter", "mnudxf"},
-    menu_row{"mnudxfinletport", "mnudxf"},
-    menu_row{"mnudxfoutletport", "mnudxf"},
-    menu_row{"mnudxfmetering", "mnudxf"},
+    menu_row{"mnudxf", "", MENU, false, NO_KEY, nullptr, false, open_dxf_menu},
+    menu_row{"mnudxfinner", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::inner>},
+    menu_row{"mnudxfouter", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::outer>},
+    menu_row{"mnudxfinletport", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::inlet>},
+    menu_row{"mnudxfoutletport", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::outlet>},
+    menu_row{"mnudxfmetering", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::groove>},
 
     menu_row{"mnudata", "", MENU},
     menu_row{"mnudatacnc", "mnudata"},
@@ -78,7 +93,7 @@ const std::array MENU_ROWS = {
     menu_row{"mnuhelp", "", MENU},
     menu_row{"mnuhelpexplain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_gerotor_explanation>},
     menu_row{"mnuhelpport_explain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_porting_explanation>},
-    menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, QKeySequence::HelpContents, going_on<open_help_file>},
+    menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, "F1", going_on<open_help_file>},
     menu_row{"mnuhelpabout", "mnuhelp"},
 };
 
