@@ -113,6 +113,18 @@ TEST_F(portdes_test, tells_a_missing_groove_entry_empties_and_focuses_it) {
     EXPECT_FALSE(shows_outline(kavetta().design_view.inlet_portline));
 }
 
+TEST_F(portdes_test, empties_the_angle_of_each_port_that_no_corner_fits_and_focuses_the_last_one) {
+    start_with_profiles("n07_inch_hydraulic");
+    type("port_radii", "0.9");
+    press("design_ports");
+    const std::string refused = "Error with the Start Angle Outer Radius, please enter a different value";
+    EXPECT_EQ(robot.messages, (std::vector<std::string>{refused, refused}));
+    EXPECT_EQ(shown("inlet_start_outer"), "");
+    EXPECT_EQ(shown("outlet_start_outer"), "");
+    EXPECT_EQ(shown("outlet_start_inner"), "14");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return box("outlet_start_outer")->hasFocus(); }, 2000));
+}
+
 TEST_F(portdes_test, tells_a_port_that_reaches_too_far_in_the_language_of_the_user) {
     write_settings('2');
     start_with_profiles();
