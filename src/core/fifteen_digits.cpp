@@ -22,16 +22,16 @@ struct scanned_digits {
 };
 
 scanned_digits scanned(const char* begin, const char* end) {
-    scanned_digits parts;
-    const char* at = begin;
-    for (; *at != 'e'; ++at) {
-        if (*at != '.') {
-            parts.digits[parts.count++] = *at;
-        }
+    const char* e = end - 4;  // "e-05", or with three digits "e-305"
+    if (*e != 'e') {
+        --e;
     }
-    const bool negative = at[1] == '-';
-    std::from_chars(at + 2, end, parts.exponent);
-    parts.exponent = negative ? -parts.exponent : parts.exponent;
+    scanned_digits parts;
+    parts.digits[0] = *begin;
+    parts.count = e == begin + 1 ? 1 : static_cast<std::size_t>(e - begin) - 1;
+    std::copy_n(begin + 2, parts.count - 1, parts.digits.begin() + 1);
+    std::from_chars(e + 2, end, parts.exponent);
+    parts.exponent = e[1] == '-' ? -parts.exponent : parts.exponent;
     return parts;
 }
 
