@@ -1,15 +1,13 @@
 #include "output/step_ports.hpp"
 
 #include "core/checked_math.hpp"
+#include "output/step_wall.hpp"
 
 #include <algorithm>
 
 namespace kvt {
 
 namespace {
-
-/// An outline with fewer points makes no body.
-constexpr std::size_t SMALLEST_CONTOUR = 6;
 
 bool is_ticked(const std::string& box) {
     return box == "1";

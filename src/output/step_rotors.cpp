@@ -19,12 +19,9 @@ constexpr auto OUTER_ROWS = std::to_array<step_row>({
 
 constexpr int FIRST_OUTER_POINT = 158;
 
-/// The points 0 .. last of two lists. At least the six that a body needs must be there.
+/// The points 0 .. last of two lists; none before anything was calculated.
 std::vector<point2> points_of(const std::vector<double>& x, const std::vector<double>& y, std::int64_t last) {
-    constexpr std::int64_t SMALLEST_LAST = 6;
-    checked_at(x, std::max(last, SMALLEST_LAST));
     std::vector<point2> points;
-    points.reserve(static_cast<std::size_t>(last) + 1);
     for (std::int64_t i = 0; i <= last; ++i) {
         points.push_back({checked_at(x, i), checked_at(y, i)});
     }
@@ -37,7 +34,7 @@ double distance(const point2& a, const point2& b) {
 
 /// Whether the last point is the first one up to rounding, and not a step of the profile before it.
 bool repeats_first(const std::vector<point2>& points) {
-    return distance(points.back(), points.front()) < 0.5 * distance(points[0], points[1]);
+    return points.size() > 1 && distance(points.back(), points.front()) < 0.5 * distance(points[0], points[1]);
 }
 
 std::vector<step_value> outer_values(const design_params& design, const step_wall& bore) {

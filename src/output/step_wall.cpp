@@ -1,15 +1,12 @@
 #include "output/step_wall.hpp"
 
 #include "core/plain_number.hpp"
+#include "core/run_time_error.hpp"
 #include "output/step_entities.hpp"
-
-#include <cassert>
 
 namespace kvt {
 
 namespace {
-
-constexpr std::size_t SMALLEST_CONTOUR = 6;
 
 /// About so many bytes of text come from one point of the contour: four control points, their references, its knots.
 constexpr std::size_t BYTES_PER_POINT = 520;
@@ -35,7 +32,9 @@ step_wall::step_wall(text_lines& out, const std::vector<point2>& contour, double
       depth_(depth),
       first_point_(first_point),
       offset_(offset) {
-    assert(contour.size() >= SMALLEST_CONTOUR);
+    if (contour.size() < SMALLEST_CONTOUR) {
+        throw run_time_error(failure::subscript_out_of_range, "contour of " + std::to_string(contour.size()));
+    }
     out.reserve(out.bytes().size() + BYTES_PER_POINT * contour.size());
     places_.reserve(contour.size());
     for (const point2& point : contour) {

@@ -17,10 +17,13 @@ enum class wall_half { first, second };
 /// Layer j of the control points lies at z = bottom + j depth / 3; 0 is the bottom, 3 the top.
 inline constexpr int WALL_LAYER_COUNT = 4;
 
+/// A cubic needs four points a half.
+inline constexpr std::size_t SMALLEST_CONTOUR = 6;
+
 class step_wall {
   public:
-    /// contour: the distinct points of a closed contour, mm, at least 6 (a cubic needs four points a half). Entity
-    /// numbers are raised by `offset`; the control points get the numbers from `first_point` on.
+    /// contour: the distinct points of a closed contour, mm. Entity numbers are raised by `offset`; the control points
+    /// get the numbers from `first_point` on. Throws subscript_out_of_range for less than SMALLEST_CONTOUR points.
     step_wall(text_lines& out, const std::vector<point2>& contour, double bottom, double depth, int first_point,
               int offset);
 

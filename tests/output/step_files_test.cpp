@@ -150,5 +150,12 @@ TEST_F(rotor_files, end_where_a_profile_is_missing_and_keep_the_lines_before_it)
     EXPECT_EQ(lines().back(), "DATA;");
 }
 
+TEST(rotors_never_calculated, leave_the_file_at_its_header) {
+    text_lines out;
+    EXPECT_FAILURE(write_step_inner_rotor(out, HEADER, {}, {}), failure::subscript_out_of_range);
+    EXPECT_EQ(split_lines(out.bytes()).back(), "DATA;");
+    EXPECT_FAILURE(write_step_outer_rotor(out, HEADER, {}, {}), failure::subscript_out_of_range);
+}
+
 }  // namespace
 }  // namespace kvt

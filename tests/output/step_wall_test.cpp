@@ -2,6 +2,7 @@
 #include "output/step_wall.hpp"
 
 #include "core/text_file.hpp"
+#include "support/expect_failure.hpp"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +28,13 @@ TEST(step_wall, numbers_its_points_layer_by_layer_from_the_bottom) {
     EXPECT_EQ(lines[7], "#1000098 = CARTESIAN_POINT ( 'NONE',  ( 10, 0, -1 ) ) ;");
     EXPECT_EQ(lines[14], "#1000105 = CARTESIAN_POINT ( 'NONE',  ( 10, 0, 0 ) ) ;");
     EXPECT_EQ(lines[27], "#1000118 = CARTESIAN_POINT ( 'NONE',  ( 5, -0.00001, 1 ) ) ;");
+}
+
+TEST(step_wall, refuses_a_contour_that_is_too_small_for_a_cubic) {
+    text_lines out;
+    std::vector<point2> points = seven_points();
+    points.resize(SMALLEST_CONTOUR - 1);
+    EXPECT_FAILURE(step_wall(out, points, 0.0, 1.0, 91, 0), failure::subscript_out_of_range);
 }
 
 TEST(step_wall, divides_the_height_in_thirds) {
