@@ -4,6 +4,7 @@
 #include "app/project_commands.hpp"
 #include "ui/Aboutform.hpp"
 #include "ui/Form1.hpp"
+#include "ui/Form3.hpp"
 #include "ui/Perffrm.hpp"
 #include "ui/drawn_icons.hpp"
 #include "ui/loaded_form.hpp"
@@ -73,6 +74,7 @@ void MDIForm1::connect_commands() {
     on_menu("mnuscreensave", &MDIForm1::save_layout);
     on_menu("mnuscreenrestore", &MDIForm1::restore_layout);
     on_menu("mnuhelpabout", &MDIForm1::show_about);
+    on_menu("mnudatacnc", &MDIForm1::show_cnc_output);
     connect(windows_, &window_menu::chosen, this, &MDIForm1::bring_to_front);
     connect(&context_.runner, &command_runner::finished, this, &MDIForm1::refresh);
     connect(&context_.runner, &command_runner::edited, hints_, &status_hints::refresh);
@@ -205,6 +207,16 @@ void MDIForm1::show_about() {
         Aboutform about(kavetta, this);
         about.exec();
     });
+}
+
+/// The entry in use is left first, as before a command. The dialog itself is none: its OK button starts one.
+void MDIForm1::show_cnc_output() {
+    context_.runner.act([](program&, user&) {});
+    if (context_.runner.is_running() || context_.runner.has_ended()) {
+        return;
+    }
+    Form3 form(context_, this);
+    form.exec();
 }
 
 /// A quiet ground for the windows, in a light and in a dark theme.

@@ -45,6 +45,7 @@ class MDIForm1 : public QMainWindow {
     void save_layout();
     void restore_layout();
     void show_about();
+    void show_cnc_output();
     void ask_exit();
     void colour_background();
 

@@ -23,8 +23,6 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
     {"MDIForm1", "mnumodelporting"},
     {"MDIForm1", "mnustepports_inlet_GT"},
     {"MDIForm1", "mnustepport_outlet_GT"},
-    {"MDIForm1", "mnudata"},
-    {"MDIForm1", "mnudatacnc"},
     {"MDIForm1", "mnudataperf"},
     {"MDIForm1", "mnuupdates"},
     {"MDIForm1", "mnuupdatesauto"},

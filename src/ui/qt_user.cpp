@@ -46,8 +46,11 @@ void qt_user::attach(QMainWindow* window, std::function<void()> refresh, std::fu
     load_ = std::move(load);
 }
 
-/// Dialogs before the main window is on the screen stand alone.
+/// Dialogs before the main window is on the screen stand alone; above another dialog they belong to that.
 QWidget* qt_user::parent() const {
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+        return dialog;
+    }
     return window_ != nullptr && window_->isVisible() ? window_ : nullptr;
 }
 

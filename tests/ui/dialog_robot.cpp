@@ -42,6 +42,10 @@ void dialog_robot::look() {
     if (dialog == nullptr || !dialog->isVisible()) {
         return;
     }
+    // A message box has no name.
+    if (!left_open.empty() && utf8_text(dialog->objectName()) == left_open) {
+        return;
+    }
     if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
         answer_box(*box);
     } else if (auto* file = qobject_cast<QFileDialog*>(dialog)) {
