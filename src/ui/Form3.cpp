@@ -24,11 +24,20 @@ namespace {
 /// Sizes in pixels.
 constexpr int BOX_WIDTH = 110;
 constexpr int BUTTON_WIDTH = 90;
+constexpr int ROW_SPACING = 5;
 
 /// The column of the rotors as the form shows it: the checked file stands last. Those of the ports follow in their
 /// order.
 constexpr std::array<std::size_t, 8> ROTOR_FILES = {0, 1, 3, 4, 5, 6, 7, INNER_OFFSET_CHECKED};
 constexpr std::size_t FIRST_PORT_FILE = 8;
+
+QLabel* column_head(const char* name) {
+    QLabel* head = named_label(name);
+    QFont font = head->font();
+    font.setBold(true);
+    head->setFont(font);
+    return head;
+}
 
 char decimal_mark() {
     return QLocale().decimalPoint() == "," ? ',' : '.';
@@ -47,12 +56,10 @@ Form3::Form3(form_context context, QWidget* parent)
       toolunits_(new QLabel),
       toolunits_groove_(new QLabel),
       groove_label_(named_label("Label5")) {
-    QLabel* heading = named_label("Label1");
-    heading->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 12);
     layout->setSpacing(10);
-    layout->addWidget(heading);
+    layout->addWidget(named_label("Label1"));
     layout->addLayout(lay_out_files());
     layout->addWidget(hairline());
     layout->addLayout(lay_out_entries());
@@ -82,12 +89,14 @@ QCheckBox* Form3::file_box(std::size_t file) {
 
 QLayout* Form3::lay_out_files() {
     auto* rotors = new QVBoxLayout;
-    rotors->addWidget(named_label("Label2"));
+    rotors->setSpacing(ROW_SPACING);
+    rotors->addWidget(column_head("Label2"));
     for (const std::size_t file : ROTOR_FILES) {
         rotors->addWidget(file_box(file));
     }
     auto* ports = new QVBoxLayout;
-    ports->addWidget(named_label("Label3"));
+    ports->setSpacing(ROW_SPACING);
+    ports->addWidget(column_head("Label3"));
     for (std::size_t file = FIRST_PORT_FILE; file < CNC_FILE_COUNT; ++file) {
         ports->addWidget(file_box(file));
     }
