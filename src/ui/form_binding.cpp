@@ -61,7 +61,7 @@ void form_binding::bind_entries() {
             });
         } else if (auto* check = root_.findChild<QAbstractButton*>(qt_text(field.name))) {
             QObject::connect(check, &QAbstractButton::clicked, check, [&entry, &runner](bool checked) {
-                entry = checked ? "1" : "0";
+                entry.assign(1, checked ? '1' : '0');
                 runner.note_edit();
             });
         }
