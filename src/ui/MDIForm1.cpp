@@ -217,6 +217,7 @@ void MDIForm1::show_cnc_output() {
     }
     Form3 form(context_, this);
     form.exec();
+    activateWindow();  // some window managers give the focus to nobody after a box on the dialog
 }
 
 /// A quiet ground for the windows, in a light and in a dark theme.

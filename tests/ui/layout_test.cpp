@@ -1,11 +1,14 @@
 // No text is clipped and no two controls overlap, in both languages and at several font sizes.
+#include "support/scripted_user.hpp"
 #include "ui/Aboutform.hpp"
 #include "ui/Form2.hpp"
+#include "ui/Form3.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/fontfrm.hpp"
 #include "ui/newprojectname.hpp"
 #include "ui/progressfrm.hpp"
 
+#include <QCheckBox>
 #include <QMdiSubWindow>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -71,7 +74,11 @@ class layout_test : public desktop_test {
         fontfrm font(kavetta(), nullptr);
         progressfrm progress(kavetta(), nullptr);
         progress.show_progress("Outer rotor", 40);
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress}) {
+        scripted_user person;
+        Form3 files(form_context{kavetta(), desk().runner(), person}, nullptr);
+        // With the entry of the groove's cutter, which is hidden until then.
+        files.findChild<QCheckBox*>("outlet_port_xy_tool_checkbox")->click();
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress, &files}) {
             dialog->setModal(false);
             dialog->show();
             settle();
