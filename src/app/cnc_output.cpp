@@ -1,6 +1,5 @@
 #include "app/cnc_output.hpp"
 
-#include "app/program_title.hpp"
 #include "app/saved_text.hpp"
 #include "core/checked_math.hpp"
 #include "core/number_text.hpp"
@@ -13,9 +12,6 @@
 namespace kvt {
 
 namespace {
-
-/// Value of the dialog's flags: ask before overwriting.
-constexpr int OVERWRITE_PROMPT = 2;
 
 constexpr std::array<std::string_view, 5> RESOLUTIONS = {"0.01", "0.001", "0.0001", "0.00001", "0.000001"};
 /// Decimals of the first resolution.
@@ -139,16 +135,9 @@ class form_checks {
     cnc_form& form_;
 };
 
-file_dialog save_dialog(const program& kavetta, const cnc_file& file) {
+file_dialog cnc_dialog(const program& kavetta, const cnc_file& file) {
     const std::int16_t language = kavetta.app_state.language;
-    file_dialog dialog;
-    dialog.saving = true;
-    dialog.title = program_title() + std::string(cnc_text(std::string(file.name) + "_title", language));
-    dialog.filter = cnc_text("filter", language);
-    dialog.filter_index = 2;
-    dialog.default_extension = "cnc";
-    dialog.flags = OVERWRITE_PROMPT;
-    return dialog;
+    return save_text_dialog(cnc_text(std::string(file.name) + "_title", language), cnc_text("filter", language), "cnc");
 }
 
 /// The project file carries the path of some of the files.
@@ -172,7 +161,7 @@ void remember_path(app_state& state, const cnc_file& file, const std::string& pa
 void ask_and_save(program& kavetta, user& person, std::size_t index) {
     const cnc_file& file = cnc_files()[index];
     bool written = false;
-    ask_and_save_text(kavetta, person, save_dialog(kavetta, file), [&](text_lines& text, const std::string& path) {
+    ask_and_save_text(kavetta, person, cnc_dialog(kavetta, file), [&](text_lines& text, const std::string& path) {
         written = true;
         remember_path(kavetta.app_state, file, path);
         file.write(cnc_source_of(kavetta), text);

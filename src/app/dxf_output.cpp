@@ -1,6 +1,5 @@
 #include "app/dxf_output.hpp"
 
-#include "app/program_title.hpp"
 #include "app/saved_text.hpp"
 #include "core/text_table.hpp"
 #include "output/dxf_files.hpp"
@@ -11,21 +10,13 @@ namespace kvt {
 
 namespace {
 
-constexpr int OVERWRITE_PROMPT = 2;
-
 std::string text_of(const program& kavetta, const std::string& name) {
     return std::string(row_text(*find_caption("dxf", name), kavetta.app_state.language));
 }
 
 file_dialog dxf_dialog(const program& kavetta, dxf_file file) {
-    file_dialog dialog;
-    dialog.saving = true;
-    dialog.title = program_title() + text_of(kavetta, std::string(dxf_file_name(file)) + "_title");
-    dialog.filter = text_of(kavetta, "filter");
-    dialog.filter_index = 2;
-    dialog.default_extension = "dxf";
-    dialog.flags = OVERWRITE_PROMPT;
-    return dialog;
+    const std::string title = text_of(kavetta, std::string(dxf_file_name(file)) + "_title");
+    return save_text_dialog(title, text_of(kavetta, "filter"), "dxf");
 }
 
 }  // namespace

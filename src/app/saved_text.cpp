@@ -1,8 +1,16 @@
 #include "app/saved_text.hpp"
 
+#include "app/program_title.hpp"
 #include "core/text_table.hpp"
 
 namespace kvt {
+
+namespace {
+
+/// Value of the dialog's flags: ask before overwriting.
+constexpr int OVERWRITE_PROMPT = 2;
+
+}  // namespace
 
 std::optional<run_time_error> save_text(const std::string& path, const text_writer& write) {
     std::optional<run_time_error> failed;
@@ -18,6 +26,17 @@ std::optional<run_time_error> save_text(const std::string& path, const text_writ
         failed = error;
     }
     return failed;
+}
+
+file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter, std::string_view extension) {
+    file_dialog dialog;
+    dialog.saving = true;
+    dialog.title = program_title() + std::string(title_suffix);
+    dialog.filter = filter;
+    dialog.filter_index = 2;
+    dialog.default_extension = extension;
+    dialog.flags = OVERWRITE_PROMPT;
+    return dialog;
 }
 
 void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,

@@ -12,21 +12,12 @@ namespace kvt {
 
 namespace {
 
-constexpr int OVERWRITE_PROMPT = 2;
-
 std::string text_of(const program& kavetta, std::string_view name) {
     return std::string(row_text(*find_caption("step", name), kavetta.app_state.language));
 }
 
 file_dialog step_dialog(const program& kavetta) {
-    file_dialog dialog;
-    dialog.saving = true;
-    dialog.title = program_title() + text_of(kavetta, "title");
-    dialog.filter = text_of(kavetta, "filter");
-    dialog.filter_index = 2;
-    dialog.default_extension = "stp";
-    dialog.flags = OVERWRITE_PROMPT;
-    return dialog;
+    return save_text_dialog(text_of(kavetta, "title"), text_of(kavetta, "filter"), "stp");
 }
 
 step_header header_of(const program& kavetta, const std::string& path) {

@@ -33,14 +33,12 @@ void write_step_prism(text_lines& out, const step_prism& prism, int offset) {
                                                {"bottom", bottom_text(prism.bottom)},
                                                {"depth", plain_number_text(prism.depth)}}};
     write_step_rows(out, ROWS, values, offset);
-    wall.write_points();
-    constexpr int TOP = WALL_LAYER_COUNT - 1;
-    wall.write_curve(29, wall_half::first, TOP);
-    wall.write_curve(33, wall_half::first, 0);
-    wall.write_curve(55, wall_half::second, TOP);
-    wall.write_curve(56, wall_half::second, 0);
-    wall.write_surface(45, wall_half::first);
-    wall.write_surface(47, wall_half::second);
+    wall.write({.first_top = 29,
+                .first_bottom = 33,
+                .second_top = 55,
+                .second_bottom = 56,
+                .first_surface = 45,
+                .second_surface = 47});
 }
 
 }  // namespace kvt

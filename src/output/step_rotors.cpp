@@ -71,14 +71,12 @@ void write_step_outer_body(text_lines& out, const design_params& design, const r
     const std::vector<point2> contour = outer_rotor_contour(rotors);
     step_wall bore(out, contour, 0.0, design.thick, FIRST_OUTER_POINT, offset);
     write_step_rows(out, OUTER_ROWS, outer_values(design, bore), offset);
-    bore.write_points();
-    constexpr int TOP = WALL_LAYER_COUNT - 1;
-    bore.write_curve(102, wall_half::first, TOP);
-    bore.write_curve(148, wall_half::first, 0);
-    bore.write_curve(103, wall_half::second, TOP);
-    bore.write_curve(149, wall_half::second, 0);
-    bore.write_surface(150, wall_half::first);
-    bore.write_surface(157, wall_half::second);
+    bore.write({.first_top = 102,
+                .first_bottom = 148,
+                .second_top = 103,
+                .second_bottom = 149,
+                .first_surface = 150,
+                .second_surface = 157});
 }
 
 }  // namespace kvt

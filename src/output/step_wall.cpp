@@ -45,6 +45,17 @@ step_wall::step_wall(text_lines& out, const std::vector<point2>& contour, double
     knots_[1] = knots_text(contour.size() - middle_ + 1, 0.0, point_count);
 }
 
+void step_wall::write(const wall_numbers& numbers) {
+    constexpr int TOP = WALL_LAYER_COUNT - 1;
+    write_points();
+    write_curve(numbers.first_top, wall_half::first, TOP);
+    write_curve(numbers.first_bottom, wall_half::first, 0);
+    write_curve(numbers.second_top, wall_half::second, TOP);
+    write_curve(numbers.second_bottom, wall_half::second, 0);
+    write_surface(numbers.first_surface, wall_half::first);
+    write_surface(numbers.second_surface, wall_half::second);
+}
+
 void step_wall::write_control_point(std::size_t index, int layer) {
     const std::size_t wrapped = index == places_.size() ? 0 : index;
     write_reference(out_,

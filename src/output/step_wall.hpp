@@ -20,6 +20,12 @@ inline constexpr int WALL_LAYER_COUNT = 4;
 /// A cubic needs four points a half.
 inline constexpr std::size_t SMALLEST_CONTOUR = 6;
 
+/// Entity numbers of the wall's curves and surfaces.
+struct wall_numbers {
+    int first_top, first_bottom, second_top, second_bottom;  ///< curves of both halves
+    int first_surface, second_surface;
+};
+
 class step_wall {
   public:
     /// contour: the distinct points of a closed contour, mm. Entity numbers are raised by `offset`; the control points
@@ -30,6 +36,9 @@ class step_wall {
     /// "x, y" of point 0 and of point F\2.
     const std::string& start() const { return places_.front(); }
     const std::string& middle() const { return places_[middle_]; }
+
+    /// All control points, then the curves and surfaces in the order of wall_numbers.
+    void write(const wall_numbers& numbers);
 
     /// Four times F points, layer by layer from the bottom.
     void write_points();
