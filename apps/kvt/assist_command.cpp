@@ -1,9 +1,9 @@
 #include "kvt/assist_command.hpp"
 
 #include "app/project_entries.hpp"
-#include "core/text_table.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/json_report.hpp"
+#include "kvt/report_texts.hpp"
 
 #include <ostream>
 #include <utility>
@@ -13,15 +13,10 @@ namespace kvt {
 
 namespace {
 
-std::string caption_text(std::string_view form, std::string_view name, std::int16_t language) {
-    const text_row* row = find_caption(form, name);
-    return std::string(row == nullptr ? name : row_text(*row, language));
-}
-
 /// The entries that the assist writes, under their captions on the Design form.
 std::string assist_report(const program& kavetta, batch_end end) {
     const std::int16_t language = kavetta.app_state.language;
-    const std::string unit = kavetta.app_state.drawing_units == INCHES ? " in" : " mm";
+    const std::string unit = length_unit(kavetta.app_state);
     const entries& boxes = kavetta.entries;
     std::vector<std::pair<std::string, std::string>> rows;
     if (end == batch_end::ok) {

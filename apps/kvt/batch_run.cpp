@@ -4,6 +4,7 @@
 #include "app/calculate_profiles.hpp"
 #include "app/design_assist.hpp"
 #include "app/design_ports.hpp"
+#include "app/porting_type.hpp"
 #include "app/project_commands.hpp"
 #include "app/unit_commands.hpp"
 #include "core/capacity_unit.hpp"
@@ -52,7 +53,7 @@ void type_entries(program& kavetta, user& person, const design_source& source) {
 }
 
 bool is_whole(const ports_designed& done, const program& kavetta) {
-    return done.inlet && done.outlet && (done.groove || kavetta.entries.metering_groove != "1");
+    return done.inlet && done.outlet && (done.groove || !has_metering_groove(kavetta));
 }
 
 /// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it true.

@@ -1,6 +1,7 @@
 #include "kvt/export_cnc.hpp"
 
 #include "app/cnc_output.hpp"
+#include "app/porting_type.hpp"
 #include "output/cnc_lines.hpp"
 
 #include <algorithm>
@@ -41,9 +42,7 @@ class cnc_export {
     bool has_port(const cnc_file& file) const {
         return !file.port || !port_contour(kavetta_.port_params, *file.port).empty();
     }
-    bool mills_groove(std::size_t index) const {
-        return index == OUTLET_POCKET && kavetta_.entries.metering_groove == "1";
-    }
+    bool mills_groove(std::size_t index) const { return index == OUTLET_POCKET && has_metering_groove(kavetta_); }
 
     void export_file(std::size_t index) {
         const cnc_file& file = cnc_files()[index];

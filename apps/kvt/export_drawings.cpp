@@ -1,6 +1,7 @@
 #include "kvt/export_drawings.hpp"
 
 #include "app/dxf_output.hpp"
+#include "app/porting_type.hpp"
 #include "app/step_output.hpp"
 #include "output/cnc_lines.hpp"
 
@@ -19,7 +20,7 @@ bool has_outlet(const program& kavetta) {
 }
 
 bool has_groove(const program& kavetta) {
-    return kavetta.entries.metering_groove == "1" && kavetta.port_params.groove_last > 0;
+    return has_metering_groove(kavetta) && kavetta.port_params.groove_last > 0;
 }
 
 bool is_possible(const program& kavetta, dxf_file file) {

@@ -1,6 +1,6 @@
 #include "kvt/port_summary.hpp"
 
-#include "core/constants.hpp"
+#include "app/porting_type.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/report_texts.hpp"
 #include "ports/port_fields.hpp"
@@ -39,12 +39,7 @@ struct summary {
     rows lines;
 
     std::string caption(const char* name) const { return caption_text("portdes", name, kavetta.app_state.language); }
-    double in_unit(double millimetres) const {
-        return kavetta.app_state.drawing_units == INCHES ? millimetres / MM_PER_INCH : millimetres;
-    }
-    std::string length(double millimetres) const {
-        return rounded(in_unit(millimetres)) + (kavetta.app_state.drawing_units == INCHES ? " in" : " mm");
-    }
+    std::string length(double millimetres) const { return length_text(kavetta.app_state, millimetres); }
 };
 
 std::string degrees(double angle) {
@@ -95,7 +90,7 @@ std::string port_summary(const program& kavetta) {
     summary table{kavetta, {}};
     add_angles_and_radii(table);
     add_corners(table);
-    if (kavetta.entries.metering_groove == "1") {
+    if (has_metering_groove(kavetta)) {
         add_groove(table);
     }
     return aligned_table(table.lines);

@@ -1,5 +1,6 @@
 #include "kvt/report_texts.hpp"
 
+#include "core/constants.hpp"
 #include "core/fixed4.hpp"
 #include "core/number_text.hpp"
 
@@ -18,6 +19,15 @@ std::string text_of(const text_row* row, std::string_view name, std::int16_t lan
 std::string rounded(double value) {
     constexpr double LARGEST = 1.0e9;
     return std::abs(value) < LARGEST ? fixed4::from(value).text() : number_text(value);
+}
+
+std::string length_unit(const app_state& state) {
+    return state.drawing_units == INCHES ? " in" : " mm";
+}
+
+std::string length_text(const app_state& state, double millimetres) {
+    const bool inches = state.drawing_units == INCHES;
+    return rounded(inches ? millimetres / MM_PER_INCH : millimetres) + length_unit(state);
 }
 
 std::string caption_text(std::string_view form, std::string_view name, std::int16_t language) {

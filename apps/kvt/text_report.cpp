@@ -26,15 +26,6 @@ struct report_row {
     value_text value;
 };
 
-std::string length_unit(const program& kavetta) {
-    return kavetta.app_state.drawing_units == INCHES ? " in" : " mm";
-}
-
-std::string length(const program& kavetta, double millimetres) {
-    const bool inches = kavetta.app_state.drawing_units == INCHES;
-    return rounded(inches ? millimetres / MM_PER_INCH : millimetres) + length_unit(kavetta);
-}
-
 template <std::string entries::*box>
 std::string typed(const program& kavetta) {
     return kavetta.entries.*box;
@@ -42,7 +33,7 @@ std::string typed(const program& kavetta) {
 
 template <std::string entries::*box>
 std::string typed_length(const program& kavetta) {
-    return kavetta.entries.*box + length_unit(kavetta);
+    return kavetta.entries.*box + length_unit(kavetta.app_state);
 }
 
 template <std::string labels::*label>
@@ -55,11 +46,11 @@ std::string capacity(const program& kavetta) {
 }
 
 std::string base_radius(const program& kavetta) {
-    return length(kavetta, kavetta.rotor_profiles.base_radius);
+    return length_text(kavetta.app_state, kavetta.rotor_profiles.base_radius);
 }
 
 std::string roll_radius(const program& kavetta) {
-    return length(kavetta, kavetta.rotor_profiles.roll_radius);
+    return length_text(kavetta.app_state, kavetta.rotor_profiles.roll_radius);
 }
 
 std::string trochoid_ratio(const program& kavetta) {

@@ -1,5 +1,6 @@
 #include "app/cnc_output.hpp"
 
+#include "app/porting_type.hpp"
 #include "app/saved_text.hpp"
 #include "core/checked_math.hpp"
 #include "core/number_text.hpp"
@@ -19,10 +20,6 @@ constexpr int FIRST_DIGITS = 2;
 
 bool inches(const program& kavetta) {
     return kavetta.app_state.drawing_units == INCHES;
-}
-
-bool has_groove(const program& kavetta) {
-    return kavetta.entries.metering_groove == "1";
 }
 
 std::string_view text_of(const program& kavetta, message id) {
@@ -60,7 +57,7 @@ class form_checks {
 
   private:
     bool ticked(std::size_t file) const { return form_.ticked.at(file); }
-    bool mills_groove() const { return ticked(OUTLET_POCKET) && has_groove(kavetta_); }
+    bool mills_groove() const { return ticked(OUTLET_POCKET) && has_metering_groove(kavetta_); }
     bool refuse(std::string_view text) {
         person_.show_message(text);
         return false;
@@ -195,7 +192,7 @@ void tick_cnc_file(const program& kavetta, cnc_form& form, std::size_t file, boo
     if (!ticked) {
         form.groove_entry_shown = false;
         form.groovetooltext.clear();
-    } else if (has_groove(kavetta)) {
+    } else if (has_metering_groove(kavetta)) {
         form.groove_entry_shown = true;
     }
 }

@@ -41,10 +41,6 @@ constexpr std::array<groove_entry, 3> GROOVE_ENTRIES = {{
     {&entries::groove_depth, "groove_depth", message::input_groove_depth},
 }};
 
-bool has_groove(const program& kavetta) {
-    return kavetta.entries.metering_groove == "1";
-}
-
 bool inches(const program& kavetta) {
     return kavetta.app_state.drawing_units == INCHES;
 }
@@ -97,7 +93,7 @@ void draw_ports(program& kavetta, const ports_designed& done) {
 
 bool design_groove(program& kavetta, port_work& work) {
     clear_metering_groove(kavetta.design_view);
-    if (!has_groove(kavetta)) {
+    if (!has_metering_groove(kavetta)) {
         return false;
     }
     kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.inches);
@@ -139,7 +135,7 @@ ports_designed design_ports(program& kavetta, user& person) {
     apply_shadow_rule(kavetta);
     drop_results(kavetta, person);
     put_points_for_commas(kavetta.entries);
-    if (has_groove(kavetta) && misses_groove_entry(kavetta, person)) {
+    if (has_metering_groove(kavetta) && misses_groove_entry(kavetta, person)) {
         return {};
     }
     person.set_busy(true);

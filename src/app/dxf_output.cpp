@@ -1,5 +1,6 @@
 #include "app/dxf_output.hpp"
 
+#include "app/porting_type.hpp"
 #include "app/saved_text.hpp"
 #include "core/text_table.hpp"
 #include "output/dxf_files.hpp"
@@ -49,7 +50,7 @@ void save_dxf_file(const program& kavetta, user& person, dxf_file file) {
 }
 
 void open_dxf_menu(program& kavetta) {
-    kavetta.enabling.mnudxfmetering = kavetta.entries.metering_groove == "1";
+    kavetta.enabling.mnudxfmetering = has_metering_groove(kavetta);
 }
 
 }  // namespace kvt

@@ -16,7 +16,7 @@ void apply_shadow_rule(program& kavetta) {
 void porting_type_clicked(program& kavetta) {
     apply_chain(kavetta.enabling, chain_event::porting_type_changed);
 
-    const bool groove = kavetta.entries.metering_groove == "1";
+    const bool groove = has_metering_groove(kavetta);
     kavetta.enabling.groove_length = groove;
     kavetta.enabling.groove_width = groove;
     kavetta.enabling.groove_depth = groove;

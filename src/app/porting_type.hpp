@@ -8,6 +8,11 @@
 
 namespace kvt {
 
+/// The box metering_groove is ticked.
+inline bool has_metering_groove(const program& kavetta) {
+    return kavetta.entries.metering_groove == "1";
+}
+
 /// Both double-sided boxes together untick and disable shadow_ports; any other combination enables it.
 void apply_shadow_rule(program& kavetta);
 
