@@ -1,8 +1,8 @@
 // What the calc_perf button waits for: Calculate Performance on whole designs, its routines, and the whole chain.
-#include "app/calculate_performance.hpp"
-#include "app/calculate_profiles.hpp"
-#include "app/design_ports.hpp"
-#include "app/project_commands.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/stages/calculate_performance.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
 #include "performance/delivered_flow.hpp"
 #include "performance/drive_power.hpp"
 #include "performance/hertz_contact.hpp"

@@ -1,6 +1,6 @@
 // What the Calc button waits for: Calculate Profiles on whole designs, and its parts.
-#include "app/calculate_profiles.hpp"
-#include "app/project_commands.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/stages/calculate_profiles.hpp"
 #include "support/scripted_user.hpp"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,6 @@
 // What a user waits for after Design Ports: a typical design, and the longest searches there are.
-#include "app/calculate_profiles.hpp"
-#include "app/design_ports.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
 #include "ports/corner_search.hpp"
 #include "support/open_design.hpp"
 

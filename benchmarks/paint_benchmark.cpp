@@ -1,12 +1,12 @@
 // How long a repaint of the rotor pair takes, and a tick of a held rotation button: 3600 elements of the inner rotor, a
 // picture of 700 by 700 pixels.
-#include "app/calculate_profiles.hpp"
-#include "app/project_entries.hpp"
-#include "app/view_commands.hpp"
+#include "app/files/project_entries.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/windows/view_commands.hpp"
+#include "base/text_file.hpp"
 #include "core/project_file.hpp"
-#include "core/text_file.hpp"
 #include "support/scripted_user.hpp"
-#include "ui/design_painting.hpp"
+#include "ui/parts/design_painting.hpp"
 
 #include <QImage>
 #include <QPainter>

@@ -1,6 +1,6 @@
 // What Open and Save wait for: the bytes of a project turned into its record and back, and the file itself.
+#include "base/text_file.hpp"
 #include "core/project_file.hpp"
-#include "core/text_file.hpp"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>

@@ -1,8 +1,8 @@
 // The STEP file of an inner rotor, written by Kavetta and by a solid-modelling kernel's own writer from a solid with
 // the same two splines. Both write to a file; the kernel's solid is built beforehand.
-#include "app/saved_text.hpp"
-#include "app/step_output.hpp"
-#include "output/step_rotors.hpp"
+#include "app/files/saved_text.hpp"
+#include "app/files/step_output.hpp"
+#include "output/step/step_rotors.hpp"
 #include "support/cnc_design.hpp"
 #include "support/temporary_folder.hpp"
 

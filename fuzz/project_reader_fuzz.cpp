@@ -1,7 +1,7 @@
 // Fuzz target: the project reader and the readings of a number end in a value or in a run_time_error for any bytes.
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
+#include "base/run_time_error.hpp"
 #include "core/project_file.hpp"
-#include "core/run_time_error.hpp"
 
 #include <cmath>
 #include <cstddef>

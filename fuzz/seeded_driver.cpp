@@ -1,5 +1,5 @@
 // Runs a fuzz target without libFuzzer: the fixtures of a folder, mutations of them, and random texts, from one seed.
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "support/property_runs.hpp"
 
 #include <algorithm>

@@ -8,7 +8,7 @@ import pathlib
 import re
 import sys
 
-LEVELS = [["core"], ["geometry"], ["ports"], ["performance"], ["output", "views", "cad"], ["gtsuite"], ["app"], ["ui"]]
+LEVELS = [["base"], ["core"], ["geometry"], ["ports"], ["performance"], ["output", "views", "cad"], ["gtsuite"], ["app"], ["ui"]]
 LEVEL_OF = {room: level for level, rooms in enumerate(LEVELS) for room in rooms}
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 

@@ -1,11 +1,12 @@
 // kavetta: the desktop program.
-#include "app/run_command.hpp"
-#include "app/start_up.hpp"
+#include "app/desk/run_command.hpp"
+#include "app/desk/start_up.hpp"
+#include "base/run_time_error.hpp"
 #include "core/app_state.hpp"
-#include "core/run_time_error.hpp"
-#include "ui/application_style.hpp"
-#include "ui/desktop.hpp"
-#include "ui/qt_text.hpp"
+#include "core/failure_text.hpp"
+#include "ui/shell/application_style.hpp"
+#include "ui/shell/desktop.hpp"
+#include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -31,9 +32,10 @@ std::optional<std::filesystem::path> filled_program_folder() {
         kvt::fill_program_folder(folder, share_folder());
         return folder;
     } catch (const kvt::run_time_error& error) {
+        const std::string text(kvt::failure_text(error.kind(), kvt::ENGLISH));
         QMessageBox::critical(
             nullptr, kvt::qt_text("Kavetta"),
-            kvt::qt_text(std::to_string(error.number()) + ": " + error.text(kvt::ENGLISH) + "\n" + error.what()));
+            kvt::qt_text(std::to_string(error.number()) + ": " + text + "\n" + text + ": " + error.detail()));
         return std::nullopt;
     }
 }

@@ -1,14 +1,15 @@
 #include "kvt/batch_run.hpp"
 
-#include "app/calculate_performance.hpp"
-#include "app/calculate_profiles.hpp"
-#include "app/design_assist.hpp"
-#include "app/design_ports.hpp"
-#include "app/porting_type.hpp"
-#include "app/project_commands.hpp"
-#include "app/unit_commands.hpp"
+#include "app/desk/unit_commands.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/stages/calculate_performance.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_assist.hpp"
+#include "app/stages/design_ports.hpp"
+#include "app/stages/porting_type.hpp"
+#include "base/number_text.hpp"
 #include "core/capacity_unit.hpp"
-#include "core/number_text.hpp"
+#include "core/failure_text.hpp"
 #include "core/text_table.hpp"
 
 namespace kvt {
@@ -109,7 +110,7 @@ int exit_status(const batch_result& result) {
 
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
     return std::string(message_text(message::run_time_failure, language)) + number_text(error.number()) + ": " +
-           error.text(language);
+           std::string(failure_text(error.kind(), language));
 }
 
 std::optional<batch_end> open_design(program& kavetta, batch_user& person, const design_source& source) {

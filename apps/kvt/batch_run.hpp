@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/program.hpp"
-#include "core/run_time_error.hpp"
+#include "base/run_time_error.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/typed_entry.hpp"
 

@@ -1,6 +1,6 @@
 #include "kvt/calc_command.hpp"
 
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "kvt/json_report.hpp"
 #include "kvt/text_report.hpp"
 

@@ -1,8 +1,8 @@
 #include "kvt/export_cnc.hpp"
 
-#include "app/cnc_output.hpp"
-#include "app/porting_type.hpp"
-#include "output/cnc_lines.hpp"
+#include "app/files/cnc_output.hpp"
+#include "app/stages/porting_type.hpp"
+#include "output/cnc/cnc_lines.hpp"
 
 #include <algorithm>
 #include <ostream>

@@ -1,7 +1,7 @@
 #include "kvt/export_command.hpp"
 
-#include "app/port_report_file.hpp"
-#include "app/project_entries.hpp"
+#include "app/files/port_report_file.hpp"
+#include "app/files/project_entries.hpp"
 #include "kvt/export_cnc.hpp"
 #include "kvt/export_drawings.hpp"
 #include "ports/port_report.hpp"

@@ -1,9 +1,9 @@
 #include "kvt/export_drawings.hpp"
 
-#include "app/dxf_output.hpp"
-#include "app/porting_type.hpp"
-#include "app/step_output.hpp"
-#include "output/cnc_lines.hpp"
+#include "app/files/dxf_output.hpp"
+#include "app/files/step_output.hpp"
+#include "app/stages/porting_type.hpp"
+#include "output/cnc/cnc_lines.hpp"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // The folder that a design's files are written to, and what is told about them.
 #pragma once
 
-#include "app/saved_text.hpp"
+#include "app/files/saved_text.hpp"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,9 +1,9 @@
 #include "kvt/export_options.hpp"
 
-#include "app/cnc_output.hpp"
-#include "app/dxf_output.hpp"
-#include "app/step_output.hpp"
-#include "core/number_text.hpp"
+#include "app/files/cnc_output.hpp"
+#include "app/files/dxf_output.hpp"
+#include "app/files/step_output.hpp"
+#include "base/number_text.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

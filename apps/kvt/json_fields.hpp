@@ -1,7 +1,7 @@
 // json_fields: tables that say which fields of a record go into JSON, and under which name.
 #pragma once
 
-#include "core/fixed4.hpp"
+#include "base/fixed4.hpp"
 
 #include <algorithm>
 #include <array>

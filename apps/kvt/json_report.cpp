@@ -1,6 +1,6 @@
 #include "kvt/json_report.hpp"
 
-#include "app/port_report_file.hpp"
+#include "app/files/port_report_file.hpp"
 #include "kvt/json_fields.hpp"
 #include "kvt/json_performance.hpp"
 #include "kvt/json_view.hpp"

@@ -1,6 +1,6 @@
 #include "kvt/performance_summary.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/report_texts.hpp"
 #include "performance/perf_units.hpp"

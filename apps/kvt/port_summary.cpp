@@ -1,6 +1,6 @@
 #include "kvt/port_summary.hpp"
 
-#include "app/porting_type.hpp"
+#include "app/stages/porting_type.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/report_texts.hpp"
 #include "ports/port_fields.hpp"

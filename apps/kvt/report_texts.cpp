@@ -1,8 +1,8 @@
 #include "kvt/report_texts.hpp"
 
-#include "core/constants.hpp"
-#include "core/fixed4.hpp"
-#include "core/number_text.hpp"
+#include "base/constants.hpp"
+#include "base/fixed4.hpp"
+#include "base/number_text.hpp"
 
 #include <cmath>
 

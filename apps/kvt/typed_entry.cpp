@@ -1,10 +1,10 @@
 #include "kvt/typed_entry.hpp"
 
-#include "app/entry_handlers.hpp"
-#include "app/porting_type.hpp"
-#include "app/unit_commands.hpp"
+#include "app/desk/unit_commands.hpp"
+#include "app/stages/entry_handlers.hpp"
+#include "app/stages/porting_type.hpp"
+#include "base/code_page.hpp"
 #include "core/capacity_unit.hpp"
-#include "core/code_page.hpp"
 #include "kvt/near_names.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // program: all state of one Kavetta, one instance a process in the desktop program, many in the batch program.
 #pragma once
 
-#include "app/stage_entries.hpp"
+#include "app/stages/stage_entries.hpp"
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
 #include "core/design_params.hpp"
@@ -10,7 +10,7 @@
 #include "core/rotor_profiles.hpp"
 #include "core/user.hpp"
 #include "core/window_rectangles.hpp"
-#include "output/cnc_source.hpp"
+#include "output/cnc/cnc_source.hpp"
 #include "performance/perf_inputs.hpp"
 #include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"

@@ -1,7 +1,7 @@
 // app_state: the state of the program beside the design itself.
 #pragma once
 
-#include "core/fixed4.hpp"
+#include "base/fixed4.hpp"
 
 #include <cstdint>
 #include <string>

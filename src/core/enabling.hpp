@@ -1,7 +1,7 @@
 // enabling: which buttons, menus and entries can be used. Commands set it; forms show it.
 #pragma once
 
-#include "core/named_fields.hpp"
+#include "base/named_fields.hpp"
 
 #include <span>
 #include <string_view>

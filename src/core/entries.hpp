@@ -1,7 +1,7 @@
 // entries: the texts of all boxes of the input forms, exactly as the user typed them, and the check boxes.
 #pragma once
 
-#include "core/named_fields.hpp"
+#include "base/named_fields.hpp"
 
 #include <span>
 #include <string>

@@ -1,10 +1,10 @@
 // The table of the 59 lines of a project file, one loop that reads it and one that writes it.
 #include "core/project_file.hpp"
 
-#include "core/code_page.hpp"
-#include "core/number_text.hpp"
-#include "core/run_time_error.hpp"
-#include "core/text_file.hpp"
+#include "base/code_page.hpp"
+#include "base/number_text.hpp"
+#include "base/run_time_error.hpp"
+#include "base/text_file.hpp"
 
 #include <array>
 #include <cstddef>

@@ -1,8 +1,8 @@
 // rotor_profiles: everything that Calculate Profiles computes. Lengths mm; angles in arrays radians.
 #pragma once
 
-#include "core/constants.hpp"
-#include "core/fixed4.hpp"
+#include "base/constants.hpp"
+#include "base/fixed4.hpp"
 
 #include <cstdint>
 #include <vector>

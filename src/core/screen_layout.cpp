@@ -1,9 +1,9 @@
 #include "core/screen_layout.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/code_page.hpp"
-#include "core/number_text.hpp"
-#include "core/text_file.hpp"
+#include "base/checked_math.hpp"
+#include "base/code_page.hpp"
+#include "base/number_text.hpp"
+#include "base/text_file.hpp"
 
 #include <cmath>
 #include <cstddef>

@@ -1,8 +1,8 @@
 // The seven lines of the settings file: read as far as they go, written whole.
 #include "core/settings_file.hpp"
 
-#include "core/code_page.hpp"
-#include "core/text_file.hpp"
+#include "base/code_page.hpp"
+#include "base/text_file.hpp"
 
 #include <cstddef>
 #include <vector>

@@ -1,7 +1,7 @@
 // window_rectangles: where the windows stand, in twips (15 to a pixel at 100 % scaling), as data.
 #pragma once
 
-#include "core/named_fields.hpp"
+#include "base/named_fields.hpp"
 
 #include <cstdint>
 #include <optional>

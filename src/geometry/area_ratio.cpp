@@ -1,7 +1,7 @@
 #include "geometry/area_ratio.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/number_text.hpp"
 #include "geometry/polar_area.hpp"
 
 namespace kvt {

@@ -1,9 +1,9 @@
 // The entries of the Design form before a run of the Design assist, and the dimensions that it writes back.
 #pragma once
 
+#include "base/fixed4.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
-#include "core/fixed4.hpp"
 #include "core/text_table.hpp"
 
 #include <cstdint>

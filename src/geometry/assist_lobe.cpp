@@ -1,6 +1,6 @@
 // Stage 2 of the Design assist: the lobe radius from below the limit of curvature.
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/assist_search.hpp"
 #include "geometry/number_range.hpp"
 #include "geometry/quarter_steps.hpp"

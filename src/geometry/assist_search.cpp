@@ -1,7 +1,7 @@
 #include "geometry/assist_search.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/capacity.hpp"
 #include "geometry/quarter_steps.hpp"
 #include "geometry/trochoid.hpp"

@@ -1,8 +1,8 @@
 // The search of the Design assist: root radius, eccentricity and lobe radius for a required capacity.
 #pragma once
 
+#include "base/fixed4.hpp"
 #include "core/design_params.hpp"
-#include "core/fixed4.hpp"
 #include "core/rotor_profiles.hpp"
 
 namespace kvt {

@@ -1,8 +1,8 @@
 #include "geometry/entry_checks.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
+#include "base/number_text.hpp"
 #include "geometry/required_entries.hpp"
 
 #include <array>

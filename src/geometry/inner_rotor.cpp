@@ -1,7 +1,7 @@
 #include "geometry/inner_rotor.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/point2.hpp"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "geometry/interference.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/polar_area.hpp"
 
 #include <cmath>

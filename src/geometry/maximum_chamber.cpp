@@ -1,7 +1,7 @@
 #include "geometry/maximum_chamber.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/chamber_window.hpp"
 #include "geometry/polar_area.hpp"
 #include "geometry/turned_profiles.hpp"

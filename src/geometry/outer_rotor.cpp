@@ -1,7 +1,7 @@
 #include "geometry/outer_rotor.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/outer_arc.hpp"
 #include "geometry/outer_flank.hpp"
 

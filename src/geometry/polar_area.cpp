@@ -1,6 +1,6 @@
 #include "geometry/polar_area.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 
 #include <cmath>
 

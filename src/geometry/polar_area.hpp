@@ -1,7 +1,7 @@
 // The polar area sum: the area of a point list seen from the origin, triangle by triangle.
 #pragma once
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "geometry/point2.hpp"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "geometry/quarter_steps.hpp"
 
-#include "core/run_time_error.hpp"
+#include "base/run_time_error.hpp"
 
 #include <cmath>
 

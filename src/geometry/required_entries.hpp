@@ -1,8 +1,8 @@
 // The entries that Calculate Profiles and the Design assist both need above 0, in the order in which both check them.
 #pragma once
 
+#include "base/number_text.hpp"
 #include "core/entries.hpp"
-#include "core/number_text.hpp"
 #include "core/text_table.hpp"
 
 #include <array>

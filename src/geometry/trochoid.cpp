@@ -1,7 +1,7 @@
 #include "geometry/trochoid.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/trochoid_spacing.hpp"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "geometry/trochoid_spacing.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 
 namespace kvt {
 

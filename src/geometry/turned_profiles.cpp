@@ -1,6 +1,6 @@
 #include "geometry/turned_profiles.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "geometry/polar_area.hpp"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "output/outer_path.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
+#include "base/number_text.hpp"
 #include "geometry/outer_arc.hpp"
 #include "geometry/outer_flank.hpp"
 

@@ -1,6 +1,6 @@
 #include "output/port_contours.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "ports/port_fields.hpp"
 
 namespace kvt {

@@ -1,7 +1,7 @@
 #include "performance/chamber_rate.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 
 #include <cmath>
 

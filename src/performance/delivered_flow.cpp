@@ -1,7 +1,7 @@
 #include "performance/delivered_flow.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "performance/extremes.hpp"
 #include "performance/perf_units.hpp"
 

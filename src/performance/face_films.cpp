@@ -1,7 +1,7 @@
 #include "performance/face_films.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 
 namespace kvt {
 

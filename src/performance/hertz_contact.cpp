@@ -1,7 +1,7 @@
 #include "performance/hertz_contact.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "performance/side_load.hpp"
 
 #include <cmath>

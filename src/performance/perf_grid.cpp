@@ -1,6 +1,6 @@
 #include "performance/perf_grid.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "performance/perf_units.hpp"
 
 namespace kvt {

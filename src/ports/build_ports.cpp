@@ -1,6 +1,6 @@
 #include "ports/build_ports.hpp"
 
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 #include "ports/port_entries.hpp"
 #include "ports/port_fields.hpp"
 #include "ports/port_outline.hpp"

@@ -1,7 +1,7 @@
 #include "ports/corner_search.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "ports/polar.hpp"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "ports/metering_groove.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
+#include "base/number_text.hpp"
 #include "ports/corner_search.hpp"
 #include "ports/groove_outline.hpp"
 #include "ports/polar.hpp"

@@ -1,6 +1,6 @@
 #include "ports/outline_points.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "ports/polar.hpp"
 
 #include <algorithm>

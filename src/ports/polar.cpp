@@ -1,6 +1,6 @@
 #include "ports/polar.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 
 #include <cmath>
 

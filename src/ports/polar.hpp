@@ -1,7 +1,7 @@
 // Angles in degrees with the product's pi: cosines and sines, points on circles, arctangents of slopes.
 #pragma once
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "geometry/point2.hpp"
 
 namespace kvt {

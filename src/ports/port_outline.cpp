@@ -1,6 +1,6 @@
 #include "ports/port_outline.hpp"
 
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 #include "ports/polar.hpp"
 #include "ports/port_fields.hpp"
 

@@ -1,6 +1,6 @@
 #include "ports/port_report.hpp"
 
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 #include "ports/port_fields.hpp"
 
 namespace kvt {

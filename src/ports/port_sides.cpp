@@ -1,7 +1,7 @@
 #include "ports/port_sides.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/number_text.hpp"
 #include "ports/corner_search.hpp"
 #include "ports/polar.hpp"
 #include "ports/port_corners.hpp"

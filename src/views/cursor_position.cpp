@@ -1,6 +1,6 @@
 #include "views/cursor_position.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 
 namespace kvt {
 

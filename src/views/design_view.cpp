@@ -1,6 +1,6 @@
 #include "views/design_view.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "views/inner_outline.hpp"
 #include "views/twips.hpp"
 

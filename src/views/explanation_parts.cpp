@@ -1,6 +1,6 @@
 #include "views/explanation_parts.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 
 #include <cmath>
 

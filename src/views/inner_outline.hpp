@@ -1,7 +1,7 @@
 // The inner rotor's lines in the Design view, one a pair of neighbouring points of the plot list.
 #pragma once
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "core/rotor_profiles.hpp"
 #include "geometry/polar_area.hpp"
 #include "views/design_view.hpp"

@@ -1,6 +1,6 @@
 // The arcs of the outer rotor in the Design view.
-#include "core/checked_math.hpp"
-#include "core/constants.hpp"
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "geometry/outer_flank.hpp"
 #include "geometry/point2.hpp"
 #include "views/design_view.hpp"

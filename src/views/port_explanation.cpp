@@ -1,6 +1,6 @@
 #include "views/port_explanation.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "views/explanation_parts.hpp"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "views/port_lines.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "geometry/point2.hpp"
 #include "views/twips.hpp"
 

@@ -1,6 +1,6 @@
 #include "views/rotor_explanation.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "geometry/outer_flank.hpp"
 #include "views/explanation_parts.hpp"
 

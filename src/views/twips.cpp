@@ -1,6 +1,6 @@
 #include "views/twips.hpp"
 
-#include "core/run_time_error.hpp"
+#include "base/run_time_error.hpp"
 
 #include <cmath>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "views/view_layout.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "views/zoom.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "views/inner_outline.hpp"
 #include "views/port_lines.hpp"
 #include "views/twips.hpp"

@@ -1,8 +1,8 @@
 // Project files of every length that was ever written, broken ones, and the round trip to the byte.
 #include "core/project_file.hpp"
 
-#include "core/code_page.hpp"
-#include "core/text_file.hpp"
+#include "base/code_page.hpp"
+#include "base/text_file.hpp"
 #include "support/expect_failure.hpp"
 #include "support/property_runs.hpp"
 

@@ -1,7 +1,7 @@
 // Tests of the layout file: the bytes written, and every way a reading can end.
 #include "core/screen_layout.hpp"
 
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "support/expect_failure.hpp"
 #include "support/property_runs.hpp"
 

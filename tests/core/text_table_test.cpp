@@ -1,7 +1,7 @@
 // Tests of the text table: what must hold for every row, the choice of language, and rows kept letter for letter.
 #include "core/text_table.hpp"
 
-#include "core/code_page.hpp"
+#include "base/code_page.hpp"
 #include "core/entries.hpp"
 
 #include <algorithm>

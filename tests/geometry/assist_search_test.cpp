@@ -1,7 +1,7 @@
 // Tests of the Design assist's search: hand-made cases, its edges, and the single-step search it must equal.
 #include "geometry/assist_search.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "geometry/trochoid.hpp"
 #include "support/expect_failure.hpp"
 #include "support/property_runs.hpp"

@@ -1,5 +1,5 @@
 // Tests of the chamber window, the turned profiles and both chambers.
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 #include "geometry/chamber_window.hpp"
 #include "geometry/maximum_chamber.hpp"
 #include "geometry/minimum_chamber.hpp"

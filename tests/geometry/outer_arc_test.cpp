@@ -1,7 +1,7 @@
 // Tests of the arcs of the outer rotor: start angle, sweep, and the tables that unwrap the end angle.
 #include "geometry/outer_arc.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "support/expect_failure.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Tests of the triangle rule.
 #include "geometry/polar_area.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "support/expect_failure.hpp"
 
 #include <cmath>

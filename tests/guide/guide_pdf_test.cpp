@@ -1,5 +1,5 @@
 // Tests of the guide's layout: chapters in order, contents with the right pages, pictures that are there.
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "guide_pdf/guide_book.hpp"
 #include "support/temporary_folder.hpp"
 

@@ -1,8 +1,8 @@
 // Tests of the JSON's shape: names, texts, numbers, and arrays cut to their used length.
 #include "kvt/json_report.hpp"
 
+#include "base/number_text.hpp"
 #include "core/entries.hpp"
-#include "core/number_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <limits>

@@ -1,7 +1,7 @@
 // kvt_run: runs a command line of the batch program inside the test and keeps what it printed.
 #pragma once
 
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "kvt/command_line.hpp"
 #include "kvt/json_fields.hpp"
 #include "support/temporary_folder.hpp"

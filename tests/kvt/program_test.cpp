@@ -1,5 +1,5 @@
 // Tests of the program kvt itself, started as a process: exit statuses, streams, and what it leaves on the disk.
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // Tests of the summaries of the ports and of the performance: their values, units and languages.
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <sstream>

@@ -1,5 +1,5 @@
 // Tests of the summary on standard output.
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <algorithm>

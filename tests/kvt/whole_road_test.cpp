@@ -1,5 +1,5 @@
 // The whole road: every delivered example and every test design goes from its file to all that kvt reports.
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <algorithm>

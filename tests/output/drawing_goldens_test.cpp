@@ -1,6 +1,6 @@
 // The STEP and DXF files of whole designs against golden files, shortened.
-#include "app/dxf_output.hpp"
-#include "app/step_output.hpp"
+#include "app/files/dxf_output.hpp"
+#include "app/files/step_output.hpp"
 #include "support/cnc_design.hpp"
 #include "support/shortened_golden.hpp"
 

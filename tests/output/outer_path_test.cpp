@@ -1,7 +1,7 @@
 // The outer rotor as a chain of arcs, and its points.
 #include "output/outer_path.hpp"
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "support/sample_design.hpp"
 
 #include <cmath>

@@ -1,5 +1,5 @@
 // How the lobes share the drive torque.
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "support/expect_failure.hpp"
 #include "support/performance_case.hpp"
 

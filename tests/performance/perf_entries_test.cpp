@@ -1,8 +1,8 @@
 // The entries of Perffrm: commas, the order of the validation, the conversions of both unit systems.
 #include "performance/perf_entries.hpp"
 
-#include "core/number_text.hpp"
-#include "core/run_time_error.hpp"
+#include "base/number_text.hpp"
+#include "base/run_time_error.hpp"
 #include "performance/perf_units.hpp"
 #include "support/expect_failure.hpp"
 

@@ -1,5 +1,5 @@
 // Pressure ripple: outlet geometry, the line of recovery, the repeated passage, the percentage.
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "support/expect_failure.hpp"
 #include "support/performance_case.hpp"
 

@@ -1,8 +1,8 @@
 // Tests of both ports: every refusal with its message in both languages, and the way back from a radius too large.
 #include "ports/build_ports.hpp"
 
-#include "core/checked_math.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/number_text.hpp"
 #include "support/expect_failure.hpp"
 #include "support/port_design.hpp"
 

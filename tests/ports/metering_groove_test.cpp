@@ -1,7 +1,7 @@
 // Tests of the metering groove on a finished outlet.
 #include "ports/metering_groove.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "ports/build_ports.hpp"
 #include "support/expect_failure.hpp"
 #include "support/port_design.hpp"

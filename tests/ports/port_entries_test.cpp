@@ -1,7 +1,7 @@
 // Tests of the port entries: defaults, units, the rotor entries read again.
 #include "ports/port_entries.hpp"
 
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 #include "support/expect_failure.hpp"
 #include "support/port_design.hpp"
 

@@ -1,6 +1,6 @@
 // What holds for every port: random ports on random rotors, all outlines closed, simple, dense, tangent, on their side.
-#include "core/checked_math.hpp"
-#include "core/number_text.hpp"
+#include "base/checked_math.hpp"
+#include "base/number_text.hpp"
 #include "ports/build_ports.hpp"
 #include "support/port_design.hpp"
 #include "support/property_runs.hpp"

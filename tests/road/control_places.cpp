@@ -2,10 +2,10 @@
 // click. Usage: kvt_control_places SHARE_FOLDER. Prints "form control x y" lines: the middle of each control in pixels
 // from the upper left corner of the main window, with the default layout. "MDIForm1" stands before the menus and, where
 // they appear when their menu is open, the menu entries.
-#include "app/start_up.hpp"
+#include "app/desk/start_up.hpp"
 #include "support/temporary_folder.hpp"
-#include "ui/application_style.hpp"
-#include "ui/desktop.hpp"
+#include "ui/shell/application_style.hpp"
+#include "ui/shell/desktop.hpp"
 
 #include <QApplication>
 #include <QMdiSubWindow>

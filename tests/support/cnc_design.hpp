@@ -1,9 +1,9 @@
 // A whole design with its ports, and the CNC files written from it into memory.
 #pragma once
 
-#include "app/calculate_profiles.hpp"
-#include "app/cnc_output.hpp"
-#include "app/design_ports.hpp"
+#include "app/files/cnc_output.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
 #include "support/open_design.hpp"
 
 #include <string>

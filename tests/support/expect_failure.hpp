@@ -1,7 +1,7 @@
 // EXPECT_FAILURE: an expression ends in a run_time_error of one kind.
 #pragma once
 
-#include "core/run_time_error.hpp"
+#include "base/run_time_error.hpp"
 
 #include <gtest/gtest.h>
 

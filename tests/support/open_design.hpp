@@ -1,8 +1,8 @@
 // Opens a design of tests/data/designs into a new program, as Open does.
 #pragma once
 
+#include "app/files/project_commands.hpp"
 #include "app/program.hpp"
-#include "app/project_commands.hpp"
 #include "support/scripted_user.hpp"
 
 #include <string>

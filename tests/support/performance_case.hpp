@@ -1,10 +1,10 @@
 // performance_case: a sample design with everything that Calculate Performance reads, and the results it must give.
 #pragma once
 
+#include "base/text_file.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
 #include "core/rotor_profiles.hpp"
-#include "core/text_file.hpp"
 #include "performance/delivered_flow.hpp"
 #include "performance/drive_power.hpp"
 #include "performance/hertz_contact.hpp"

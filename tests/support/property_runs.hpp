@@ -1,7 +1,7 @@
 // Property tests: how many random cases a run takes, and the seed that it prints and can be given again.
 #pragma once
 
-#include "core/number_text.hpp"
+#include "base/number_text.hpp"
 
 #include <algorithm>
 #include <cmath>

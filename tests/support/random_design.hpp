@@ -1,10 +1,10 @@
 // Random designs with ports, as an engineer would type them, drawn until every command accepts them.
 #pragma once
 
-#include "app/calculate_profiles.hpp"
-#include "app/design_ports.hpp"
 #include "app/program.hpp"
-#include "core/number_text.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
+#include "base/number_text.hpp"
 #include "support/property_runs.hpp"
 #include "support/scripted_user.hpp"
 

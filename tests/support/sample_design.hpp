@@ -1,7 +1,7 @@
 // A sound 7-lobe design for tests: as typed entries, as a read design, and as a computed rotor pair.
 #pragma once
 
-#include "core/constants.hpp"
+#include "base/constants.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
 #include "core/rotor_profiles.hpp"

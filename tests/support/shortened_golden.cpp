@@ -1,7 +1,7 @@
 #include "support/shortened_golden.hpp"
 
-#include "core/fixed_number.hpp"
-#include "core/text_file.hpp"
+#include "base/fixed_number.hpp"
+#include "base/text_file.hpp"
 #include "support/golden_files.hpp"
 
 #include <charconv>

@@ -1,11 +1,11 @@
 // A running desktop program with a folder of its own, its dialogs answered by a robot.
 #pragma once
 
-#include "core/text_file.hpp"
+#include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
-#include "ui/desktop.hpp"
 #include "ui/dialog_robot.hpp"
-#include "ui/qt_text.hpp"
+#include "ui/shell/desktop.hpp"
+#include "ui/shell/qt_text.hpp"
 #include "ui/typing.hpp"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "ui/dialog_robot.hpp"
 
-#include "ui/qt_text.hpp"
+#include "ui/shell/qt_text.hpp"
 #include "ui/typing.hpp"
 
 #include <QAbstractButton>

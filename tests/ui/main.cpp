@@ -1,5 +1,5 @@
 // The test program of src/ui: GoogleTest inside a Qt application without a screen.
-#include "ui/application_style.hpp"
+#include "ui/shell/application_style.hpp"
 
 #include <QApplication>
 

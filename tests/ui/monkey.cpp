@@ -1,6 +1,6 @@
 #include "ui/monkey.hpp"
 
-#include "ui/qt_text.hpp"
+#include "ui/shell/qt_text.hpp"
 
 #include <QAbstractButton>
 #include <QAction>

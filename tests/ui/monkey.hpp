@@ -3,7 +3,7 @@
 #pragma once
 
 #include "support/property_runs.hpp"
-#include "ui/desktop.hpp"
+#include "ui/shell/desktop.hpp"
 
 #include <QObject>
 #include <QPointer>

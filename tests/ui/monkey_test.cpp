@@ -1,10 +1,10 @@
 // Random events on all forms: the program neither falls nor loses an entry.
 #include "ui/monkey.hpp"
 
-#include "app/start_up.hpp"
-#include "core/text_file.hpp"
+#include "app/desk/start_up.hpp"
+#include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
-#include "ui/qt_text.hpp"
+#include "ui/shell/qt_text.hpp"
 
 #include <QAbstractButton>
 #include <QApplication>

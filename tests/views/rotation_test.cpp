@@ -1,7 +1,7 @@
 // Tests of the rotation: the angles, the wrap rules, and the pair drawn at its angles.
 #include "views/rotation.hpp"
 
-#include "core/checked_math.hpp"
+#include "base/checked_math.hpp"
 #include "support/expect_failure.hpp"
 #include "support/property_runs.hpp"
 #include "support/sample_design.hpp"

@@ -1,6 +1,6 @@
 #include "guide_pdf/guide_book.hpp"
 
-#include "app/program_title.hpp"
+#include "app/desk/program_title.hpp"
 
 #include <QDir>
 #include <QFile>

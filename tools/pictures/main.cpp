@@ -1,10 +1,10 @@
 // kvt_pictures: draws the explanation pictures that are delivered with the program, in both languages.
 // Usage: kvt_pictures DESIGN.KVT OUT_FOLDER. The design is calculated and its ports designed; their drawing is the
 // picture. Exit status 1 when the design is refused or a text can't be read.
-#include "app/calculate_profiles.hpp"
-#include "app/design_ports.hpp"
-#include "app/project_commands.hpp"
-#include "core/run_time_error.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
+#include "base/run_time_error.hpp"
 #include "pictures/explanation_painting.hpp"
 #include "views/port_explanation.hpp"
 #include "views/rotor_explanation.hpp"

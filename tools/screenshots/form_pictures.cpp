@@ -1,11 +1,11 @@
 #include "screenshots/form_pictures.hpp"
 
-#include "ui/Aboutform.hpp"
-#include "ui/Form2.hpp"
-#include "ui/fontfrm.hpp"
-#include "ui/newprojectname.hpp"
-#include "ui/progressfrm.hpp"
-#include "ui/splashform.hpp"
+#include "ui/forms/Aboutform.hpp"
+#include "ui/forms/Form2.hpp"
+#include "ui/forms/fontfrm.hpp"
+#include "ui/forms/newprojectname.hpp"
+#include "ui/forms/progressfrm.hpp"
+#include "ui/shell/splashform.hpp"
 
 #include <QApplication>
 #include <QMdiSubWindow>

@@ -3,12 +3,12 @@
 //   kvt_screenshots pieces SHARE PROJECT.KVT OUT    every form in both languages, light and dark
 //   kvt_screenshots sheets PIECES OUT               one contact sheet a form from such pieces
 // SHARE is the folder of the delivered files. With QT_SCALE_FACTOR=2 the pictures are those of a dense screen.
-#include "app/design_assist.hpp"
+#include "app/stages/design_assist.hpp"
+#include "base/run_time_error.hpp"
 #include "core/app_state.hpp"
-#include "core/run_time_error.hpp"
 #include "screenshots/contact_sheets.hpp"
 #include "screenshots/form_pictures.hpp"
-#include "ui/application_style.hpp"
+#include "ui/shell/application_style.hpp"
 
 #include <QApplication>
 #include <QDir>

@@ -1,11 +1,11 @@
 #include "screenshots/staged_program.hpp"
 
-#include "app/calculate_performance.hpp"
-#include "app/calculate_profiles.hpp"
-#include "app/design_ports.hpp"
-#include "app/start_up.hpp"
-#include "core/text_file.hpp"
-#include "ui/qt_text.hpp"
+#include "app/desk/start_up.hpp"
+#include "app/stages/calculate_performance.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
+#include "base/text_file.hpp"
+#include "ui/shell/qt_text.hpp"
 
 #include <QAction>
 #include <QApplication>

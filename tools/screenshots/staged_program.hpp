@@ -1,7 +1,7 @@
 // staged_program: the desktop program in a folder of its own, with a project that has gone through all stages.
 #pragma once
 
-#include "ui/desktop.hpp"
+#include "ui/shell/desktop.hpp"
 
 #include <QPixmap>
 #include <QTemporaryDir>

@@ -1,0 +1,49 @@
+#include "app/desk/explanation_windows.hpp"
+
+#include "base/run_time_error.hpp"
+#include "core/text_table.hpp"
+
+namespace kvt {
+
+namespace {
+
+bool& closed_flag(program& kavetta, explanation_window window) {
+    return window == explanation_window::gerotor ? kavetta.app_state.explain_closed
+                                                 : kavetta.app_state.port_explain_closed;
+}
+
+std::string_view text_of(const program& kavetta, std::string_view form, std::string_view control) {
+    return row_text(*find_caption(form, control), kavetta.app_state.language);
+}
+
+}  // namespace
+
+std::string_view form_of(explanation_window window) {
+    return window == explanation_window::gerotor ? "explain" : "port_explain";
+}
+
+std::filesystem::path load_explanation(program& kavetta, explanation_window window) {
+    const std::string_view form = form_of(window);
+    closed_flag(kavetta, window) = false;
+    kavetta.captions.set(form, "", text_of(kavetta, form, ""));
+    const std::filesystem::path picture = kavetta.folder / text_of(kavetta, form, "Image1");
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(picture, error)) {
+        throw run_time_error(failure::file_not_found, picture.string());
+    }
+    return picture;
+}
+
+void unload_explanation(program& kavetta, explanation_window window) {
+    closed_flag(kavetta, window) = true;
+}
+
+void show_gerotor_explanation(program&, user& person) {
+    person.show_form(form_of(explanation_window::gerotor));
+}
+
+void show_porting_explanation(program&, user& person) {
+    person.show_form(form_of(explanation_window::porting));
+}
+
+}  // namespace kvt

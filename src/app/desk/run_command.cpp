@@ -1,0 +1,45 @@
+#include "app/desk/run_command.hpp"
+
+#include "app/files/project_entries.hpp"
+#include "base/run_time_error.hpp"
+#include "core/failure_text.hpp"
+#include "core/text_table.hpp"
+
+#include <string>
+
+namespace kvt {
+
+namespace {
+
+std::string fatal_text(const program& kavetta, const run_time_error& error, const std::filesystem::path& recovery) {
+    const auto text = [&kavetta](message id) { return std::string(message_text(id, kavetta.app_state.language)); };
+    std::string told = text(message::run_time_failure) + std::to_string(error.number()) + ": " +
+                       std::string(failure_text(error.kind(), kavetta.app_state.language)) + ". ";
+    told += recovery.empty() ? text(message::entries_not_saved) : text(message::entries_saved_to) + recovery.string();
+    return told;
+}
+
+}  // namespace
+
+std::filesystem::path save_recovery(const program& kavetta) {
+    const std::filesystem::path recovery = kavetta.folder / RECOVERY_FILE_NAME;
+    try {
+        write_entries(kavetta, recovery.string());
+        return recovery;
+    } catch (const run_time_error&) {
+        return {};
+    }
+}
+
+bool run_command(program& kavetta, user& person, const std::function<bool()>& command) {
+    try {
+        return command();
+    } catch (const run_time_error& error) {
+        const std::filesystem::path recovery = save_recovery(kavetta);
+        person.set_busy(false);
+        person.show_message(fatal_text(kavetta, error, recovery));
+        return true;
+    }
+}
+
+}  // namespace kvt

@@ -1,0 +1,100 @@
+#include "app/desk/start_up.hpp"
+
+#include "app/desk/autosave.hpp"
+#include "app/desk/unit_commands.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/stages/design_assist.hpp"
+#include "base/run_time_error.hpp"
+#include "base/text_file.hpp"
+#include "core/capacity_unit.hpp"
+#include "core/settings_file.hpp"
+
+#include <cstdlib>
+#include <system_error>
+
+namespace kvt {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The value of an environment variable; empty when it is not set.
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+void create_folder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw run_time_error(failure::path_not_found, folder.string());
+    }
+}
+
+void copy_missing(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    if (fs::exists(to, error)) {
+        return;
+    }
+    write_file(to, read_file(from));
+}
+
+}  // namespace
+
+fs::path program_folder() {
+    const std::string named = environment("KAVETTA_HOME");
+    if (!named.empty()) {
+        return fs::absolute(named);
+    }
+    return fs::path(environment("HOME")) / ".local" / "share" / "Kavetta";
+}
+
+void fill_program_folder(const fs::path& folder, const fs::path& share) {
+    create_folder(folder);
+    for (const char* delivered : {"projects", "images", "updates"}) {
+        create_folder(folder / delivered);
+    }
+    std::error_code error;
+    for (fs::recursive_directory_iterator file(share, error), end; !error && file != end; file.increment(error)) {
+        const fs::path target = folder / file->path().lexically_relative(share);
+        if (file->is_directory(error)) {
+            create_folder(target);
+        } else {
+            copy_missing(file->path(), target);
+        }
+    }
+    if (error) {
+        throw run_time_error(failure::path_not_found, share.string());
+    }
+}
+
+void load_settings(program& kavetta) {
+    app_state& state = kavetta.app_state;
+    const std::string settings = read_file(kavetta.folder / SETTINGS_FILE_NAME);
+    read_settings(settings, state);
+    state.capacity_unit = 1;
+    kavetta.labels.unittype = CAPACITY_UNIT_TEXTS[0];
+    state.project_has_file = false;
+    hide_assist(kavetta);
+}
+
+void start_project(program& kavetta, user& person, std::string_view path) {
+    app_state& state = kavetta.app_state;
+    const bool recovered = offer_unsaved_entries(kavetta, person);
+    const bool prompted = !recovered && path.empty();
+    const start_choice choice = prompted ? person.ask_new_or_open() : start_choice::neither;
+    state.new_pressed = choice == start_choice::new_project;
+    state.open_pressed = choice == start_choice::open_project;
+    if (!recovered && !path.empty()) {
+        open_project_file(kavetta, person, path);
+    } else if (state.new_pressed) {
+        new_project(kavetta, person);
+    } else if (state.open_pressed) {
+        open_project(kavetta, person);
+    }
+    set_captions(kavetta);
+    start_autosave(kavetta);
+}
+
+}  // namespace kvt

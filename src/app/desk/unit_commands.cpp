@@ -1,0 +1,85 @@
+#include "app/desk/unit_commands.hpp"
+
+#include "base/number_text.hpp"
+#include "core/capacity_unit.hpp"
+#include "core/text_table.hpp"
+
+namespace kvt {
+
+namespace {
+
+void set_rows(program& kavetta, text_kind kind, std::int16_t language) {
+    for (const text_row& row : text_rows()) {
+        if (row.kind == kind) {
+            kavetta.captions.set(row.form, row.name, row_text(row, language));
+        }
+    }
+}
+
+void set_unit_labels_again(program& kavetta) {
+    if (kavetta.app_state.drawing_units == INCHES) {
+        set_inch_labels(kavetta);
+    } else {
+        set_mm_labels(kavetta);
+    }
+}
+
+}  // namespace
+
+void set_english_captions(program& kavetta) {
+    // Kept: the forms whose English stands at design time only stay German after a change back to English.
+    set_rows(kavetta, text_kind::caption, ENGLISH);
+    set_unit_labels_again(kavetta);
+}
+
+void set_german_captions(program& kavetta) {
+    set_rows(kavetta, text_kind::caption, GERMAN);
+    set_rows(kavetta, text_kind::design_caption, GERMAN);
+    set_unit_labels_again(kavetta);
+}
+
+void set_captions(program& kavetta) {
+    if (kavetta.app_state.language == ENGLISH) {
+        set_english_captions(kavetta);
+    } else if (kavetta.app_state.language == GERMAN) {
+        set_german_captions(kavetta);
+    }
+}
+
+void choose_language(program& kavetta, user& person, std::int16_t language) {
+    kavetta.app_state.language = language;
+    person.unload_form("perf_res");
+    set_captions(kavetta);
+}
+
+void set_mm_labels(program& kavetta) {
+    kavetta.app_state.drawing_units = MILLIMETRES;
+    set_rows(kavetta, text_kind::caption_mm, kavetta.app_state.language);
+}
+
+void set_inch_labels(program& kavetta) {
+    kavetta.app_state.drawing_units = INCHES;
+    set_rows(kavetta, text_kind::caption_inch, kavetta.app_state.language);
+}
+
+void select_capacity_unit(program& kavetta, std::string_view list_text) {
+    const std::int16_t code = capacity_unit_code(list_text);
+    if (code == 0) {
+        return;
+    }
+    app_state& state = kavetta.app_state;
+    const double factor = capacity_unit_factor(state.capacity_unit, code);
+    kavetta.labels.unittype = list_text;
+    state.capacity_unit = code;
+
+    fixed4& capacity = kavetta.rotor_profiles.capacity;
+    capacity = fixed4::from(val(kavetta.labels.capacity));
+    capacity = fixed4::from(capacity.value() * factor);
+    kavetta.labels.capacity = capacity.text();
+
+    state.volumereqd_value = fixed4::from(val(kavetta.entries.volumereqd) * factor);
+    kavetta.entries.volumereqd = state.volumereqd_value.text();
+    kavetta.labels.units_label = list_text;
+}
+
+}  // namespace kvt

@@ -1,0 +1,245 @@
+#include "app/files/cnc_output.hpp"
+
+#include "app/files/saved_text.hpp"
+#include "app/stages/porting_type.hpp"
+#include "base/checked_math.hpp"
+#include "base/number_text.hpp"
+#include "core/text_table.hpp"
+#include "output/cnc/cnc_lines.hpp"
+#include "output/cnc/inner_offset.hpp"
+
+#include <string_view>
+
+namespace kvt {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> RESOLUTIONS = {"0.01", "0.001", "0.0001", "0.00001", "0.000001"};
+/// Decimals of the first resolution.
+constexpr int FIRST_DIGITS = 2;
+
+bool inches(const program& kavetta) {
+    return kavetta.app_state.drawing_units == INCHES;
+}
+
+std::string_view text_of(const program& kavetta, message id) {
+    return message_text(id, kavetta.app_state.language);
+}
+
+/// English in two lines; the German text holds both in one.
+std::string resolution_message(const program& kavetta) {
+    std::string text(text_of(kavetta, message::input_machine_resolution));
+    if (kavetta.app_state.language != GERMAN) {
+        text += "\r" + std::string(text_of(kavetta, message::machine_resolution_movement));
+    }
+    return text;
+}
+
+/// "Max tool size ... is 3mm.", a carriage return, "Select a suitable tool size".
+std::string tool_too_great(const program& kavetta, message text, double largest) {
+    return std::string(text_of(kavetta, text)) + number_text(largest) + "mm.\r" +
+           std::string(text_of(kavetta, message::select_tool_size));
+}
+
+/// One press of okbutton, check by check. Each check shows its message and answers false when it fails.
+class form_checks {
+  public:
+    form_checks(program& kavetta, user& person, cnc_form& form) : kavetta_(kavetta), person_(person), form_(form) {}
+
+    bool run() {
+        if (!has_resolution() || !has_tool_sizes()) {
+            return false;
+        }
+        read_tools();
+        return tool_fits_rotor() && tool_fits_port(INLET_POCKET) && tool_fits_port(OUTLET_POCKET) &&
+               tool_fits_groove() && set_resolution();
+    }
+
+  private:
+    bool ticked(std::size_t file) const { return form_.ticked.at(file); }
+    bool mills_groove() const { return ticked(OUTLET_POCKET) && has_metering_groove(kavetta_); }
+    bool refuse(std::string_view text) {
+        person_.show_message(text);
+        return false;
+    }
+    /// The entry is emptied and gets the focus.
+    bool refuse_entry(std::string& entry, std::string_view control, std::string_view text) {
+        person_.show_message(text);
+        entry.clear();
+        person_.set_focus(control);
+        return false;
+    }
+
+    bool has_resolution() { return !form_.machine_res_combo.empty() || refuse(resolution_message(kavetta_)); }
+
+    bool has_tool_sizes() {
+        for (const std::size_t file : {INNER_OFFSET, INNER_OFFSET_CHECKED, OUTER_OFFSET, INLET_POCKET, OUTLET_POCKET}) {
+            if (ticked(file) && form_.toolsize.empty()) {
+                return refuse(text_of(kavetta_, message::tool_size_required));
+            }
+        }
+        if (mills_groove() && form_.groovetooltext.empty()) {
+            return refuse(text_of(kavetta_, message::groove_tool_size_required));
+        }
+        return true;
+    }
+
+    void read_tools() {
+        form_.toolsize = commas_to_points(form_.toolsize);
+        form_.groovetooltext = commas_to_points(form_.groovetooltext);
+        kavetta_.cnc_choices.tool_diameter = val(form_.toolsize);
+        kavetta_.cnc_choices.groove_tool_diameter = val(form_.groovetooltext);
+        kavetta_.cnc_choices.Opp_Plot = form_.Opp_Plot;
+    }
+
+    /// Kept: neither the comparison nor the number of the message is converted to inches.
+    bool tool_fits_rotor() {
+        const double radouter = kavetta_.design_params.radouter;
+        const bool offset = ticked(INNER_OFFSET) || ticked(INNER_OFFSET_CHECKED);
+        if (!offset || radouter - kavetta_.cnc_choices.tool_diameter / 2.0 >= 0.0) {
+            return true;
+        }
+        return refuse(std::string(text_of(kavetta_, message::tool_too_great_for_rotor)) + number_text(radouter * 2.0) +
+                      " " + form_.toolunits);
+    }
+
+    bool tool_fits_port(std::size_t file) {
+        const double port_radius = kavetta_.port_params.port_radius;
+        if (!ticked(file) || kavetta_.cnc_choices.tool_diameter / 2.0 <= port_radius) {
+            return true;
+        }
+        return refuse_entry(form_.toolsize, "toolsize",
+                            tool_too_great(kavetta_, message::tool_too_great_for_port_radius, port_radius * 2.0));
+    }
+
+    bool tool_fits_groove() {
+        const double width = kavetta_.port_params.groove_width_mm;
+        if (!mills_groove() || kavetta_.cnc_choices.groove_tool_diameter <= width) {
+            return true;
+        }
+        return refuse_entry(form_.groovetooltext, "groovetooltext",
+                            tool_too_great(kavetta_, message::tool_too_great_for_groove, width));
+    }
+
+    bool set_resolution() {
+        std::int16_t& digits = kavetta_.cnc_choices.cnc_res_digits;
+        digits = resolution_digits(form_.machine_res_combo, digits);
+        return digits != 0 || refuse(resolution_message(kavetta_));
+    }
+
+    program& kavetta_;
+    user& person_;
+    cnc_form& form_;
+};
+
+file_dialog cnc_dialog(const program& kavetta, const cnc_file& file) {
+    const std::int16_t language = kavetta.app_state.language;
+    return save_text_dialog(cnc_text(std::string(file.name) + "_title", language), cnc_text("filter", language), "cnc");
+}
+
+/// The project file carries the path of some of the files.
+void remember_path(app_state& state, const cnc_file& file, const std::string& path) {
+    struct remembered {
+        std::string_view name;
+        std::string app_state::*path;
+    };
+    static constexpr std::array<remembered, 5> ROWS = {{{"inner_xy", &app_state::cnc_file_inner},
+                                                        {"inner_offset", &app_state::cnc_file_innertooloffset},
+                                                        {"outer_xy", &app_state::cnc_file_xyouter},
+                                                        {"outer_offset", &app_state::cnc_file_outertooloffset},
+                                                        {"outer_gcode", &app_state::cnc_file_outer}}};
+    for (const remembered& row : ROWS) {
+        if (row.name == file.name) {
+            state.*row.path = path;
+        }
+    }
+}
+
+void ask_and_save(program& kavetta, user& person, std::size_t index) {
+    const cnc_file& file = cnc_files()[index];
+    bool written = false;
+    ask_and_save_text(kavetta, person, cnc_dialog(kavetta, file), [&](text_lines& text, const std::string& path) {
+        written = true;
+        remember_path(kavetta.app_state, file, path);
+        file.write(cnc_source_of(kavetta), text);
+    });
+    if (written && index == INNER_OFFSET) {
+        if (const std::string notice = wrong_side_notice(kavetta); !notice.empty()) {
+            person.show_message(notice);
+        }
+    }
+}
+
+}  // namespace
+
+cnc_form open_cnc_form(const program& kavetta, char decimal_mark) {
+    cnc_form form;
+    const std::string_view row = inches(kavetta) ? "toolunits_inches" : "toolunits_mm";
+    form.toolunits = row_text(*find_caption("Form3", row), kavetta.app_state.language);
+    for (const std::string_view resolution : RESOLUTIONS) {
+        std::string item(resolution);
+        item[1] = decimal_mark;
+        form.machine_res_items.push_back(item);
+    }
+    return form;
+}
+
+void tick_cnc_file(const program& kavetta, cnc_form& form, std::size_t file, bool ticked) {
+    form.ticked.at(file) = ticked;
+    if (file != OUTLET_POCKET) {
+        return;
+    }
+    if (!ticked) {
+        form.groove_entry_shown = false;
+        form.groovetooltext.clear();
+    } else if (has_metering_groove(kavetta)) {
+        form.groove_entry_shown = true;
+    }
+}
+
+std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice) {
+    for (std::size_t i = 0; i < RESOLUTIONS.size(); ++i) {
+        if (commas_to_points(text) == RESOLUTIONS[i]) {
+            return static_cast<std::int16_t>(FIRST_DIGITS + i);
+        }
+    }
+    return last_choice;
+}
+
+bool check_cnc_form(program& kavetta, user& person, cnc_form& form) {
+    return form_checks(kavetta, person, form).run();
+}
+
+cnc_source cnc_source_of(const program& kavetta) {
+    return {kavetta.design_params, kavetta.rotor_profiles,         kavetta.port_params,        kavetta.entries,
+            kavetta.cnc_choices,   kavetta.app_state.project_name, kavetta.app_state.language, inches(kavetta)};
+}
+
+std::string wrong_side_notice(const program& kavetta) {
+    int count = 0;
+    try {
+        const double tool_radius = cutter_radius_mm(kavetta.cnc_choices.tool_diameter, inches(kavetta));
+        count = wrong_side_count(kavetta.design_params, kavetta.rotor_profiles, tool_radius);
+    } catch (const run_time_error&) {
+        return "";  // the file ended there too
+    }
+    const std::int16_t language = kavetta.app_state.language;
+    return count == 0 ? ""
+                      : std::string(cnc_text("wrong_side", language)) + number_text(count) +
+                            std::string(cnc_text("wrong_side_advice", language));
+}
+
+bool write_cnc_files(program& kavetta, user& person, cnc_form& form) {
+    if (!check_cnc_form(kavetta, person, form)) {
+        return false;
+    }
+    for (std::size_t file = 0; file < CNC_FILE_COUNT; ++file) {
+        if (form.ticked[file]) {
+            ask_and_save(kavetta, person, file);
+        }
+    }
+    person.unload_form("Form3");
+    return true;
+}
+
+}  // namespace kvt

@@ -1,0 +1,186 @@
+#include "app/files/project_commands.hpp"
+
+#include "app/desk/program_title.hpp"
+#include "app/desk/settings_commands.hpp"
+#include "app/desk/unit_commands.hpp"
+#include "app/files/project_entries.hpp"
+#include "app/files/project_reset.hpp"
+#include "app/stages/design_assist.hpp"
+#include "base/run_time_error.hpp"
+#include "base/text_file.hpp"
+#include "core/capacity_unit.hpp"
+#include "core/failure_text.hpp"
+#include "core/recent_list.hpp"
+#include "core/text_table.hpp"
+
+#include <string>
+
+namespace kvt {
+
+namespace {
+
+/// Values of the dialog's flags: hide the read-only box; ask before overwriting.
+constexpr int HIDE_READ_ONLY = 4;
+constexpr int OVERWRITE_PROMPT = 2;
+
+file_dialog project_dialog(const program& kavetta, message title_end) {
+    const std::int16_t language = kavetta.app_state.language;
+    file_dialog dialog;
+    dialog.title = program_title() + std::string(message_text(title_end, language));
+    dialog.filter = message_text(message::project_filter, language);
+    dialog.filter_index = 2;
+    dialog.default_extension = "KVT";
+    return dialog;
+}
+
+void show_failure_status(const program& kavetta, user& person, message id, const run_time_error& error) {
+    person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
+                       std::string(failure_text(error.kind(), kavetta.app_state.language)));
+}
+
+void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {
+    person.show_status(std::string(message_text(id, kavetta.app_state.language)) + std::string(path));
+}
+
+void bind_to_file(program& kavetta) {
+    kavetta.labels.title = project_title(kavetta.app_state.project_name);
+    kavetta.app_state.project_has_file = true;
+}
+
+void remember_projects_folder(program& kavetta) {
+    kavetta.app_state.projects_folder = existing_folder_of(kavetta, kavetta.app_state.project_path);
+}
+
+/// Open from step 4 on: load, settings at once so that the list survives a crash, folder of the next dialog.
+void load_and_remember(program& kavetta, user& person, std::string_view path) {
+    load_project(kavetta, person, path);
+    save_settings(kavetta);
+    remember_projects_folder(kavetta);
+    show_done_status(kavetta, person, message::project_opened, path);
+}
+
+/// The name without its last four characters, whatever they are; empty for four characters or fewer.
+std::string without_last_four(const std::string& name) {
+    std::size_t end = name.size();
+    for (int cut = 0; cut < 4 && end > 0; ++cut) {
+        --end;
+        while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80U) {
+            --end;  // continuation bytes belong to the character before them
+        }
+    }
+    return name.substr(0, end);
+}
+
+void write_project_as(program& kavetta, user& person, const std::string& path) {
+    app_state& state = kavetta.app_state;
+    state.project_path = path;
+    state.project_name = without_last_four(file_name_of_path(path));
+    write_entries(kavetta, path);
+    bind_to_file(kavetta);
+    update_recent_list(state, path);
+    show_done_status(kavetta, person, message::project_saved, path);
+}
+
+}  // namespace
+
+void load_entries(program& kavetta, user& person, const std::string& path) {
+    app_state& state = kavetta.app_state;
+    const project_record record = read_project(read_file(path), state.project_name);
+    assign_project_record(kavetta, record);
+    if (state.drawing_units == INCHES) {
+        set_inch_labels(kavetta);
+    } else {
+        set_mm_labels(kavetta);
+    }
+    project_reset(kavetta, person, reset_kind::open_project);
+    hide_assist(kavetta);
+}
+
+void load_project(program& kavetta, user& person, std::string_view path) {
+    app_state& state = kavetta.app_state;
+    state.project_path = path;
+    load_entries(kavetta, person, state.project_path);
+    bind_to_file(kavetta);
+    update_recent_list(state, state.project_path);
+}
+
+void open_project_file(program& kavetta, user& person, std::string_view path) {
+    try {
+        load_and_remember(kavetta, person, path);
+    } catch (const run_time_error& error) {
+        show_failure_status(kavetta, person, message::open_failed, error);
+    }
+}
+
+void open_project(program& kavetta, user& person) {
+    try {
+        const bool first_time = kavetta.app_state.projects_folder.empty();
+        find_projects_folder(kavetta);
+        file_dialog dialog = project_dialog(kavetta, message::open_project_title);
+        // Kept: once the folder is known, Open leaves the start folder to the platform's own memory; Save As doesn't.
+        dialog.folder = first_time ? kavetta.app_state.projects_folder : "";
+        dialog.flags = HIDE_READ_ONLY;
+        const std::optional<std::string> path = person.choose_file(dialog);
+        if (path && !path->empty()) {
+            load_and_remember(kavetta, person, *path);
+        }
+    } catch (const run_time_error& error) {
+        show_failure_status(kavetta, person, message::open_failed, error);
+    }
+}
+
+void previous_design(program& kavetta, user& person, int index) {
+    const std::string path = kavetta.app_state.mnufileprev[index];
+    load_project(kavetta, person, path);
+    remember_projects_folder(kavetta);
+    show_done_status(kavetta, person, message::project_opened, path);
+}
+
+void save_project(program& kavetta, user& person) {
+    if (!kavetta.app_state.project_has_file) {
+        save_project_as(kavetta, person);
+        return;
+    }
+    write_entries(kavetta, kavetta.app_state.project_path);
+    bind_to_file(kavetta);
+    show_done_status(kavetta, person, message::project_saved, kavetta.app_state.project_path);
+}
+
+bool save_project_as(program& kavetta, user& person) {
+    try {
+        find_projects_folder(kavetta);
+        file_dialog dialog = project_dialog(kavetta, message::save_project_title);
+        dialog.saving = true;
+        dialog.folder = kavetta.app_state.projects_folder;
+        dialog.flags = OVERWRITE_PROMPT;
+        dialog.file_name = kavetta.app_state.project_name;
+        const std::optional<std::string> path = person.choose_file(dialog);
+        if (!path || path->empty()) {
+            return false;
+        }
+        write_project_as(kavetta, person, *path);
+        return true;
+    } catch (const run_time_error& error) {
+        show_failure_status(kavetta, person, message::save_failed, error);
+        return false;
+    }
+}
+
+void new_project(program& kavetta, user& person) {
+    app_state& state = kavetta.app_state;
+    if (const std::optional<std::string> name = person.ask_project_name()) {
+        state.project_name = *name;
+        kavetta.labels.hiddenprojnamelabel = *name;
+        kavetta.labels.title = project_title(*name);
+    }
+    state.project_name = kavetta.labels.hiddenprojnamelabel;
+    state.capacity_unit = 1;
+    select_capacity_unit(kavetta, CAPACITY_UNIT_TEXTS[0]);
+    clear_design(kavetta, person);
+    state.project_has_file = false;
+    kavetta.labels.title = project_title(state.project_name);
+    project_reset(kavetta, person, reset_kind::new_project);
+    hide_assist(kavetta);
+}
+
+}  // namespace kvt

@@ -1,0 +1,120 @@
+#include "app/files/project_entries.hpp"
+
+#include "app/desk/unit_commands.hpp"
+#include "app/stages/porting_type.hpp"
+#include "base/number_text.hpp"
+#include "base/run_time_error.hpp"
+#include "base/text_file.hpp"
+#include "core/capacity_unit.hpp"
+
+#include <array>
+#include <string>
+
+namespace kvt {
+
+namespace {
+
+using box = std::string entries::*;
+
+/// The rotor boxes in the order of the file. coarseness is not among them: it is "1" after every load.
+constexpr std::array<box, 11> ROTOR_BOXES = {&entries::volumereqd,  &entries::shaftdiameter, &entries::thick,
+                                             &entries::maxdiameter, &entries::numlobes,      &entries::clearn,
+                                             &entries::minmaterial, &entries::ecc,           &entries::radinnroot,
+                                             &entries::radouter,    &entries::fillet};
+
+/// Entries that no project file holds.
+bool is_stored(const entry_field& field) {
+    return field.name != "Face_area_value" && field.name != "OD_area_value" && field.name != "UTS_value";
+}
+
+void assign_rotor_boxes(program& kavetta, const project_record& record) {
+    for (const box member : ROTOR_BOXES) {
+        kavetta.entries.*member = record.boxes.*member;
+    }
+    kavetta.entries.coarseness = "1";
+    kavetta.labels.capacity = record.capacity;
+    kavetta.entries.outer_root = record.boxes.outer_root;
+}
+
+void assign_units(program& kavetta, const project_record& record) {
+    app_state& state = kavetta.app_state;
+    state.capacity_unit = record.capacity_unit;
+    if (record.units == "mm") {
+        set_mm_labels(kavetta);
+    } else {
+        set_inch_labels(kavetta);
+    }
+    // The selection in the list is one like the user's: it runs the conversion, with factor 1. An unknown code
+    // leaves list, caption and required capacity alone.
+    if (state.capacity_unit >= 1 && state.capacity_unit <= static_cast<int>(CAPACITY_UNIT_TEXTS.size())) {
+        select_capacity_unit(kavetta, CAPACITY_UNIT_TEXTS[static_cast<std::size_t>(state.capacity_unit - 1)]);
+    }
+}
+
+void assign_dimensions(program& kavetta, const project_record& record) {
+    kavetta.entries.axial_clear = record.boxes.axial_clear;
+    kavetta.entries.radial_clear = record.boxes.radial_clear;
+    // Kept: as typed, also in inches, so the first Calculate Profiles finds both unchanged and keeps the root radius.
+    kavetta.design_params.ecc = number_of_text(commas_to_points(record.boxes.ecc));
+    kavetta.design_params.radinnroot = number_of_text(commas_to_points(record.boxes.radinnroot));
+}
+
+void assign_check_box(program& kavetta, const entry_field& field, const std::string& state) {
+    if (state != "0" && state != "1") {
+        throw run_time_error(failure::invalid_property_value, std::string(field.name) + " = " + state);
+    }
+    set_porting_check(kavetta, field.member, state);
+}
+
+void assign_port_and_performance_boxes(program& kavetta, const project_record& record) {
+    for (const entry_field& field : entry_fields()) {
+        if ((field.form != "portdes" && field.form != "Perffrm") || !is_stored(field)) {
+            continue;
+        }
+        if (field.kind == entry_kind::check) {
+            assign_check_box(kavetta, field, record.boxes.*field.member);
+        } else {
+            kavetta.entries.*field.member = record.boxes.*field.member;
+        }
+    }
+}
+
+}  // namespace
+
+project_record project_record_of(const program& kavetta, std::string_view path) {
+    const app_state& state = kavetta.app_state;
+    project_record record;
+    record.project_path = path;
+    record.project_name = state.project_name;
+    record.units = state.drawing_units == MILLIMETRES ? "mm" : "";
+    record.boxes = kavetta.entries;
+    record.capacity = kavetta.labels.capacity;
+    record.capacity_unit = state.capacity_unit;
+    record.cnc_file_troc = state.cnc_file_troc;
+    record.cnc_file_inner = state.cnc_file_inner;
+    record.cnc_file_xyouter = state.cnc_file_xyouter;
+    record.cnc_file_innertooloffset = state.cnc_file_innertooloffset;
+    record.cnc_file_outertooloffset = state.cnc_file_outertooloffset;
+    record.cnc_file_outer = state.cnc_file_outer;
+    return record;
+}
+
+void assign_project_record(program& kavetta, const project_record& record) {
+    app_state& state = kavetta.app_state;
+    state.cnc_file_troc = record.cnc_file_troc;
+    state.cnc_file_inner = record.cnc_file_inner;
+    state.cnc_file_xyouter = record.cnc_file_xyouter;
+    state.cnc_file_innertooloffset = record.cnc_file_innertooloffset;
+    state.cnc_file_outertooloffset = record.cnc_file_outertooloffset;
+    state.cnc_file_outer = record.cnc_file_outer;
+    assign_rotor_boxes(kavetta, record);
+    assign_units(kavetta, record);
+    assign_dimensions(kavetta, record);
+    assign_port_and_performance_boxes(kavetta, record);
+}
+
+void write_entries(const program& kavetta, std::string_view path) {
+    write_file(std::string(path), write_project(project_record_of(kavetta, path)));
+}
+
+}  // namespace kvt

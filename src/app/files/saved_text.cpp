@@ -1,0 +1,55 @@
+#include "app/files/saved_text.hpp"
+
+#include "app/desk/program_title.hpp"
+#include "core/text_table.hpp"
+
+namespace kvt {
+
+namespace {
+
+/// Value of the dialog's flags: ask before overwriting.
+constexpr int OVERWRITE_PROMPT = 2;
+
+}  // namespace
+
+std::optional<run_time_error> save_text(const std::string& path, const text_writer& write) {
+    std::optional<run_time_error> failed;
+    text_lines text;
+    try {
+        write(text);
+    } catch (const run_time_error& error) {
+        failed = error;
+    }
+    try {
+        write_file(path, text.bytes());
+    } catch (const run_time_error& error) {
+        failed = error;
+    }
+    return failed;
+}
+
+file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter, std::string_view extension) {
+    file_dialog dialog;
+    dialog.saving = true;
+    dialog.title = program_title() + std::string(title_suffix);
+    dialog.filter = filter;
+    dialog.filter_index = 2;
+    dialog.default_extension = extension;
+    dialog.flags = OVERWRITE_PROMPT;
+    return dialog;
+}
+
+void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,
+                       const std::function<void(text_lines&, const std::string& path)>& write) {
+    const std::optional<std::string> path = person.choose_file(dialog);
+    if (!path || path->empty()) {
+        return;
+    }
+    const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
+    if (failed) {
+        const std::int16_t language = kavetta.app_state.language;
+        person.show_status(std::string(message_text(message::save_failed, language)) + failed->text(language));
+    }
+}
+
+}  // namespace kvt

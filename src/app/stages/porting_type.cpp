@@ -1,0 +1,34 @@
+#include "app/stages/porting_type.hpp"
+
+#include "app/desk/enabling_chain.hpp"
+
+namespace kvt {
+
+void apply_shadow_rule(program& kavetta) {
+    entries& boxes = kavetta.entries;
+    const bool both_double_sided = boxes.inlet_double_sided == "1" && boxes.outlet_double_sided == "1";
+    kavetta.enabling.shadow_ports = !both_double_sided;
+    if (both_double_sided) {
+        boxes.shadow_ports = "0";
+    }
+}
+
+void porting_type_clicked(program& kavetta) {
+    apply_chain(kavetta.enabling, chain_event::porting_type_changed);
+
+    const bool groove = has_metering_groove(kavetta);
+    kavetta.enabling.groove_length = groove;
+    kavetta.enabling.groove_width = groove;
+    kavetta.enabling.groove_depth = groove;
+
+    apply_shadow_rule(kavetta);
+}
+
+void set_porting_check(program& kavetta, std::string entries::*box, std::string_view state) {
+    if (kavetta.entries.*box != state) {
+        kavetta.entries.*box = state;
+        porting_type_clicked(kavetta);
+    }
+}
+
+}  // namespace kvt

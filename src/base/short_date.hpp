@@ -1,0 +1,14 @@
+// The date in the short form of the user's locale, as reports carry it.
+#pragma once
+
+#include "base/clock.hpp"
+
+#include <string>
+
+namespace kvt {
+
+/// The local date of the clock's time, e.g. "11/03/21" or "03.11.2021". LC_ALL, LC_TIME and LANG decide; without a
+/// usable locale it is month/day/year in two digits each.
+std::string short_date(const clock& time);
+
+}  // namespace kvt

@@ -1,0 +1,75 @@
+#include "output/cnc/cnc_lines.hpp"
+
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
+#include "base/fixed_number.hpp"
+#include "core/text_table.hpp"
+
+#include <cassert>
+#include <cmath>
+
+namespace kvt {
+
+std::string_view cnc_text(std::string_view line, std::int16_t language) {
+    const text_row* row = find_text(text_kind::fixed_caption, "cnc", line);
+    assert(row != nullptr);
+    return row_text(*row, language);
+}
+
+double cutter_radius_mm(double diameter, bool inches) {
+    return (inches ? diameter * MM_PER_INCH : diameter) / 2.0;
+}
+
+cnc_lines::cnc_lines(text_lines& text, const cnc_source& source)
+    : text_(text), decimals_(source.choices.cnc_res_digits), inches_(source.inches), language_(source.language) {}
+
+void cnc_lines::comment(std::string_view row, std::string_view rest) {
+    text_.line(std::string(cnc_text(row, language_)) + std::string(rest));
+}
+
+std::string cnc_lines::length(double mm) const {
+    return fixed_number(inches_ ? mm / MM_PER_INCH : mm, decimals_);
+}
+
+std::string cnc_lines::words(point2 point) const {
+    return "X" + length(point.x) + "Y" + length(point.y);
+}
+
+void cnc_lines::xy(point2 point) {
+    text_.raw_line(words(point));
+}
+
+void cnc_lines::xy(const std::vector<point2>& points) {
+    for (const point2& point : points) {
+        xy(point);
+    }
+}
+
+void cnc_lines::lathe_feed_g01(double radius, double degrees) {
+    text_.raw_line("G01X" + length(radius) + "C" + fixed_number(degrees, decimals_));
+}
+
+void cnc_lines::feed_g01(point2 end) {
+    text_.raw_line("G01" + words(end));
+}
+
+void cnc_lines::arc_cw_g02(point2 end, double radius) {
+    text_.raw_line("G02" + words(end) + "R" + length(radius));
+}
+
+void cnc_lines::arc_ccw_g03(point2 end, double radius) {
+    text_.raw_line("G03" + words(end) + "R" + length(radius));
+}
+
+void add_lathe_line(cnc_lines& lines, point2 point) {
+    const double radius = checked_sqrt(point.x * point.x + point.y * point.y);
+    double degrees = std::atan(checked_divide(point.y, point.x)) * 180.0 / PI_D;
+    if (point.x < 0.0 && point.y != 0.0) {
+        degrees = degrees + 180.0;
+    } else if (point.x > 0.0 && point.y < 0.0) {
+        degrees = degrees + 360.0;
+    }
+    lines.lathe_feed_g01(radius, degrees);
+}
+
+}  // namespace kvt

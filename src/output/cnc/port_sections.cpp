@@ -1,0 +1,75 @@
+#include "output/cnc/port_sections.hpp"
+
+#include "base/constants.hpp"
+#include "base/number_text.hpp"
+
+#include <string>
+
+namespace kvt {
+
+namespace {
+
+std::string_view side_name(port_side side) {
+    return side == port_side::inlet ? "inlet" : "outlet";
+}
+
+/// The row of the head's text behind the section's number.
+std::string head_row(port_side side, section_kind kind, section_file file) {
+    const std::string port(side_name(side));
+    const std::string_view gcode = file == section_file::gcode ? "_gcode" : "";
+    switch (kind) {
+        case section_kind::groove:
+            return "groove" + std::string(gcode);
+        case section_kind::shadow:
+            return port + "_shadow" + std::string(gcode);
+        case section_kind::upper:
+            return port + "_upper";
+        case section_kind::lower:
+            break;
+    }
+    return port + "_lower";
+}
+
+void add_groove_notes(cnc_lines& lines, const cnc_source& source, section_file file) {
+    if (file == section_file::pocket) {
+        lines.comment("groove_cutter_radius", number_text(source.choices.groove_tool_diameter / 2.0) + "//");
+    }
+    if (file != section_file::gcode) {
+        const double depth = source.ports.groove_depth_mm;
+        lines.comment("groove_depth", number_text(source.inches ? depth / MM_PER_INCH : depth) + "//");
+    }
+}
+
+}  // namespace
+
+std::vector<port_section> port_sections(const entries& boxes, port_side side) {
+    const bool inlet = side == port_side::inlet;
+    std::vector<port_section> sections{{section_kind::lower, 1}};
+    const auto add = [&](section_kind kind) {
+        sections.push_back({kind, inlet ? 2 : static_cast<int>(sections.size()) + 1});
+    };
+    if (!inlet && boxes.metering_groove == "1") {
+        add(section_kind::groove);
+    }
+    if ((inlet ? boxes.inlet_double_sided : boxes.outlet_double_sided) == "1") {
+        add(section_kind::upper);
+    }
+    if (boxes.shadow_ports == "1") {
+        add(section_kind::shadow);
+    }
+    return sections;
+}
+
+void add_section_head(cnc_lines& lines, const cnc_source& source, port_side side, const port_section& section,
+                      section_file file) {
+    const std::string_view text = cnc_text(head_row(side, section.kind, file), source.language);
+    lines.comment("section", number_text(section.number) + std::string(text));
+    if (section.kind == section_kind::groove) {
+        add_groove_notes(lines, source, file);
+    }
+    if (section.kind == section_kind::shadow) {
+        lines.comment(file == section_file::gcode ? "shadow_depth_gcode" : "shadow_depth", "");
+    }
+}
+
+}  // namespace kvt

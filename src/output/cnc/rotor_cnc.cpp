@@ -1,0 +1,133 @@
+#include "output/cnc/rotor_cnc.hpp"
+
+#include "base/checked_math.hpp"
+#include "output/cnc/cnc_preamble.hpp"
+#include "output/cnc/inner_offset.hpp"
+#include "output/outer_path.hpp"
+
+namespace kvt {
+
+namespace {
+
+constexpr std::int64_t POINTS = 3600;
+
+/// Point 0 is written once more behind the last one.
+std::vector<point2> closed_inner_profile(const rotor_profiles& rotors) {
+    std::vector<point2> points;
+    for (std::int64_t i = 0; i <= POINTS; ++i) {
+        points.push_back({checked_at(rotors.inner_x, i % POINTS), checked_at(rotors.inner_y, i % POINTS)});
+    }
+    return points;
+}
+
+/// A y of 0 stays as it is: no "-0.000".
+void turn_clockwise(const cnc_source& source, std::vector<point2>& points) {
+    if (!source.choices.Opp_Plot) {
+        return;
+    }
+    for (point2& point : points) {
+        point.y = point.y != 0.0 ? -point.y : point.y;
+    }
+}
+
+double tool_radius(const cnc_source& source) {
+    return cutter_radius_mm(source.choices.tool_diameter, source.inches);
+}
+
+void add_cutter_path(const cnc_source& source, cnc_lines& lines, std::vector<point2> centres) {
+    turn_clockwise(source, centres);
+    lines.xy(centres);
+    lines.xy(centres.front());
+}
+
+design_params outer_design(const cnc_source& source) {
+    return outer_rotor_entries(source.boxes, source.inches);
+}
+
+/// Arc by arc, so that a failure leaves the arcs before it.
+void add_points_of_path(cnc_lines& lines, const outer_path& path) {
+    lines.xy(path.first);
+    for (const outer_path_arc& arc : path.arcs) {
+        lines.xy(arc_points(arc));
+    }
+    lines.xy(path.first);
+}
+
+void add_lathe_lines(cnc_lines& lines, const std::vector<point2>& points) {
+    for (const point2& point : points) {
+        add_lathe_line(lines, point);
+    }
+}
+
+void add_gcode_arc(cnc_lines& lines, const outer_path_arc& arc) {
+    if (arc.kind == outer_arc_kind::lobe) {
+        lines.arc_cw_g02(arc.end, arc.radius);
+    } else {
+        lines.arc_ccw_g03(arc.end, arc.radius);
+    }
+}
+
+}  // namespace
+
+void write_inner_xy(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "inner_xy"});
+    std::vector<point2> points = closed_inner_profile(source.rotors);
+    turn_clockwise(source, points);
+    lines.xy(points);
+}
+
+void write_inner_offset(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "inner_offset", .has_cutter = true});
+    add_cutter_path(source, lines, inner_offset_points(source.design, source.rotors, tool_radius(source)));
+}
+
+void write_inner_offset_checked(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true});
+    add_cutter_path(source, lines, checked_inner_offset_points(source.design, source.rotors, tool_radius(source)));
+}
+
+void write_inner_lathe(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "inner_lathe", .lathe = true});
+    add_lathe_lines(lines, closed_inner_profile(source.rotors));
+}
+
+void write_outer_xy(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "outer_xy", .outer = true});
+    add_points_of_path(lines, outer_rotor_path(outer_design(source)));
+}
+
+void write_outer_offset(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "outer_offset", .outer = true, .has_cutter = true});
+    add_points_of_path(lines, outer_rotor_offset_path(outer_design(source), tool_radius(source)));
+}
+
+void write_outer_gcode(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "outer_gcode", .outer = true});
+    lines.xy(point2{});
+    const outer_path path = outer_rotor_path(outer_design(source));
+    lines.feed_g01(path.first);
+    for (const outer_path_arc& arc : path.arcs) {
+        add_gcode_arc(lines, arc);
+    }
+    lines.literal("G01X0.0000Y0.0000");
+}
+
+void write_outer_lathe(const cnc_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source, {.content = "outer_lathe", .outer = true, .lathe = true});
+    const outer_path path = outer_rotor_path(outer_design(source));
+    add_lathe_line(lines, path.first);
+    for (const outer_path_arc& arc : path.arcs) {
+        add_lathe_lines(lines, arc_points(arc));
+    }
+    add_lathe_line(lines, path.first);
+}
+
+}  // namespace kvt

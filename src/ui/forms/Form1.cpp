@@ -1,0 +1,245 @@
+#include "ui/forms/Form1.hpp"
+
+#include "app/desk/unit_commands.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/stages/calculate_profiles.hpp"
+#include "core/capacity_unit.hpp"
+#include "ui/forms/assist_area.hpp"
+#include "ui/parts/form_parts.hpp"
+#include "ui/parts/language_flag.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace kvt {
+
+namespace {
+
+struct entry_row {
+    const char* label;
+    const char* entry;
+    bool is_length;
+};
+
+/// The entries below the requirement in reading order; a group is set off by a hairline.
+const std::vector<std::vector<entry_row>>& entry_groups() {
+    static const std::vector<std::vector<entry_row>> groups = {
+        // The rotor pair.
+        {{"Label7", "numlobes", false},
+         {"Label3", "ecc", true},
+         {"Label10", "radinnroot", true},
+         {"Label5", "radouter", true},
+         {"Label20", "outer_root", true},
+         {"Label6", "fillet", true},
+         {"Label8", "thick", true}},
+        // Limits that the pair must keep.
+        {{"Label2", "shaftdiameter", true}, {"Label12", "minmaterial", true}, {"Label9", "maxdiameter", true}},
+        // Clearances.
+        {{"Label4", "clearn", true}, {"Label15", "axial_clear", true}, {"Label21", "radial_clear", true}},
+        // The drawing.
+        {{"Label1", "coarseness", false}},
+    };
+    return groups;
+}
+
+/// Room between the controls, pixels: close enough that the form fits its place in the default layout.
+constexpr int ROW_SPACING = 1;
+constexpr int GROUP_SPACING = 4;
+constexpr int MARGIN = 6;
+constexpr int ENTRY_WIDTH = 92;
+
+}  // namespace
+
+Form1::Form1(form_context context) : mdi_form("Form1", context) {
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(MARGIN, GROUP_SPACING, MARGIN, GROUP_SPACING);
+    layout->setSpacing(GROUP_SPACING);
+    add_header(*layout);
+    add_requirement(*layout);
+    add_entries(*layout);
+    add_buttons(*layout);
+    add_results(*layout);
+    layout->addStretch(1);
+    bind(content, true);
+    set_main_button(calc_);
+    connect_commands();
+}
+
+void Form1::add_header(QVBoxLayout& layout) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    dimens1_ = new QRadioButton;
+    dimens2_ = new QRadioButton;
+    dimens1_->setObjectName("dimens1");
+    dimens2_->setObjectName("dimens2");
+    for (QRadioButton* unit : {dimens1_, dimens2_}) {
+        unit->setFocusPolicy(Qt::TabFocus);
+    }
+    image1_ = new language_flag("Image1", flag_kind::english);
+    image2_ = new language_flag("Image2", flag_kind::german);
+    row->addWidget(named_label("Label14"));
+    row->addWidget(dimens1_);
+    row->addWidget(dimens2_);
+    row->addStretch(1);
+    row->addWidget(named_label("Label16"));
+    row->addWidget(image1_);
+    row->addWidget(image2_);
+    layout.addLayout(row);
+}
+
+void Form1::add_requirement(QVBoxLayout& layout) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    QLineEdit* required = number_box("volumereqd", ENTRY_WIDTH - 24);
+    QLabel* label = named_label("Label13");
+    label->setBuddy(required);
+    unittype_ = new QComboBox;
+    unittype_->setObjectName("unittype");
+    unittype_->setFocusPolicy(Qt::TabFocus);
+    for (const std::string_view unit : CAPACITY_UNIT_TEXTS) {
+        unittype_->addItem(qt_text(unit));
+    }
+    row->addWidget(label, 1);
+    row->addWidget(required);
+    row->addWidget(unittype_);
+    assist_ = new assist_area(context_, row);
+    layout.addWidget(assist_);
+}
+
+void Form1::add_entries(QVBoxLayout& layout) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(ROW_SPACING);
+    grid->setColumnStretch(0, 1);
+    for (const std::vector<entry_row>& group : entry_groups()) {
+        grid->addWidget(hairline(), grid->rowCount(), 0, 1, 3);
+        for (const entry_row& row : group) {
+            add_entry(*grid, row.label, row.entry, row.is_length);
+        }
+    }
+    layout.addLayout(grid);
+}
+
+void Form1::add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length) {
+    const int row = grid.rowCount();
+    QLineEdit* box = number_box(entry, ENTRY_WIDTH);
+    QLabel* text = named_label(label);
+    text->setBuddy(box);
+    QLabel* unit = named_label((QString(entry) + "_unit").toUtf8().constData());
+    grid.addWidget(text, row, 0);
+    grid.addWidget(box, row, 1);
+    grid.addWidget(unit, row, 2);
+    if (is_length) {
+        length_units_.append(unit);
+    }
+}
+
+void Form1::add_buttons(QVBoxLayout& layout) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    calc_ = command_button("Calc");
+    calc_->setDefault(true);
+    accent(*calc_);
+    cleardesign_ = command_button("cleardesign");
+    row->addWidget(calc_, 1);
+    row->addWidget(cleardesign_);
+    layout.addLayout(row);
+}
+
+void Form1::add_results(QVBoxLayout& layout) {
+    auto* card = new QFrame;
+    card->setFrameShape(QFrame::StyledPanel);
+    card->setBackgroundRole(QPalette::Base);
+    card->setAutoFillBackground(true);
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(MARGIN, 3, MARGIN, 3);
+    grid->setHorizontalSpacing(6);
+    grid->setVerticalSpacing(ROW_SPACING);
+    grid->setColumnStretch(0, 1);
+    const auto add = [&](const char* label, const char* output) {
+        const int row = grid->rowCount();
+        grid->addWidget(named_label(label), row, 0);
+        grid->addWidget(result_label(output), row, 1);
+    };
+    add("Label11", "capacity");
+    grid->addWidget(named_label("units_label"), grid->rowCount() - 1, 2);
+    add("Label17", "area_ratio");
+    add("Label18", "max_chamb_vol");
+    add("Label19", "min_chamb_vol");
+    layout.addWidget(card);
+    auto* hidden = named_label("hiddenprojnamelabel");
+    hidden->setParent(card);
+    hidden->setVisible(false);
+}
+
+void Form1::connect_commands() {
+    command_runner& runner = context_.runner;
+    connect(calc_, &QPushButton::clicked, this, [&runner] { runner.act(calculate_profiles); });
+    connect(cleardesign_, &QPushButton::clicked, this, [&runner] { runner.act(clear_design); });
+    connect(dimens1_, &QRadioButton::clicked, this,
+            [&runner] { runner.act([](program& kavetta, user&) { set_mm_labels(kavetta); }); });
+    connect(dimens2_, &QRadioButton::clicked, this,
+            [&runner] { runner.act([](program& kavetta, user&) { set_inch_labels(kavetta); }); });
+    connect(unittype_, &QComboBox::activated, this, [this, &runner] {
+        const std::string unit = utf8_text(unittype_->currentText());
+        runner.act([&unit](program& kavetta, user&) { select_capacity_unit(kavetta, unit); });
+    });
+    connect(image1_, &language_flag::clicked, this, [&runner] {
+        runner.act([](program& kavetta, user& person) { choose_language(kavetta, person, ENGLISH); });
+    });
+    connect(image2_, &language_flag::clicked, this, [&runner] {
+        runner.act([](program& kavetta, user& person) { choose_language(kavetta, person, GERMAN); });
+    });
+}
+
+void Form1::refresh() {
+    mdi_form::refresh();
+    show_assist();
+    show_units();
+    unittype_->setToolTip(tooltip_of(context_.kavetta, "Form1", "unittype"));
+    image1_->setChecked(context_.kavetta.app_state.language == ENGLISH);
+    image2_->setChecked(context_.kavetta.app_state.language == GERMAN);
+}
+
+/// The button that runs at Enter is the one that can be pressed.
+void Form1::show_assist() {
+    assist_->refresh();
+    const bool is_on = context_.kavetta.app_state.assist_on;
+    calc_->setEnabled(!is_on);
+    calc_->setDefault(!is_on);
+    set_main_button(is_on ? assist_->designer() : calc_);
+}
+
+void Form1::show_units() {
+    const app_state& state = context_.kavetta.app_state;
+    const bool inches = state.drawing_units == INCHES;
+    (inches ? dimens2_ : dimens1_)->setChecked(true);
+    unittype_->setCurrentText(qt_text(context_.kavetta.labels.unittype));
+    show_length_unit(state, length_units_);
+    findChild<QLabel*>("hiddenprojnamelabel")->setText(qt_text(context_.kavetta.labels.hiddenprojnamelabel));
+}
+
+void Form1::changeEvent(QEvent* event) {
+    mdi_form::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && calc_ != nullptr) {
+        accent(*calc_);
+        assist_->refresh();
+    }
+}
+
+void Form1::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    emit exit_asked();
+}
+
+}  // namespace kvt

@@ -1,0 +1,197 @@
+#include "ui/forms/Form3.hpp"
+
+#include "core/text_table.hpp"
+#include "ui/parts/entry_validator.hpp"
+#include "ui/parts/form_parts.hpp"
+#include "ui/shell/help_file.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kvt {
+
+namespace {
+
+/// Sizes in pixels.
+constexpr int BOX_WIDTH = 110;
+constexpr int BUTTON_WIDTH = 90;
+constexpr int ROW_SPACING = 5;
+
+/// The column of the rotors as the form shows it: the checked file stands last. Those of the ports follow in their
+/// order.
+constexpr std::array<std::size_t, 8> ROTOR_FILES = {0, 1, 3, 4, 5, 6, 7, INNER_OFFSET_CHECKED};
+constexpr std::size_t FIRST_PORT_FILE = 8;
+
+QLabel* column_head(const char* name) {
+    QLabel* head = named_label(name);
+    QFont font = head->font();
+    font.setBold(true);
+    head->setFont(font);
+    return head;
+}
+
+char decimal_mark() {
+    return QLocale().decimalPoint() == "," ? ',' : '.';
+}
+
+}  // namespace
+
+Form3::Form3(form_context context, QWidget* parent)
+    : dialog_form("Form3", context.kavetta, parent),
+      context_(context),
+      form_(open_cnc_form(context.kavetta, decimal_mark())),
+      clockwise_(named_check("Opp_Plot")),
+      toolsize_(number_box("toolsize", BOX_WIDTH)),
+      groovetooltext_(number_box("groovetooltext", BOX_WIDTH)),
+      resolution_(new QComboBox),
+      toolunits_(new QLabel),
+      toolunits_groove_(new QLabel),
+      groove_label_(named_label("Label5")) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 12);
+    layout->setSpacing(10);
+    layout->addWidget(named_label("Label1"));
+    layout->addLayout(lay_out_files());
+    layout->addWidget(hairline());
+    layout->addLayout(lay_out_entries());
+    layout->addLayout(lay_out_buttons());
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    show_texts();
+    // The units are the project's, no captions.
+    toolunits_->setObjectName("toolunits");
+    toolunits_groove_->setObjectName("toolunits_groove");
+    toolunits_->setText(qt_text(form_.toolunits));
+    toolunits_groove_->setText(qt_text(form_.toolunits));
+    show_form();
+    connect(&context.runner, &command_runner::ended, this, &QDialog::reject);
+}
+
+QCheckBox* Form3::file_box(std::size_t file) {
+    auto* box = new QCheckBox;
+    box->setObjectName(qt_text(cnc_files()[file].checkbox));
+    connect(box, &QCheckBox::clicked, this, [this, file](bool ticked) {
+        collect();
+        tick_cnc_file(context_.kavetta, form_, file, ticked);
+        show_form();
+    });
+    files_[file] = box;
+    return box;
+}
+
+QLayout* Form3::lay_out_files() {
+    auto* rotors = new QVBoxLayout;
+    rotors->setSpacing(ROW_SPACING);
+    rotors->addWidget(column_head("Label2"));
+    for (const std::size_t file : ROTOR_FILES) {
+        rotors->addWidget(file_box(file));
+    }
+    auto* ports = new QVBoxLayout;
+    ports->setSpacing(ROW_SPACING);
+    ports->addWidget(column_head("Label3"));
+    for (std::size_t file = FIRST_PORT_FILE; file < CNC_FILE_COUNT; ++file) {
+        ports->addWidget(file_box(file));
+    }
+    ports->addStretch(1);
+    ports->addWidget(clockwise_);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(24);
+    columns->addLayout(rotors);
+    columns->addLayout(ports);
+    return columns;
+}
+
+QLayout* Form3::lay_out_entries() {
+    const auto refused = [this] {
+        context_.person.show_status(message_text(message::character_refused, context_.kavetta.app_state.language));
+    };
+    validate_entry(*toolsize_, refused);
+    validate_entry(*groovetooltext_, refused);
+    resolution_->setObjectName("machine_res_combo");
+    resolution_->setEditable(true);
+    resolution_->setFixedWidth(BOX_WIDTH);
+    for (const std::string& item : form_.machine_res_items) {
+        resolution_->addItem(qt_text(item));
+    }
+    resolution_->setCurrentIndex(-1);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    const auto add_row = [grid](int row, QLabel* label, QWidget* entry, QLabel* unit) {
+        label->setBuddy(entry);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(entry, row, 1);
+        if (unit != nullptr) {
+            grid->addWidget(unit, row, 2);
+        }
+    };
+    add_row(0, named_label("Label8"), toolsize_, toolunits_);
+    add_row(1, groove_label_, groovetooltext_, toolunits_groove_);
+    add_row(2, named_label("Label4"), resolution_, nullptr);
+    grid->setColumnStretch(3, 1);
+    return grid;
+}
+
+QLayout* Form3::lay_out_buttons() {
+    auto* ok = new QPushButton;
+    ok->setObjectName("okbutton");
+    ok->setDefault(true);
+    auto* cancel = new QPushButton;
+    cancel->setObjectName("cancelbutton");
+    cancel->setAutoDefault(false);
+    connect(ok, &QPushButton::clicked, this, &Form3::press_ok);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    for (QPushButton* button : {ok, cancel}) {
+        button->setMinimumWidth(BUTTON_WIDTH);
+        buttons->addWidget(button);
+    }
+    return buttons;
+}
+
+void Form3::collect() {
+    for (std::size_t file = 0; file < CNC_FILE_COUNT; ++file) {
+        form_.ticked[file] = files_[file]->isChecked();
+    }
+    form_.Opp_Plot = clockwise_->isChecked();
+    form_.toolsize = utf8_text(toolsize_->text());
+    form_.groovetooltext = utf8_text(groovetooltext_->text());
+    form_.machine_res_combo = utf8_text(resolution_->currentText());
+}
+
+void Form3::show_form() {
+    toolsize_->setText(qt_text(form_.toolsize));
+    groovetooltext_->setText(qt_text(form_.groovetooltext));
+    for (QWidget* part : {static_cast<QWidget*>(groove_label_), static_cast<QWidget*>(groovetooltext_),
+                          static_cast<QWidget*>(toolunits_groove_)}) {
+        part->setVisible(form_.groove_entry_shown);
+    }
+}
+
+void Form3::press_ok() {
+    collect();
+    bool closes = false;
+    context_.runner.act([&](program& kavetta, user& person) { closes = write_cnc_files(kavetta, person, form_); });
+    show_form();
+    if (closes) {
+        accept();
+    }
+}
+
+void Form3::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1) {
+        context_.runner.act(open_help_file);
+        return;
+    }
+    dialog_form::keyPressEvent(event);
+}
+
+}  // namespace kvt

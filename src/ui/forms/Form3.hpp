@@ -1,0 +1,48 @@
+// Form3: the CNC output dialog, where files, cutter and resolution are chosen.
+#pragma once
+
+#include "app/files/cnc_output.hpp"
+#include "ui/shell/dialog_form.hpp"
+
+#include <array>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+
+namespace kvt {
+
+class Form3 : public dialog_form {
+    Q_OBJECT
+
+  public:
+    Form3(form_context context, QWidget* parent);
+
+  protected:
+    /// F1 opens the help file.
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QLayout* lay_out_files();
+    QLayout* lay_out_entries();
+    QLayout* lay_out_buttons();
+    QCheckBox* file_box(std::size_t file);
+    void collect();
+    void show_form();
+    void press_ok();
+
+    form_context context_;
+    cnc_form form_;
+    std::array<QCheckBox*, CNC_FILE_COUNT> files_{};
+    QCheckBox* clockwise_;
+    QLineEdit* toolsize_;
+    QLineEdit* groovetooltext_;
+    QComboBox* resolution_;
+    QLabel* toolunits_;
+    QLabel* toolunits_groove_;
+    QLabel* groove_label_;
+};
+
+}  // namespace kvt

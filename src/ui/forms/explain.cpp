@@ -1,0 +1,62 @@
+#include "ui/forms/explain.hpp"
+
+#include "base/run_time_error.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QPainter>
+#include <QPixmap>
+
+namespace kvt {
+
+namespace {
+
+/// Largest size of the picture when its window appears, pixels.
+constexpr QSize LARGEST_START(900, 640);
+
+/// Paints a picture as large as fits, its sides in proportion, on the white of its own ground.
+class picture_sheet : public QWidget {
+  public:
+    explicit picture_sheet(QPixmap picture) : picture_(std::move(picture)) { setObjectName("Image1"); }
+
+    QSize sizeHint() const override {
+        const QSize size = picture_.size();
+        return size.width() > LARGEST_START.width() || size.height() > LARGEST_START.height()
+                   ? size.scaled(LARGEST_START, Qt::KeepAspectRatio)
+                   : size;
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::white);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        QRect area(QPoint(0, 0), picture_.size().scaled(size(), Qt::KeepAspectRatio));
+        area.moveCenter(rect().center());
+        painter.drawPixmap(area, picture_);
+    }
+
+  private:
+    QPixmap picture_;
+};
+
+QPixmap loaded_picture(const std::filesystem::path& file) {
+    QPixmap picture(qt_text(file.string()));
+    if (picture.isNull()) {
+        throw run_time_error(failure::invalid_property_value, "no picture: " + file.string());
+    }
+    return picture;
+}
+
+}  // namespace
+
+explanation_form::explanation_form(explanation_window window, form_context context)
+    : loaded_form(form_of(window).data(), context), window_(window) {
+    auto* sheet = new picture_sheet(loaded_picture(load_explanation(context.kavetta, window)));
+    bind(sheet, false);
+}
+
+void explanation_form::unload() {
+    unload_explanation(context_.kavetta, window_);
+}
+
+}  // namespace kvt

@@ -1,0 +1,89 @@
+#include "ui/forms/perf_res.hpp"
+
+#include "ui/parts/form_parts.hpp"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace kvt {
+
+namespace {
+
+/// Size of the window, twips.
+constexpr int HEIGHT = 3430;
+constexpr int WIDTH = 3540;
+/// Room between the results, pixels.
+constexpr int MARGIN = 8;
+constexpr int ROW_SPACING = 3;
+
+class result_grid {
+  public:
+    explicit result_grid(QWidget& content) : grid_(new QGridLayout(&content)) {
+        grid_->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
+        grid_->setHorizontalSpacing(MARGIN);
+        grid_->setVerticalSpacing(ROW_SPACING);
+        grid_->setColumnStretch(0, 1);
+    }
+
+    /// A result in the row of its caption.
+    void add(const char* caption, const char* result) {
+        const int row = grid_->rowCount();
+        grid_->addWidget(named_label(caption), row, 0);
+        grid_->addWidget(compact_result(result), row, 1);
+    }
+    /// A result below its caption, which is long.
+    void add_below(const char* caption, const char* result) {
+        grid_->addWidget(wrapped(named_label(caption)), grid_->rowCount(), 0, 1, 2);
+        grid_->addWidget(compact_result(result), grid_->rowCount(), 0, 1, 2);
+    }
+    /// A result that is a whole sentence.
+    void add_sentence(const char* result) {
+        QLabel* sentence = wrapped(named_label(result));
+        sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        sentence->setFocusPolicy(Qt::NoFocus);
+        grid_->addWidget(sentence, grid_->rowCount(), 0, 1, 2);
+    }
+    void add_line() { grid_->addWidget(hairline(), grid_->rowCount(), 0, 1, 2); }
+    void finish() { grid_->setRowStretch(grid_->rowCount(), 1); }
+
+  private:
+    static QLabel* compact_result(const char* name) {
+        QLabel* label = result_label(name);
+        QFont font = compact_font();
+        font.setBold(true);
+        label->setFont(font);
+        return label;
+    }
+    static QLabel* wrapped(QLabel* label) {
+        label->setWordWrap(true);
+        return label;
+    }
+
+    QGridLayout* grid_;
+};
+
+}  // namespace
+
+perf_res::perf_res(form_context context) : loaded_form("perf_res", context) {
+    auto* content = new QWidget;
+    content->setFont(compact_font());
+    result_grid results(*content);
+    results.add_below("max_speed_label", "max_speed");
+    results.add_sentence("Label5");
+    results.add_line();
+    results.add("max_shaft_side_load_label", "max_shaft_side_load");
+    results.add("side_load_direction_label", "side_load_direction");
+    results.add_line();
+    results.add_below("max_cutter_inner_label", "max_cutter_inner");
+    results.add_line();
+    results.add_sentence("Label1");
+    results.finish();
+    bind(content, true);
+}
+
+QSize perf_res::start_size() const {
+    return {WIDTH / TWIPS_PER_PIXEL, HEIGHT / TWIPS_PER_PIXEL};
+}
+
+}  // namespace kvt

@@ -1,0 +1,44 @@
+#include "ui/forms/progressfrm.hpp"
+
+#include "core/text_table.hpp"
+#include "ui/parts/form_parts.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+namespace kvt {
+
+namespace {
+
+constexpr int WIDTH = 320;
+
+}  // namespace
+
+progressfrm::progressfrm(const program& kavetta, QWidget* parent)
+    : QDialog(parent), label1_(named_label("Label1")), bar_(new QProgressBar) {
+    setObjectName("progressfrm");
+    setModal(false);
+    const std::int16_t language = kavetta.app_state.language;
+    setWindowTitle(qt_text(row_text(*find_caption("progressfrm", ""), language)));
+    QLabel* label2 = named_label("Label2");
+    label2->setText(qt_text(row_text(*find_caption("progressfrm", "Label2"), language)));
+    bar_->setObjectName("ProgressBar1");
+    bar_->setRange(0, 100);
+    bar_->setMinimumWidth(WIDTH);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 14, 16, 16);
+    layout->addWidget(label2);
+    layout->addWidget(bar_);
+    layout->addWidget(label1_);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void progressfrm::show_progress(const QString& text, int percent) {
+    label1_->setText(text);
+    bar_->setValue(percent);
+    show();
+}
+
+}  // namespace kvt

@@ -1,0 +1,158 @@
+#include "ui/forms/viewwinfrm.hpp"
+
+#include "app/windows/cursor_text.hpp"
+#include "app/windows/view_commands.hpp"
+#include "ui/parts/design_picture.hpp"
+#include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/hold_button.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace kvt {
+
+namespace {
+
+/// The time between two turns of one degree while a button is held, milliseconds.
+constexpr int TURN_INTERVAL = 10;
+constexpr int ANGLE_WIDTH = 56;
+
+int pixels(double twips) {
+    return qRound(twips / TWIPS_PER_PIXEL);
+}
+
+}  // namespace
+
+viewwinfrm::viewwinfrm(form_context context) : mdi_form("viewwinfrm", context) {
+    auto* content = new QWidget;
+    picture_ = new design_picture(content);
+    bottom_row_ = bottom_row();
+    bottom_row_->setParent(content);
+    content_ = content;
+    bind(content, true);
+    connect_picture();
+    connect(&context_.runner, &command_runner::starting, this, &viewwinfrm::stop_turning);
+}
+
+QWidget* viewwinfrm::bottom_row() {
+    auto* row = new QWidget;
+    auto* layout = new QGridLayout(row);
+    layout->setContentsMargins(8, 0, 8, 4);
+    layout->setVerticalSpacing(0);
+    layout->setHorizontalSpacing(6);
+    auto* label = new QLabel;
+    label->setObjectName("rotate_label");
+    angle_ = new QLineEdit;
+    angle_->setObjectName("rotated_angle");
+    angle_->setFixedWidth(ANGLE_WIDTH);
+    angle_->setAlignment(Qt::AlignRight);
+    label->setBuddy(angle_);
+    auto* zoom = new QPushButton;
+    zoom->setObjectName("zoom_all_command");
+    zoom->setFocusPolicy(Qt::TabFocus);
+    connect(zoom, &QPushButton::clicked, this, [this] { context_.runner.act(zoom_all); });
+    connect(angle_, &QLineEdit::returnPressed, this,
+            [this] { context_.runner.act([](program& kavetta, user&) { take_typed_angle(kavetta); }); });
+    layout->addWidget(label, 0, 0, 1, 4);
+    layout->addWidget(rotate_button("rotate_rotors_cw", clockwise_icon(palette()), turning::clockwise), 1, 0);
+    layout->addWidget(rotate_button("rotate_rotors_ccw", counter_clockwise_icon(palette()), turning::counter_clockwise),
+                      1, 1);
+    layout->addWidget(angle_, 1, 2);
+    layout->setColumnStretch(3, 1);
+    layout->addWidget(zoom, 1, 4);
+    return row;
+}
+
+/// A button and its timer, Timer_ and the button's name without the "rotors".
+hold_button* viewwinfrm::rotate_button(const char* name, const QIcon& icon, turning direction) {
+    auto* button = new hold_button;
+    button->setObjectName(name);
+    button->setIcon(icon);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoRaise(false);
+    auto* timer = new QTimer(this);
+    timer->setObjectName(direction == turning::clockwise ? "Timer_rotate_cw" : "Timer_rotate_ccw");
+    timer->setInterval(TURN_INTERVAL);
+    timer->setTimerType(Qt::PreciseTimer);
+    timers_.append(timer);
+    connect(button, &hold_button::held, timer, qOverload<>(&QTimer::start));
+    connect(button, &hold_button::let_go, timer, &QTimer::stop);
+    connect(timer, &QTimer::timeout, this, [this, direction] { turn(direction); });
+    return button;
+}
+
+void viewwinfrm::connect_picture() {
+    connect(picture_, &design_picture::pressed, this, [this](double x, double y) {
+        context_.runner.act([x, y](program& kavetta, user&) { rubber_band_down(kavetta, x, y); });
+    });
+    connect(picture_, &design_picture::moved, this, &viewwinfrm::move_band);
+    connect(picture_, &design_picture::released, this, [this](double x, double y) {
+        context_.runner.act([x, y](program& kavetta, user& person) { rubber_band_up(kavetta, person, x, y); });
+    });
+    connect(picture_, &design_picture::left, this, [this] { emit cursor_moved(QString()); });
+}
+
+void viewwinfrm::refresh() {
+    mdi_form::refresh();
+    picture_->show_view(context_.kavetta.design_view);
+}
+
+void viewwinfrm::move_band(double x, double y) {
+    if (context_.runner.step([x, y](program& kavetta) { rubber_band_move(kavetta, x, y); })) {
+        picture_->show_band(context_.kavetta.design_view.Line3);
+        emit cursor_moved(qt_text(cursor_text(context_.kavetta, x, y)));
+    }
+}
+
+void viewwinfrm::turn(turning direction) {
+    if (context_.runner.step([direction](program& kavetta) { rotation_tick(kavetta, direction); })) {
+        angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
+        picture_->show_rotors(context_.kavetta.design_view);
+    }
+}
+
+void viewwinfrm::stop_turning() {
+    for (QTimer* timer : timers_) {
+        timer->stop();
+    }
+}
+
+void viewwinfrm::hideEvent(QHideEvent* event) {
+    stop_turning();
+    mdi_form::hideEvent(event);
+}
+
+void viewwinfrm::resizeEvent(QResizeEvent* event) {
+    mdi_form::resizeEvent(event);
+    if (!isMinimized() && !isShaded()) {
+        size_picture();
+    }
+}
+
+void viewwinfrm::size_picture() {
+    const std::optional<view_layout> layout = resize_design_view(context_.kavetta, height() * TWIPS_PER_PIXEL);
+    if (!layout) {
+        return;
+    }
+    if (!isMaximized()) {
+        resize(pixels(layout->form_width), pixels(layout->form_height));
+    }
+    place_controls(pixels(layout->picture_side));
+}
+
+/// The picture in the middle, the row below it. With a large font, or in a small form, the content scrolls.
+void viewwinfrm::place_controls(int side) {
+    const QSize row = bottom_row_->sizeHint();
+    content_->setMinimumSize(std::max(side, row.width()), side + row.height());
+    const QSize room = widget()->size().expandedTo(content_->minimumSize());
+    picture_->setGeometry((room.width() - side) / 2, (room.height() - row.height() - side) / 2, side, side);
+    bottom_row_->setGeometry(0, room.height() - row.height(), room.width(), row.height());
+}
+
+}  // namespace kvt

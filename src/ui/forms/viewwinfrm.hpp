@@ -1,0 +1,51 @@
+// viewwinfrm: the Design view, where the rotor pair is drawn to scale, zoomed and turned.
+#pragma once
+
+#include "ui/shell/mdi_form.hpp"
+#include "views/rotation.hpp"
+
+class QLineEdit;
+class QTimer;
+
+namespace kvt {
+
+class design_picture;
+class hold_button;
+
+class viewwinfrm : public mdi_form {
+    Q_OBJECT
+
+  public:
+    explicit viewwinfrm(form_context context);
+
+    void refresh() override;
+
+    /// The resize rule: the side of the picture follows the form's height, and the form's width follows the picture.
+    /// Maximised, the form keeps its size. The drawing stays as it is until the next Calculate Profiles.
+    void size_picture();
+
+  signals:
+    /// Where the mouse is in the design, as a text; empty when it is not over a drawing.
+    void cursor_moved(const QString& place);
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    QWidget* bottom_row();
+    hold_button* rotate_button(const char* name, const QIcon& icon, turning direction);
+    void connect_picture();
+    void move_band(double x, double y);
+    void turn(turning direction);
+    void stop_turning();
+    void place_controls(int side);
+
+    QWidget* content_;
+    design_picture* picture_;
+    QWidget* bottom_row_;
+    QLineEdit* angle_ = nullptr;
+    QList<QTimer*> timers_;
+};
+
+}  // namespace kvt

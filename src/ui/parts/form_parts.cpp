@@ -1,0 +1,124 @@
+#include "ui/parts/form_parts.hpp"
+
+#include "core/app_state.hpp"
+#include "core/text_table.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace kvt {
+
+namespace {
+
+/// Room above and below the text of a box together, pixels.
+constexpr int BOX_MARGINS = 6;
+/// Room left and right of the number in a box together, pixels.
+constexpr int NUMBER_MARGINS = 10;
+/// Room between a number, its unit and the border of the box, pixels.
+constexpr int UNIT_MARGIN = 5;
+constexpr double COMPACT_SHARE = 8.0 / 9.0;
+
+}  // namespace
+
+QLabel* named_label(const char* name) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    return label;
+}
+
+QLabel* result_label(const char* name) {
+    QLabel* label = named_label(name);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setFocusPolicy(Qt::NoFocus);
+    return label;
+}
+
+void accent(QPushButton& button) {
+    QPalette palette = QApplication::palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight));
+        palette.setColor(group, QPalette::ButtonText, palette.color(group, QPalette::HighlightedText));
+    }
+    button.setPalette(palette);
+}
+
+QLineEdit* number_box(const char* name, int width) {
+    auto* box = new QLineEdit;
+    box->setObjectName(name);
+    box->setFixedWidth(width);
+    box->setFixedHeight(box->fontMetrics().height() + BOX_MARGINS);
+    box->setAlignment(Qt::AlignRight);
+    return box;
+}
+
+QFont compact_font() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * COMPACT_SHARE);
+    return font;
+}
+
+QLineEdit* compact_box(const char* name, const char* widest) {
+    QLineEdit* box = number_box(name, 0);
+    box->setFont(compact_font());
+    box->setFixedSize(compact_box_width(widest), box->fontMetrics().height() + BOX_MARGINS);
+    return box;
+}
+
+int compact_box_width(const char* widest) {
+    return QFontMetrics(compact_font()).horizontalAdvance(widest) + NUMBER_MARGINS;
+}
+
+QLabel* add_unit(QLineEdit& box, const QString& widest) {
+    auto* unit = new QLabel(&box);
+    unit->setObjectName(box.objectName() + "_unit");
+    unit->setFont(box.font());
+    unit->setForegroundRole(QPalette::PlaceholderText);
+    unit->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const int width = unit->fontMetrics().horizontalAdvance(widest) + UNIT_MARGIN;
+    unit->setGeometry(box.width() - 1, 0, width, box.height());
+    box.setFixedWidth(box.width() + width);
+    box.setTextMargins(0, 0, width, 0);
+    return unit;
+}
+
+QPushButton* command_button(const char* name) {
+    auto* button = new QPushButton;
+    button->setObjectName(name);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QCheckBox* named_check(const char* name) {
+    auto* check = new QCheckBox;
+    check->setObjectName(name);
+    check->setFocusPolicy(Qt::TabFocus);
+    check->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    return check;
+}
+
+void show_length_unit(const app_state& state, const QList<QLabel*>& labels) {
+    const message unit = state.drawing_units == INCHES ? message::unit_inches : message::unit_mm;
+    for (QLabel* label : labels) {
+        label->setText(qt_text(message_text(unit, state.language)));
+    }
+}
+
+QFrame* hairline() {
+    auto* line = new QFrame;
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
+    line->setFixedHeight(3);
+    return line;
+}
+
+}  // namespace kvt

@@ -1,0 +1,230 @@
+#include "ui/shell/MDIForm1.hpp"
+
+#include "app/desk/exit_program.hpp"
+#include "app/files/project_commands.hpp"
+#include "ui/forms/Aboutform.hpp"
+#include "ui/forms/Form1.hpp"
+#include "ui/forms/Form3.hpp"
+#include "ui/forms/Perffrm.hpp"
+#include "ui/forms/portdes.hpp"
+#include "ui/forms/select_graphs.hpp"
+#include "ui/forms/viewwinfrm.hpp"
+#include "ui/parts/drawn_icons.hpp"
+#include "ui/shell/loaded_form.hpp"
+#include "ui/shell/present_layout.hpp"
+#include "ui/shell/qt_text.hpp"
+#include "ui/shell/status_hints.hpp"
+#include "ui/shell/window_menu.hpp"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMdiArea>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QUrl>
+
+namespace kvt {
+
+namespace {
+
+/// Lightness below which a palette counts as dark, 0 .. 255.
+constexpr int DARK_BELOW = 128;
+
+/// The project file that is dragged, one alone; empty for anything else.
+QString dragged_project(const QMimeData& data) {
+    if (data.urls().size() != 1 || !data.urls().first().isLocalFile()) {
+        return {};
+    }
+    const QString path = data.urls().first().toLocalFile();
+    return path.endsWith(".KVT", Qt::CaseInsensitive) ? path : QString();
+}
+
+}  // namespace
+
+MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea), menu_(nullptr) {
+    setObjectName("MDIForm1");
+    setWindowIcon(program_icon());
+    setCentralWidget(area_);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    colour_background();
+    setAcceptDrops(true);
+    menu_ = new main_menu(context, *this);
+    windows_ = new window_menu(context, *this);
+    statusBar()->setObjectName("status_bar");
+    hints_ = new status_hints(context.kavetta, *statusBar());
+    auto* design = new Form1(context);
+    connect(design, &Form1::exit_asked, this, &MDIForm1::ask_exit);
+    auto* view = new viewwinfrm(context);
+    connect(view, &viewwinfrm::cursor_moved, hints_, &status_hints::show_cursor);
+    add_form(view, true);
+    add_form(new Perffrm(context), true);
+    add_form(new portdes(context), true);
+    add_form(new select_graphs(context), true);
+    add_form(design, true);
+    connect_commands();
+    refresh();
+}
+
+void MDIForm1::connect_commands() {
+    const auto on_menu = [this](const char* entry, void (MDIForm1::*command)()) {
+        connect(findChild<QAction*>(entry), &QAction::triggered, this, command);
+    };
+    on_menu("mnuscreensave", &MDIForm1::save_layout);
+    on_menu("mnuscreenrestore", &MDIForm1::restore_layout);
+    on_menu("mnuhelpabout", &MDIForm1::show_about);
+    on_menu("mnudatacnc", &MDIForm1::show_cnc_output);
+    connect(windows_, &window_menu::chosen, this, &MDIForm1::bring_to_front);
+    connect(&context_.runner, &command_runner::finished, this, &MDIForm1::refresh);
+    connect(&context_.runner, &command_runner::edited, hints_, &status_hints::refresh);
+}
+
+void MDIForm1::add_form(mdi_form* form, bool is_shown) {
+    area_->addSubWindow(form, form->windowFlags());
+    form->setVisible(is_shown);
+    forms_.append(form);
+}
+
+void MDIForm1::load_child(std::string_view form) {
+    loaded_form* made = load_form(form, context_);
+    if (made == nullptr) {
+        return;
+    }
+    add_form(made, false);
+    made->refresh();
+    QRect place(QPoint(0, 0), made->start_size().boundedTo(area_->size()));
+    place.moveCenter(area_->rect().center());
+    made->setGeometry(place);
+}
+
+void MDIForm1::refresh() {
+    setWindowTitle(qt_text(context_.kavetta.labels.title));
+    menu_->refresh();
+    windows_->refresh();
+    hints_->refresh();
+    forms_.removeAll(nullptr);
+    for (const QPointer<mdi_form>& form : forms_) {
+        form->refresh();
+    }
+}
+
+void MDIForm1::show_start(const start_layout& start) {
+    place_children();
+    place_itself();
+    const QString focused = start.focus.empty() ? QString("Form1") : qt_text(start.focus);
+    area_->setActiveSubWindow(findChild<mdi_form*>(focused));
+}
+
+void MDIForm1::place_children() {
+    const window_rectangles& layout = context_.kavetta.window_rectangles;
+    for (const window_rectangle_field& field : window_rectangle_fields()) {
+        findChild<mdi_form*>(qt_text(field.name))->place(layout.*field.member);
+    }
+    auto* explain = findChild<mdi_form*>("explain");
+    if (explain != nullptr && layout.explain) {
+        explain->place(*layout.explain);
+    }
+    auto* port_explain = findChild<mdi_form*>("port_explain");
+    if (port_explain != nullptr && layout.port_explain) {
+        port_explain->place(*layout.port_explain);
+    }
+    // Once even when the size is the one that it had.
+    findChild<viewwinfrm*>()->size_picture();
+}
+
+void MDIForm1::place_itself() {
+    const window_rectangles& layout = context_.kavetta.window_rectangles;
+    if (layout.main_window_maximised) {
+        showMaximized();
+        return;
+    }
+    if (layout.MDIForm1) {
+        place_main_window(*this, *layout.MDIForm1);
+    }
+    show();
+}
+
+/// Shows a child window again, also one that was closed or minimised, and lets the user work in it.
+void MDIForm1::bring_to_front(const QString& form) {
+    context_.runner.act([name = utf8_text(form)](program&, user& person) { person.show_form(name); });
+    if (auto* child = findChild<mdi_form*>(form)) {
+        if (child->isMinimized()) {
+            child->showNormal();
+        }
+        area_->setActiveSubWindow(child);
+    }
+}
+
+void MDIForm1::save_layout() {
+    context_.runner.act(
+        [this](program& kavetta, user& person) { kvt::save_layout(kavetta, person, present_layout(*this)); });
+}
+
+void MDIForm1::restore_layout() {
+    context_.runner.act([this](program& kavetta, user& person) {
+        restore_default_layout(kavetta, person);
+        place_children();
+        place_itself();
+    });
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+    if (context_.runner.has_ended()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    ask_exit();
+}
+
+void MDIForm1::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        colour_background();
+    }
+}
+
+void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
+    if (!dragged_project(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+/// Opens the project as a path on the command line does.
+void MDIForm1::dropEvent(QDropEvent* event) {
+    const std::string path = utf8_text(dragged_project(*event->mimeData()));
+    event->acceptProposedAction();
+    context_.runner.act([&path](program& kavetta, user& person) { open_project_file(kavetta, person, path); });
+}
+
+void MDIForm1::ask_exit() {
+    context_.runner.run(exit_program);
+}
+
+void MDIForm1::show_about() {
+    context_.runner.act([this](program& kavetta, user&) {
+        Aboutform about(kavetta, this);
+        about.exec();
+    });
+}
+
+/// The entry in use is left first, as before a command. The dialog itself is none: its OK button starts one.
+void MDIForm1::show_cnc_output() {
+    context_.runner.act([](program&, user&) {});
+    if (context_.runner.is_running() || context_.runner.has_ended()) {
+        return;
+    }
+    Form3 form(context_, this);
+    form.exec();
+    activateWindow();  // some window managers give the focus to nobody after a box on the dialog
+}
+
+/// A quiet ground for the windows, in a light and in a dark theme.
+void MDIForm1::colour_background() {
+    const QColor window = palette().color(QPalette::Window);
+    const bool is_dark = window.lightness() < DARK_BELOW;
+    area_->setBackground(is_dark ? window.darker(150) : window.darker(112));
+}
+
+}  // namespace kvt

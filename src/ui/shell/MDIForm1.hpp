@@ -1,0 +1,60 @@
+// MDIForm1: the main window with the menus, the status bar and the child windows.
+#pragma once
+
+#include "app/desk/layout_commands.hpp"
+#include "ui/shell/main_menu.hpp"
+
+#include <QList>
+#include <QMainWindow>
+#include <QPointer>
+
+class QMdiArea;
+
+namespace kvt {
+
+class mdi_form;
+class status_hints;
+class window_menu;
+
+class MDIForm1 : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit MDIForm1(form_context context);
+
+    /// Shows the program's state in the menus and in every child window.
+    void refresh();
+    /// Shows the windows of the start where the program's window rectangles say, the main window last.
+    void show_start(const start_layout& start);
+    /// Builds one of the forms that are forgotten when they close, in the middle of the window, not shown yet. Throws
+    /// run_time_error when its load fails.
+    void load_child(std::string_view form);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void add_form(mdi_form* form, bool is_shown);
+    void connect_commands();
+    void place_children();
+    void place_itself();
+    void bring_to_front(const QString& form);
+    void save_layout();
+    void restore_layout();
+    void show_about();
+    void show_cnc_output();
+    void ask_exit();
+    void colour_background();
+
+    form_context context_;
+    QMdiArea* area_;
+    main_menu* menu_;
+    window_menu* windows_;
+    status_hints* hints_;
+    QList<QPointer<mdi_form>> forms_;  ///< a form that was closed for good is nullptr
+};
+
+}  // namespace kvt

@@ -1,0 +1,70 @@
+#include "ui/shell/desktop.hpp"
+
+#include "app/desk/autosave.hpp"
+#include "app/desk/layout_commands.hpp"
+#include "app/desk/start_up.hpp"
+
+namespace kvt {
+
+desktop::desktop(const std::filesystem::path& folder)
+    : person_(program_),
+      runner_(program_, person_),
+      entry_focus_(runner_),
+      window_(form_context{program_, runner_, person_}) {
+    program_.folder = folder;
+    autosave_timer_.setObjectName("autosave_timer");
+    QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_, [this] { save_unsaved(); });
+    person_.attach(
+        &window_, [this] { window_.refresh(); }, [this](std::string_view form) { window_.load_child(form); });
+}
+
+bool desktop::load() {
+    if (!is_loaded_) {
+        is_loaded_ = true;
+        runner_.act([](kvt::program& kavetta, user&) { load_settings(kavetta); });
+    }
+    return !runner_.has_ended();
+}
+
+bool desktop::show_splash(const std::string& path) {
+    if (!load()) {
+        return false;
+    }
+    splash_ = std::make_unique<splashform>();
+    QObject::connect(splash_.get(), &splashform::elapsed, splash_.get(), [this, path] {
+        start(path);
+        splash_->close();
+    });
+    splash_->show();
+    return true;
+}
+
+bool desktop::start(const std::string& path) {
+    if (!load()) {
+        return false;
+    }
+    start_layout layout;
+    runner_.act([&](kvt::program& kavetta, user& person) {
+        // The first touch of the Design form, in the middle of the layout, brings the prompt.
+        start_project(kavetta, person, path);
+        layout = read_start_layout(kavetta);
+        for (const std::string_view form : layout.shown) {
+            person.show_form(form);
+        }
+    });
+    if (runner_.has_ended()) {
+        return false;
+    }
+    window_.show_start(layout);
+    autosave_timer_.start(AUTOSAVE_INTERVAL_MS);
+    return true;
+}
+
+/// A command that waits for an answer has its entries in the middle of a change.
+void desktop::save_unsaved() {
+    if (!runner_.is_running() && !runner_.has_ended()) {
+        autosave(program_);
+    }
+}
+
+}  // namespace kvt

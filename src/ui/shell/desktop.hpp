@@ -1,0 +1,52 @@
+// desktop: one running Kavetta with its windows, from the settings to the end.
+#pragma once
+
+#include "ui/parts/entry_focus.hpp"
+#include "ui/shell/MDIForm1.hpp"
+#include "ui/shell/command_runner.hpp"
+#include "ui/shell/qt_user.hpp"
+#include "ui/shell/splashform.hpp"
+
+#include <QTimer>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace kvt {
+
+class desktop {
+  public:
+    /// folder is the program's folder, already filled.
+    explicit desktop(const std::filesystem::path& folder);
+
+    /// Reads the settings and shows the splash picture; when its time is over the program starts. False when the
+    /// program ended meanwhile.
+    bool show_splash(const std::string& path = {});
+
+    /// Asks new or open (or opens the project of path in its place), reads the layout, then shows the windows; from
+    /// then on changed entries are saved every 30 s. Reads the settings first when that was not done. False when the
+    /// program ended meanwhile.
+    bool start(const std::string& path = {});
+
+    kvt::program& program() { return program_; }
+    command_runner& runner() { return runner_; }
+    MDIForm1& window() { return window_; }
+    /// The timer that saves changed entries.
+    QTimer& autosave_timer() { return autosave_timer_; }
+
+  private:
+    bool load();
+    void save_unsaved();
+
+    kvt::program program_;
+    qt_user person_;
+    command_runner runner_;
+    entry_focus entry_focus_;
+    MDIForm1 window_;
+    std::unique_ptr<splashform> splash_;
+    QTimer autosave_timer_;
+    bool is_loaded_ = false;
+};
+
+}  // namespace kvt

@@ -1,0 +1,27 @@
+// dialog_form: what the modal forms have in common.
+#pragma once
+
+#include "ui/parts/form_binding.hpp"
+
+#include <QDialog>
+
+namespace kvt {
+
+/// A dialog named as its form, whose texts are the program's captions at the moment it appears. Esc closes it.
+class dialog_form : public QDialog {
+    Q_OBJECT
+
+  public:
+    dialog_form(const char* form, const program& kavetta, QWidget* parent);
+
+  protected:
+    /// Shows captions and tooltips in all named controls; call it when they exist.
+    void show_texts();
+
+    const program& kavetta_;
+
+  private:
+    std::string form_;
+};
+
+}  // namespace kvt

@@ -1,0 +1,23 @@
+#include "ui/shell/help_file.hpp"
+
+#include "core/text_table.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+#include <string>
+#include <system_error>
+
+namespace kvt {
+
+void open_help_file(program& kavetta, user& person) {
+    const std::filesystem::path file = kavetta.folder / HELP_FILE_NAME;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(file, error) ||
+        !QDesktopServices::openUrl(QUrl::fromLocalFile(qt_text(file.string())))) {
+        person.show_status(std::string(message_text(message::open_failed, kavetta.app_state.language)) + file.string());
+    }
+}
+
+}  // namespace kvt

@@ -1,0 +1,103 @@
+#include "ui/shell/main_menu.hpp"
+
+#include "app/files/project_commands.hpp"
+#include "ui/shell/not_built_yet.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <algorithm>
+
+namespace kvt {
+
+namespace {
+
+/// The design-time captions of the recent entries; one that was never set moves down the list with the others.
+constexpr std::array<std::string_view, 4> DESIGN_TIME_CAPTIONS = {"&1", "&2", "&3", "&4"};
+
+bool holds_a_project(const std::string& caption) {
+    return !caption.empty() && std::ranges::find(DESIGN_TIME_CAPTIONS, caption) == DESIGN_TIME_CAPTIONS.end();
+}
+
+}  // namespace
+
+main_menu::main_menu(form_context context, QMainWindow& window) : QObject(&window), context_(context) {
+    for (const menu_row& row : menu_rows()) {
+        add_row(row, window);
+    }
+}
+
+void main_menu::add_row(const menu_row& row, QMainWindow& window) {
+    const QString name = qt_text(row.name);
+    if (row.kind == menu_kind::menu) {
+        QMenu* menu = window.menuBar()->addMenu(name);
+        menu->setObjectName(name);
+        menu->menuAction()->setVisible(!row.is_hidden);
+        if (row.opening != nullptr) {
+            connect(menu, &QMenu::aboutToShow, this, [this, opening = row.opening] {
+                opening(context_.kavetta);
+                refresh();
+            });
+        }
+        menus_[name] = menu;
+        actions_[name] = menu->menuAction();
+        return;
+    }
+    QMenu& menu = *menus_[qt_text(row.menu)];
+    if (row.kind == menu_kind::separator) {
+        menu.addSeparator()->setObjectName(name);
+    } else if (row.kind == menu_kind::recent_entries) {
+        add_recent_entries(row, menu);
+    } else {
+        add_entry(row, menu);
+    }
+}
+
+void main_menu::add_entry(const menu_row& row, QMenu& menu) {
+    QAction* action = menu.addAction(qt_text(row.name));
+    action->setObjectName(qt_text(row.name));
+    action->setVisible(!row.is_hidden);
+    action->setCheckable(row.is_checkable);
+    action->setChecked(row.is_checkable);
+    action->setShortcut(QKeySequence(QString(row.shortcut), QKeySequence::PortableText));
+    if (row.command != nullptr) {
+        connect(action, &QAction::triggered, this, [this, command = row.command] { context_.runner.run(command); });
+    }
+    actions_[action->objectName()] = action;
+}
+
+void main_menu::add_recent_entries(const menu_row& row, QMenu& menu) {
+    for (std::size_t index = 0; index < recent_.size(); ++index) {
+        QAction* action = menu.addAction(QString());
+        action->setObjectName(qt_text(row.name) + QString::number(index));
+        connect(action, &QAction::triggered, this, [this, index] {
+            context_.runner.act(
+                [index](program& kavetta, user& person) { previous_design(kavetta, person, static_cast<int>(index)); });
+        });
+        recent_.at(index) = action;
+    }
+}
+
+void main_menu::refresh() {
+    for (auto entry = actions_.cbegin(); entry != actions_.cend(); ++entry) {
+        const std::string name = utf8_text(entry.key());
+        const bool usable = is_enabled(context_.kavetta.enabling, "MDIForm1", name);
+        entry.value()->setText(caption_of(context_.kavetta, "MDIForm1", name));
+        entry.value()->setEnabled(usable && !is_not_built_yet("MDIForm1", name));
+    }
+    refresh_recent_entries();
+}
+
+void main_menu::refresh_recent_entries() {
+    for (std::size_t index = 0; index < recent_.size(); ++index) {
+        const std::string& caption = context_.kavetta.app_state.mnufileprev[index];
+        recent_.at(index)->setText(literal_text(caption));
+        recent_.at(index)->setVisible(holds_a_project(caption));
+    }
+}
+
+}  // namespace kvt

@@ -1,0 +1,88 @@
+#include "ui/shell/mdi_form.hpp"
+
+#include "ui/parts/drawn_icons.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScrollArea>
+
+namespace kvt {
+
+namespace {
+
+int pixels(float twips) {
+    return qRound(twips / static_cast<float>(TWIPS_PER_PIXEL));
+}
+
+}  // namespace
+
+mdi_form::mdi_form(const char* form, form_context context) : context_(context), form_(form) {
+    setObjectName(form);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint |
+                   Qt::WindowCloseButtonHint);
+    setWindowIcon(program_icon());
+}
+
+void mdi_form::bind(QWidget* content, bool scrolls) {
+    if (scrolls) {
+        auto* area = new QScrollArea;
+        area->setFrameShape(QFrame::NoFrame);
+        area->setWidgetResizable(true);
+        area->setWidget(content);
+        area->setFocusPolicy(Qt::NoFocus);
+        setWidget(area);
+    } else {
+        setWidget(content);
+    }
+    binding_.emplace(context_, form_, *content);
+}
+
+void mdi_form::refresh() {
+    setWindowTitle(caption_of(context_.kavetta, form_, ""));
+    binding_->refresh();
+}
+
+void mdi_form::place(const window_rectangle& rectangle) {
+    if (isMaximized() || isMinimized() || isShaded()) {
+        setWindowState(Qt::WindowNoState);
+    }
+    setGeometry(pixels(rectangle.left), pixels(rectangle.top), pixels(rectangle.width), pixels(rectangle.height));
+}
+
+void mdi_form::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    note_place();
+}
+
+void mdi_form::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    note_place();
+}
+
+void mdi_form::note_place() {
+    if (!isMaximized() && !isMinimized() && !isShaded()) {
+        normal_place_ = geometry();
+    }
+}
+
+void mdi_form::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    hide();
+}
+
+void mdi_form::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QMdiSubWindow::keyPressEvent(event);
+        return;
+    }
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    QPushButton* pressed = focused != nullptr && focused->hasFocus() ? focused : main_button_;
+    if (pressed != nullptr) {
+        pressed->click();
+    }
+}
+
+}  // namespace kvt

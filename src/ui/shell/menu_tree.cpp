@@ -1,0 +1,106 @@
+#include "ui/shell/menu_tree.hpp"
+
+#include "app/desk/exit_program.hpp"
+#include "app/desk/explanation_windows.hpp"
+#include "app/files/dxf_output.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/files/step_output.hpp"
+#include "ui/shell/help_file.hpp"
+
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+/// A command after which the program goes on.
+template <void (*action)(program&, user&)>
+bool going_on(program& kavetta, user& person) {
+    action(kavetta, person);
+    return false;
+}
+
+template <step_file file>
+bool step_entry(program& kavetta, user& person) {
+    save_step_file(kavetta, person, file);
+    return false;
+}
+
+template <dxf_file file>
+bool dxf_entry(program& kavetta, user& person) {
+    save_dxf_file(kavetta, person, file);
+    return false;
+}
+
+constexpr auto MENU = menu_kind::menu;
+constexpr auto ENTRY = menu_kind::entry;
+constexpr auto NO_KEY = "";
+
+const std::array MENU_ROWS = {
+    menu_row{"mnufile", "", MENU},
+    menu_row{"mnufilenew", "mnufile", ENTRY, false, "Ctrl+N", going_on<new_project>},
+    menu_row{"mnufileopen", "mnufile", ENTRY, false, "Ctrl+O", going_on<open_project>},
+    menu_row{"mnufilesave", "mnufile", ENTRY, false, "Ctrl+S", going_on<save_project>},
+    menu_row{"mnufilesaveas", "mnufile", ENTRY, false, "Ctrl+Shift+S",
+             [](program& kavetta, user& person) {
+                 save_project_as(kavetta, person);
+                 return false;
+             }},
+    menu_row{"mnufileprint", "mnufile", ENTRY, false, "Ctrl+P"},
+    menu_row{"mnufileexit", "mnufile", ENTRY, false, "Ctrl+Q", exit_program},
+    menu_row{"sep", "mnufile", menu_kind::separator},
+    menu_row{"mnufileprev", "mnufile", menu_kind::recent_entries},
+
+    menu_row{"mnumodel", "", MENU},
+    menu_row{"mnumodelpackage", "mnumodel"},
+    menu_row{"mnumodeltroc", "mnumodel"},
+    menu_row{"mnumodelinner", "mnumodel"},
+    menu_row{"mnumodelouter", "mnumodel"},
+    menu_row{"mnumodelassy", "mnumodel"},
+    menu_row{"mnumodelporting", "mnumodel"},
+
+    menu_row{"mnustep", "", MENU},
+    menu_row{"mnustepinner", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::inner>},
+    menu_row{"mnustepouter", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::outer>},
+    menu_row{"mnustepassy", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::assembly>},
+    menu_row{"mnustepports", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::ports>},
+    // These two stay hidden: the simulation exchange writes their files by itself.
+    menu_row{"mnustepports_inlet_GT", "mnustep", ENTRY, true},
+    menu_row{"mnustepport_outlet_GT", "mnustep", ENTRY, true},
+
+    menu_row{"mnudxf", "", MENU, false, NO_KEY, nullptr, false, open_dxf_menu},
+    menu_row{"mnudxfinner", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::inner>},
+    menu_row{"mnudxfouter", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::outer>},
+    menu_row{"mnudxfinletport", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::inlet>},
+    menu_row{"mnudxfoutletport", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::outlet>},
+    menu_row{"mnudxfmetering", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::groove>},
+
+    menu_row{"mnudata", "", MENU},
+    menu_row{"mnudatacnc", "mnudata"},
+    menu_row{"mnudataperf", "mnudata"},
+
+    menu_row{"mnuscreen", "", MENU},
+    menu_row{"mnuscreensave", "mnuscreen"},
+    menu_row{"mnuscreenrestore", "mnuscreen"},
+
+    menu_row{"mnuupdates", "", MENU, true},
+    menu_row{"mnuupdatesauto", "mnuupdates", ENTRY, false, NO_KEY, nullptr, true},
+    menu_row{"mnuupdateschecknow", "mnuupdates"},
+
+    // Its entries are the titles of the child windows.
+    menu_row{"mnuwindow", "", MENU},
+
+    menu_row{"mnuhelp", "", MENU},
+    menu_row{"mnuhelpexplain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_gerotor_explanation>},
+    menu_row{"mnuhelpport_explain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_porting_explanation>},
+    menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, "F1", going_on<open_help_file>},
+    menu_row{"mnuhelpabout", "mnuhelp"},
+};
+
+}  // namespace
+
+std::span<const menu_row> menu_rows() {
+    return MENU_ROWS;
+}
+
+}  // namespace kvt

@@ -1,0 +1,27 @@
+// The menu tree of the main window as one table, and what its entries do.
+#pragma once
+
+#include "ui/shell/command_runner.hpp"
+
+#include <span>
+#include <string_view>
+
+namespace kvt {
+
+enum class menu_kind { menu, entry, separator, recent_entries };
+
+struct menu_row {
+    std::string_view name;
+    std::string_view menu;  ///< the menu it stands in; empty for a menu of the menu bar
+    menu_kind kind = menu_kind::entry;
+    bool is_hidden = false;
+    const char* shortcut = "";  ///< portable text of the keys, the same on every desktop; empty for none
+    bool (*command)(program&, user&) = nullptr;  ///< true when the program ends; nullptr for what has no command here
+    bool is_checkable = false;
+    void (*opening)(program&) = nullptr;  ///< run before a menu is shown
+};
+
+/// Every menu and entry in its order.
+std::span<const menu_row> menu_rows();
+
+}  // namespace kvt

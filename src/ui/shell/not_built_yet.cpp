@@ -1,0 +1,44 @@
+#include "ui/shell/not_built_yet.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+struct control_name {
+    std::string_view form;
+    std::string_view control;
+};
+
+constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
+    {"MDIForm1", "mnufileprint"},
+    {"MDIForm1", "mnumodel"},
+    {"MDIForm1", "mnumodelpackage"},
+    {"MDIForm1", "mnumodeltroc"},
+    {"MDIForm1", "mnumodelinner"},
+    {"MDIForm1", "mnumodelouter"},
+    {"MDIForm1", "mnumodelassy"},
+    {"MDIForm1", "mnumodelporting"},
+    {"MDIForm1", "mnustepports_inlet_GT"},
+    {"MDIForm1", "mnustepport_outlet_GT"},
+    {"MDIForm1", "mnudataperf"},
+    {"MDIForm1", "mnuupdates"},
+    {"MDIForm1", "mnuupdatesauto"},
+    {"MDIForm1", "mnuupdateschecknow"},
+    {"Perffrm", "GT_combo"},
+    {"Perffrm", "GT_fluid"},
+    {"Perffrm", "GT_Sim_Button"},
+    {"select_graphs", "create_charts"},
+    {"select_graphs", "export_excel"},
+});
+
+}  // namespace
+
+bool is_not_built_yet(std::string_view form, std::string_view control) {
+    return std::ranges::any_of(NOT_BUILT_YET,
+                               [&](const control_name& row) { return row.form == form && row.control == control; });
+}
+
+}  // namespace kvt

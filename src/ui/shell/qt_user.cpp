@@ -1,0 +1,193 @@
+#include "ui/shell/qt_user.hpp"
+
+#include "app/desk/program_title.hpp"
+#include "ui/forms/Form2.hpp"
+#include "ui/forms/newprojectname.hpp"
+#include "ui/forms/progressfrm.hpp"
+#include "ui/shell/file_dialogs.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace kvt {
+
+namespace {
+
+/// Behind a message box the window becomes active a little later, and the child window then takes back its old focus.
+void focus_when_active(QWidget* target) {
+    auto* once = new QObject(target);
+    QObject::connect(qApp, &QApplication::focusChanged, once, [once, target](QWidget*, const QWidget* now) {
+        if (now == nullptr || now->window() != target->window()) {
+            return;
+        }
+        once->deleteLater();
+        QMetaObject::invokeMethod(
+            target, [target] { target->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
+    });
+}
+
+/// A carriage return inside a message, with or without a line feed, is one line break.
+QString with_line_breaks(QString text) {
+    return text.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+}  // namespace
+
+qt_user::qt_user(const program& kavetta) : kavetta_(kavetta) {}
+
+void qt_user::attach(QMainWindow* window, std::function<void()> refresh, std::function<void(std::string_view)> load) {
+    window_ = window;
+    refresh_ = std::move(refresh);
+    load_ = std::move(load);
+}
+
+/// Dialogs before the main window is on the screen stand alone; above another dialog they belong to that.
+QWidget* qt_user::parent() const {
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+        return dialog;
+    }
+    return window_ != nullptr && window_->isVisible() ? window_ : nullptr;
+}
+
+void qt_user::refresh() const {
+    if (refresh_) {
+        refresh_();
+    }
+}
+
+QString qt_user::button_text(message id) const {
+    return qt_text(message_text(id, kavetta_.app_state.language));
+}
+
+void qt_user::prepare(QMessageBox& box, std::string_view text) const {
+    refresh();
+    box.setWindowTitle(qt_text(program_title()));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(with_line_breaks(qt_text(text)));
+}
+
+void qt_user::show_message(std::string_view text) {
+    QMessageBox box(parent());
+    prepare(box, text);
+    box.setIcon(QMessageBox::Warning);
+    box.addButton(button_text(message::ok_button), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+answer qt_user::ask(std::string_view question, question_buttons buttons) {
+    QMessageBox box(parent());
+    prepare(box, question);
+    box.setIcon(QMessageBox::Question);
+    const QPushButton* yes = box.addButton(button_text(message::yes_button), QMessageBox::YesRole);
+    QPushButton* no = box.addButton(button_text(message::no_button), QMessageBox::NoRole);
+    QPushButton* cancel = nullptr;
+    if (buttons == question_buttons::yes_no_cancel) {
+        cancel = box.addButton(button_text(message::cancel_button), QMessageBox::RejectRole);
+        box.setEscapeButton(cancel);
+    } else {
+        box.setEscapeButton(no);
+    }
+    box.exec();
+    if (box.clickedButton() == yes) {
+        return answer::yes;
+    }
+    return cancel == nullptr || box.clickedButton() == no ? answer::no : answer::cancel;
+}
+
+std::optional<std::string> qt_user::choose_file(const file_dialog& dialog) {
+    refresh();
+    return run_file_dialog(dialog, parent());
+}
+
+std::optional<std::string> qt_user::ask_project_name() {
+    refresh();
+    newprojectname dialog(kavetta_, parent(), [this] {
+        show_status(message_text(message::character_refused, kavetta_.app_state.language));
+    });
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return dialog.name();
+}
+
+start_choice qt_user::ask_new_or_open() {
+    refresh();
+    Form2 prompt(kavetta_, parent());
+    prompt.exec();
+    return prompt.choice();
+}
+
+void qt_user::show_status(std::string_view text) {
+    if (window_ != nullptr) {
+        window_->statusBar()->showMessage(qt_text(text));
+    }
+}
+
+QMdiSubWindow* qt_user::child(std::string_view form) const {
+    return window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form));
+}
+
+void qt_user::show_form(std::string_view form) {
+    if (window_ == nullptr) {
+        return;
+    }
+    if (child(form) == nullptr) {
+        load_(form);
+    }
+    if (QMdiSubWindow* window = child(form)) {
+        window->show();
+        window->raise();
+    }
+}
+
+void qt_user::unload_form(std::string_view form) {
+    if (form == "progressfrm") {
+        delete progress_;
+    } else if (QMdiSubWindow* window = child(form)) {
+        window->close();
+    }
+}
+
+void qt_user::set_focus(std::string_view control) {
+    QWidget* target = window_ == nullptr ? nullptr : window_->findChild<QWidget*>(qt_text(control));
+    if (target == nullptr) {
+        return;
+    }
+    for (QWidget* ancestor = target; ancestor != nullptr; ancestor = ancestor->parentWidget()) {
+        if (auto* form = qobject_cast<QMdiSubWindow*>(ancestor)) {
+            form->mdiArea()->setActiveSubWindow(form);
+        }
+    }
+    target->setFocus(Qt::OtherFocusReason);
+    if (!target->isActiveWindow()) {
+        focus_when_active(target);
+    }
+}
+
+void qt_user::set_busy(bool busy) {
+    if (busy == busy_) {
+        return;
+    }
+    busy_ = busy;
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void qt_user::show_progress(std::string_view text, int percent) {
+    if (progress_ == nullptr) {
+        progress_ = new progressfrm(kavetta_, parent());
+    }
+    progress_->show_progress(qt_text(text), percent);
+    // The work runs in this thread: the window is painted here, and the user's events wait.
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+}  // namespace kvt

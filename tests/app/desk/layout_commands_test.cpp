@@ -1,0 +1,104 @@
+// Tests of the Screen Layout menu and of the layout at the start.
+#include "app/desk/layout_commands.hpp"
+
+#include "app/files/project_fixture.hpp"
+#include "base/run_time_error.hpp"
+#include "core/text_table.hpp"
+
+namespace kvt {
+namespace {
+
+using texts = std::vector<std::string>;
+using forms = std::vector<std::string_view>;
+
+class layout_commands_test : public project_test {
+  protected:
+    std::string written() const { return read_file(folder.path() / "screen.ini"); }
+    static present_windows some_windows() {
+        present_windows windows;
+        windows.Form1 = {8000, 5000, 10, 20};
+        windows.explain = windows.port_explain = window_rectangle{1, 2, 3, 4};
+        return windows;
+    }
+};
+
+TEST_F(layout_commands_test, save_writes_the_present_windows_and_tells_in_both_languages) {
+    for (const std::int16_t language : {ENGLISH, GERMAN}) {
+        kavetta.app_state.language = language;
+        person.messages.clear();
+        save_layout(kavetta, person, some_windows());
+        EXPECT_TRUE(written().starts_with("Design\r\n 8000 \r\n 5000 \r\n 10 \r\n 20 \r\n\r\n"));
+        EXPECT_EQ(person.messages, texts{std::string(message_text(message::screen_layout_saved, language))});
+    }
+}
+
+TEST_F(layout_commands_test, save_leaves_closed_explanation_windows_out) {
+    save_layout(kavetta, person, some_windows());
+    EXPECT_EQ(written().find("Explanation"), std::string::npos);
+    kavetta.app_state.explain_closed = false;
+    save_layout(kavetta, person, some_windows());
+    EXPECT_NE(written().find("Gerotor Explanation"), std::string::npos);
+    EXPECT_EQ(written().find("Port Explanation"), std::string::npos);
+}
+
+TEST_F(layout_commands_test, save_fails_for_good_when_the_file_cannot_be_written) {
+    kavetta.folder = folder.path() / "gone";
+    EXPECT_THROW(save_layout(kavetta, person, some_windows()), run_time_error);
+    EXPECT_TRUE(person.messages.empty());
+}
+
+TEST_F(layout_commands_test, restore_sets_the_built_in_layout_and_writes_its_five_blocks) {
+    window_rectangles& windows = kavetta.window_rectangles;
+    windows.Form1 = {1, 2, 3, 4};
+    windows.select_graphs = {1, 2, 3, 4};
+    windows.main_window_maximised = false;
+    windows.FLOW_graphview2 = {5, 6, 7, 8};
+    kavetta.app_state.explain_closed = false;
+    restore_default_layout(kavetta, person);
+    window_rectangles expected;
+    expected.FLOW_graphview2 = {5, 6, 7, 8};
+    EXPECT_EQ(windows, expected);
+    EXPECT_TRUE(kavetta.app_state.explain_closed);
+    EXPECT_EQ(person.log, (texts{"show Form1", "show portdes", "show viewwinfrm", "show Perffrm", "show select_graphs",
+                                 "unload explain", "unload port_explain"}));
+    EXPECT_EQ(written(),
+              "Design\r\n 8085 \r\n 5430 \r\n 0 \r\n 0 \r\n\r\n"
+              "Port Design\r\n 2895 \r\n 10200 \r\n 8100 \r\n 0 \r\n\r\n"
+              "View\r\n 7185 \r\n 6375 \r\n 0 \r\n 8995 \r\n\r\n"
+              "Performance\r\n 8085 \r\n 3525 \r\n 0 \r\n 5450 \r\n\r\n"
+              "Charts\r\n 2355 \r\n 4395 \r\n 8100 \r\n 10220 \r\n\r\n");
+}
+
+TEST_F(layout_commands_test, start_without_a_file_shows_the_built_in_layout_with_the_focus_on_Form1) {
+    kavetta.app_state.explain_closed = false;
+    const start_layout start = read_start_layout(kavetta);
+    EXPECT_EQ(start.shown, (forms{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}));
+    EXPECT_EQ(start.focus, "Form1");
+    EXPECT_EQ(kavetta.window_rectangles, window_rectangles());
+    EXPECT_TRUE(kavetta.app_state.explain_closed);
+    EXPECT_TRUE(person.messages.empty());
+}
+
+TEST_F(layout_commands_test, start_after_a_restore_shows_the_five_windows_in_the_order_of_the_file) {
+    restore_default_layout(kavetta, person);
+    const start_layout start = read_start_layout(kavetta);
+    EXPECT_EQ(start.shown, (forms{"Form1", "portdes", "viewwinfrm", "Perffrm", "select_graphs"}));
+    EXPECT_EQ(start.focus, "");
+}
+
+TEST_F(layout_commands_test, start_after_a_save_with_a_chart_of_all_shows_the_explanation_windows) {
+    present_windows windows = some_windows();
+    windows.charts.back() = window_rectangle{6630, 8790, 2100, 2100};
+    kavetta.app_state.explain_closed = false;
+    kavetta.app_state.port_explain_closed = false;
+    save_layout(kavetta, person, windows);
+    const start_layout start = read_start_layout(kavetta);
+    EXPECT_EQ(start.shown.size(), 7U);
+    EXPECT_EQ(start.shown[5], "explain");
+    EXPECT_EQ(start.shown[6], "port_explain");
+    EXPECT_EQ(kavetta.window_rectangles.Form1, (window_rectangle{8000, 5000, 10, 20}));
+    EXPECT_EQ(kavetta.window_rectangles.OVREFF_graphview2, (chart_rectangle{6630, 8790, 2100, 2100}));
+}
+
+}  // namespace
+}  // namespace kvt

@@ -1,0 +1,87 @@
+// Start-up: the program's folder, the settings, the prompt.
+#include "app/desk/start_up.hpp"
+
+#include "app/files/project_fixture.hpp"
+#include "base/run_time_error.hpp"
+
+#include <cstdlib>
+
+namespace kvt {
+namespace {
+
+using start_up_test = project_test;
+
+TEST_F(start_up_test, takes_the_program_folder_from_the_environment) {
+    setenv("KAVETTA_HOME", folder.path().c_str(), 1);
+    EXPECT_EQ(program_folder(), folder.path());
+    unsetenv("KAVETTA_HOME");
+    setenv("HOME", folder.path().c_str(), 1);
+    EXPECT_EQ(program_folder(), folder.path() / ".local" / "share" / "Kavetta");
+}
+
+TEST_F(start_up_test, fills_the_folder_with_what_is_missing_and_keeps_what_is_there) {
+    const temporary_folder share;
+    write_file(share.path() / "KVT.ini", "delivered");
+    std::filesystem::create_directories(share.path() / "projects");
+    write_file(share.path() / "projects" / "example.KVT", "example");
+    const std::filesystem::path home = folder.path() / "new" / "home";
+
+    fill_program_folder(home, share.path());
+    EXPECT_EQ(read_file(home / "KVT.ini"), "delivered");
+    EXPECT_EQ(read_file(home / "projects" / "example.KVT"), "example");
+    EXPECT_TRUE(std::filesystem::is_directory(home / "images"));
+    EXPECT_TRUE(std::filesystem::is_directory(home / "updates"));
+
+    write_file(home / "KVT.ini", "the user's own");
+    fill_program_folder(home, share.path());
+    EXPECT_EQ(read_file(home / "KVT.ini"), "the user's own");
+}
+
+TEST_F(start_up_test, fails_for_good_without_a_settings_file) {
+    std::filesystem::remove(folder.path() / "KVT.ini");
+    EXPECT_THROW(load_settings(kavetta), run_time_error);
+}
+
+TEST_F(start_up_test, reads_recent_list_package_and_language) {
+    write_settings_lines({"/a.KVT", "/b.KVT", "/c.KVT", "SolidWorks", "2", "auto", "#12-Mar-21#"});
+    load_settings(kavetta);
+    EXPECT_EQ(kavetta.app_state.mnufileprev[0], "&1") << "entry 0 belongs to the present run";
+    EXPECT_EQ(kavetta.app_state.mnufileprev[1], "/a.KVT");
+    EXPECT_EQ(kavetta.app_state.mnufileprev[3], "/c.KVT");
+    EXPECT_EQ(kavetta.app_state.modelling_package, "SolidWorks");
+    EXPECT_EQ(kavetta.app_state.language, GERMAN);
+}
+
+TEST_F(start_up_test, starts_a_new_project_without_asking_for_fluid_values) {
+    person.start_choices = {start_choice::new_project};
+    person.project_names = {std::nullopt};
+    start_project(kavetta, person);
+    EXPECT_EQ(kavetta.labels.title, "Kavetta V2021 - ''") << "cancelled: an empty name";
+    EXPECT_TRUE(person.questions.empty());
+}
+
+TEST_F(start_up_test, opens_a_project_from_the_prompt) {
+    person.start_choices = {start_choice::open_project};
+    person.files = {project_file("pump.KVT", project_lines())};
+    start_project(kavetta, person);
+    EXPECT_EQ(kavetta.entries.ecc, "2.85");
+}
+
+TEST_F(start_up_test, leaves_the_form_empty_when_the_prompt_is_closed) {
+    person.start_choices = {start_choice::neither};
+    start_project(kavetta, person);
+    EXPECT_EQ(kavetta.labels.title, "Kavetta V2021");
+    EXPECT_EQ(kavetta.entries, entries());
+    EXPECT_EQ(kavetta.enabling, enabling());
+}
+
+TEST_F(start_up_test, opens_a_path_in_place_of_the_prompt_and_survives_a_wrong_one) {
+    start_project(kavetta, person, project_file("pump.KVT", project_lines()));
+    EXPECT_EQ(kavetta.entries.ecc, "2.85");
+    start_project(kavetta, person, folder.file("not there.KVT"));
+    EXPECT_EQ(person.statuses.size(), 2U);
+    EXPECT_TRUE(person.messages.empty());
+}
+
+}  // namespace
+}  // namespace kvt
