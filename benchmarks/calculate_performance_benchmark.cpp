@@ -1,4 +1,5 @@
-// What the calc_perf button waits for: Calculate Performance on whole designs, its routines, and the whole chain.
+// What the calc_perf button waits for: Calculate Performance on whole designs, its routines, and
+// the whole chain.
 #include "app/files/project_commands.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
@@ -19,8 +20,8 @@
 
 namespace {
 
-constexpr std::array SAMPLES = {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n07_inch_hydraulic",
-                                "n09_crank_oil"};
+constexpr std::array SAMPLES = {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove",
+                                "n07_inch_hydraulic", "n09_crank_oil"};
 
 std::unique_ptr<kvt::program> prepared(const std::string& name) {
     auto kavetta = std::make_unique<kvt::program>();
@@ -52,7 +53,9 @@ void profiles_ports_performance(benchmark::State& state) {
         benchmark::DoNotOptimize(kvt::calculate_performance(*kavetta, person));
     }
 }
-BENCHMARK(profiles_ports_performance)->DenseRange(0, SAMPLES.size() - 1)->Unit(benchmark::kMillisecond);
+BENCHMARK(profiles_ports_performance)
+    ->DenseRange(0, SAMPLES.size() - 1)
+    ->Unit(benchmark::kMillisecond);
 
 void routine(benchmark::State& state, const std::function<void(kvt::program&)>& run) {
     const auto kavetta = prepared("n07_engine_oil_groove");
@@ -68,20 +71,26 @@ void register_routines() {
             routine(state, run);
         })->Unit(benchmark::kMillisecond);
     };
-    add("calc_sliding_velocity",
-        [](program& p) { kvt::calc_sliding_velocity(p.design_params, p.rotor_profiles, p.perf_results); });
-    add("calc_drive_power", [](program& p) {
-        kvt::calc_drive_power(p.design_params, p.rotor_profiles, p.port_params, p.perf_inputs, p.perf_results);
+    add("calc_sliding_velocity", [](program& p) {
+        kvt::calc_sliding_velocity(p.design_params, p.rotor_profiles, p.perf_results);
     });
-    add("calc_lobe_load_share",
-        [](program& p) { kvt::calc_lobe_load_share(p.design_params, p.rotor_profiles, p.perf_results); });
-    add("calc_hertz_and_side_load",
-        [](program& p) { kvt::calc_hertz_and_side_load(p.design_params, p.perf_inputs, p.perf_results); });
+    add("calc_drive_power", [](program& p) {
+        kvt::calc_drive_power(p.design_params, p.rotor_profiles, p.port_params, p.perf_inputs,
+                              p.perf_results);
+    });
+    add("calc_lobe_load_share", [](program& p) {
+        kvt::calc_lobe_load_share(p.design_params, p.rotor_profiles, p.perf_results);
+    });
+    add("calc_hertz_and_side_load", [](program& p) {
+        kvt::calc_hertz_and_side_load(p.design_params, p.perf_inputs, p.perf_results);
+    });
     add("calc_flow", [](program& p) {
-        kvt::calc_flow(p.design_params, p.rotor_profiles, p.port_params, p.perf_inputs, p.perf_results);
+        kvt::calc_flow(p.design_params, p.rotor_profiles, p.port_params, p.perf_inputs,
+                       p.perf_results);
     });
     add("calc_pressure_ripple", [](program& p) {
-        kvt::calc_pressure_ripple(p.design_params, p.rotor_profiles, p.port_params, p.perf_inputs, p.perf_results);
+        kvt::calc_pressure_ripple(p.design_params, p.rotor_profiles, p.port_params, p.perf_inputs,
+                                  p.perf_results);
     });
 }
 

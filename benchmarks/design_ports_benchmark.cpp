@@ -41,8 +41,9 @@ void design_ports_sharp(benchmark::State& state) {
 }
 BENCHMARK(design_ports_sharp)->Unit(benchmark::kMillisecond);
 
-/// Both passes of one search run out. A refused port ends with such a search, so a run has three of them at most
-/// (inlet, outlet, groove), beside up to seven searches that succeed in their second pass.
+/// Both passes of one search run out. A refused port ends with such a search, so a run has three of
+/// them at most (inlet, outlet, groove), beside up to seven searches that succeed in their second
+/// pass.
 void exhausted_search(benchmark::State& state) {
     for (auto _ : state) {
         benchmark::DoNotOptimize(kvt::corner_angle({3.0, 2.0, false, 20.0, kvt::step_rule::up}));

@@ -1,4 +1,5 @@
-// What a user waits for behind the save dialog of a STEP or DXF file: the text in memory, without the profile.
+// What a user waits for behind the save dialog of a STEP or DXF file: the text in memory, without
+// the profile.
 #include "app/files/dxf_output.hpp"
 #include "app/files/step_output.hpp"
 #include "support/cnc_design.hpp"

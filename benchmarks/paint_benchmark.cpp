@@ -1,5 +1,5 @@
-// How long a repaint of the rotor pair takes, and a tick of a held rotation button: 3600 elements of the inner rotor, a
-// picture of 700 by 700 pixels.
+// How long a repaint of the rotor pair takes, and a tick of a held rotation button: 3600 elements
+// of the inner rotor, a picture of 700 by 700 pixels.
 #include "app/files/project_entries.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/windows/view_commands.hpp"
@@ -57,7 +57,8 @@ void take_over_and_paint_the_pair(benchmark::State& state) {
     }
 }
 
-/// All that the timer waits for every 10 ms: a turn by one degree, the rotors taken over, the sheet painted.
+/// All that the timer waits for every 10 ms: a turn by one degree, the rotors taken over, the sheet
+/// painted.
 void turn_and_paint_the_pair(benchmark::State& state) {
     kvt::program kavetta = drawn_design();
     kvt::design_painting painting(kavetta.design_view);

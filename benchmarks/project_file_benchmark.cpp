@@ -1,4 +1,5 @@
-// What Open and Save wait for: the bytes of a project turned into its record and back, and the file itself.
+// What Open and Save wait for: the bytes of a project turned into its record and back, and the file
+// itself.
 #include "base/text_file.hpp"
 #include "core/project_file.hpp"
 
@@ -31,7 +32,8 @@ void write_project(benchmark::State& state) {
 BENCHMARK(write_project);
 
 void save_and_open_a_file(benchmark::State& state) {
-    const std::filesystem::path path = std::filesystem::temp_directory_path() / "kvt_project_benchmark.KVT";
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() / "kvt_project_benchmark.KVT";
     std::string name;
     const kvt::project_record record = kvt::read_project(full_project(), name);
     for (auto _ : state) {

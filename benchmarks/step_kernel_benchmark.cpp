@@ -1,5 +1,6 @@
-// The STEP file of an inner rotor, written by Kavetta and by a solid-modelling kernel's own writer from a solid with
-// the same two splines. Both write to a file; the kernel's solid is built beforehand.
+// The STEP file of an inner rotor, written by Kavetta and by a solid-modelling kernel's own writer
+// from a solid with the same two splines. Both write to a file; the kernel's solid is built
+// beforehand.
 #include "app/files/saved_text.hpp"
 #include "app/files/step_output.hpp"
 #include "output/step/step_rotors.hpp"
@@ -21,8 +22,10 @@
 
 namespace {
 
-/// The clamped uniform cubic spline over points first .. last of a contour, where the point behind the last is point 0.
-TopoDS_Edge spline_edge(const std::vector<kvt::point2>& contour, std::size_t first, std::size_t last) {
+/// The clamped uniform cubic spline over points first .. last of a contour, where the point behind
+/// the last is point 0.
+TopoDS_Edge spline_edge(const std::vector<kvt::point2>& contour, std::size_t first,
+                        std::size_t last) {
     const int count = static_cast<int>(last - first) + 1;
     TColgp_Array1OfPnt poles(1, count);
     for (int i = 0; i < count; ++i) {
@@ -41,7 +44,8 @@ TopoDS_Edge spline_edge(const std::vector<kvt::point2>& contour, std::size_t fir
 TopoDS_Shape rotor_solid(const kvt::program& kavetta) {
     const std::vector<kvt::point2> contour = kvt::inner_rotor_contour(kavetta.rotor_profiles);
     const std::size_t middle = contour.size() / 2;
-    BRepBuilderAPI_MakeWire wire(spline_edge(contour, 0, middle), spline_edge(contour, middle, contour.size()));
+    BRepBuilderAPI_MakeWire wire(spline_edge(contour, 0, middle),
+                                 spline_edge(contour, middle, contour.size()));
     const gp_Vec up(0.0, 0.0, kavetta.design_params.thick);
     return BRepPrimAPI_MakePrism(BRepBuilderAPI_MakeFace(wire.Wire()), up).Shape();
 }
@@ -51,8 +55,9 @@ void kavetta_writes_inner_rotor(benchmark::State& state) {
     const kvt::temporary_folder folder;
     const std::string path = folder.file("inner.stp");
     for (auto _ : state) {
-        kvt::save_text(
-            path, [&](kvt::text_lines& text) { kvt::append_step_file(text, kvt::step_file::inner, kavetta, path); });
+        kvt::save_text(path, [&](kvt::text_lines& text) {
+            kvt::append_step_file(text, kvt::step_file::inner, kavetta, path);
+        });
     }
 }
 BENCHMARK(kavetta_writes_inner_rotor)->Unit(benchmark::kMillisecond);

@@ -1,4 +1,5 @@
-// Fuzz target: the project reader and the readings of a number end in a value or in a run_time_error for any bytes.
+// Fuzz target: the project reader and the readings of a number end in a value or in a
+// run_time_error for any bytes.
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/project_file.hpp"
@@ -15,7 +16,8 @@ namespace kvt {
 
 namespace {
 
-/// Stops the run, so that libFuzzer keeps the input; assert would do the same but for builds that switch it off.
+/// Stops the run, so that libFuzzer keeps the input; assert would do the same but for builds that
+/// switch it off.
 void require(bool holds, const char* what) {
     if (!holds) {
         std::fprintf(stderr, "does not hold: %s\n", what);
@@ -23,7 +25,8 @@ void require(bool holds, const char* what) {
     }
 }
 
-/// What has been read is written in full, and reading that gives the same design and the same bytes again.
+/// What has been read is written in full, and reading that gives the same design and the same bytes
+/// again.
 void check_project(std::string_view bytes) {
     std::string name;
     project_record record;
@@ -40,12 +43,13 @@ void check_project(std::string_view bytes) {
     const project_record again = read_project(written, name);
     require(again.boxes == record.boxes, "the boxes survive");
     require(again.capacity_unit == record.capacity_unit, "the capacity unit survives");
-    require(again.project_name == record.project_name && again.units == record.units, "name and units survive");
+    require(again.project_name == record.project_name && again.units == record.units,
+            "name and units survive");
     require(write_project(again) == written, "saving again gives the same bytes");
 }
 
-/// The text of a number is read as that number to 15 digits. From 1e-290 on a double has 15 digits, and up to 1e308
-/// rounding to them stays in the range.
+/// The text of a number is read as that number to 15 digits. From 1e-290 on a double has 15 digits,
+/// and up to 1e308 rounding to them stays in the range.
 void check_text_of(double value) {
     const std::string text = number_text(value);
     const double size = std::abs(value);

@@ -1,4 +1,5 @@
-// Runs a fuzz target without libFuzzer: the fixtures of a folder, mutations of them, and random texts, from one seed.
+// Runs a fuzz target without libFuzzer: the fixtures of a folder, mutations of them, and random
+// texts, from one seed.
 #include "base/text_file.hpp"
 #include "support/property_runs.hpp"
 
@@ -24,7 +25,8 @@ void run(const std::string& input) {
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
 }
 
-/// The files of the folder in the order of their names, so that a seed means the same cases everywhere.
+/// The files of the folder in the order of their names, so that a seed means the same cases
+/// everywhere.
 std::vector<std::string> fixtures_in(const std::filesystem::path& folder) {
     std::vector<std::filesystem::path> paths;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
@@ -78,7 +80,8 @@ int main(int argument_count, char** arguments) {
     }
     std::for_each(fixtures.begin(), fixtures.end(), run);
     for (int left = kvt::property_count(MUTATION_COUNT); left > 0; --left) {
-        std::string input = fixtures[static_cast<std::size_t>(random.whole(0, static_cast<int>(fixtures.size()) - 1))];
+        std::string input = fixtures[static_cast<std::size_t>(
+            random.whole(0, static_cast<int>(fixtures.size()) - 1))];
         for (int changes = random.whole(1, 4); changes > 0; --changes) {
             mutate(input, random);
         }

@@ -20,12 +20,15 @@ namespace {
 /// The share folder beside the installed program, else the one of the build.
 std::filesystem::path share_folder() {
     const std::filesystem::path beside =
-        std::filesystem::path(kvt::utf8_text(QApplication::applicationDirPath())) / KVT_INSTALLED_SHARE_FOLDER;
+        std::filesystem::path(kvt::utf8_text(QApplication::applicationDirPath())) /
+        KVT_INSTALLED_SHARE_FOLDER;
     std::error_code error;
-    return std::filesystem::is_directory(beside, error) ? beside : std::filesystem::path(KVT_SHARE_FOLDER);
+    return std::filesystem::is_directory(beside, error) ? beside
+                                                        : std::filesystem::path(KVT_SHARE_FOLDER);
 }
 
-/// The program's folder, filled with the delivered files that are missing. Nothing when that fails: the user is told.
+/// The program's folder, filled with the delivered files that are missing. Nothing when that fails:
+/// the user is told.
 std::optional<std::filesystem::path> filled_program_folder() {
     try {
         const std::filesystem::path folder = kvt::program_folder();
@@ -33,9 +36,9 @@ std::optional<std::filesystem::path> filled_program_folder() {
         return folder;
     } catch (const kvt::run_time_error& error) {
         const std::string text(kvt::failure_text(error.kind(), kvt::ENGLISH));
-        QMessageBox::critical(
-            nullptr, kvt::qt_text("Kavetta"),
-            kvt::qt_text(std::to_string(error.number()) + ": " + text + "\n" + text + ": " + error.detail()));
+        QMessageBox::critical(nullptr, kvt::qt_text("Kavetta"),
+                              kvt::qt_text(std::to_string(error.number()) + ": " + text + "\n" +
+                                           text + ": " + error.detail()));
         return std::nullopt;
     }
 }
@@ -43,7 +46,8 @@ std::optional<std::filesystem::path> filled_program_folder() {
 /// The project named on the command line as a full path; empty without one.
 std::string project_argument() {
     const QStringList arguments = QApplication::arguments();
-    return arguments.size() < 2 ? std::string() : kvt::utf8_text(QFileInfo(arguments[1]).absoluteFilePath());
+    return arguments.size() < 2 ? std::string()
+                                : kvt::utf8_text(QFileInfo(arguments[1]).absoluteFilePath());
 }
 
 }  // namespace

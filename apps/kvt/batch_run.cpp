@@ -46,7 +46,8 @@ batch_end end_of(assist_end end) {
 
 void type_entries(program& kavetta, user& person, const design_source& source) {
     if (source.capacity_unit != 0) {
-        select_capacity_unit(kavetta, CAPACITY_UNIT_TEXTS.at(static_cast<std::size_t>(source.capacity_unit - 1)));
+        select_capacity_unit(
+            kavetta, CAPACITY_UNIT_TEXTS.at(static_cast<std::size_t>(source.capacity_unit - 1)));
     }
     for (const typed_entry& typed : source.typed) {
         type_entry(kavetta, person, typed);
@@ -57,7 +58,8 @@ bool is_whole(const ports_designed& done, const program& kavetta) {
     return done.inlet && done.outlet && (done.groove || !has_metering_groove(kavetta));
 }
 
-/// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it true.
+/// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it
+/// true.
 void run_stages(program& kavetta, batch_user& person, calc_stage last, batch_result& result) {
     result.profiles_reached = true;
     result.end = end_of(calculate_profiles(kavetta, person));
@@ -109,11 +111,12 @@ int exit_status(const batch_result& result) {
 }
 
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
-    return std::string(message_text(message::run_time_failure, language)) + number_text(error.number()) + ": " +
-           std::string(failure_text(error.kind(), language));
+    return std::string(message_text(message::run_time_failure, language)) +
+           number_text(error.number()) + ": " + std::string(failure_text(error.kind(), language));
 }
 
-std::optional<batch_end> open_design(program& kavetta, batch_user& person, const design_source& source) {
+std::optional<batch_end> open_design(program& kavetta, batch_user& person,
+                                     const design_source& source) {
     kavetta.app_state.language = source.language;
     set_captions(kavetta);
     try {
@@ -143,7 +146,8 @@ batch_end find_design(program& kavetta, batch_user& person, const design_source&
     }
 }
 
-batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source, calc_stage last) {
+batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source,
+                              calc_stage last) {
     if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
         batch_result result;
         result.end = *early;

@@ -1,4 +1,5 @@
-// batch_user: the person on the other side when nobody sits there: messages are collected, questions get defaults.
+// batch_user: the person on the other side when nobody sits there: messages are collected,
+// questions get defaults.
 #pragma once
 
 #include "core/user.hpp"
@@ -11,9 +12,9 @@
 
 namespace kvt {
 
-/// Messages and status lines go to the given stream, a carriage return in a message as a line break, and messages are
-/// kept as they are, in order. Every question is answered Yes (a value that a question could drop is kept), every
-/// dialog is cancelled.
+/// Messages and status lines go to the given stream, a carriage return in a message as a line
+/// break, and messages are kept as they are, in order. Every question is answered Yes (a value that
+/// a question could drop is kept), every dialog is cancelled.
 class batch_user : public user {
   public:
     explicit batch_user(std::ostream& err) : err_(err) {}

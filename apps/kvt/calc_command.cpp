@@ -27,7 +27,8 @@ int calc_design(const calc_request& request, std::ostream& out, std::ostream& er
     try {
         write_file(request.json_file, report);
     } catch (const run_time_error& error) {
-        err << request.json_file << ": " << run_time_error_line(error, request.source.language) << '\n';
+        err << request.json_file << ": " << run_time_error_line(error, request.source.language)
+            << '\n';
         return result.end == batch_end::read_error ? EXIT_UNREADABLE : EXIT_REFUSED;
     }
     return exit_status(result);

@@ -1,4 +1,5 @@
-// calc_command: calculate a design and report it, for people on standard output, for programs as JSON.
+// calc_command: calculate a design and report it, for people on standard output, for programs as
+// JSON.
 #pragma once
 
 #include "kvt/batch_run.hpp"
@@ -16,8 +17,8 @@ struct calc_request {
     std::string date;  ///< of the port report; empty: today
 };
 
-/// Runs the design. The summary goes to `out`, or the JSON and nothing else when json_file is "-". Messages go to
-/// `err`. Answers the exit status; a JSON file that can't be written is a refusal.
+/// Runs the design. The summary goes to `out`, or the JSON and nothing else when json_file is "-".
+/// Messages go to `err`. Answers the exit status; a JSON file that can't be written is a refusal.
 int calc_design(const calc_request& request, std::ostream& out, std::ostream& err);
 
 }  // namespace kvt

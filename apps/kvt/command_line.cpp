@@ -41,10 +41,12 @@ struct command_line {
     assist_request assist;  ///< its source is that of calc
 };
 
-const std::map<std::string, calc_stage> STAGES = {
-    {"profiles", calc_stage::profiles}, {"ports", calc_stage::ports}, {"performance", calc_stage::performance}};
+const std::map<std::string, calc_stage> STAGES = {{"profiles", calc_stage::profiles},
+                                                  {"ports", calc_stage::ports},
+                                                  {"performance", calc_stage::performance}};
 
-/// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be typed.
+/// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be
+/// typed.
 typed_entry parse_typed(const std::string& option) {
     const std::size_t equals = option.find('=');
     if (equals == std::string::npos) {
@@ -68,16 +70,18 @@ void add_design_options(CLI::App& command, command_line& line) {
     design_source& source = line.calc.source;
     command.add_option("PROJECT.KVT", source.project, "Project file to open")->required();
     command
-        .add_option("--set", line.typed,
-                    "Type TEXT into a control and leave it, as a user would; check boxes take 0 or 1,\n"
-                    "dimens1=1 and dimens2=1 choose mm and inches, unittype takes a text of its list.\n"
-                    "May be given many times")
+        .add_option(
+            "--set", line.typed,
+            "Type TEXT into a control and leave it, as a user would; check boxes take 0 or 1,\n"
+            "dimens1=1 and dimens2=1 choose mm and inches, unittype takes a text of its list.\n"
+            "May be given many times")
         ->type_name("CONTROL=TEXT")
         ->allow_extra_args(false);
     command
-        .add_option("--capacity-unit", source.capacity_unit,
-                    "Select a capacity unit after opening: 1 Lit/Min/1000rpm, 2 USGall/Min/1000rpm,\n"
-                    "3 ImpGall/Min/1000rpm, 4 CC/Rev, 5 Cu In/Rev")
+        .add_option(
+            "--capacity-unit", source.capacity_unit,
+            "Select a capacity unit after opening: 1 Lit/Min/1000rpm, 2 USGall/Min/1000rpm,\n"
+            "3 ImpGall/Min/1000rpm, 4 CC/Rev, 5 Cu In/Rev")
         ->type_name("N")
         ->check(plain(CLI::Range(1, 5)));
     command.add_option("--language", source.language, "Language of messages: 1 English, 2 German")
@@ -88,10 +92,12 @@ void add_design_options(CLI::App& command, command_line& line) {
 CLI::App* add_calc(CLI::App& app, command_line& line) {
     CLI::App* calc = app.add_subcommand("calc", "Calculate a design and print a summary");
     add_design_options(*calc, line);
-    calc->add_option("--json", line.calc.json_file,
-                     "Write everything as JSON to a file; with - to standard output, without the summary")
+    calc->add_option(
+            "--json", line.calc.json_file,
+            "Write everything as JSON to a file; with - to standard output, without the summary")
         ->type_name("FILE|-");
-    calc->add_flag("--full", line.calc.full, "JSON with all profile points and the lines of the Design view");
+    calc->add_flag("--full", line.calc.full,
+                   "JSON with all profile points and the lines of the Design view");
     calc->add_option("--stage", line.stage, "Stop after a stage; default: as far as it goes")
         ->type_name("profiles|ports|performance")
         ->check(plain(CLI::IsMember(STAGES)));
@@ -106,10 +112,13 @@ CLI::App* add_export(CLI::App& app, command_line& line) {
 }
 
 CLI::App* add_assist(CLI::App& app, command_line& line) {
-    CLI::App* assist = app.add_subcommand("assist", "Find rotor dimensions for the required capacity");
+    CLI::App* assist =
+        app.add_subcommand("assist", "Find rotor dimensions for the required capacity");
     add_design_options(*assist, line);
     assist->add_flag("--json", line.assist.json, "Print everything as JSON, without the summary");
-    assist->add_option("--write", line.assist.write_file, "Save the project with the dimensions found")
+    assist
+        ->add_option("--write", line.assist.write_file,
+                     "Save the project with the dimensions found")
         ->type_name("FILE.KVT");
     return assist;
 }

@@ -18,7 +18,8 @@ std::string file_name(const cnc_file& file) {
 /// The run over the files of one design.
 class cnc_export {
   public:
-    cnc_export(program& kavetta, batch_user& person, const export_request& request, export_folder& folder)
+    cnc_export(program& kavetta, batch_user& person, const export_request& request,
+               export_folder& folder)
         : kavetta_(kavetta), person_(person), request_(request), folder_(folder) {}
 
     void run() {
@@ -34,15 +35,19 @@ class cnc_export {
         return std::ranges::find(request_.cnc, file.name) != request_.cnc.end();
     }
     bool is_wanted(const cnc_file& file) const {
-        return request_.chooses_nothing() || std::ranges::find(request_.cnc, "all") != request_.cnc.end() ||
-               is_named(file);
+        return request_.chooses_nothing() ||
+               std::ranges::find(request_.cnc, "all") != request_.cnc.end() || is_named(file);
     }
-    std::string_view text(std::string_view row) const { return cnc_text(row, kavetta_.app_state.language); }
+    std::string_view text(std::string_view row) const {
+        return cnc_text(row, kavetta_.app_state.language);
+    }
 
     bool has_port(const cnc_file& file) const {
         return !file.port || !port_contour(kavetta_.port_params, *file.port).empty();
     }
-    bool mills_groove(std::size_t index) const { return index == OUTLET_POCKET && has_metering_groove(kavetta_); }
+    bool mills_groove(std::size_t index) const {
+        return index == OUTLET_POCKET && has_metering_groove(kavetta_);
+    }
 
     void export_file(std::size_t index) {
         const cnc_file& file = cnc_files()[index];
@@ -63,7 +68,8 @@ class cnc_export {
             folder_.refuse();
             return;
         }
-        folder_.write(file_name(file), [&](text_lines& lines) { file.write(cnc_source_of(kavetta_), lines); });
+        folder_.write(file_name(file),
+                      [&](text_lines& lines) { file.write(cnc_source_of(kavetta_), lines); });
         if (index == INNER_OFFSET) {
             if (const std::string notice = wrong_side_notice(kavetta_); !notice.empty()) {
                 folder_.note(file_name(file), notice);
@@ -86,7 +92,8 @@ class cnc_export {
         form.Opp_Plot = request_.clockwise;
         form.machine_res_combo = request_.resolution;
         form.toolsize = request_.tool;
-        form.groovetooltext = kavetta_.cnc_choices.leaves_out_groove_pocket ? "0" : request_.groove_tool;
+        form.groovetooltext =
+            kavetta_.cnc_choices.leaves_out_groove_pocket ? "0" : request_.groove_tool;
         return form;
     }
 
@@ -98,7 +105,8 @@ class cnc_export {
 
 }  // namespace
 
-void export_cnc_files(program& kavetta, batch_user& person, const export_request& request, export_folder& folder) {
+void export_cnc_files(program& kavetta, batch_user& person, const export_request& request,
+                      export_folder& folder) {
     cnc_export(kavetta, person, request, folder).run();
 }
 

@@ -29,7 +29,8 @@ void create_folder(const std::filesystem::path& folder) {
 }
 
 /// The project as it stands, before anything is calculated. False when it could not be written.
-bool export_project(const program& kavetta, const export_request& request, std::ostream& out, std::ostream& err) {
+bool export_project(const program& kavetta, const export_request& request, std::ostream& out,
+                    std::ostream& err) {
     const std::string path = (request.folder / exported_project_name(request.source)).string();
     try {
         create_folder(request.folder);

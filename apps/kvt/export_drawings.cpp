@@ -69,7 +69,8 @@ class drawing_export {
             }
         }
         for (const step_file file : STEP_FILES) {
-            if (may_write(request_.step, step_file_name(file), ".stp", is_possible(kavetta_, file))) {
+            if (may_write(request_.step, step_file_name(file), ".stp",
+                          is_possible(kavetta_, file))) {
                 write_step(file);
             }
         }
@@ -82,20 +83,24 @@ class drawing_export {
     }
 
   private:
-    /// Whether the file was asked for and can be written; one that was named and can't is told and refused.
-    bool may_write(const std::vector<std::string>& names, std::string_view name, std::string_view extension,
-                   bool possible) {
+    /// Whether the file was asked for and can be written; one that was named and can't is told and
+    /// refused.
+    bool may_write(const std::vector<std::string>& names, std::string_view name,
+                   std::string_view extension, bool possible) {
         if (is_named(names, name) && !possible) {
             folder_.note(std::string(name) + std::string(extension),
                          cnc_text("needs_port", kavetta_.app_state.language));
             folder_.refuse();
         }
-        return possible && (request_.chooses_nothing() || is_named(names, "all") || is_named(names, name));
+        return possible &&
+               (request_.chooses_nothing() || is_named(names, "all") || is_named(names, name));
     }
 
     void write_step(step_file file) {
         const std::string name = std::string(step_file_name(file)) + ".stp";
-        folder_.write(name, [&](text_lines& text) { append_step_file(text, file, kavetta_, folder_.path_of(name)); });
+        folder_.write(name, [&](text_lines& text) {
+            append_step_file(text, file, kavetta_, folder_.path_of(name));
+        });
     }
 
     const program& kavetta_;

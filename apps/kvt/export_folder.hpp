@@ -14,7 +14,8 @@ namespace kvt {
 /// Paths of written files go to `out`, one a line; notes and failures to `err`.
 class export_folder {
   public:
-    export_folder(std::filesystem::path path, std::int16_t language, std::ostream& out, std::ostream& err)
+    export_folder(std::filesystem::path path, std::int16_t language, std::ostream& out,
+                  std::ostream& err)
         : path_(std::move(path)), language_(language), out_(out), err_(err) {}
 
     std::string path_of(std::string_view name) const { return (path_ / name).string(); }

@@ -9,7 +9,8 @@ class App;
 
 namespace kvt {
 
-/// Adds the folder, the choice of files and what they are written with. A value that can't be used is a usage error.
+/// Adds the folder, the choice of files and what they are written with. A value that can't be used
+/// is a usage error.
 void add_export_options(CLI::App& command, export_request& files);
 
 }  // namespace kvt

@@ -78,14 +78,15 @@ inline json used_part(const std::vector<double>& all, std::size_t used) {
 }
 
 template <typename record, std::size_t count>
-void add_arrays(json& object, const record& source, std::span<const json_array<record>, count> arrays) {
+void add_arrays(json& object, const record& source,
+                std::span<const json_array<record>, count> arrays) {
     for (const json_array<record>& array : arrays) {
         object[std::string(array.name)] = used_part(source.*array.member, array.used_count(source));
     }
 }
 
-/// The text of a document, UTF-8, ended by a line feed; indented unless compact. A byte that is not UTF-8 becomes the
-/// replacement character.
+/// The text of a document, UTF-8, ended by a line feed; indented unless compact. A byte that is not
+/// UTF-8 becomes the replacement character.
 inline std::string json_text(const json& document, bool compact) {
     return document.dump(compact ? -1 : 2, ' ', false, json::error_handler_t::replace) + "\n";
 }

@@ -10,7 +10,8 @@ bool is_axis(std::string_view list) {
 }
 
 template <typename value>
-void add_fields(json& object, const perf_results& results, std::span<const perf_field<value>> fields) {
+void add_fields(json& object, const perf_results& results,
+                std::span<const perf_field<value>> fields) {
     for (const perf_field<value>& field : fields) {
         object[std::string(field.name)] = results.*field.member;
     }
@@ -30,7 +31,8 @@ void add_step_arrays(json& object, const perf_results& results) {
     }
 }
 
-/// [speed][pressure][degree], the angles 0 .. 179 at which contacts are computed (0 is never one of them).
+/// [speed][pressure][degree], the angles 0 .. 179 at which contacts are computed (0 is never one of
+/// them).
 void add_contact_arrays(json& object, const perf_results& results) {
     for (const perf_field<perf_grid_angles>& field : perf_grid_arrays()) {
         json& tables = object[std::string(field.name)] = json::array();

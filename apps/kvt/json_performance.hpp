@@ -6,8 +6,9 @@
 
 namespace kvt {
 
-/// All scalars, the axes of the grid and the tables as arrays [speed][pressure]; with `full` also the arrays over the
-/// speeds or the pressures and those over the rotation angle, cut to their used length.
+/// All scalars, the axes of the grid and the tables as arrays [speed][pressure]; with `full` also
+/// the arrays over the speeds or the pressures and those over the rotation angle, cut to their used
+/// length.
 json json_performance(const perf_results& results, bool full);
 
 }  // namespace kvt

@@ -41,7 +41,8 @@ constexpr std::array ROTOR_FIELDS = {
     KVT_JSON_FIELD(rotor_profiles, min_chamber_outer_angle),
 };
 
-/// Number of used elements when the last index is kept beside the array; 0 as long as nothing was stored.
+/// Number of used elements when the last index is kept beside the array; 0 as long as nothing was
+/// stored.
 std::size_t count_of_last(std::int16_t last) {
     return last > 0 ? static_cast<std::size_t>(last) + 1 : 0;
 }
@@ -122,7 +123,8 @@ json json_ports(const port_params& ports, bool full) {
     }
     if (full) {
         for (const port_array& array : port_arrays()) {
-            object[std::string(array.name)] = used_part(ports.*array.member, count_of_last(ports.*array.last));
+            object[std::string(array.name)] =
+                used_part(ports.*array.member, count_of_last(ports.*array.last));
         }
     }
     return object;
@@ -130,8 +132,8 @@ json json_ports(const port_params& ports, bool full) {
 
 }  // namespace
 
-std::string json_report(const program& kavetta, const std::vector<std::string>& messages, const batch_result& result,
-                        bool full) {
+std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
+                        const batch_result& result, bool full) {
     json report = json::object();
     report["ended"] = batch_end_name(result.end);
     report["messages"] = messages;

@@ -7,12 +7,13 @@ namespace {
 constexpr std::array LINE_FIELDS = {KVT_JSON_FIELD(drawn_line, x1), KVT_JSON_FIELD(drawn_line, y1),
                                     KVT_JSON_FIELD(drawn_line, x2), KVT_JSON_FIELD(drawn_line, y2)};
 
-constexpr std::array ARC_FIELDS = {KVT_JSON_FIELD(drawn_arc, x), KVT_JSON_FIELD(drawn_arc, y),
-                                   KVT_JSON_FIELD(drawn_arc, radius), KVT_JSON_FIELD(drawn_arc, start_angle),
-                                   KVT_JSON_FIELD(drawn_arc, end_angle)};
+constexpr std::array ARC_FIELDS = {
+    KVT_JSON_FIELD(drawn_arc, x), KVT_JSON_FIELD(drawn_arc, y), KVT_JSON_FIELD(drawn_arc, radius),
+    KVT_JSON_FIELD(drawn_arc, start_angle), KVT_JSON_FIELD(drawn_arc, end_angle)};
 
-constexpr std::array CIRCLE_FIELDS = {KVT_JSON_FIELD(drawn_circle, x), KVT_JSON_FIELD(drawn_circle, y),
-                                      KVT_JSON_FIELD(drawn_circle, diameter), KVT_JSON_FIELD(drawn_circle, visible)};
+constexpr std::array CIRCLE_FIELDS = {
+    KVT_JSON_FIELD(drawn_circle, x), KVT_JSON_FIELD(drawn_circle, y),
+    KVT_JSON_FIELD(drawn_circle, diameter), KVT_JSON_FIELD(drawn_circle, visible)};
 
 struct line_array_row {
     const char* name;

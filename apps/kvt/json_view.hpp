@@ -6,9 +6,9 @@
 
 namespace kvt {
 
-/// {"Picture1": [arcs], "Line1": [lines], ..., "Shape1": circle}: the members of design_view under their names. A line
-/// is {x1, y1, x2, y2}, an arc {x, y, radius, start_angle, end_angle} with angles in radians. Hidden elements are
-/// left out.
+/// {"Picture1": [arcs], "Line1": [lines], ..., "Shape1": circle}: the members of design_view under
+/// their names. A line is {x1, y1, x2, y2}, an arc {x, y, radius, start_angle, end_angle} with
+/// angles in radians. Hidden elements are left out.
 json json_view(const design_view& view);
 
 }  // namespace kvt

@@ -12,7 +12,8 @@ namespace {
 constexpr std::size_t MOST_NAMES = 3;
 
 bool same_letter(char a, char b) {
-    return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+    return std::tolower(static_cast<unsigned char>(a)) ==
+           std::tolower(static_cast<unsigned char>(b));
 }
 
 bool begins_with(std::string_view name, std::string_view typed) {
@@ -23,7 +24,8 @@ bool begins_with(std::string_view name, std::string_view typed) {
 }  // namespace
 
 std::size_t edit_distance(std::string_view a, std::string_view b) {
-    std::vector<std::size_t> row(b.size() + 1);  // distances of the letters of a so far to 0 .. all letters of b
+    std::vector<std::size_t> row(
+        b.size() + 1);  // distances of the letters of a so far to 0 .. all letters of b
     std::iota(row.begin(), row.end(), std::size_t{0});
     for (std::size_t i = 0; i < a.size(); ++i) {
         std::size_t diagonal = std::exchange(row[0], i + 1);
@@ -36,7 +38,8 @@ std::size_t edit_distance(std::string_view a, std::string_view b) {
     return row.back();
 }
 
-std::vector<std::string_view> near_names(std::string_view typed, const std::vector<std::string_view>& names) {
+std::vector<std::string_view> near_names(std::string_view typed,
+                                         const std::vector<std::string_view>& names) {
     const std::size_t allowed = std::max<std::size_t>(2, typed.size() / 3);
     std::vector<std::pair<std::size_t, std::string_view>> found;
     for (const std::string_view name : names) {
@@ -45,7 +48,8 @@ std::vector<std::string_view> near_names(std::string_view typed, const std::vect
             found.emplace_back(distance, name);
         }
     }
-    std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::stable_sort(found.begin(), found.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<std::string_view> near;
     for (std::size_t i = 0; i < found.size() && i < MOST_NAMES; ++i) {
         near.push_back(found[i].second);

@@ -39,16 +39,19 @@ struct result_table {
 };
 
 constexpr result_table TABLES[] = {
-    {"flow", grid_element<&perf_results::flow_m3s>, LIT_MIN_PER_M3S, LIT_MIN_PER_M3S* US_GALLONS_PER_LITRE},
+    {"flow", grid_element<&perf_results::flow_m3s>, LIT_MIN_PER_M3S,
+     LIT_MIN_PER_M3S* US_GALLONS_PER_LITRE},
     {"vol_eff", grid_element<&perf_results::vol_eff>, PERCENT, PERCENT},
     {"mech_eff", grid_element<&perf_results::mech_eff>, PERCENT, PERCENT},
     {"overall_eff", grid_element<&perf_results::overall_eff>, PERCENT, PERCENT},
-    {"drive_power", grid_element<&perf_results::drive_power>, 1.0 / WATTS_PER_KILOWATT, 1.0 / WATTS_PER_HORSEPOWER},
+    {"drive_power", grid_element<&perf_results::drive_power>, 1.0 / WATTS_PER_KILOWATT,
+     1.0 / WATTS_PER_HORSEPOWER},
     {"hertz_stress", largest_stress, 1.0, 1.0 / KSI_MPA},
     {"side_load", grid_element<&perf_results::side_load>, 1.0, POUNDS_PER_NEWTON},
 };
 
-/// Three decimals, which keep a flow of a millilitre a minute and a watt of drive power apart from nothing.
+/// Three decimals, which keep a flow of a millilitre a minute and a watt of drive power apart from
+/// nothing.
 std::string table_number(double value) {
     constexpr double DECIMALS = 1000.0;
     const double shown = round_half_even(value * DECIMALS) / DECIMALS;
@@ -59,7 +62,8 @@ std::string table_text(const program& kavetta, const result_table& table) {
     const bool inches = kavetta.app_state.drawing_units == INCHES;
     const std::int16_t language = kavetta.app_state.language;
     const perf_results& results = kavetta.perf_results;
-    std::vector<std::vector<std::string>> rows = {{unit_caption_text("kvt", "grid_axes", inches, language)}};
+    std::vector<std::vector<std::string>> rows = {
+        {unit_caption_text("kvt", "grid_axes", inches, language)}};
     for (const double pressure : results.press_pa) {
         rows.front().push_back(table_number(pressure / BAR_PA * (inches ? PSI_PER_BAR : 1.0)));
     }
@@ -76,10 +80,11 @@ std::string table_text(const program& kavetta, const result_table& table) {
 std::string headlines(const program& kavetta) {
     const labels& shown = kavetta.labels;
     const std::int16_t language = kavetta.app_state.language;
-    return aligned_lines({{caption_text("kvt", "max_speed", language), shown.max_speed},
-                          {caption_text("kvt", "max_shaft_side_load", language), shown.max_shaft_side_load},
-                          {caption_text("kvt", "side_load_direction", language), shown.side_load_direction},
-                          {caption_text("kvt", "max_cutter_inner", language), shown.max_cutter_inner}}) +
+    return aligned_lines(
+               {{caption_text("kvt", "max_speed", language), shown.max_speed},
+                {caption_text("kvt", "max_shaft_side_load", language), shown.max_shaft_side_load},
+                {caption_text("kvt", "side_load_direction", language), shown.side_load_direction},
+                {caption_text("kvt", "max_cutter_inner", language), shown.max_cutter_inner}}) +
            shown.Label5 + "\n" + shown.Label1 + "\n";
 }
 

@@ -38,8 +38,12 @@ struct summary {
     const program& kavetta;
     rows lines;
 
-    std::string caption(const char* name) const { return caption_text("portdes", name, kavetta.app_state.language); }
-    std::string length(double millimetres) const { return length_text(kavetta.app_state, millimetres); }
+    std::string caption(const char* name) const {
+        return caption_text("portdes", name, kavetta.app_state.language);
+    }
+    std::string length(double millimetres) const {
+        return length_text(kavetta.app_state, millimetres);
+    }
 };
 
 std::string degrees(double angle) {
@@ -50,11 +54,12 @@ void add_angles_and_radii(summary& table) {
     const port_params& ports = table.kavetta.port_params;
     table.lines.push_back({"", table.caption("Frame2"), table.caption("Frame3")});
     for (const port_row& row : ANGLES) {
-        table.lines.push_back({table.caption(row.caption), degrees(ports.*row.inlet), degrees(ports.*row.outlet)});
+        table.lines.push_back(
+            {table.caption(row.caption), degrees(ports.*row.inlet), degrees(ports.*row.outlet)});
     }
     for (const port_row& row : RADII) {
-        table.lines.push_back(
-            {table.caption(row.caption), table.length(ports.*row.inlet), table.length(ports.*row.outlet)});
+        table.lines.push_back({table.caption(row.caption), table.length(ports.*row.inlet),
+                               table.length(ports.*row.outlet)});
     }
 }
 
@@ -66,9 +71,11 @@ std::string centre_text(const summary& table, const port_fields& port, std::size
 }
 
 void add_corners(summary& table) {
-    const std::string caption = caption_text("kvt", "corner_centre", table.kavetta.app_state.language);
+    const std::string caption =
+        caption_text("kvt", "corner_centre", table.kavetta.app_state.language);
     for (std::size_t corner = 0; corner < inlet_fields().corners.size(); ++corner) {
-        table.lines.push_back({caption + " " + std::to_string(corner + 1), centre_text(table, inlet_fields(), corner),
+        table.lines.push_back({caption + " " + std::to_string(corner + 1),
+                               centre_text(table, inlet_fields(), corner),
                                centre_text(table, outlet_fields(), corner)});
     }
 }
@@ -77,10 +84,12 @@ void add_groove(summary& table) {
     const port_params& ports = table.kavetta.port_params;
     table.lines.push_back({table.caption("metering_groove")});
     table.lines.push_back({table.caption("Label10"), "", degrees(ports.groove_length_deg)});
-    for (const auto& [name, value] :
-         {std::pair{"groove_path_radius", ports.groove_centre_r}, std::pair{"groove_width", ports.groove_width_mm},
-          std::pair{"groove_depth", ports.groove_depth_mm}, std::pair{"groove_corner_radius", ports.groove_corner_r}}) {
-        table.lines.push_back({caption_text("kvt", name, table.kavetta.app_state.language), "", table.length(value)});
+    for (const auto& [name, value] : {std::pair{"groove_path_radius", ports.groove_centre_r},
+                                      std::pair{"groove_width", ports.groove_width_mm},
+                                      std::pair{"groove_depth", ports.groove_depth_mm},
+                                      std::pair{"groove_corner_radius", ports.groove_corner_r}}) {
+        table.lines.push_back(
+            {caption_text("kvt", name, table.kavetta.app_state.language), "", table.length(value)});
     }
 }
 

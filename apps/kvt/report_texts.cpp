@@ -34,7 +34,8 @@ std::string caption_text(std::string_view form, std::string_view name, std::int1
     return text_of(find_caption(form, name), name, language);
 }
 
-std::string unit_caption_text(std::string_view form, std::string_view name, bool inches, std::int16_t language) {
+std::string unit_caption_text(std::string_view form, std::string_view name, bool inches,
+                              std::int16_t language) {
     const text_kind kind = inches ? text_kind::caption_inch : text_kind::caption_mm;
     return text_of(find_text(kind, form, name), name, language);
 }

@@ -20,6 +20,7 @@ std::string length_text(const app_state& state, double millimetres);
 /// A caption of the text table; the name itself when there is none.
 std::string caption_text(std::string_view form, std::string_view name, std::int16_t language);
 /// The caption of a result with its unit, for the millimetre or the inch world.
-std::string unit_caption_text(std::string_view form, std::string_view name, bool inches, std::int16_t language);
+std::string unit_caption_text(std::string_view form, std::string_view name, bool inches,
+                              std::int16_t language);
 
 }  // namespace kvt

@@ -20,13 +20,14 @@ bool is_option_button(std::string_view control) {
 }
 
 bool is_porting_type(std::string_view control) {
-    return control == "inlet_double_sided" || control == "outlet_double_sided" || control == "shadow_ports" ||
-           control == "metering_groove";
+    return control == "inlet_double_sided" || control == "outlet_double_sided" ||
+           control == "shadow_ports" || control == "metering_groove";
 }
 
 /// A box has one line: no line ends, tabs or other control characters.
 bool has_control_character(std::string_view text) {
-    return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
+    return std::any_of(text.begin(), text.end(),
+                       [](unsigned char c) { return c < 0x20 || c == 0x7F; });
 }
 
 std::string joined(const std::vector<std::string_view>& names) {
@@ -52,7 +53,8 @@ std::string unit_problem(std::string_view text) {
     if (capacity_unit_code(text) != 0) {
         return {};
     }
-    return "unittype is one of: " + joined({CAPACITY_UNIT_TEXTS.begin(), CAPACITY_UNIT_TEXTS.end()});
+    return "unittype is one of: " +
+           joined({CAPACITY_UNIT_TEXTS.begin(), CAPACITY_UNIT_TEXTS.end()});
 }
 
 std::string text_problem(const typed_entry& typed) {
@@ -79,7 +81,8 @@ std::string typed_entry_problem(const typed_entry& typed) {
         return unknown_control(typed.control);
     }
     if (field->kind == entry_kind::check) {
-        return typed.text == "0" || typed.text == "1" ? "" : typed.control + " is a check box, 0 or 1";
+        return typed.text == "0" || typed.text == "1" ? ""
+                                                      : typed.control + " is a check box, 0 or 1";
     }
     return text_problem(typed);
 }
@@ -91,7 +94,8 @@ void type_entry(program& kavetta, user& person, const typed_entry& typed) {
         set_mm_labels(kavetta);
     } else if (typed.control == "dimens2") {
         set_inch_labels(kavetta);
-    } else if (const entry_field* field = find_entry(typed.control); is_porting_type(typed.control)) {
+    } else if (const entry_field* field = find_entry(typed.control);
+               is_porting_type(typed.control)) {
         set_porting_check(kavetta, field->member, typed.text);
     } else {
         kavetta.entries.*field->member = typed.text;

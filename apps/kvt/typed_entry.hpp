@@ -9,15 +9,17 @@ namespace kvt {
 
 struct typed_entry {
     std::string control;  ///< an entry's name, dimens1, dimens2 or unittype
-    std::string text;     ///< UTF-8; "0" or "1" for a check box, "1" for an option button, a list text for unittype
+    std::string text;  ///< UTF-8; "0" or "1" for a check box, "1" for an option button, a list text
+                       ///< for unittype
 };
 
-/// What is wrong with a typed entry, for the caller of the program: the control does not exist (near names are
-/// offered), the text is none of the control's states, or a file could not hold it. Empty when it can be typed.
+/// What is wrong with a typed entry, for the caller of the program: the control does not exist
+/// (near names are offered), the text is none of the control's states, or a file could not hold it.
+/// Empty when it can be typed.
 std::string typed_entry_problem(const typed_entry& typed);
 
-/// Types a text without a problem and leaves the entry, so that its handler fires; a check box, option button or
-/// list acts as if clicked. Throws run_time_error as the handlers do.
+/// Types a text without a problem and leaves the entry, so that its handler fires; a check box,
+/// option button or list acts as if clicked. Throws run_time_error as the handlers do.
 void type_entry(program& kavetta, user& person, const typed_entry& typed);
 
 }  // namespace kvt

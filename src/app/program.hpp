@@ -1,4 +1,5 @@
-// program: all state of one Kavetta, one instance a process in the desktop program, many in the batch program.
+// program: all state of one Kavetta, one instance a process in the desktop program, many in the
+// batch program.
 #pragma once
 
 #include "app/stages/stage_entries.hpp"
@@ -41,9 +42,11 @@ struct program {
     /// The project that autosave wrote last or that the entries started from, as bytes.
     std::string autosaved;
 
-    /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes nothing there.
+    /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes
+    /// nothing there.
     std::filesystem::path folder;
-    /// The date that reports carry, when it was given; empty: today's date in the short form of the locale.
+    /// The date that reports carry, when it was given; empty: today's date in the short form of the
+    /// locale.
     std::string date;
 };
 

@@ -1,4 +1,5 @@
-// Quotients, roots, roundings and the arc cosine form, each ending in a finite value or in a run_time_error.
+// Quotients, roots, roundings and the arc cosine form, each ending in a finite value or in a
+// run_time_error.
 #include "base/checked_math.hpp"
 
 #include "base/number_text.hpp"
@@ -21,7 +22,8 @@ std::string shown(double x) {
     return number_text(x);
 }
 
-/// The nearest whole number as the integer type. Its bounds are whole numbers of at most 32 bits, exact as doubles.
+/// The nearest whole number as the integer type. Its bounds are whole numbers of at most 32 bits,
+/// exact as doubles.
 template <typename integer>
 integer to_integer(double x) {
     const double whole = round_half_even(x);
@@ -52,7 +54,8 @@ double checked_sqrt(double x) {
 double checked_pow(double base, double exponent) {
     const double power = std::pow(base, exponent);
     if (std::isnan(power)) {
-        throw run_time_error(failure::invalid_procedure_call, shown(base) + " to the power of " + shown(exponent));
+        throw run_time_error(failure::invalid_procedure_call,
+                             shown(base) + " to the power of " + shown(exponent));
     }
     return checked_finite(power);
 }
@@ -65,7 +68,8 @@ double checked_finite(double x) {
 }
 
 double round_half_even(double x) {
-    return std::nearbyint(x);  // the rounding mode is never changed, so a tie goes to the even neighbour
+    return std::nearbyint(
+        x);  // the rounding mode is never changed, so a tie goes to the even neighbour
 }
 
 double floor_to_int(double x) {

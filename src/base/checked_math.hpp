@@ -1,4 +1,5 @@
-// Arithmetic that raises a run_time_error where the hardware would go on with infinity, NaN or a wrapped counter.
+// Arithmetic that raises a run_time_error where the hardware would go on with infinity, NaN or a
+// wrapped counter.
 #pragma once
 
 #include "base/run_time_error.hpp"
@@ -9,15 +10,16 @@
 
 namespace kvt {
 
-/// numerator / denominator. Throws division_by_zero when the denominator is 0 (0/0 too), overflow when the result
-/// is not finite.
+/// numerator / denominator. Throws division_by_zero when the denominator is 0 (0/0 too), overflow
+/// when the result is not finite.
 double checked_divide(double numerator, double denominator);
 
-/// sqrt(x). Throws invalid_procedure_call for a negative or not-a-number argument, overflow for an infinite one.
+/// sqrt(x). Throws invalid_procedure_call for a negative or not-a-number argument, overflow for an
+/// infinite one.
 double checked_sqrt(double x);
 
-/// pow(base, exponent). Throws invalid_procedure_call for a negative base with a fractional exponent or a
-/// not-a-number result, overflow for an infinite one.
+/// pow(base, exponent). Throws invalid_procedure_call for a negative base with a fractional
+/// exponent or a not-a-number result, overflow for an infinite one.
 double checked_pow(double base, double exponent);
 
 /// x itself. Throws overflow when x is infinite or not a number.
@@ -35,9 +37,9 @@ std::int16_t to_int16(double x);
 /// Nearest whole number, half to even. Throws overflow outside the 32-bit range.
 std::int32_t to_int32(double x);
 
-/// The arc cosine as the product forms it everywhere: arctan(-c / sqrt(-c c + 1)) + half_pi, radians.
-/// half_pi is the constant of the caller's subject. c = 1 and c = -1 divide by zero, |c| > 1 is a root of a negative
-/// number: both throw.
+/// The arc cosine as the product forms it everywhere: arctan(-c / sqrt(-c c + 1)) + half_pi,
+/// radians. half_pi is the constant of the caller's subject. c = 1 and c = -1 divide by zero, |c| >
+/// 1 is a root of a negative number: both throw.
 double arc_cosine_form(double c, double half_pi);
 
 /// items[index] with 0 <= index < size. Throws subscript_out_of_range otherwise.

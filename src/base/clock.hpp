@@ -13,7 +13,9 @@ class clock {
 
 class system_clock : public clock {
   public:
-    std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }
+    std::chrono::system_clock::time_point now() const override {
+        return std::chrono::system_clock::now();
+    }
 };
 
 }  // namespace kvt

@@ -36,7 +36,8 @@ std::optional<char> byte_of_character(char32_t character) {
     if (found == TABLE.end()) {
         return std::nullopt;
     }
-    return static_cast<char>(FIRST_OF_TABLE + static_cast<char32_t>(std::distance(TABLE.begin(), found)));
+    return static_cast<char>(FIRST_OF_TABLE +
+                             static_cast<char32_t>(std::distance(TABLE.begin(), found)));
 }
 
 /// Every character of the code page lies below 10000 hexadecimal: one to three bytes.
@@ -59,7 +60,8 @@ struct decoded {
     std::size_t length = 1;
 };
 
-/// The form of a sequence by its first byte: its length, the bits of that byte, the lowest character it may hold.
+/// The form of a sequence by its first byte: its length, the bits of that byte, the lowest
+/// character it may hold.
 struct sequence_form {
     std::size_t length;
     char32_t bits;
@@ -82,8 +84,9 @@ std::optional<sequence_form> form_of_lead(unsigned char lead) {
     return std::nullopt;
 }
 
-/// The character at the start of a text that is not empty. A broken sequence ends before the first byte that does
-/// not continue it. Too long a form, a surrogate and a number above 10FFFF are broken too.
+/// The character at the start of a text that is not empty. A broken sequence ends before the first
+/// byte that does not continue it. Too long a form, a surrogate and a number above 10FFFF are
+/// broken too.
 decoded first_character(std::string_view text) {
     const auto form = form_of_lead(static_cast<unsigned char>(text[0]));
     if (!form) {

@@ -1,4 +1,5 @@
-// The decimal constants of the product. They are part of every computed number: never replace one by a better pi.
+// The decimal constants of the product. They are part of every computed number: never replace one
+// by a better pi.
 #pragma once
 
 namespace kvt {

@@ -1,4 +1,5 @@
-// Shortest digits first: they are found three times as fast as 15 rounded ones and nearly always decide the rounding.
+// Shortest digits first: they are found three times as fast as 15 rounded ones and nearly always
+// decide the rounding.
 #include "base/fifteen_digits.hpp"
 
 #include <algorithm>
@@ -38,8 +39,9 @@ scanned_digits scanned(const char* begin, const char* end) {
 /// The shortest digits that read back to the value.
 scanned_digits shortest_digits(double magnitude) {
     number_buffer buffer;
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific).ptr;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                   std::chars_format::scientific)
+                         .ptr;
     return scanned(buffer.data(), end);
 }
 
@@ -65,8 +67,9 @@ void add_one(scanned_digits& parts) {
     ++parts.exponent;
 }
 
-/// Rounds to 15 digits. Digits that stand for a value on the one side of a half stand for values on that side only:
-/// were the half as near to the value, it would have been the shortest text itself. So only a lone 5 leaves it open.
+/// Rounds to 15 digits. Digits that stand for a value on the one side of a half stand for values on
+/// that side only: were the half as near to the value, it would have been the shortest text itself.
+/// So only a lone 5 leaves it open.
 bool rounds_safely(scanned_digits& parts) {
     if (parts.count <= DIGIT_COUNT) {
         return true;
@@ -85,7 +88,8 @@ bool rounds_safely(scanned_digits& parts) {
 }  // namespace
 
 fifteen_digits fifteen_digits_of(double magnitude) {
-    // A denormal has less than 15 digits of its own: its shortest text says less than what it is rounded to.
+    // A denormal has less than 15 digits of its own: its shortest text says less than what it is
+    // rounded to.
     const bool is_denormal = magnitude != 0.0 && magnitude < std::numeric_limits<double>::min();
     scanned_digits parts = is_denormal ? rounded_digits(magnitude) : shortest_digits(magnitude);
     if (!rounds_safely(parts)) {

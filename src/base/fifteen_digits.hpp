@@ -13,7 +13,7 @@ inline constexpr int SIGNIFICANT_DIGITS = 15;
 struct fifteen_digits {
     std::array<char, SIGNIFICANT_DIGITS> digits{};  ///< '0' .. '9'; the first is '0' for zero only
     int exponent = 0;                               ///< power of ten of the first digit; 0 for zero
-    std::size_t count = 1;                          ///< how many are left without trailing zeros, at least 1
+    std::size_t count = 1;  ///< how many are left without trailing zeros, at least 1
 
     std::string_view significant() const { return {digits.data(), count}; }
 };

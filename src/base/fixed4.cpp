@@ -32,10 +32,12 @@ std::string fixed4::text() const {
     const bool negative = scaled_ < 0;
     const std::uint64_t bits = static_cast<std::uint64_t>(scaled_);
     const std::uint64_t size = negative ? 0 - bits : bits;
-    // One digit too many keeps the leading zeros of the decimals: 10000 + 50 gives "0050" behind the 1.
+    // One digit too many keeps the leading zeros of the decimals: 10000 + 50 gives "0050" behind
+    // the 1.
     std::string decimals = std::to_string(SCALE + size % SCALE).substr(1);
     decimals.erase(decimals.find_last_not_of('0') + 1);
-    return (negative ? "-" : "") + std::to_string(size / SCALE) + (decimals.empty() ? "" : "." + decimals);
+    return (negative ? "-" : "") + std::to_string(size / SCALE) +
+           (decimals.empty() ? "" : "." + decimals);
 }
 
 }  // namespace kvt

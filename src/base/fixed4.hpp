@@ -10,7 +10,8 @@ class fixed4 {
   public:
     constexpr fixed4() = default;
 
-    /// Nearest, half to even, of the double product value * 10000. Throws overflow outside 64 bits (or for NaN).
+    /// Nearest, half to even, of the double product value * 10000. Throws overflow outside 64 bits
+    /// (or for NaN).
     static fixed4 from(double value);
     static constexpr fixed4 from_scaled(std::int64_t scaled) { return fixed4(scaled); }
 

@@ -20,7 +20,9 @@ std::string kept_digits(const fifteen_digits& parts, int decimals) {
     std::string kept = "0";
     for (int power = std::max(parts.exponent, 0); power >= -decimals; --power) {
         const int place = parts.exponent - power;
-        kept += place >= 0 && place < SIGNIFICANT_DIGITS ? parts.digits[static_cast<std::size_t>(place)] : '0';
+        kept += place >= 0 && place < SIGNIFICANT_DIGITS
+                    ? parts.digits[static_cast<std::size_t>(place)]
+                    : '0';
     }
     return kept;
 }
@@ -28,7 +30,8 @@ std::string kept_digits(const fifteen_digits& parts, int decimals) {
 /// The digit that decides the rounding: 5 and above rounds away from zero.
 bool rounds_up(const fifteen_digits& parts, int decimals) {
     const int place = parts.exponent + decimals + 1;
-    return place >= 0 && place < SIGNIFICANT_DIGITS && parts.digits[static_cast<std::size_t>(place)] >= '5';
+    return place >= 0 && place < SIGNIFICANT_DIGITS &&
+           parts.digits[static_cast<std::size_t>(place)] >= '5';
 }
 
 void add_one(std::string& digits) {
@@ -40,21 +43,24 @@ void add_one(std::string& digits) {
     ++digits[at];
 }
 
-/// The digits of |value| 10^decimals rounded by the rule, with at least one before the point; from the 15-digit text.
+/// The digits of |value| 10^decimals rounded by the rule, with at least one before the point; from
+/// the 15-digit text.
 std::string rounded_by_text(double magnitude, int decimals) {
     const fifteen_digits parts = fifteen_digits_of(magnitude);
     std::string digits = kept_digits(parts, decimals);
     if (rounds_up(parts, decimals)) {
         add_one(digits);
     }
-    const bool has_spare_zero = digits[0] == '0' && digits.size() > static_cast<std::size_t>(decimals) + 1;
+    const bool has_spare_zero =
+        digits[0] == '0' && digits.size() > static_cast<std::size_t>(decimals) + 1;
     return has_spare_zero ? digits.substr(1) : digits;
 }
 
 constexpr std::array<double, 7> POWERS_OF_TEN = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
 
-/// The same digits from one product, as far as that leaves no doubt: for products below 1e9 the 15-digit text and the
-/// rounding of the product move it by less than 1e-5, so it only has to stay that far away from a half. Else empty.
+/// The same digits from one product, as far as that leaves no doubt: for products below 1e9 the
+/// 15-digit text and the rounding of the product move it by less than 1e-5, so it only has to stay
+/// that far away from a half. Else empty.
 std::string rounded_by_product(double magnitude, int decimals) {
     constexpr double LARGEST = 1e9;
     constexpr double DOUBT = 1e-5;

@@ -1,4 +1,5 @@
-// A record whose fields are reached by name as well as by member: one table a record serves forms, files and JSON.
+// A record whose fields are reached by name as well as by member: one table a record serves forms,
+// files and JSON.
 #pragma once
 
 #include <span>

@@ -1,4 +1,5 @@
-// The lenient and the strict reading of numbers, the 15-digit text of a double, the blanks of a printed integer.
+// The lenient and the strict reading of numbers, the 15-digit text of a double, the blanks of a
+// printed integer.
 #include "base/number_text.hpp"
 
 #include "base/checked_math.hpp"
@@ -43,7 +44,8 @@ std::size_t end_of_digits(std::string_view text, std::size_t at) {
     return at;
 }
 
-/// Length of the exponent that begins at `at`: E or e, an optional sign, digits. 0 when the digits are missing.
+/// Length of the exponent that begins at `at`: E or e, an optional sign, digits. 0 when the digits
+/// are missing.
 std::size_t exponent_length(std::string_view text, std::size_t at) {
     if (at >= text.size() || (text[at] != 'E' && text[at] != 'e')) {
         return 0;
@@ -56,8 +58,8 @@ std::size_t exponent_length(std::string_view text, std::size_t at) {
     return end == digits ? 0 : end - at;
 }
 
-/// The longest leading part that is a decimal number: sign, digits with one point, exponent. Empty when there is no
-/// digit in front of the exponent.
+/// The longest leading part that is a decimal number: sign, digits with one point, exponent. Empty
+/// when there is no digit in front of the exponent.
 std::string_view leading_number(std::string_view text) {
     std::size_t at = 0;
     if (!text.empty() && (text[0] == '+' || text[0] == '-')) {
@@ -91,8 +93,8 @@ std::int64_t written_exponent(std::string_view digits) {
     return negative ? -exponent : exponent;
 }
 
-/// Whether a scanned number that no double holds is too large rather than too near to zero: its first digit other
-/// than 0 then stands before the point once the exponent has moved it.
+/// Whether a scanned number that no double holds is too large rather than too near to zero: its
+/// first digit other than 0 then stands before the point once the exponent has moved it.
 bool is_above_range(std::string_view number) {
     const std::size_t e = std::min(number.find_first_of("Ee"), number.size());
     const std::string_view mantissa = number.substr(0, e);
@@ -179,7 +181,8 @@ double number_of_text(std::string_view text) {
     const std::size_t start = end_of_blanks(text, 0);
     const std::string_view number = leading_number(text.substr(start));
     if (number.empty() || end_of_blanks(text, start + number.size()) != text.size()) {
-        throw run_time_error(failure::type_mismatch, "\"" + std::string(text) + "\" is not a number");
+        throw run_time_error(failure::type_mismatch,
+                             "\"" + std::string(text) + "\" is not a number");
     }
     return scanned_value(number);
 }

@@ -9,7 +9,8 @@ namespace kvt {
 
 namespace {
 
-/// "1.25" and -5 give "0.0000125", "1.25" and 4 "12500". The mantissa has one digit before its point and no sign.
+/// "1.25" and -5 give "0.0000125", "1.25" and 4 "12500". The mantissa has one digit before its
+/// point and no sign.
 std::string shifted(std::string_view mantissa, int exponent) {
     std::string digits(mantissa.substr(0, 1));
     if (mantissa.size() > 2) {

@@ -1,4 +1,5 @@
-// A run-time failure: a number, a text, thrown by the checked helpers and caught exactly where a command says so.
+// A run-time failure: a number, a text, thrown by the checked helpers and caught exactly where a
+// command says so.
 #pragma once
 
 #include <stdexcept>
@@ -20,12 +21,12 @@ enum class failure : int {
     invalid_property_value = 380
 };
 
-/// Thrown when a run fails: division by zero, root of a negative number, index past a bound, overflow of a 16-bit
-/// counter, a text that is no number, a file that cannot be read or written.
+/// Thrown when a run fails: division by zero, root of a negative number, index past a bound,
+/// overflow of a 16-bit counter, a text that is no number, a file that cannot be read or written.
 class run_time_error : public std::runtime_error {
   public:
-    /// detail is for developers: what failed and with which value; what() is "failure 11: detail". The user sees the
-    /// number and failure_text.
+    /// detail is for developers: what failed and with which value; what() is "failure 11: detail".
+    /// The user sees the number and failure_text.
     explicit run_time_error(failure kind, const std::string& detail = "");
 
     failure kind() const { return kind_; }

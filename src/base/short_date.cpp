@@ -1,4 +1,5 @@
-// The date in the short form of the user's locale; a locale object of its own, as the global one stays "C".
+// The date in the short form of the user's locale; a locale object of its own, as the global one
+// stays "C".
 #include "base/short_date.hpp"
 
 #include <ctime>

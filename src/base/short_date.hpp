@@ -7,8 +7,8 @@
 
 namespace kvt {
 
-/// The local date of the clock's time, e.g. "11/03/21" or "03.11.2021". LC_ALL, LC_TIME and LANG decide; without a
-/// usable locale it is month/day/year in two digits each.
+/// The local date of the clock's time, e.g. "11/03/21" or "03.11.2021". LC_ALL, LC_TIME and LANG
+/// decide; without a usable locale it is month/day/year in two digits each.
 std::string short_date(const clock& time);
 
 }  // namespace kvt

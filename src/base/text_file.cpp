@@ -81,7 +81,8 @@ class temporary_file {
 };
 
 /// The new bytes stand complete under the temporary name before the old file goes.
-void replace_file(const fs::path& target, std::optional<fs::perms> old_permissions, std::string_view bytes) {
+void replace_file(const fs::path& target, std::optional<fs::perms> old_permissions,
+                  std::string_view bytes) {
     temporary_file temporary(target.parent_path());
     if (!temporary.is_created() || !temporary.write(bytes)) {
         fail(failure::path_file_access, target);
@@ -102,7 +103,8 @@ void write_in_place(const fs::path& path, std::string_view bytes) {
     }
 }
 
-/// The old file is opened for writing without touching it: what the user may not write must not be replaced either.
+/// The old file is opened for writing without touching it: what the user may not write must not be
+/// replaced either.
 bool may_be_written(const fs::path& path) {
     return open_file(std::fopen(path.c_str(), "r+b")) != nullptr;
 }
@@ -116,7 +118,8 @@ void text_lines::line(std::string_view utf8) {
 void text_lines::end_line() {
     // Two searches for one character are several times as fast as one for either.
     const std::string_view open_line = std::string_view(bytes_).substr(line_start_);
-    if (open_line.find('\n') != std::string_view::npos || open_line.find('\r') != std::string_view::npos) {
+    if (open_line.find('\n') != std::string_view::npos ||
+        open_line.find('\r') != std::string_view::npos) {
         bytes_.resize(line_start_);
         throw run_time_error(failure::invalid_property_value, "line end inside a line");
     }
@@ -184,7 +187,8 @@ void write_file(const fs::path& path, std::string_view bytes) {
         write_in_place(path, bytes);
         return;
     }
-    const fs::path target = fs::canonical(path, error);  // a link stays a link, its target is replaced
+    const fs::path target =
+        fs::canonical(path, error);  // a link stays a link, its target is replaced
     if (error || !may_be_written(target)) {
         fail(failure::path_file_access, path);
     }

@@ -8,7 +8,8 @@
 
 namespace kvt {
 
-/// The language codes of the settings file. A message is German for 2 and English for anything else.
+/// The language codes of the settings file. A message is German for 2 and English for anything
+/// else.
 inline constexpr std::int16_t ENGLISH = 1;
 inline constexpr std::int16_t GERMAN = 2;
 
@@ -18,17 +19,21 @@ inline constexpr std::int16_t INCHES = 2;
 /// The 16-bit flags hold -1 or 1 for "set" as their comments say, 0 for "not set".
 struct app_state {
     // Language and units.
-    std::int16_t language = ENGLISH;           ///< 1 English, 2 German; 0 when the settings file named neither
-    std::int16_t drawing_units = MILLIMETRES;  ///< 1 millimetres, 2 inches; shadowed by dimens1 and dimens2
-    std::int16_t capacity_unit = 1;            ///< 1 .. 5, the row of the unittype list
-    fixed4 volumereqd_value;                   ///< required capacity in the unit of capacity_unit
+    std::int16_t language =
+        ENGLISH;  ///< 1 English, 2 German; 0 when the settings file named neither
+    std::int16_t drawing_units =
+        MILLIMETRES;                 ///< 1 millimetres, 2 inches; shadowed by dimens1 and dimens2
+    std::int16_t capacity_unit = 1;  ///< 1 .. 5, the row of the unittype list
+    fixed4 volumereqd_value;         ///< required capacity in the unit of capacity_unit
 
     // The open project.
-    std::string project_path;  ///< full path of the project file, UTF-8; empty until Open or Save As
+    std::string
+        project_path;  ///< full path of the project file, UTF-8; empty until Open or Save As
     std::string project_name;  ///< name in the title bar and in line 2 of the file
     bool project_has_file = false;
     std::string projects_folder;  ///< folder in which the file dialogs start; empty at start-up
-    std::string mnufileprev[4] = {"&1", "&2", "&3", "&4"};  ///< the captions of the recent entries are their state
+    std::string mnufileprev[4] = {"&1", "&2", "&3",
+                                  "&4"};  ///< the captions of the recent entries are their state
     std::string cnc_file_troc, cnc_file_inner, cnc_file_xyouter;
     std::string cnc_file_innertooloffset, cnc_file_outertooloffset, cnc_file_outer;
     bool new_pressed = false;   ///< the user chose New at the start prompt
@@ -46,10 +51,13 @@ struct app_state {
 
     // Geometry flags.
     std::int16_t profiles_calculated = 0;  ///< -1 once Calculate Profiles has passed its start
-    std::int16_t zoom_all_requested = 0;   ///< -1: the next run is a repeat asked for by the zoom-all button
-    std::int16_t recalc_quiet = 0;         ///< -1: Design Ports runs for a Zoom All; results and enablings stay
-    bool assist_on = false;                ///< Des_assist_check: Design assist in place of Calculate Profiles
-    bool assist_hidden = false;  ///< designer and its frame lines are hidden, from New or Open until assist_on
+    std::int16_t zoom_all_requested =
+        0;  ///< -1: the next run is a repeat asked for by the zoom-all button
+    std::int16_t recalc_quiet =
+        0;                   ///< -1: Design Ports runs for a Zoom All; results and enablings stay
+    bool assist_on = false;  ///< Des_assist_check: Design assist in place of Calculate Profiles
+    bool assist_hidden =
+        false;  ///< designer and its frame lines are hidden, from New or Open until assist_on
 
     // The Design view. Lengths in twips.
     double rotation_angle = 0.0;        ///< rotation of the inner rotor in the view, degrees
@@ -58,9 +66,10 @@ struct app_state {
     double view_scale = 0.0;            ///< twips per millimetre
     double view_cx = 3000.0;            ///< position of the pump's origin in the picture
     double view_cy = 3000.0;
-    double view_ecc = 0.0;                                                            ///< ecc * view_scale
-    double view_zoom = 0.0;                                                           ///< factor of the last zoom
-    std::int16_t zoom_start_x = 0, zoom_start_y = 0, zoom_end_x = 0, zoom_end_y = 0;  ///< rubber band corners
+    double view_ecc = 0.0;   ///< ecc * view_scale
+    double view_zoom = 0.0;  ///< factor of the last zoom
+    std::int16_t zoom_start_x = 0, zoom_start_y = 0, zoom_end_x = 0,
+                 zoom_end_y = 0;   ///< rubber band corners
     double angleline_count = 0.0;  ///< element count of angleline at the last reset
 };
 

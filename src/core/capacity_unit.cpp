@@ -21,17 +21,19 @@ constexpr double CUBIC_INCHES_PER_IMPERIAL_MILLIGALLON = 0.277;
 constexpr std::size_t UNIT_COUNT = CAPACITY_UNIT_TEXTS.size();
 
 // Row: the unit before; column: the unit after, both in code order.
-// Kept: 1 litre a minute at 1000 rpm is 1 cm3 a revolution, but 2 to 5 is not 3.785 / 16.387: the table's own
-// roundings stand, so a road over two units ends elsewhere than the straight one.
+// Kept: 1 litre a minute at 1000 rpm is 1 cm3 a revolution, but 2 to 5 is not 3.785 / 16.387: the
+// table's own roundings stand, so a road over two units ends elsewhere than the straight one.
 constexpr std::array<std::array<double, UNIT_COUNT>, UNIT_COUNT> FACTORS = {{
-    {1.0, 1.0 / LITRES_PER_US_GALLON, 1.0 / LITRES_PER_IMPERIAL_GALLON, 1.0, 1.0 / CC_PER_CUBIC_INCH},
+    {1.0, 1.0 / LITRES_PER_US_GALLON, 1.0 / LITRES_PER_IMPERIAL_GALLON, 1.0,
+     1.0 / CC_PER_CUBIC_INCH},
     {LITRES_PER_US_GALLON, 1.0, 1.0 / US_GALLONS_PER_IMPERIAL_GALLON, LITRES_PER_US_GALLON,
      CUBIC_INCHES_PER_US_MILLIGALLON},
     {LITRES_PER_IMPERIAL_GALLON, US_GALLONS_PER_IMPERIAL_GALLON, 1.0, LITRES_PER_IMPERIAL_GALLON,
      CUBIC_INCHES_PER_IMPERIAL_MILLIGALLON},
-    {1.0, 1.0 / LITRES_PER_US_GALLON, 1.0 / LITRES_PER_IMPERIAL_GALLON, 1.0, 1.0 / CC_PER_CUBIC_INCH},
-    {CC_PER_CUBIC_INCH, 1.0 / CUBIC_INCHES_PER_US_MILLIGALLON, 1.0 / CUBIC_INCHES_PER_IMPERIAL_MILLIGALLON,
-     CC_PER_CUBIC_INCH, 1.0},
+    {1.0, 1.0 / LITRES_PER_US_GALLON, 1.0 / LITRES_PER_IMPERIAL_GALLON, 1.0,
+     1.0 / CC_PER_CUBIC_INCH},
+    {CC_PER_CUBIC_INCH, 1.0 / CUBIC_INCHES_PER_US_MILLIGALLON,
+     1.0 / CUBIC_INCHES_PER_IMPERIAL_MILLIGALLON, CC_PER_CUBIC_INCH, 1.0},
 }};
 
 bool is_code(std::int16_t code) {

@@ -16,7 +16,8 @@ struct enabling {
     bool mnudata = false, mnudataperf = false;
     bool design_ports = false;
     bool shadow_ports = true;
-    bool groove_length = false, groove_width = false, groove_depth = false;  ///< with Label10, Label11, Label12
+    bool groove_length = false, groove_width = false,
+         groove_depth = false;  ///< with Label10, Label11, Label12
     bool calc_perf = false, GT_Sim_Button = false, GT_combo = false, GT_fluid = false;
     bool create_charts = false, export_excel = false;
     bool rotate_rotors_ccw = false, rotate_rotors_cw = false;

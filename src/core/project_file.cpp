@@ -30,7 +30,8 @@ struct project_line {
     std::int16_t project_record::*code = nullptr;
 };
 
-constexpr project_line text_item(int number, std::string project_record::*item, line_kind kind = line_kind::text) {
+constexpr project_line text_item(int number, std::string project_record::*item,
+                                 line_kind kind = line_kind::text) {
     return {.number = number, .kind = kind, .item = item};
 }
 

@@ -1,4 +1,5 @@
-// project_file: the 59 positional lines of a .KVT file, read in all five lengths and written in full.
+// project_file: the 59 positional lines of a .KVT file, read in all five lengths and written in
+// full.
 #pragma once
 
 #include "core/entries.hpp"
@@ -12,23 +13,26 @@ namespace kvt {
 
 /// What a project file holds. Texts are UTF-8. Form1.coarseness is read but not assigned by Open.
 struct project_record {
-    std::string project_path;        ///< line 1; ignored on reading
-    std::string project_name;        ///< line 2
-    std::string units;               ///< line 3, "mm" or empty (anything else means inches)
-    entries boxes;                   ///< the boxes of lines 4 to 15, 24 to 59; a line not in the file is empty or "0"
-    std::string capacity;            ///< line 16
-    std::int16_t capacity_unit = 0;  ///< line 17
-    std::string cnc_file_troc, cnc_file_inner, cnc_file_xyouter;                     ///< lines 18 to 20
-    std::string cnc_file_innertooloffset, cnc_file_outertooloffset, cnc_file_outer;  ///< lines 21 to 23
+    std::string project_path;  ///< line 1; ignored on reading
+    std::string project_name;  ///< line 2
+    std::string units;         ///< line 3, "mm" or empty (anything else means inches)
+    entries
+        boxes;  ///< the boxes of lines 4 to 15, 24 to 59; a line not in the file is empty or "0"
+    std::string capacity;                                         ///< line 16
+    std::int16_t capacity_unit = 0;                               ///< line 17
+    std::string cnc_file_troc, cnc_file_inner, cnc_file_xyouter;  ///< lines 18 to 20
+    std::string cnc_file_innertooloffset, cnc_file_outertooloffset,
+        cnc_file_outer;  ///< lines 21 to 23
 };
 
 /// Reads the bytes of a project file: 23, 53, 57, 58 or 59 lines; lines behind 59 are ignored.
-/// Throws input_past_end when the lines end elsewhere, type_mismatch or overflow for an integer line that holds no
-/// 16-bit number. project_name is set as soon as line 2 has been read, also when a later line throws.
+/// Throws input_past_end when the lines end elsewhere, type_mismatch or overflow for an integer
+/// line that holds no 16-bit number. project_name is set as soon as line 2 has been read, also when
+/// a later line throws.
 project_record read_project(std::string_view bytes, std::string& project_name);
 
-/// The bytes of a project file, always 59 lines. Throws invalid_property_value for a text with a line end inside,
-/// type_mismatch or overflow for a check box whose text is no 16-bit number.
+/// The bytes of a project file, always 59 lines. Throws invalid_property_value for a text with a
+/// line end inside, type_mismatch or overflow for a check box whose text is no 16-bit number.
 std::string write_project(const project_record& record);
 
 }  // namespace kvt

@@ -14,7 +14,8 @@ void update_recent_list(app_state& state, std::string_view project_path) {
     if (state.mnufileprev[0] == project_path) {
         return;
     }
-    const std::string first(project_path);  // the caller's view may be one of the captions that move
+    const std::string first(
+        project_path);  // the caller's view may be one of the captions that move
     state.mnufileprev[3] = state.mnufileprev[2];
     state.mnufileprev[2] = state.mnufileprev[1];
     state.mnufileprev[1] = state.mnufileprev[0];

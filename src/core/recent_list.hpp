@@ -1,4 +1,5 @@
-// recent_list: the four recent projects under the File menu, kept in the captions of mnufileprev 0 to 3.
+// recent_list: the four recent projects under the File menu, kept in the captions of mnufileprev 0
+// to 3.
 #pragma once
 
 #include "core/app_state.hpp"
@@ -8,8 +9,8 @@
 
 namespace kvt {
 
-/// Puts a path into entry 0 and moves the others down when entry 0 differs from it. A path that already stands in
-/// entry 1, 2 or 3 is not removed, so it can stand twice.
+/// Puts a path into entry 0 and moves the others down when entry 0 differs from it. A path that
+/// already stands in entry 1, 2 or 3 is not removed, so it can stand twice.
 void update_recent_list(app_state& state, std::string_view project_path);
 
 /// The text before the last backslash or slash, without it; empty when there is none.

@@ -1,4 +1,5 @@
-// rotor_profiles: everything that Calculate Profiles computes. Lengths mm; angles in arrays radians.
+// rotor_profiles: everything that Calculate Profiles computes. Lengths mm; angles in arrays
+// radians.
 #pragma once
 
 #include "base/constants.hpp"
@@ -9,36 +10,44 @@
 
 namespace kvt {
 
-/// troch_*, inner_* and outer_* are about the inner rotor axis, with the outer rotor centre at x = -ecc; fillet_*
-/// is about the outer centre. The fixed arrays hold the elements 0 .. 36000 and are never cleared between runs;
-/// the growable ones are new and zeroed in every run.
+/// troch_*, inner_* and outer_* are about the inner rotor axis, with the outer rotor centre at x =
+/// -ecc; fillet_* is about the outer centre. The fixed arrays hold the elements 0 .. 36000 and are
+/// never cleared between runs; the growable ones are new and zeroed in every run.
 struct rotor_profiles {
-    double profile_points = 0.0;      ///< number of trochoid points P, 3600.0 once a run has started
-    double base_radius = 0.0;         ///< a = (radouter + radinnroot + ecc) / (1/(N-1) + 1), mm
-    double roll_radius = 0.0;         ///< b = a/(N-1), mm
-    double trochoid_r = 0.0;          ///< radouter + radinnroot + ecc - clearn_half, mm
-    double trochoid_ratio = 0.0;      ///< trochoid_r / (N ecc)
-    double lobe_centre_offset = 0.0;  ///< radinnroot + ecc; lobe centres lie at radouter + this from the outer centre
-    double inner_plot_len = 0.0;      ///< 2P/coarseness + 1, the last index of inner_plot_xy
-    std::int32_t outer_xy_size = 0;   ///< upper bound of outer_xy: 2N*596 + 1, or 2N*304 + 1 without fillets
-    std::int16_t outer_xy_last = 0;   ///< last used index of outer_xy
-    std::int16_t outer_last = 0;      ///< last used index of outer_x and outer_y
-    fixed4 capacity;                  ///< capacity in the unit of capacity_unit
-    double capacity_cc = 0.0;         ///< capacity in cm3 per revolution after rounding to 4 decimals
-    double max_chamber_inner_angle = 0.0;  ///< half-angle of the chamber window at maximum chamber, degrees
+    double profile_points = 0.0;  ///< number of trochoid points P, 3600.0 once a run has started
+    double base_radius = 0.0;     ///< a = (radouter + radinnroot + ecc) / (1/(N-1) + 1), mm
+    double roll_radius = 0.0;     ///< b = a/(N-1), mm
+    double trochoid_r = 0.0;      ///< radouter + radinnroot + ecc - clearn_half, mm
+    double trochoid_ratio = 0.0;  ///< trochoid_r / (N ecc)
+    double lobe_centre_offset =
+        0.0;  ///< radinnroot + ecc; lobe centres lie at radouter + this from the outer centre
+    double inner_plot_len = 0.0;  ///< 2P/coarseness + 1, the last index of inner_plot_xy
+    std::int32_t outer_xy_size =
+        0;  ///< upper bound of outer_xy: 2N*596 + 1, or 2N*304 + 1 without fillets
+    std::int16_t outer_xy_last = 0;  ///< last used index of outer_xy
+    std::int16_t outer_last = 0;     ///< last used index of outer_x and outer_y
+    fixed4 capacity;                 ///< capacity in the unit of capacity_unit
+    double capacity_cc = 0.0;  ///< capacity in cm3 per revolution after rounding to 4 decimals
+    double max_chamber_inner_angle =
+        0.0;  ///< half-angle of the chamber window at maximum chamber, degrees
     double max_chamber_outer_angle = 0.0;  ///< the same seen from the outer centre
     double min_chamber_inner_angle = 0.0;  ///< half-angle at minimum chamber, degrees
     double min_chamber_outer_angle = 0.0;  ///< the same seen from the outer centre
 
-    static std::vector<double> fixed_array() { return std::vector<double>(FIXED_ARRAY_LAST + 1, 0.0); }
+    static std::vector<double> fixed_array() {
+        return std::vector<double>(FIXED_ARRAY_LAST + 1, 0.0);
+    }
 
-    std::vector<double> troch_x = fixed_array();  ///< trochoid points 0 .. P; element P repeats element 0
+    std::vector<double> troch_x =
+        fixed_array();  ///< trochoid points 0 .. P; element P repeats element 0
     std::vector<double> troch_y = fixed_array();
-    std::vector<double> troch_angle = fixed_array();  ///< generating angle, then the uniform index angle i PI_D/(P/2)
-    std::vector<double> troch_slope = fixed_array();  ///< dy/dx, central difference, 0 where dx is 0
-    std::vector<double> troch_xy;                     ///< flat x0, y0, x1, y1 ..., 0 .. 7201
-    std::vector<double> troch_xy_spare;               ///< sized here, filled by the CAD routines only
-    std::vector<double> inner_x = fixed_array();      ///< inner rotor profile, 0 .. P-1
+    std::vector<double> troch_angle =
+        fixed_array();  ///< generating angle, then the uniform index angle i PI_D/(P/2)
+    std::vector<double> troch_slope =
+        fixed_array();                            ///< dy/dx, central difference, 0 where dx is 0
+    std::vector<double> troch_xy;                 ///< flat x0, y0, x1, y1 ..., 0 .. 7201
+    std::vector<double> troch_xy_spare;           ///< sized here, filled by the CAD routines only
+    std::vector<double> inner_x = fixed_array();  ///< inner rotor profile, 0 .. P-1
     std::vector<double> inner_y = fixed_array();
     std::vector<double> inner_plot_xy;  ///< flat x, y of every coarseness-th inner point, closed
     std::vector<double> outer_xy;       ///< flat x, y of the outer rotor profile
@@ -46,13 +55,15 @@ struct rotor_profiles {
     std::vector<double> outer_y;
     std::vector<double> fillet_x;  ///< first fillet only, 0 .. 100, about the outer centre
     std::vector<double> fillet_y;
-    std::vector<double> fillet_r;                     ///< its distance from the outer centre
-    std::vector<double> rot_inner_x = fixed_array();  ///< working copies, turned to a chamber position
+    std::vector<double> fillet_r;  ///< its distance from the outer centre
+    std::vector<double> rot_inner_x =
+        fixed_array();  ///< working copies, turned to a chamber position
     std::vector<double> rot_inner_y = fixed_array();
     std::vector<double> rot_outer_xy = fixed_array();
     std::vector<double> radius_scratch;  ///< working radii of the area sums
 
-    // Scratch points of the outer profile generation, reused by output routines; nobody may expect them to survive.
+    // Scratch points of the outer profile generation, reused by output routines; nobody may expect
+    // them to survive.
     double pt_a_x = 0.0, pt_a_y = 0.0;  ///< root end of a flank
     double pt_b_x = 0.0, pt_b_y = 0.0;  ///< lobe end of a flank
     double pt_o_x = 0.0, pt_o_y = 0.0;  ///< current end of the profile

@@ -33,7 +33,8 @@ constexpr std::string_view PORT_EXPLAIN_HEADING = "Port Explanation";
 constexpr std::string_view MAIN_HEADING = "Main Screen";
 /// In the order of chart_rectangle_fields.
 constexpr std::array<std::string_view, 7> CHART_HEADINGS = {
-    "Flow Chart", "Power Chart", "Stress Chart", "Ripple Chart", "VE Chart", "Mech Effic Chart", "Overall Effic Chart"};
+    "Flow Chart", "Power Chart",      "Stress Chart",       "Ripple Chart",
+    "VE Chart",   "Mech Effic Chart", "Overall Effic Chart"};
 
 void write_block(text_lines& file, std::string_view heading, const window_rectangle& window) {
     file.line(heading);
@@ -44,7 +45,8 @@ void write_block(text_lines& file, std::string_view heading, const window_rectan
     file.line("");
 }
 
-void write_open(text_lines& file, std::string_view heading, const std::optional<window_rectangle>& window) {
+void write_open(text_lines& file, std::string_view heading,
+                const std::optional<window_rectangle>& window) {
     if (window) {
         write_block(file, heading, *window);
     }
@@ -105,7 +107,8 @@ void read_numbers(layout_lines& lines, std::optional<window_rectangle>& window) 
 /// The optional blocks, tested one after the other against the heading read last.
 class optional_blocks {
   public:
-    optional_blocks(layout_lines& lines, window_rectangles& rectangles) : lines_(lines), rectangles_(rectangles) {}
+    optional_blocks(layout_lines& lines, window_rectangles& rectangles)
+        : lines_(lines), rectangles_(rectangles) {}
 
     void read() {
         if (lines_.is_at_end()) {

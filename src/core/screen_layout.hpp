@@ -1,4 +1,5 @@
-// screen_layout: screen.ini, the windows' places as blocks of a heading, four numbers in twips and an empty line.
+// screen_layout: screen.ini, the windows' places as blocks of a heading, four numbers in twips and
+// an empty line.
 #pragma once
 
 #include "core/window_rectangles.hpp"
@@ -13,7 +14,8 @@ namespace kvt {
 /// The name of the layout file in the program's folder.
 inline constexpr std::string_view LAYOUT_FILE_NAME = "screen.ini";
 
-/// The windows as they are on the screen at this moment. A window that is not there has no rectangle.
+/// The windows as they are on the screen at this moment. A window that is not there has no
+/// rectangle.
 struct present_windows {
     window_rectangle Form1, portdes, viewwinfrm, Perffrm, select_graphs;
     std::optional<window_rectangle> explain, port_explain;
@@ -22,8 +24,9 @@ struct present_windows {
     std::array<std::optional<window_rectangle>, 7> charts;
 };
 
-/// The bytes of the layout file: the five fixed blocks, then a block for each optional window that is there. Numbers
-/// are single-precision ones in their print form (" 8085 "). Throws overflow for a number that isn't finite.
+/// The bytes of the layout file: the five fixed blocks, then a block for each optional window that
+/// is there. Numbers are single-precision ones in their print form (" 8085 "). Throws overflow for
+/// a number that isn't finite.
 std::string write_layout(const present_windows& windows);
 
 /// What a reading leaves beside the rectangles.
@@ -33,14 +36,14 @@ struct layout_reading {
     bool port_explain = false;  ///< likewise
 };
 
-/// Reads the blocks into the rectangles, each number as it comes. Headings of the fixed blocks are not looked at; a
-/// number is a whole text, of a chart one that fits 16 bits. At the end of the file the main window is maximised; lines
-/// behind the last block leave it normal.
-/// A number that doesn't convert, or a missing line, leads to the built-in sizes: Form1 then keeps the Top and Left
-/// read so far, the other four get their whole rectangles, the main window is maximised; rectangles of explanation
-/// windows and charts read before stay. Kept: behind every optional block but the last a further heading is wanted, so
-/// a file that ends with such a block, as written for a main window that is not maximised, gives the built-in sizes.
-/// screen_layout_test holds it.
+/// Reads the blocks into the rectangles, each number as it comes. Headings of the fixed blocks are
+/// not looked at; a number is a whole text, of a chart one that fits 16 bits. At the end of the
+/// file the main window is maximised; lines behind the last block leave it normal. A number that
+/// doesn't convert, or a missing line, leads to the built-in sizes: Form1 then keeps the Top and
+/// Left read so far, the other four get their whole rectangles, the main window is maximised;
+/// rectangles of explanation windows and charts read before stay. Kept: behind every optional block
+/// but the last a further heading is wanted, so a file that ends with such a block, as written for
+/// a main window that is not maximised, gives the built-in sizes. screen_layout_test holds it.
 layout_reading read_layout(std::string_view bytes, window_rectangles& rectangles);
 
 /// The sizes after a failed reading, also of a file that isn't there.

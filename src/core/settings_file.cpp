@@ -25,7 +25,8 @@ std::string without_blanks_around(const std::string& text) {
     return first == std::string::npos ? "" : text.substr(first, last - first + 1);
 }
 
-/// 0 for anything but "1" and "2": the messages are then English and the next write leaves line 5 empty.
+/// 0 for anything but "1" and "2": the messages are then English and the next write leaves line 5
+/// empty.
 std::int16_t language_of_line(const std::string& line) {
     const std::string code = without_blanks_around(line);
     if (code == "1") {
@@ -41,7 +42,8 @@ std::string_view line_of_language(std::int16_t language) {
     return language == GERMAN ? "2" : "";
 }
 
-/// A date field stands between two "#"; a line without both is no date, and the value stays as it is.
+/// A date field stands between two "#"; a line without both is no date, and the value stays as it
+/// is.
 void read_date(const std::string& line, std::string& date) {
     const std::size_t first = line.find('#');
     const std::size_t last = line.rfind('#');

@@ -12,7 +12,8 @@ namespace kvt {
 inline constexpr std::string_view SETTINGS_FILE_NAME = "KVT.ini";
 
 /// Reads lines 1 to 7 into recent entries 1 to 3, modelling_package, language, auto_update_mode and
-/// last_update_check (the text between the "#" characters). Missing lines leave their values as they are.
+/// last_update_check (the text between the "#" characters). Missing lines leave their values as
+/// they are.
 void read_settings(std::string_view bytes, app_state& state);
 
 /// The first line of the settings file, UTF-8; empty when there is none.

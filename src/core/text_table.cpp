@@ -12,7 +12,8 @@ constexpr std::int16_t GERMAN = 2;
 
 /// Messages alone, in the order of the enumerators, so that an enumerator is the index of its row.
 constexpr auto MESSAGE_ROWS = std::to_array<text_row>({
-#define KVT_MESSAGE(name, english, german) {text_kind::message, "", #name, english, german, text_languages::both},
+#define KVT_MESSAGE(name, english, german) \
+    {text_kind::message, "", #name, english, german, text_languages::both},
 #define KVT_MESSAGE_ENGLISH_ONLY(name, english) \
     {text_kind::message, "", #name, english, "", text_languages::english_only},
 #include "core/messages.inc"
@@ -72,14 +73,16 @@ std::string_view message_text(message id, std::int16_t language) {
 }
 
 const text_row* find_text(text_kind kind, std::string_view form, std::string_view name) {
-    const auto found = std::ranges::find_if(
-        ROWS, [&](const text_row& row) { return row.kind == kind && row.form == form && row.name == name; });
+    const auto found = std::ranges::find_if(ROWS, [&](const text_row& row) {
+        return row.kind == kind && row.form == form && row.name == name;
+    });
     return found == ROWS.end() ? nullptr : &*found;
 }
 
 const text_row* find_caption(std::string_view form, std::string_view name) {
     using enum text_kind;
-    for (const text_kind kind : {caption, design_caption, caption_mm, caption_inch, fixed_caption}) {
+    for (const text_kind kind :
+         {caption, design_caption, caption_mm, caption_inch, fixed_caption}) {
         if (const text_row* row = find_text(kind, form, name)) {
             return row;
         }

@@ -1,4 +1,5 @@
-// The one table of every text the user sees: messages, captions, unit captions and tooltips, English and German.
+// The one table of every text the user sees: messages, captions, unit captions and tooltips,
+// English and German.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +12,8 @@ namespace kvt {
 enum class text_kind {
     message,         ///< a message box; name is the enumerator of message
     caption,         ///< set by both caption routines when the language changes
-    design_caption,  ///< English at design time, German set by the German routine or by the form's own load
+    design_caption,  ///< English at design time, German set by the German routine or by the form's
+                     ///< own load
     caption_mm,      ///< set by the millimetre label routine
     caption_inch,    ///< set by the inch label routine
     fixed_caption,   ///< a caption that no routine changes
@@ -24,7 +26,8 @@ enum class text_languages { both, english_only };
 struct text_row {
     text_kind kind;
     std::string_view form;  ///< the form's name; empty for messages
-    std::string_view name;  ///< the control's name, "" for the form's own caption, or the message's name
+    std::string_view
+        name;  ///< the control's name, "" for the form's own caption, or the message's name
     std::string_view english;
     std::string_view german;  ///< empty only with english_only
     text_languages languages = text_languages::both;
@@ -42,13 +45,15 @@ enum class message {
 #undef KVT_MESSAGE_ENGLISH_ONLY
 };
 
-/// The text of a message: German for language 2, English for anything else and for English-only messages.
+/// The text of a message: German for language 2, English for anything else and for English-only
+/// messages.
 std::string_view message_text(message id, std::int16_t language);
 
 /// The text of a row: German for language 2 where there is one, else English.
 std::string_view row_text(const text_row& row, std::int16_t language);
 
-/// The row of a control, or nullptr. The first kind that exists in the order of text_kind, tooltips excluded.
+/// The row of a control, or nullptr. The first kind that exists in the order of text_kind, tooltips
+/// excluded.
 const text_row* find_caption(std::string_view form, std::string_view name);
 const text_row* find_text(text_kind kind, std::string_view form, std::string_view name);
 

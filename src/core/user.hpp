@@ -1,5 +1,5 @@
-// user: the person on the other side of a command. The desktop program answers with windows, the batch program with
-// options and standard error, a test with a script.
+// user: the person on the other side of a command. The desktop program answers with windows, the
+// batch program with options and standard error, a test with a script.
 #pragma once
 
 #include <optional>

@@ -22,7 +22,8 @@ double inner_profile_area(rotor_profiles& rotors) {
         const point2 before = point_at(rotors.inner_x, rotors.inner_y, i - 1);
         const point2 point = point_at(rotors.inner_x, rotors.inner_y, i);
         checked_at(radius, i) = radius_of(point);
-        area += inner_triangle_area(before, radius[static_cast<std::size_t>(i - 1)], point, checked_at(radius, i));
+        area += inner_triangle_area(before, radius[static_cast<std::size_t>(i - 1)], point,
+                                    checked_at(radius, i));
     }
     return area;
 }
@@ -35,8 +36,8 @@ double outer_profile_area(rotor_profiles& rotors) {
     for (std::int64_t k = 2; k <= rotors.outer_xy_last; k += 2) {
         const point2 point = pair_at(rotors.outer_xy, k);
         checked_at(radius, k) = radius_of(point);
-        area += outer_triangle_area(pair_at(rotors.outer_xy, k - 2), checked_at(radius, k - 2), point,
-                                    checked_at(radius, k));
+        area += outer_triangle_area(pair_at(rotors.outer_xy, k - 2), checked_at(radius, k - 2),
+                                    point, checked_at(radius, k));
     }
     return area;
 }
@@ -44,7 +45,8 @@ double outer_profile_area(rotor_profiles& rotors) {
 void calculate_area_ratio(rotor_profiles& rotors, labels& outputs) {
     const double inner = inner_profile_area(rotors);
     const double outer = outer_profile_area(rotors);
-    const double ratio = floor_to_int(checked_divide((outer - inner) * 100.0 * 100.0, outer)) / 100.0;
+    const double ratio =
+        floor_to_int(checked_divide((outer - inner) * 100.0 * 100.0, outer)) / 100.0;
     outputs.area_ratio = number_text(ratio) + " %";
 }
 

@@ -6,8 +6,8 @@
 
 namespace kvt {
 
-/// Polar areas about the inner axis, mm2. The triangle from the last inner point back to the first is not included;
-/// without fillets neither is the small closing triangle of the outer profile.
+/// Polar areas about the inner axis, mm2. The triangle from the last inner point back to the first
+/// is not included; without fillets neither is the small closing triangle of the outer profile.
 double inner_profile_area(rotor_profiles& rotors);
 double outer_profile_area(rotor_profiles& rotors);
 

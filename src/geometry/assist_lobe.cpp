@@ -28,7 +28,8 @@ point2 uniform_point(const design_params& design, const rotor_profiles& rotors, 
     if (i < 0 || i >= UNIFORM_POINTS) {
         throw run_time_error(failure::subscript_out_of_range, "a flank without points");
     }
-    return trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc - design.clearn_half, uniform_angle(i));
+    return trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc - design.clearn_half,
+                          uniform_angle(i));
 }
 
 /// The first of the two neighbouring points on either side of the middle of the first inner lobe.
@@ -46,8 +47,10 @@ double normal_slope(const point2& p, const point2& q) {
     return checked_divide(-1.0, checked_divide(q.y - p.y, q.x - p.x));
 }
 
-/// Radius of the circle about the point in which the normals at i1 and i2 meet, through the point i1, mm.
-double flank_radius(const design_params& design, const rotor_profiles& rotors, const flank_indexes& at) {
+/// Radius of the circle about the point in which the normals at i1 and i2 meet, through the point
+/// i1, mm.
+double flank_radius(const design_params& design, const rotor_profiles& rotors,
+                    const flank_indexes& at) {
     const point2 p1 = uniform_point(design, rotors, at.i1);
     const point2 p2 = uniform_point(design, rotors, at.i2);
     const double m1 = normal_slope(p1, uniform_point(design, rotors, at.i1 + 1));
@@ -62,8 +65,8 @@ double radius_limit(const design_params& design) {
     return checked_divide(N * design.radouter, N - 1.0) + design.ecc;
 }
 
-/// What the trochoid's points can be while its size a + b lies in a range. A point is size (cos t, sin t) -
-/// pen (cos Nt, sin Nt).
+/// What the trochoid's points can be while its size a + b lies in a range. A point is size (cos t,
+/// sin t) - pen (cos Nt, sin Nt).
 struct trochoid_range {
     number_range size;
     double pen, lobes;
@@ -81,16 +84,21 @@ struct trochoid_range {
     number_range normal(std::int64_t i) const {
         const double t = uniform_angle(i);
         const double u = uniform_angle(i + 1);
-        const number_range dx = widened(
-            size * (std::cos(u) - std::cos(t)) - constant(pen * (std::cos(lobes * u) - std::cos(lobes * t))), error());
-        const number_range dy = widened(
-            size * (std::sin(u) - std::sin(t)) - constant(pen * (std::sin(lobes * u) - std::sin(lobes * t))), error());
+        const number_range dx =
+            widened(size * (std::cos(u) - std::cos(t)) -
+                        constant(pen * (std::cos(lobes * u) - std::cos(lobes * t))),
+                    error());
+        const number_range dy =
+            widened(size * (std::sin(u) - std::sin(t)) -
+                        constant(pen * (std::sin(lobes * u) - std::sin(lobes * t))),
+                    error());
         return constant(-1.0) / (dy / dx);
     }
     static number_range constant(double number) { return {number, number}; }
 };
 
-/// The square of flank_radius while the size lies in the range; not a number where a quotient could be by 0.
+/// The square of flank_radius while the size lies in the range; not a number where a quotient could
+/// be by 0.
 number_range flank_square_range(const trochoid_range& trochoid, const flank_indexes& at) {
     const number_range x1 = trochoid.x(at.i1);
     const number_range y1 = trochoid.y(at.i1);
@@ -103,8 +111,9 @@ number_range flank_square_range(const trochoid_range& trochoid, const flank_inde
 
 bool stays_within_limit(design_params design, const flank_indexes& at, double from, double to) {
     const double base = design.radinnroot + design.ecc;
-    const trochoid_range trochoid = {
-        {to + base, from + base}, design.ecc - design.clearn_half, static_cast<double>(design.numlobes)};
+    const trochoid_range trochoid = {{to + base, from + base},
+                                     design.ecc - design.clearn_half,
+                                     static_cast<double>(design.numlobes)};
     design.radouter = to;
     const double limit = radius_limit(design) * (1.0 - RADIUS_ROUNDING);
     if (!(trochoid.size.low > 0.0) || !(limit > 0.0)) {
@@ -126,7 +135,9 @@ void fill_uniform_trochoid(const design_params& design, rotor_profiles& rotors) 
 
 void find_lobe_radius(design_params& design, rotor_profiles& rotors) {
     const flank_indexes at = indexes_of_flank(design);
-    const auto none_ends = [&](double from, double to) { return stays_within_limit(design, at, from, to); };
+    const auto none_ends = [&](double from, double to) {
+        return stays_within_limit(design, at, from, to);
+    };
     design.radouter = round_half_even(design.numlobes * design.ecc) + QUARTER_MM;
     do {
         design.radouter = pass_over_quarters(design.radouter, -QUARTER_MM, none_ends);

@@ -25,7 +25,8 @@ constexpr double ECC_ROUNDING = 0.0001;
 constexpr double SAFE_ECC = 922337203685470.0;
 constexpr double SAFE_VOLUME = 9.2233720e14;
 
-/// The annulus volume (2 e - c)(2 r + 2 e - c) PI_D thick / 1000 of a stage 1 candidate, above every rounding of it.
+/// The annulus volume (2 e - c)(2 r + 2 e - c) PI_D thick / 1000 of a stage 1 candidate, above
+/// every rounding of it.
 double volume_bound(const design_params& design, double root, double ecc) {
     const double c = design.clearn_half;
     const double tip = root + 2.0 * ecc - c;
@@ -33,17 +34,19 @@ double volume_bound(const design_params& design, double root, double ecc) {
     return (annulus + SQUARE_ROUNDING * (tip * tip + root * root)) * PI_D * design.thick / 1000.0;
 }
 
-/// The bound grows like a square of the root radius on both sides of its minimum, for any eccentricity between its two
-/// roundings; so a range whose ends stay below the required volume stays below it everywhere.
+/// The bound grows like a square of the root radius on both sides of its minimum, for any
+/// eccentricity between its two roundings; so a range whose ends stay below the required volume
+/// stays below it everywhere.
 bool stays_below(const design_params& design, double required, double root) {
     const double ecc = root / (design.numlobes - 2.0) - ECC_REDUCTION;
-    const double bound =
-        std::max(volume_bound(design, root, ecc - ECC_ROUNDING), volume_bound(design, root, ecc + ECC_ROUNDING));
+    const double bound = std::max(volume_bound(design, root, ecc - ECC_ROUNDING),
+                                  volume_bound(design, root, ecc + ECC_ROUNDING));
     return bound < required && ecc < SAFE_ECC;
 }
 
-/// rho grows with the root radius, so a range whose upper end still curves too tightly does so everywhere. The
-/// candidate capacity is linear in it, so it fits everywhere when it fits at both ends.
+/// rho grows with the root radius, so a range whose upper end still curves too tightly does so
+/// everywhere. The candidate capacity is linear in it, so it fits everywhere when it fits at both
+/// ends.
 bool still_curves_too_tightly(design_params design, rotor_profiles& rotors, double root) {
     design.radinnroot = root;
     const double pen = design.radouter + root + design.ecc;
@@ -66,7 +69,8 @@ fixed4 candidate_capacity(const design_params& design, const rotor_profiles& rot
 
 fixed4 find_root_and_eccentricity(fixed4 required, design_params& design, rotor_profiles& rotors) {
     const auto none_ends = [&](double from, double to) {
-        return stays_below(design, required.value(), from) && stays_below(design, required.value(), to);
+        return stays_below(design, required.value(), from) &&
+               stays_below(design, required.value(), to);
     };
     design.radouter = 0.0;
     design.radinnroot = design.shaftdiameter / 2.0 + design.minmaterial - QUARTER_MM;
@@ -74,11 +78,14 @@ fixed4 find_root_and_eccentricity(fixed4 required, design_params& design, rotor_
     while (candidate.scaled() <= required.scaled()) {
         design.radinnroot = pass_over_quarters(design.radinnroot, QUARTER_MM, none_ends);
         design.radinnroot = next_quarter(design.radinnroot, QUARTER_MM);
-        design.ecc = fixed4::from(checked_divide(design.radinnroot, design.numlobes - 2.0) - ECC_REDUCTION).value();
+        design.ecc =
+            fixed4::from(checked_divide(design.radinnroot, design.numlobes - 2.0) - ECC_REDUCTION)
+                .value();
         set_rolling_circles(design, rotors);
         candidate = candidate_capacity(design, rotors);
     }
-    design.outer_root = rotors.base_radius + design.ecc + rotors.roll_radius + design.ecc - design.radouter;
+    design.outer_root =
+        rotors.base_radius + design.ecc + rotors.roll_radius + design.ecc - design.radouter;
     return candidate;
 }
 
@@ -88,7 +95,8 @@ bool exceeds_assist_diameter(const design_params& design) {
 
 fixed4 grow_root_to_curvature(design_params& design, rotor_profiles& rotors) {
     const auto none_ends = [&](double from, double to) {
-        return still_curves_too_tightly(design, rotors, from) && still_curves_too_tightly(design, rotors, to);
+        return still_curves_too_tightly(design, rotors, from) &&
+               still_curves_too_tightly(design, rotors, to);
     };
     while (true) {
         rotors.trochoid_r = design.radouter + design.radinnroot + design.ecc;
@@ -99,7 +107,8 @@ fixed4 grow_root_to_curvature(design_params& design, rotor_profiles& rotors) {
         design.radinnroot = pass_over_quarters(design.radinnroot, QUARTER_MM, none_ends);
         design.radinnroot = next_quarter(design.radinnroot, QUARTER_MM);
         set_rolling_circles(design, rotors);
-        static_cast<void>(candidate_capacity(design, rotors));  // fails as soon as it no longer fits
+        static_cast<void>(
+            candidate_capacity(design, rotors));  // fails as soon as it no longer fits
     }
 }
 

@@ -10,14 +10,16 @@ namespace kvt {
 
 namespace {
 
-/// cm3 in one unit, in the order of the capacity units: litre, US gallon, imperial gallon per 1000, cm3, cubic inch.
-/// Kept: rounded to 3 decimals and less; they are not the factors of the unit list's conversion table.
+/// cm3 in one unit, in the order of the capacity units: litre, US gallon, imperial gallon per 1000,
+/// cm3, cubic inch. Kept: rounded to 3 decimals and less; they are not the factors of the unit
+/// list's conversion table.
 constexpr std::array<double, 5> CC_IN_UNIT = {1.0, 3.785, 4.54, 1.0, 16.387};
 
 }  // namespace
 
 double annulus_volume(const design_params& design, const rotor_profiles& rotors) {
-    const double tip = rotors.roll_radius + rotors.base_radius + design.ecc - design.clearn_half - design.radouter;
+    const double tip =
+        rotors.roll_radius + rotors.base_radius + design.ecc - design.clearn_half - design.radouter;
     return (tip * tip - design.radinnroot * design.radinnroot) * PI_D * design.thick / 1000.0;
 }
 
@@ -34,8 +36,8 @@ fixed4 capacity_in_unit(fixed4 capacity_cc, std::int16_t capacity_unit) {
     return fixed4::from(checked_divide(capacity_cc.value(), divisor));
 }
 
-void calculate_capacity(const design_params& design, std::int16_t capacity_unit, rotor_profiles& rotors,
-                        labels& outputs) {
+void calculate_capacity(const design_params& design, std::int16_t capacity_unit,
+                        rotor_profiles& rotors, labels& outputs) {
     const fixed4 in_cc = fixed4::from(annulus_volume(design, rotors));
     rotors.capacity_cc = in_cc.value();
     rotors.capacity = capacity_in_unit(in_cc, capacity_unit);

@@ -23,7 +23,8 @@ double half_pitch(const design_params& design) {
     return checked_divide(360.0, design.numlobes * 2.0) * PI_D / 180.0;
 }
 
-chamber_window window_of_chamber(const design_params& design, const rotor_profiles& rotors, double angle) {
+chamber_window window_of_chamber(const design_params& design, const rotor_profiles& rotors,
+                                 double angle) {
     const double R = rotors.trochoid_r;
     const double n1 = design.numlobes * design.ecc;
     const double n2 = (design.numlobes - 1.0) * design.ecc;
@@ -38,7 +39,8 @@ chamber_window window_of_chamber(const design_params& design, const rotor_profil
 }
 
 std::string chamber_label(double area, double thick) {
-    const double volume = area < SMALL_AREA ? floor_to_int(area * thick * 100.0) / 100.0 : floor_to_int(area * thick);
+    const double volume =
+        area < SMALL_AREA ? floor_to_int(area * thick * 100.0) / 100.0 : floor_to_int(area * thick);
     return number_text(volume) + " mm3";
 }
 

@@ -1,4 +1,5 @@
-// The window of a chamber: the angles under which a chamber is seen from both rotor axes; and the chamber's label.
+// The window of a chamber: the angles under which a chamber is seen from both rotor axes; and the
+// chamber's label.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -17,15 +18,19 @@ struct chamber_window {
 /// Half a lobe pitch of the outer rotor: t = (360/(N 2)) PI_D / 180, radians.
 double half_pitch(const design_params& design);
 
-/// The window whose lobe centres stand at this angle (t at minimum chamber, PI_D - t at maximum chamber):
-///     h = sqrt(R^2 + n1^2 - (2 n1 R) cos(angle))   g = (h^2 + n1^2 - R^2) / (2 h n1)   j = h - radouter
-///     l = sqrt(j^2 + n2^2 - (2 j n2) g)            q = (l^2 + n2^2 - j^2) / (2 n2 l)   w1 = arc cosine of q
-///     m = sqrt(j^2 + n1^2 - (2 j n1) g)            p = (m^2 + n1^2 - j^2) / (2 n1 m)   w2 = arc cosine of p
+/// The window whose lobe centres stand at this angle (t at minimum chamber, PI_D - t at maximum
+/// chamber):
+///     h = sqrt(R^2 + n1^2 - (2 n1 R) cos(angle))   g = (h^2 + n1^2 - R^2) / (2 h n1)   j = h -
+///     radouter l = sqrt(j^2 + n2^2 - (2 j n2) g)            q = (l^2 + n2^2 - j^2) / (2 n2 l)   w1
+///     = arc cosine of q m = sqrt(j^2 + n1^2 - (2 j n1) g)            p = (m^2 + n1^2 - j^2) / (2
+///     n1 m)   w2 = arc cosine of p
 /// R trochoid_r, n1 = N ecc, n2 = (N-1) ecc. Source: docs/formulas/chambers.md, "Window".
-chamber_window window_of_chamber(const design_params& design, const rotor_profiles& rotors, double angle);
+chamber_window window_of_chamber(const design_params& design, const rotor_profiles& rotors,
+                                 double angle);
 
 /// "1038 mm3", with two decimals cut when the area is below 10 mm2.
-/// Kept: the test is on the area, before the multiplication by thick; the unit is mm3 in inch mode too.
+/// Kept: the test is on the area, before the multiplication by thick; the unit is mm3 in inch mode
+/// too.
 std::string chamber_label(double area, double thick);
 
 }  // namespace kvt

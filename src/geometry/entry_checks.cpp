@@ -13,14 +13,15 @@ namespace {
 
 using box = std::string entries::*;
 
-constexpr std::array<box, 7> EMPTY_MEANS_ZERO = {&entries::radinnroot, &entries::radouter,      &entries::clearn,
-                                                 &entries::volumereqd, &entries::shaftdiameter, &entries::minmaterial,
-                                                 &entries::fillet};
+constexpr std::array<box, 7> EMPTY_MEANS_ZERO = {
+    &entries::radinnroot,    &entries::radouter,    &entries::clearn, &entries::volumereqd,
+    &entries::shaftdiameter, &entries::minmaterial, &entries::fillet};
 
 constexpr std::array<box, 13> DECIMAL_COMMA_ALLOWED = {
-    &entries::volumereqd,  &entries::shaftdiameter, &entries::thick,        &entries::maxdiameter, &entries::clearn,
-    &entries::minmaterial, &entries::axial_clear,   &entries::radial_clear, &entries::ecc,         &entries::radinnroot,
-    &entries::radouter,    &entries::fillet,        &entries::outer_root};
+    &entries::volumereqd, &entries::shaftdiameter, &entries::thick,       &entries::maxdiameter,
+    &entries::clearn,     &entries::minmaterial,   &entries::axial_clear, &entries::radial_clear,
+    &entries::ecc,        &entries::radinnroot,    &entries::radouter,    &entries::fillet,
+    &entries::outer_root};
 
 constexpr double SMALLEST_LOBE_NUMBER = 3.0;
 
@@ -38,7 +39,8 @@ void clean_up_thickness(entries& boxes, user& person, std::int16_t language) {
     }
 }
 
-void clean_up_lobe_number(entries& boxes, design_params& design, user& person, std::int16_t language) {
+void clean_up_lobe_number(entries& boxes, design_params& design, user& person,
+                          std::int16_t language) {
     design.numlobes = integer_of_text(boxes.numlobes);
     // The text decides, not the rounded number: "2.7" is refused.
     if (val(boxes.numlobes) < SMALLEST_LOBE_NUMBER) {
@@ -95,14 +97,17 @@ std::optional<refused_entry> first_refused_entry(const entries& boxes) {
     return std::nullopt;
 }
 
-void read_entries(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors) {
+void read_entries(const entries& boxes, bool inches, design_params& design,
+                  rotor_profiles& rotors) {
     design.numlobes = to_int32(val(boxes.numlobes));
     for (const auto& [entry, field] : DIMENSIONS) {
         design.*field = inches ? val(boxes.*entry) * MM_PER_INCH : val(boxes.*entry);
     }
-    design.clearn_half = inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
+    design.clearn_half =
+        inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
     design.coarseness = to_int16(val(boxes.coarseness));
-    rotors.inner_plot_len = checked_divide(rotors.profile_points + rotors.profile_points, design.coarseness) + 1.0;
+    rotors.inner_plot_len =
+        checked_divide(rotors.profile_points + rotors.profile_points, design.coarseness) + 1.0;
 }
 
 bool shaft_material_too_thin(const design_params& design) {

@@ -1,4 +1,5 @@
-// The entries of the Design form before a run: clean-up, validation, reading into millimetres, shaft check.
+// The entries of the Design form before a run: clean-up, validation, reading into millimetres,
+// shaft check.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -13,9 +14,9 @@
 
 namespace kvt {
 
-/// Clean up entries: an empty thick becomes "1" and a numlobes below 3 becomes "3", each with its message; stores
-/// numlobes; seven empty entries become "0"; in thirteen entries every comma becomes a point.
-/// Throws type_mismatch when numlobes is no number.
+/// Clean up entries: an empty thick becomes "1" and a numlobes below 3 becomes "3", each with its
+/// message; stores numlobes; seven empty entries become "0"; in thirteen entries every comma
+/// becomes a point. Throws type_mismatch when numlobes is no number.
 void clean_up_entries(entries& boxes, design_params& design, user& person, std::int16_t language);
 
 /// An entry that stops the run.
@@ -28,8 +29,9 @@ struct refused_entry {
 /// Kept: ecc is tested as a text, so "0.0" and negative values pass.
 std::optional<refused_entry> first_refused_entry(const entries& boxes);
 
-/// Reads the entries into millimetres and sets inner_plot_len = (P + P) / coarseness + 1. outer_root is not read here.
-/// Throws division_by_zero when coarseness rounds to 0, overflow when a counter doesn't fit.
+/// Reads the entries into millimetres and sets inner_plot_len = (P + P) / coarseness + 1.
+/// outer_root is not read here. Throws division_by_zero when coarseness rounds to 0, overflow when
+/// a counter doesn't fit.
 void read_entries(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors);
 
 /// 2 * radinnroot < minmaterial + shaftdiameter.

@@ -16,13 +16,15 @@ double square_root_of_squares(double x, double y) {
 
 /// dy/dx at i by the central difference, 0 where dx is 0. before is i-1, for i = 0 the last point.
 double slope_at(const rotor_profiles& rotors, std::int64_t i, std::int64_t before) {
-    const double dy = (checked_at(rotors.troch_y, i + 1) - checked_at(rotors.troch_y, before)) / 2.0;
-    const double dx = (checked_at(rotors.troch_x, i + 1) - checked_at(rotors.troch_x, before)) / 2.0;
+    const double dy =
+        (checked_at(rotors.troch_y, i + 1) - checked_at(rotors.troch_y, before)) / 2.0;
+    const double dx =
+        (checked_at(rotors.troch_x, i + 1) - checked_at(rotors.troch_x, before)) / 2.0;
     return dx == 0.0 ? 0.0 : checked_divide(dy, dx);
 }
 
-/// The point at distance d from a trochoid point along its normal, towards the axis. Equal distances from the axis
-/// keep the first result.
+/// The point at distance d from a trochoid point along its normal, towards the axis. Equal
+/// distances from the axis keep the first result.
 point2 offset_point(const point2& troch, double slope, double d) {
     const double normal = checked_divide(-1.0, slope);
     const double phi = std::atan(normal);
@@ -34,11 +36,14 @@ point2 offset_point(const point2& troch, double slope, double d) {
     return first;
 }
 
-/// The last two elements of the plot list repeat its first point, which is inner point coarseness - 1.
+/// The last two elements of the plot list repeat its first point, which is inner point coarseness
+/// - 1.
 void close_plot_list(const design_params& design, rotor_profiles& rotors) {
     const std::int64_t first = design.coarseness - 1;
-    checked_at(rotors.inner_plot_xy, to_int32(rotors.inner_plot_len - 1.0)) = checked_at(rotors.inner_x, first);
-    checked_at(rotors.inner_plot_xy, to_int32(rotors.inner_plot_len)) = checked_at(rotors.inner_y, first);
+    checked_at(rotors.inner_plot_xy, to_int32(rotors.inner_plot_len - 1.0)) =
+        checked_at(rotors.inner_x, first);
+    checked_at(rotors.inner_plot_xy, to_int32(rotors.inner_plot_len)) =
+        checked_at(rotors.inner_y, first);
 }
 
 }  // namespace
@@ -53,10 +58,12 @@ void fill_inner_rotor(const design_params& design, rotor_profiles& rotors) {
             checked_at(rotors.troch_y, points) = rotors.troch_y[0];
             checked_at(rotors.troch_x, points) = rotors.troch_x[0];
         }
-        checked_at(rotors.troch_angle, i) = checked_divide(static_cast<double>(i) * PI_D, rotors.profile_points / 2.0);
+        checked_at(rotors.troch_angle, i) =
+            checked_divide(static_cast<double>(i) * PI_D, rotors.profile_points / 2.0);
         const double slope = slope_at(rotors, i, i == 0 ? points - 1 : i - 1);
         checked_at(rotors.troch_slope, i) = slope;
-        const point2 inner = offset_point({checked_at(rotors.troch_x, i), checked_at(rotors.troch_y, i)}, slope, d);
+        const point2 inner =
+            offset_point({checked_at(rotors.troch_x, i), checked_at(rotors.troch_y, i)}, slope, d);
         checked_at(rotors.inner_x, i) = inner.x;
         checked_at(rotors.inner_y, i) = inner.y;
         ++sample;
@@ -71,7 +78,8 @@ void fill_inner_rotor(const design_params& design, rotor_profiles& rotors) {
 }
 
 double measured_lobe_radius(const design_params& design, const rotor_profiles& rotors) {
-    const double half = round_half_even(checked_divide(rotors.profile_points / 2.0, design.numlobes - 1.0));
+    const double half =
+        round_half_even(checked_divide(rotors.profile_points / 2.0, design.numlobes - 1.0));
     const std::int32_t i1 = to_int32(half * 0.6);
     const std::int32_t i2 = to_int32(half * 1.4);
     const point2 p1 = {checked_at(rotors.troch_x, i1), checked_at(rotors.troch_y, i1)};

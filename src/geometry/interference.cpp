@@ -24,8 +24,8 @@ double plain_angle(const point2& point) {
     return std::atan(checked_divide(point.y, point.x));
 }
 
-/// The first inner lobe, turned back by half its pitch so that it lies about the x axis. The elements behind the lobe
-/// stay 0 and take part in the search.
+/// The first inner lobe, turned back by half its pitch so that it lies about the x axis. The
+/// elements behind the lobe stay 0 and take part in the search.
 polar_list first_inner_lobe(const design_params& design, const rotor_profiles& rotors) {
     const double inner_lobes = design.numlobes - 1.0;
     const auto points = static_cast<std::size_t>(to_int32(rotors.profile_points));
@@ -40,9 +40,11 @@ polar_list first_inner_lobe(const design_params& design, const rotor_profiles& r
     return lobe;
 }
 
-/// The first fillet, turned back by half an outer pitch about the outer centre and moved to the inner axis.
+/// The first fillet, turned back by half an outer pitch about the outer centre and moved to the
+/// inner axis.
 polar_list meshing_fillet(const design_params& design, const rotor_profiles& rotors) {
-    polar_list fillet{std::vector<double>(FILLET_LAST + 1, 0.0), std::vector<double>(FILLET_LAST + 1, 0.0)};
+    polar_list fillet{std::vector<double>(FILLET_LAST + 1, 0.0),
+                      std::vector<double>(FILLET_LAST + 1, 0.0)};
     const double h = checked_divide(PI_D, design.numlobes);
     for (std::int64_t j = 0; j <= FILLET_LAST; ++j) {
         const point2 about_outer = point_at(rotors.fillet_x, rotors.fillet_y, j);
@@ -61,7 +63,8 @@ double distance(double a, double b) {
 
 }  // namespace
 
-std::optional<interference> find_interference(const design_params& design, const rotor_profiles& rotors) {
+std::optional<interference> find_interference(const design_params& design,
+                                              const rotor_profiles& rotors) {
     const polar_list inner = first_inner_lobe(design, rotors);
     const polar_list fillet = meshing_fillet(design, rotors);
     interference found{100.0, 0.0};
@@ -74,7 +77,8 @@ std::optional<interference> find_interference(const design_params& design, const
                 return std::nullopt;
             }
         }
-        if (distance(checked_at(inner.angle, n), angle) > distance(checked_at(inner.angle, n - 1), angle)) {
+        if (distance(checked_at(inner.angle, n), angle) >
+            distance(checked_at(inner.angle, n - 1), angle)) {
             --n;
         }
         const double depth = checked_at(inner.radius, n) - checked_at(fillet.radius, j);

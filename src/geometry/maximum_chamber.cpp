@@ -43,7 +43,8 @@ double inner_sum(const left_window& window, rotor_profiles& rotors) {
         const point2 point = point_at(rotors.rot_inner_x, rotors.rot_inner_y, i);
         checked_at(radius, i) = radius_of(point);
         if (window.holds(point)) {
-            area += inner_triangle_area(before, checked_at(radius, i - 1), point, checked_at(radius, i));
+            area += inner_triangle_area(before, checked_at(radius, i - 1), point,
+                                        checked_at(radius, i));
         }
     }
     return area;
@@ -57,8 +58,8 @@ double outer_sum(const left_window& window, rotor_profiles& rotors) {
         const point2 point = pair_at(rotors.rot_outer_xy, k);
         checked_at(radius, k) = radius_of(point);
         if (window.holds(point)) {
-            area += outer_triangle_area(pair_at(rotors.rot_outer_xy, k - 2), checked_at(radius, k - 2), point,
-                                        checked_at(radius, k));
+            area += outer_triangle_area(pair_at(rotors.rot_outer_xy, k - 2),
+                                        checked_at(radius, k - 2), point, checked_at(radius, k));
         }
     }
     return area;
@@ -66,7 +67,8 @@ double outer_sum(const left_window& window, rotor_profiles& rotors) {
 
 }  // namespace
 
-void calculate_maximum_chamber(const design_params& design, rotor_profiles& rotors, labels& outputs) {
+void calculate_maximum_chamber(const design_params& design, rotor_profiles& rotors,
+                               labels& outputs) {
     clear_working_copies(rotors, RADIUS_LAST);
     turn_to_maximum(design, rotors);
 

@@ -30,7 +30,8 @@ struct right_window {
 /// What the outer sum leaves for the inner one.
 struct outer_window_sum {
     double area = 0.0;
-    point2 first_edge, last_edge;     ///< the pair before the window's first, and the last pair in the window
+    point2 first_edge,
+        last_edge;  ///< the pair before the window's first, and the last pair in the window
     double b_min = 0.0, b_max = 0.0;  ///< smallest and largest angle met, both from 0, radians
 };
 
@@ -50,7 +51,8 @@ outer_window_sum outer_sum(const right_window& window, rotor_profiles& rotors) {
             sum.first_edge = before;
             started = true;
         }
-        sum.area += outer_triangle_area(before, checked_at(radius, k - 2), point, checked_at(radius, k));
+        sum.area +=
+            outer_triangle_area(before, checked_at(radius, k - 2), point, checked_at(radius, k));
         sum.last_edge = point;
         const double angle = std::atan(checked_divide(point.y, point.x));
         sum.b_min = std::fmin(sum.b_min, angle);
@@ -59,7 +61,8 @@ outer_window_sum outer_sum(const right_window& window, rotor_profiles& rotors) {
     return sum;
 }
 
-/// The inner side: the first point in the window is joined to the first edge point, the last one to the last.
+/// The inner side: the first point in the window is joined to the first edge point, the last one to
+/// the last.
 double inner_sum(const outer_window_sum& outer, rotor_profiles& rotors) {
     const right_window window = {std::tan(outer.b_min), std::tan(outer.b_max)};
     std::vector<double>& radius = rotors.radius_scratch;
@@ -75,11 +78,12 @@ double inner_sum(const outer_window_sum& outer, rotor_profiles& rotors) {
         checked_at(radius, i) = radius_of(point);
         if (window.holds(point)) {
             area += started ? inner_triangle_area(before, r_before, point, checked_at(radius, i))
-                            : inner_triangle_area(outer.first_edge, radius_of(outer.first_edge), point,
-                                                  checked_at(radius, i));
+                            : inner_triangle_area(outer.first_edge, radius_of(outer.first_edge),
+                                                  point, checked_at(radius, i));
             started = true;
         } else if (started && !ended && point.x > 0.0) {
-            area += inner_triangle_area(before, r_before, outer.last_edge, radius_of(outer.last_edge));
+            area +=
+                inner_triangle_area(before, r_before, outer.last_edge, radius_of(outer.last_edge));
             ended = true;
         }
     }
@@ -88,7 +92,8 @@ double inner_sum(const outer_window_sum& outer, rotor_profiles& rotors) {
 
 }  // namespace
 
-void calculate_minimum_chamber(const design_params& design, rotor_profiles& rotors, labels& outputs) {
+void calculate_minimum_chamber(const design_params& design, rotor_profiles& rotors,
+                               labels& outputs) {
     clear_working_copies(rotors, RADIUS_LAST);
     turn_inner_profile(checked_divide(PI_D, design.numlobes - 1.0), rotors);
     turn_outer_profile_about_its_centre(checked_divide(PI_D, design.numlobes), design, rotors);

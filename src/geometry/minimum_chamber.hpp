@@ -7,9 +7,11 @@
 
 namespace kvt {
 
-/// Sets min_chamber_inner_angle, min_chamber_outer_angle and the label min_chamb_vol. The outer sum runs over the
-/// window of the chamber and finds its edge points and angles; the inner sum runs between these angles and closes
-/// against the edge points. Source: docs/formulas/chambers.md, "Minimum chamber".
-void calculate_minimum_chamber(const design_params& design, rotor_profiles& rotors, labels& outputs);
+/// Sets min_chamber_inner_angle, min_chamber_outer_angle and the label min_chamb_vol. The outer sum
+/// runs over the window of the chamber and finds its edge points and angles; the inner sum runs
+/// between these angles and closes against the edge points. Source: docs/formulas/chambers.md,
+/// "Minimum chamber".
+void calculate_minimum_chamber(const design_params& design, rotor_profiles& rotors,
+                               labels& outputs);
 
 }  // namespace kvt

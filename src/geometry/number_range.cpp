@@ -18,7 +18,8 @@ number_range operator-(const number_range& a, const number_range& b) {
 }
 
 number_range operator*(const number_range& a, const number_range& b) {
-    const auto [low, high] = std::minmax({a.low * b.low, a.low * b.high, a.high * b.low, a.high * b.high});
+    const auto [low, high] =
+        std::minmax({a.low * b.low, a.low * b.high, a.high * b.low, a.high * b.high});
     return {low, high};
 }
 

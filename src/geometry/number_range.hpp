@@ -3,7 +3,8 @@
 
 namespace kvt {
 
-/// All numbers from low to high. The rounding of the bounds is not covered: widen by the error that matters.
+/// All numbers from low to high. The rounding of the bounds is not covered: widen by the error that
+/// matters.
 struct number_range {
     double low = 0.0, high = 0.0;
 

@@ -11,8 +11,8 @@ namespace kvt {
 
 namespace {
 
-/// A row holds when the four signs are those of start x, start y, end x, end y. The angle is then turn + sign * a with
-/// a the plain arctangent.
+/// A row holds when the four signs are those of start x, start y, end x, end y. The angle is then
+/// turn + sign * a with a the plain arctangent.
 struct unwrap_row {
     int start_x, start_y, end_x, end_y;
     double turn;
@@ -68,10 +68,11 @@ double plain_arctangent(const point2& difference, double radius) {
     return std::atan(checked_divide(rise, run));
 }
 
-double unwrapped(std::span<const unwrap_row> rows, const point2& start, const point2& end, double a) {
+double unwrapped(std::span<const unwrap_row> rows, const point2& start, const point2& end,
+                 double a) {
     for (const unwrap_row& row : rows) {
-        if (row.start_x == sign_of(start.x) && row.start_y == sign_of(start.y) && row.end_x == sign_of(end.x) &&
-            row.end_y == sign_of(end.y)) {
+        if (row.start_x == sign_of(start.x) && row.start_y == sign_of(start.y) &&
+            row.end_x == sign_of(end.x) && row.end_y == sign_of(end.y)) {
             return row.turn + row.sign * a;
         }
     }

@@ -13,9 +13,9 @@ struct arc_angles {
 };
 
 /// Fillet or root arc of this radius between two points, given as differences from its centre.
-/// The end angle is unwrapped against the start angle, so that the arc runs the short way without a jump at the axis.
-/// A difference of exactly 0 in y keeps the plain arctangent. Throws division_by_zero for a difference of 0 in x.
-/// Source: docs/formulas/outer_rotor.md, "Unwrapping".
+/// The end angle is unwrapped against the start angle, so that the arc runs the short way without a
+/// jump at the axis. A difference of exactly 0 in y keeps the plain arctangent. Throws
+/// division_by_zero for a difference of 0 in x. Source: docs/formulas/outer_rotor.md, "Unwrapping".
 arc_angles fillet_or_root_arc(const point2& start, const point2& end, double radius);
 
 /// Lobe arc of this radius between two points, given as differences from the lobe centre.

@@ -19,7 +19,8 @@ double fillet_angle(const design_params& design, double centre_radius) {
     const double C = centre_radius;
     const double to_fillet = design.outer_root - design.fillet;
     const double reach = design.radouter + design.fillet;
-    const double c = checked_divide(to_fillet * to_fillet + C * C - reach * reach, (to_fillet + to_fillet) * C);
+    const double c =
+        checked_divide(to_fillet * to_fillet + C * C - reach * reach, (to_fillet + to_fillet) * C);
     return arc_cosine_form(c, PI_H);
 }
 

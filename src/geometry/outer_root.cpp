@@ -29,14 +29,14 @@ void keep_or_drop_outer_root(entries& boxes, design_params& design) {
 
 outer_root_limits limits_of_outer_root(const design_params& design, const rotor_profiles& rotors) {
     outer_root_limits limits;
-    limits.minimum =
-        checked_finite(design.ecc + rotors.base_radius + rotors.roll_radius + design.ecc - design.radouter);
+    limits.minimum = checked_finite(design.ecc + rotors.base_radius + rotors.roll_radius +
+                                    design.ecc - design.radouter);
     limits.maximum = std::max(limits.minimum, checked_finite(rotors.trochoid_r));
     return limits;
 }
 
-void apply_outer_root_rules(const rotor_profiles& rotors, bool inches, std::int16_t language, design_params& design,
-                            entries& boxes, user& person) {
+void apply_outer_root_rules(const rotor_profiles& rotors, bool inches, std::int16_t language,
+                            design_params& design, entries& boxes, user& person) {
     const outer_root_limits limits = limits_of_outer_root(design, rotors);
     const double unit = inches ? MM_PER_INCH : 1.0;
     if (boxes.outer_root.empty()) {

@@ -94,7 +94,8 @@ class outer_profile_walk {
         }
     }
 
-    /// Stores a point in the coordinates of the inner rotor axis; it becomes the current end of the profile.
+    /// Stores a point in the coordinates of the inner rotor axis; it becomes the current end of the
+    /// profile.
     void store(const point2& point) {
         checked_at(rotors_.outer_xy, k_) = point.x - design_.ecc;
         checked_at(rotors_.outer_x, m_) = point.x - design_.ecc;
@@ -109,17 +110,19 @@ class outer_profile_walk {
 
     point2 fillet_point(const point2& centre, const arc_angles& arc, int j) const {
         const double angle = j * arc.sweep / FILLET_POINTS + arc.a0;
-        return {design_.fillet * std::cos(angle) + centre.x, design_.fillet * std::sin(angle) + centre.y};
+        return {design_.fillet * std::cos(angle) + centre.x,
+                design_.fillet * std::sin(angle) + centre.y};
     }
 
-    /// The fillet of the first flank of lobe 0, with its start point; kept apart for the interference check.
+    /// The fillet of the first flank of lobe 0, with its start point; kept apart for the
+    /// interference check.
     void first_fillet_arc(double root_angle) {
         for (auto* list : {&rotors_.fillet_x, &rotors_.fillet_y, &rotors_.fillet_r}) {
             list->assign(FILLET_POINTS + 1, 0.0);
         }
         const point2 centre = polar_point(design_.outer_root - design_.fillet, root_angle);
-        const arc_angles arc =
-            fillet_or_root_arc(difference(root_end(), centre), difference(lobe_end(), centre), design_.fillet);
+        const arc_angles arc = fillet_or_root_arc(difference(root_end(), centre),
+                                                  difference(lobe_end(), centre), design_.fillet);
         for (int j = 0; j <= FILLET_POINTS; ++j) {
             const point2 point = fillet_point(centre, arc, j);
             store(point);
@@ -131,7 +134,8 @@ class outer_profile_walk {
 
     void fillet_arc(double root_angle, const point2& start, const point2& end) {
         const point2 centre = polar_point(design_.outer_root - design_.fillet, root_angle);
-        const arc_angles arc = fillet_or_root_arc(difference(start, centre), difference(end, centre), design_.fillet);
+        const arc_angles arc =
+            fillet_or_root_arc(difference(start, centre), difference(end, centre), design_.fillet);
         for (int j = 1; j <= FILLET_POINTS; ++j) {
             store(fillet_point(centre, arc, j));
         }
@@ -147,7 +151,8 @@ class outer_profile_walk {
     void lobe_arc_to(const point2& end) {
         const point2 centre = polar_point(lobe_centre_radius_, theta_);
         const double Ro = design_.radouter;
-        const arc_angles arc = lobe_arc(difference(current_end(), centre), difference(end, centre), Ro);
+        const arc_angles arc =
+            lobe_arc(difference(current_end(), centre), difference(end, centre), Ro);
         for (int j = 1; j <= LOBE_POINTS; ++j) {
             const double angle = arc.a0 - j * (arc.sweep / LOBE_POINTS);
             store({centre.x + Ro * std::cos(angle), centre.y + Ro * std::sin(angle)});
@@ -165,7 +170,8 @@ class outer_profile_walk {
 };
 
 void size_outer_lists(const design_params& design, rotor_profiles& rotors) {
-    const double values = design.fillet == 0.0 ? LOBE_VALUES_WITHOUT_FILLETS : LOBE_VALUES_WITH_FILLETS;
+    const double values =
+        design.fillet == 0.0 ? LOBE_VALUES_WITHOUT_FILLETS : LOBE_VALUES_WITH_FILLETS;
     rotors.outer_xy_size = to_int32(2.0 * design.numlobes * values + 1.0);
     const auto last_point = static_cast<std::size_t>(to_int32(rotors.outer_xy_size / 2.0));
     rotors.outer_xy.assign(static_cast<std::size_t>(rotors.outer_xy_size) + 1, 0.0);

@@ -15,8 +15,8 @@ double radius_of(const point2& point);
 /// Area of the triangle of the origin with the points p and q at distances rp and rq from it, mm2:
 ///     c = (rq^2 + rp^2 - d^2) / ((rq + rq) rp)      s = sqrt(1 - c^2)      area = rp rq s / 2
 /// d is the distance of p and q. Source: docs/formulas/chambers.md, "Triangle rule".
-/// Kept: the sums of the inner profile have no guard, a negative 1 - c^2 throws invalid_procedure_call; those of the
-/// outer profile make it positive. polar_area_test holds it.
+/// Kept: the sums of the inner profile have no guard, a negative 1 - c^2 throws
+/// invalid_procedure_call; those of the outer profile make it positive. polar_area_test holds it.
 double inner_triangle_area(const point2& p, double rp, const point2& q, double rq);
 double outer_triangle_area(const point2& p, double rp, const point2& q, double rq);
 

@@ -1,4 +1,5 @@
-// The entries that Calculate Profiles and the Design assist both need above 0, in the order in which both check them.
+// The entries that Calculate Profiles and the Design assist both need above 0, in the order in
+// which both check them.
 #pragma once
 
 #include "base/number_text.hpp"
@@ -29,8 +30,10 @@ inline constexpr std::array<required_entry, 8> REQUIRED_ENTRIES = {{
     {&entries::radial_clear, message::input_radial_clear},
 }};
 
-/// The message of the first entry that is not above 0, or nothing. A text that is no number reads as 0.
-inline std::optional<message> first_missing_entry(const entries& boxes, std::span<const required_entry> rows) {
+/// The message of the first entry that is not above 0, or nothing. A text that is no number reads
+/// as 0.
+inline std::optional<message> first_missing_entry(const entries& boxes,
+                                                  std::span<const required_entry> rows) {
     for (const auto& [entry, text] : rows) {
         if (!(val(boxes.*entry) > 0.0)) {
             return text;

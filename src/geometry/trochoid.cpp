@@ -21,7 +21,8 @@ void append_xy(rotor_profiles& rotors, std::int64_t& k, double x, double y) {
 }
 
 /// Computes and stores point i at the accumulated angle.
-void store_point(const design_params& design, rotor_profiles& rotors, std::int64_t i, double millionths) {
+void store_point(const design_params& design, rotor_profiles& rotors, std::int64_t i,
+                 double millionths) {
     const double degrees = millionths / MILLIONTHS_PER_DEGREE;
     const double t = degrees * PI_D / 180.0;
     const point2 point = trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc, t);
@@ -34,8 +35,8 @@ void store_point(const design_params& design, rotor_profiles& rotors, std::int64
 
 void set_rolling_circles(const design_params& design, rotor_profiles& rotors) {
     const double inner_lobes = design.numlobes - 1.0;
-    rotors.base_radius =
-        checked_divide(design.radouter + design.radinnroot + design.ecc, checked_divide(1.0, inner_lobes) + 1.0);
+    rotors.base_radius = checked_divide(design.radouter + design.radinnroot + design.ecc,
+                                        checked_divide(1.0, inner_lobes) + 1.0);
     rotors.roll_radius = checked_divide(rotors.base_radius, inner_lobes);
 }
 
@@ -52,8 +53,8 @@ double smallest_curvature_radius(const design_params& design, const rotor_profil
     if (bracket < 0.0) {
         return 0.0;
     }
-    return checked_finite(checked_pow(checked_divide(3.0, lobes + 1.0), 1.5) * checked_divide(1.0, K) *
-                          checked_pow(bracket, 0.5) * rotors.trochoid_r);
+    return checked_finite(checked_pow(checked_divide(3.0, lobes + 1.0), 1.5) *
+                          checked_divide(1.0, K) * checked_pow(bracket, 0.5) * rotors.trochoid_r);
 }
 
 bool curves_too_tightly(const design_params& design, const rotor_profiles& rotors) {
@@ -65,7 +66,8 @@ point2 trochoid_point(double base_radius, double roll_radius, double ecc, double
     const double b = roll_radius;
     const double e = ecc;
     const double rolled = checked_divide((b + a) * t, b);
-    return {(b + a) * std::cos(t) - e * std::cos(rolled), (b + a) * std::sin(t) - e * std::sin(rolled)};
+    return {(b + a) * std::cos(t) - e * std::cos(rolled),
+            (b + a) * std::sin(t) - e * std::sin(rolled)};
 }
 
 bool fill_trochoid(const design_params& design, rotor_profiles& rotors) {

@@ -1,4 +1,5 @@
-// The epitrochoid from which the inner rotor is offset: its circles, the curvature check, its points.
+// The epitrochoid from which the inner rotor is offset: its circles, the curvature check, its
+// points.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -13,7 +14,8 @@ namespace kvt {
 void set_rolling_circles(const design_params& design, rotor_profiles& rotors);
 
 /// The rolling circles, and
-///     trochoid_r = radouter + radinnroot + ecc - clearn_half      trochoid_ratio K = trochoid_r / (N ecc)
+///     trochoid_r = radouter + radinnroot + ecc - clearn_half      trochoid_ratio K = trochoid_r /
+///     (N ecc)
 /// Throws division_by_zero when ecc is 0.
 void set_trochoid_parameters(const design_params& design, rotor_profiles& rotors);
 
@@ -22,19 +24,20 @@ void set_trochoid_parameters(const design_params& design, rotor_profiles& rotors
 /// Source: docs/formulas/trochoid.md, "Curvature".
 double smallest_curvature_radius(const design_params& design, const rotor_profiles& rotors);
 
-/// Whether the lobes don't fit into the tightest curve of the trochoid: radouter * 1.0005 > rho, a margin of 0.05
-/// percent.
+/// Whether the lobes don't fit into the tightest curve of the trochoid: radouter * 1.0005 > rho, a
+/// margin of 0.05 percent.
 bool curves_too_tightly(const design_params& design, const rotor_profiles& rotors);
 
 /// Point of the epitrochoid, mm about the inner rotor axis.
 ///     x = (b + a) cos t - e cos((b + a) t / b)      y likewise with sin
-/// a base_radius, b roll_radius, e ecc, all mm; t the generating angle, radians. Throws division_by_zero when b is 0.
+/// a base_radius, b roll_radius, e ecc, all mm; t the generating angle, radians. Throws
+/// division_by_zero when b is 0.
 point2 trochoid_point(double base_radius, double roll_radius, double ecc, double t);
 
-/// Fills troch_x, troch_y, troch_angle 0 .. P-1 and troch_xy, which repeats the first point at its end. Point 0 lies
-/// one fine step past the positive x axis, the last point on it at 360 degrees. Returns false, with the points not
-/// complete, when point 1 lies below the x axis: the trochoid crosses itself. Throws overflow when the lobes don't fit
-/// the 16-bit counter.
+/// Fills troch_x, troch_y, troch_angle 0 .. P-1 and troch_xy, which repeats the first point at its
+/// end. Point 0 lies one fine step past the positive x axis, the last point on it at 360 degrees.
+/// Returns false, with the points not complete, when point 1 lies below the x axis: the trochoid
+/// crosses itself. Throws overflow when the lobes don't fit the 16-bit counter.
 bool fill_trochoid(const design_params& design, rotor_profiles& rotors);
 
 }  // namespace kvt

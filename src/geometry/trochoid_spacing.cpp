@@ -44,7 +44,8 @@ trochoid_spacing spacing_of_points(double points, double inner_lobes) {
     zones.n_mid = floor_to_int(per_lobe * MIDDLE_SHARE);
 
     const double rest = points - (zones.n_start + zones.n_end + zones.n_mid) * z;
-    const double deg_fixed = zones.n_start * FINE_DEGREES + zones.n_end * FINE_DEGREES + zones.n_mid * COARSE_DEGREES;
+    const double deg_fixed =
+        zones.n_start * FINE_DEGREES + zones.n_end * FINE_DEGREES + zones.n_mid * COARSE_DEGREES;
     if (rest > z) {
         zones.n_extra = floor_to_int(checked_divide(rest, z));
         zones.step_extra = checked_divide(360.0 - deg_fixed * z, rest);

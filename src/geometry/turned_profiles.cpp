@@ -47,7 +47,8 @@ void turn_outer_profile(double rotation, rotor_profiles& rotors) {
     }
 }
 
-void turn_outer_profile_about_its_centre(double rotation, const design_params& design, rotor_profiles& rotors) {
+void turn_outer_profile_about_its_centre(double rotation, const design_params& design,
+                                         rotor_profiles& rotors) {
     for (std::int64_t k = 0; k <= rotors.outer_xy_last; k += 2) {
         const point2 pair = pair_at(rotors.outer_xy, k);
         const point2 point = turned({design.ecc + pair.x, pair.y}, rotation);

@@ -41,7 +41,8 @@ class path_builder {
     point2 end_;
 };
 
-/// The path of lobes with this design's radii about centres at radius C, joined by root arcs and fillets.
+/// The path of lobes with this design's radii about centres at radius C, joined by root arcs and
+/// fillets.
 outer_path path_with_roots(const design_params& design, double C, const outer_flank& flank) {
     const double step = checked_divide(TWO_PI_D, design.numlobes);
     const double fillet_centre_radius = design.outer_root - design.fillet;
@@ -50,7 +51,8 @@ outer_path path_with_roots(const design_params& design, double C, const outer_fl
     path_builder built(root_end(step - flank.alpha));
     const auto fillet = [&](double angle, point2 end) {
         if (design.fillet != 0.0) {
-            built.arc(outer_arc_kind::fillet, polar_point(fillet_centre_radius, angle), design.fillet, end);
+            built.arc(outer_arc_kind::fillet, polar_point(fillet_centre_radius, angle),
+                      design.fillet, end);
         }
     };
     double theta = 0.0;
@@ -60,7 +62,8 @@ outer_path path_with_roots(const design_params& design, double C, const outer_fl
             built.arc(outer_arc_kind::root, {}, design.outer_root, root_end(theta - flank.alpha));
         }
         fillet(theta - flank.alpha, lobe_end(theta - flank.beta));
-        built.arc(outer_arc_kind::lobe, polar_point(C, theta), design.radouter, lobe_end(theta + flank.beta));
+        built.arc(outer_arc_kind::lobe, polar_point(C, theta), design.radouter,
+                  lobe_end(theta + flank.beta));
         fillet(theta + flank.alpha, root_end(theta + flank.alpha));
     }
     built.arc(outer_arc_kind::root, {}, design.outer_root, built.first());
@@ -77,7 +80,8 @@ outer_path path_with_corners(std::int32_t numlobes, double C, double lobe_radius
     double theta = 0.0;
     for (std::int32_t lobe = 0; lobe < numlobes; ++lobe) {
         theta = theta + step;
-        built.arc(outer_arc_kind::lobe, polar_point(C, theta), lobe_radius, polar_point(rho, theta + half));
+        built.arc(outer_arc_kind::lobe, polar_point(C, theta), lobe_radius,
+                  polar_point(rho, theta + half));
     }
     return built.path();
 }
@@ -136,7 +140,8 @@ std::vector<point2> arc_points(const outer_path_arc& arc) {
         return samples(arc, angles.a0, -angles.sweep, LOBE_STEPS);
     }
     const arc_angles angles = fillet_or_root_arc(start, end, arc.radius);
-    return samples(arc, angles.a0, angles.sweep, arc.kind == outer_arc_kind::fillet ? FILLET_STEPS : ROOT_STEPS);
+    return samples(arc, angles.a0, angles.sweep,
+                   arc.kind == outer_arc_kind::fillet ? FILLET_STEPS : ROOT_STEPS);
 }
 
 std::vector<point2> outer_path_points(const outer_path& path) {

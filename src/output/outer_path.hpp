@@ -1,4 +1,5 @@
-// The outer rotor as a chain of circular arcs: what the CNC and DXF files of the outer rotor walk along.
+// The outer rotor as a chain of circular arcs: what the CNC and DXF files of the outer rotor walk
+// along.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -19,36 +20,39 @@ struct outer_path_arc {
     point2 start, end;
 };
 
-/// A closed path: the last arc ends at the first point. About the outer rotor centre, in the unit of the design.
+/// A closed path: the last arc ends at the first point. About the outer rotor centre, in the unit
+/// of the design.
 struct outer_path {
     point2 first;
     std::vector<outer_path_arc> arcs;
 };
 
-/// The values that the outer rotor's files read from the boxes of the Design form each time: numlobes, ecc, radouter,
-/// radinnroot, fillet, outer_root. with_inches multiplies the lengths by 25.4; without it they stay as typed.
-/// Throws overflow for a number of lobes beyond 32 bits.
+/// The values that the outer rotor's files read from the boxes of the Design form each time:
+/// numlobes, ecc, radouter, radinnroot, fillet, outer_root. with_inches multiplies the lengths
+/// by 25.4; without it they stay as typed. Throws overflow for a number of lobes beyond 32 bits.
 design_params outer_rotor_entries(const entries& boxes, bool with_inches);
 
-/// N lobes of radius r about centres at C = radinnroot + ecc + r, joined to the root circle of radius outer_root by
-/// fillets. Lobe i stands at (i + 1) TWO_PI_D/N, so the path starts one step past the x axis: at the root end of that
-/// lobe's first flank. Without fillets their arcs are missing and the ends of a flank coincide up to rounding.
-/// Source: docs/formulas/outer_rotor.md, "Tangent point". Throws run_time_error for a geometry that doesn't close.
+/// N lobes of radius r about centres at C = radinnroot + ecc + r, joined to the root circle of
+/// radius outer_root by fillets. Lobe i stands at (i + 1) TWO_PI_D/N, so the path starts one step
+/// past the x axis: at the root end of that lobe's first flank. Without fillets their arcs are
+/// missing and the ends of a flank coincide up to rounding. Source: docs/formulas/outer_rotor.md,
+/// "Tangent point". Throws run_time_error for a geometry that doesn't close.
 outer_path outer_rotor_path(const design_params& design);
 
-/// The path of a cutter's centre: lobes r + tool_radius, root outer_root - tool_radius, fillets fillet - tool_radius
-/// and none when that is negative; the lobe centres stay. Where the root arcs vanish (2 alpha N >= TWO_PI_D) the lobe
-/// arcs meet in sharp corners halfway between two lobes, at
+/// The path of a cutter's centre: lobes r + tool_radius, root outer_root - tool_radius, fillets
+/// fillet - tool_radius and none when that is negative; the lobe centres stay. Where the root arcs
+/// vanish (2 alpha N >= TWO_PI_D) the lobe arcs meet in sharp corners halfway between two lobes, at
 ///     rho = x - sqrt((r + tool_radius)^2 - (C^2 - x^2))      x = C cos(TWO_PI_D / (2 N))
 outer_path outer_rotor_offset_path(const design_params& design, double tool_radius);
 
-/// The points of an arc behind its start, the last one at its end: 10 a fillet, 50 a root, 250 a lobe.
+/// The points of an arc behind its start, the last one at its end: 10 a fillet, 50 a root, 250 a
+/// lobe.
 ///     centre + radius (cos, sin) of start + j (end - start) / n      j = 1 .. n
 /// Throws division_by_zero for an end straight above or below the centre.
 std::vector<point2> arc_points(const outer_path_arc& arc);
 
-/// The first point, the points of every arc, then the first point again: 1 + 320 N + 1 points, without fillets
-/// 1 + 300 N + 1.
+/// The first point, the points of every arc, then the first point again: 1 + 320 N + 1 points,
+/// without fillets 1 + 300 N + 1.
 std::vector<point2> outer_path_points(const outer_path& path);
 
 }  // namespace kvt

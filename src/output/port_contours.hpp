@@ -1,4 +1,5 @@
-// The outlines of the ports and of the metering groove as lists of points, as the output files walk along them.
+// The outlines of the ports and of the metering groove as lists of points, as the output files walk
+// along them.
 #pragma once
 
 #include "geometry/point2.hpp"
@@ -10,11 +11,12 @@ namespace kvt {
 
 enum class port_side { inlet, outlet };
 
-/// Points 0 .. last of a port's outline, mm about the inner rotor axis; the list stops before the first x that is
-/// exactly 0. Empty for a port that was not designed.
+/// Points 0 .. last of a port's outline, mm about the inner rotor axis; the list stops before the
+/// first x that is exactly 0. Empty for a port that was not designed.
 std::vector<point2> port_contour(const port_params& ports, port_side side);
 
-/// Points 0 .. groove_last of the metering groove with its tail; the last one repeats point 0. Empty without a groove.
+/// Points 0 .. groove_last of the metering groove with its tail; the last one repeats point 0.
+/// Empty without a groove.
 std::vector<point2> groove_contour(const port_params& ports);
 
 /// The same points with x negated, in the same order: the outline of a shadow port.

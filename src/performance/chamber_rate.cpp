@@ -26,8 +26,8 @@ void fill_rates(double radouter, double delta, perf_results& results) {
         const double u2 = sin_delta * std::sin(theta);
         const double w1 = arm_length(results.ratio, delta + theta);
         const double w2 = arm_length(results.ratio, theta);
-        const double rate =
-            results.width_ecc * results.ecc_n * (u1 - u2) + results.width_ecc * (radouter / 1000.0) * (w1 - w2);
+        const double rate = results.width_ecc * results.ecc_n * (u1 - u2) +
+                            results.width_ecc * (radouter / 1000.0) * (w1 - w2);
         checked_at(results.chamber_rate, s) = checked_finite(rate);
         if (rate > 0.0) {
             results.rate_sum = results.rate_sum + rate;
@@ -37,9 +37,11 @@ void fill_rates(double radouter, double delta, perf_results& results) {
 
 }  // namespace
 
-void set_chamber_rate(const design_params& design, const rotor_profiles& rotors, perf_results& results) {
+void set_chamber_rate(const design_params& design, const rotor_profiles& rotors,
+                      perf_results& results) {
     results.ratio = checked_divide(design.radouter, rotors.trochoid_r);
-    results.width_ecc = checked_divide((design.ecc / 1000.0) * (design.thick / 1000.0), results.ratio);
+    results.width_ecc =
+        checked_divide((design.ecc / 1000.0) * (design.thick / 1000.0), results.ratio);
     results.ecc_n = (design.ecc / 1000.0) * design.numlobes;
     fill_rates(design.radouter, RADIANS_PER_STEP, results);
     const double chamber_m3 = checked_divide(rotors.capacity_cc / 1000000.0, design.numlobes - 1.0);

@@ -9,22 +9,27 @@ namespace kvt {
 
 namespace {
 
-void set_seal_lengths(const design_params& design, const port_params& ports, perf_results& results) {
+void set_seal_lengths(const design_params& design, const port_params& ports,
+                      perf_results& results) {
     results.seal_len_a = (design.ecc + ports.outlet_outer_r - ports.outlet_inner_r) / 1000.0;
     results.seal_len_b = (ports.outlet_outer_r - design.ecc - ports.outlet_inner_r) / 1000.0;
     results.seal_len_c = design.shaftdiameter * PI_D / 2000.0;
 }
 
-/// Flow between parallel plates over the land between the outlet port and the shaft, for pressure j.
-/// Kept: balanced rotors halve the gap in the velocity only, not in the area; delivered_flow_test holds it.
-void set_face_leak(const design_params& design, const port_params& ports, const perf_inputs& inputs, std::size_t j,
-                   perf_results& results) {
+/// Flow between parallel plates over the land between the outlet port and the shaft, for pressure
+/// j. Kept: balanced rotors halve the gap in the velocity only, not in the area;
+/// delivered_flow_test holds it.
+void set_face_leak(const design_params& design, const port_params& ports, const perf_inputs& inputs,
+                   std::size_t j, perf_results& results) {
     const double land_m = (ports.outlet_inner_r - design.shaftdiameter / 2.0) / 1000.0;
-    const double gap_m = is_balanced(inputs) ? design.axial_clear / 2000.0 : design.axial_clear / 1000.0;
+    const double gap_m =
+        is_balanced(inputs) ? design.axial_clear / 2000.0 : design.axial_clear / 1000.0;
     results.face_gradient[j] = checked_divide(results.press_pa[j], land_m);
-    results.face_velocity[j] = checked_divide(results.face_gradient[j] * (gap_m * gap_m), results.dyn_visc * 12.0);
-    results.leak_face[j] = checked_finite((results.seal_len_c + results.seal_len_a + results.seal_len_b) *
-                                          design.axial_clear * results.face_velocity[j] / 1000.0);
+    results.face_velocity[j] =
+        checked_divide(results.face_gradient[j] * (gap_m * gap_m), results.dyn_visc * 12.0);
+    results.leak_face[j] =
+        checked_finite((results.seal_len_c + results.seal_len_a + results.seal_len_b) *
+                       design.axial_clear * results.face_velocity[j] / 1000.0);
 }
 
 void set_leaks(const design_params& design, const port_params& ports, const perf_inputs& inputs,
@@ -32,7 +37,8 @@ void set_leaks(const design_params& design, const port_params& ports, const perf
     results.tip_gap_r = checked_sqrt((2.0 * design.clearn_half) * design.thick / PIPE_MM2_PER_M2);
     set_seal_lengths(design, ports, results);
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-        results.leak_tip[j] = tip_leak(results.tip_gap_r, results.tip_radius, results.dyn_visc, results.press_pa[j]);
+        results.leak_tip[j] =
+            tip_leak(results.tip_gap_r, results.tip_radius, results.dyn_visc, results.press_pa[j]);
         set_face_leak(design, ports, inputs, j, results);
     }
 }
@@ -48,13 +54,18 @@ double tip_leak(double tip_gap_r, double tip_radius, double dyn_visc, double pre
            checked_divide(press_pa, 2.0 * tip_radius * PI_D / 1000.0);
 }
 
-double effective_capacity(const design_params& design, const rotor_profiles& rotors, const port_params& ports) {
-    const double r_out = ports.outlet_outer_r > design.outer_root ? design.outer_root : ports.outlet_outer_r;
-    const double r_in = ports.outlet_inner_r < design.radinnroot ? design.radinnroot : ports.outlet_inner_r;
-    const double chamber_arc_deg = 180.0 - rotors.max_chamber_outer_angle - rotors.min_chamber_outer_angle;
-    const double effective_cc = checked_divide(
-        (ports.outlet_end_outer_deg - ports.outlet_start_outer_deg) * rotors.capacity_cc * (r_out - r_in),
-        chamber_arc_deg * (design.outer_root - design.radinnroot));
+double effective_capacity(const design_params& design, const rotor_profiles& rotors,
+                          const port_params& ports) {
+    const double r_out =
+        ports.outlet_outer_r > design.outer_root ? design.outer_root : ports.outlet_outer_r;
+    const double r_in =
+        ports.outlet_inner_r < design.radinnroot ? design.radinnroot : ports.outlet_inner_r;
+    const double chamber_arc_deg =
+        180.0 - rotors.max_chamber_outer_angle - rotors.min_chamber_outer_angle;
+    const double effective_cc =
+        checked_divide((ports.outlet_end_outer_deg - ports.outlet_start_outer_deg) *
+                           rotors.capacity_cc * (r_out - r_in),
+                       chamber_arc_deg * (design.outer_root - design.radinnroot));
     return effective_cc > rotors.capacity_cc ? rotors.capacity_cc : effective_cc;
 }
 
@@ -69,11 +80,11 @@ void calc_flow(const design_params& design, const rotor_profiles& rotors, const 
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {
         for (std::size_t i = 0; i < GRID_SIZE; ++i) {
             const double speed = results.speed_rpm[i];
-            const double flow =
-                results.effective_cc * speed / CC_RPM_PER_M3S - results.leak_tip[j] - results.leak_face[j];
+            const double flow = results.effective_cc * speed / CC_RPM_PER_M3S -
+                                results.leak_tip[j] - results.leak_face[j];
             results.flow_m3s[i][j] = not_negative(checked_finite(flow));
-            results.vol_eff[i][j] =
-                not_negative(checked_divide(results.flow_m3s[i][j], rotors.capacity_cc * speed / CC_RPM_PER_M3S));
+            results.vol_eff[i][j] = not_negative(checked_divide(
+                results.flow_m3s[i][j], rotors.capacity_cc * speed / CC_RPM_PER_M3S));
             take_extremes(results.flow_m3s[i][j], results.flow_max, results.flow_min);
             take_extremes(results.vol_eff[i][j], results.vol_eff_max, results.vol_eff_min);
         }

@@ -30,7 +30,8 @@ double third_side(double u, double v, double cosine) {
     return checked_sqrt(u * u + v * v - 2.0 * u * v * cosine);
 }
 
-void set_lobe(const design_params& design, double trochoid_r, std::int32_t k, std::size_t a, perf_results& results) {
+void set_lobe(const design_params& design, double trochoid_r, std::int32_t k, std::size_t a,
+              perf_results& results) {
     const double ecc = design.ecc;
     const double phase = 360.0 * (k - 1.0) / design.numlobes;
     double& dist = checked_at(results.lobe_dist, k)[a];
@@ -39,11 +40,13 @@ void set_lobe(const design_params& design, double trochoid_r, std::int32_t k, st
     double& arm = checked_at(results.lobe_arm, k)[a];
 
     dist = third_side(trochoid_r, ecc, std::cos((static_cast<double>(a) + phase) * PI_D / 180.0));
-    const double c = off_the_ends(checked_divide(ecc * ecc + dist * dist - trochoid_r * trochoid_r, 2.0 * dist * ecc));
+    const double c = off_the_ends(
+        checked_divide(ecc * ecc + dist * dist - trochoid_r * trochoid_r, 2.0 * dist * ecc));
     angle = PI_D - arc_cosine_form(c, 2.0 * std::atan(1.0));
     arm_dist = third_side(results.arm_base, dist, std::cos(angle));
     arm = checked_divide(results.arm_base * dist * std::sin(angle), arm_dist);
-    // Kept: angle never exceeds PI_D by its own formula, so every lobe carries load; lobe_load_share_test holds it.
+    // Kept: angle never exceeds PI_D by its own formula, so every lobe carries load;
+    // lobe_load_share_test holds it.
     if (angle > PI_D) {
         arm = 0.0;
     }
@@ -60,7 +63,8 @@ double torque_shares(std::int32_t numlobes, std::size_t a, const perf_results& r
 
 }  // namespace
 
-void calc_lobe_load_share(const design_params& design, const rotor_profiles& rotors, perf_results& results) {
+void calc_lobe_load_share(const design_params& design, const rotor_profiles& rotors,
+                          perf_results& results) {
     results.arm_base = (design.numlobes - 1.0) * design.ecc;
     for (std::int32_t k = 1; k <= design.numlobes; ++k) {
         for (std::size_t a = 1; a <= CONTACT_ANGLE_LAST; ++a) {
@@ -73,7 +77,8 @@ void calc_lobe_load_share(const design_params& design, const rotor_profiles& rot
         const double first = checked_pow(checked_at(results.lobe_arm, 1)[a], FORCE_EXPONENT);
         for (std::size_t j = 0; j < GRID_SIZE; ++j) {
             for (std::size_t i = 0; i < GRID_SIZE; ++i) {
-                results.contact_force[i][j][a] = checked_divide(first * (results.drive_torque[i][j] * 1000.0), sum);
+                results.contact_force[i][j][a] =
+                    checked_divide(first * (results.drive_torque[i][j] * 1000.0), sum);
             }
         }
     }

@@ -20,19 +20,21 @@ double sector_mm2(double radius, double start_deg, double end_deg) {
 
 }  // namespace
 
-void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports, const perf_inputs& inputs,
-                        perf_results& results) {
+void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports,
+                        const perf_inputs& inputs, perf_results& results) {
     const double density = inputs.density_kgm3;
     results.fill_velocity = checked_sqrt(checked_divide(2.0 * (BAR_PA - inputs.pv), density));
-    results.tip_speed_rpm = checked_divide(results.fill_velocity * 1000.0, results.tip_radius) * (60.0 / TWO_PI_P);
+    results.tip_speed_rpm =
+        checked_divide(results.fill_velocity * 1000.0, results.tip_radius) * (60.0 / TWO_PI_P);
 
-    results.sector_outer =
-        sector_mm2(ports.inlet_outer_r, ports.inlet_start_outer_deg, end_or_half_turn(ports.inlet_end_outer_deg));
-    results.sector_inner =
-        sector_mm2(ports.inlet_inner_r, ports.inlet_start_inner_deg, end_or_half_turn(ports.inlet_end_inner_deg));
+    results.sector_outer = sector_mm2(ports.inlet_outer_r, ports.inlet_start_outer_deg,
+                                      end_or_half_turn(ports.inlet_end_outer_deg));
+    results.sector_inner = sector_mm2(ports.inlet_inner_r, ports.inlet_start_inner_deg,
+                                      end_or_half_turn(ports.inlet_end_inner_deg));
     results.port_area = (results.sector_outer - results.sector_inner) / 1000000.0;
     results.port_equiv_r = checked_sqrt(results.port_area / PI_D);
-    results.port_velocity = checked_divide(REYNOLDS_LIMIT * results.dyn_visc, density * results.port_equiv_r);
+    results.port_velocity =
+        checked_divide(REYNOLDS_LIMIT * results.dyn_visc, density * results.port_equiv_r);
     results.port_flow = results.port_area * results.port_velocity;
     if (inputs.inlet_double_sided) {
         results.port_flow = results.port_flow * 2.0;

@@ -1,4 +1,5 @@
-// The march of the ripple model: one chamber turns into the outlet, 0.1 degree a step, and fills from it.
+// The march of the ripple model: one chamber turns into the outlet, 0.1 degree a step, and fills
+// from it.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -12,15 +13,17 @@
 
 namespace kvt {
 
-/// Step s stands for the angle s / 10 degrees; the march starts at s = 1400. Pressures Pa, volumes m3.
+/// Step s stands for the angle s / 10 degrees; the march starts at s = 1400. Pressures Pa, volumes
+/// m3.
 class opening_march {
   public:
-    /// Needs chamber_rate and the outlet geometry. Sets trapped_volume to capacity_cc / (N - 1), m3.
-    opening_march(const design_params& design, const rotor_profiles& rotors, const port_params& ports,
-                  const perf_inputs& inputs, perf_results& results);
+    /// Needs chamber_rate and the outlet geometry. Sets trapped_volume to capacity_cc / (N - 1),
+    /// m3.
+    opening_march(const design_params& design, const rotor_profiles& rotors,
+                  const port_params& ports, const perf_inputs& inputs, perf_results& results);
 
-    /// One step: when the chamber is open, oil flows in from the outlet, and a row of ripple_sector is written.
-    /// Throws subscript_out_of_range behind the last step or row of the arrays.
+    /// One step: when the chamber is open, oil flows in from the outlet, and a row of ripple_sector
+    /// is written. Throws subscript_out_of_range behind the last step or row of the arrays.
     void step();
 
     /// The chamber has opened and has reached the pressure of the outlet.
@@ -50,7 +53,8 @@ class opening_march {
     int s_ = 1400;
     int row_ = 0;
     bool started_ = false;
-    std::array<double, LOBE_ARRAY_LAST + 1> chamber_index_{};   ///< step of chamber k = 1 .. N - 2, a real number
+    std::array<double, LOBE_ARRAY_LAST + 1>
+        chamber_index_{};  ///< step of chamber k = 1 .. N - 2, a real number
     std::array<double, LOBE_ARRAY_LAST + 1> chamber_volume_{};  ///< its volume, m3
 };
 

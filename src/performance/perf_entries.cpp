@@ -14,9 +14,10 @@ namespace {
 using box = std::string entries::*;
 
 constexpr std::array<box, 13> DECIMAL_COMMA_ALLOWED = {
-    &entries::fluid_density, &entries::kin_visc,    &entries::vap_press,      &entries::bulk_mod_text,
-    &entries::young_inner,   &entries::young_outer, &entries::poissons_inner, &entries::poissons_outer,
-    &entries::friction,      &entries::speed_lo,    &entries::speed_hi,       &entries::pressure_lo,
+    &entries::fluid_density,  &entries::kin_visc,       &entries::vap_press,
+    &entries::bulk_mod_text,  &entries::young_inner,    &entries::young_outer,
+    &entries::poissons_inner, &entries::poissons_outer, &entries::friction,
+    &entries::speed_lo,       &entries::speed_hi,       &entries::pressure_lo,
     &entries::pressure_hi};
 
 /// One row of the validation: the entry must be above 0, or above another entry where there is one.

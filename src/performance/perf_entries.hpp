@@ -1,4 +1,5 @@
-// The entries of Perffrm: their decimal commas, the validation of Calculate Performance, and their reading.
+// The entries of Perffrm: their decimal commas, the validation of Calculate Performance, and their
+// reading.
 #pragma once
 
 #include "core/entries.hpp"
@@ -9,8 +10,8 @@
 
 namespace kvt {
 
-/// Replaces every comma of the thirteen fluid, material and range entries by a full stop. Face_area_value and
-/// OD_area_value keep theirs.
+/// Replaces every comma of the thirteen fluid, material and range entries by a full stop.
+/// Face_area_value and OD_area_value keep theirs.
 void clean_up_perf_entries(entries& boxes);
 
 /// The first check of the validation that fails.
@@ -19,11 +20,13 @@ struct refused_perf_entry {
     std::string entries::*emptied;  ///< the entry of this check's row, and no other
 };
 
-/// Tests fluid, speeds, pressures, materials and friction in their fixed order; each entry must be above 0, and each
-/// range must rise. Nothing when all pass. Throws overflow for a number beyond a double.
+/// Tests fluid, speeds, pressures, materials and friction in their fixed order; each entry must be
+/// above 0, and each range must rise. Nothing when all pass. Throws overflow for a number beyond a
+/// double.
 std::optional<refused_perf_entry> first_refused_perf_entry(const entries& boxes);
 
-/// The inputs in the units of the model. inches: the entries are in lb/ft3, inches of mercury, ksi and psi.
+/// The inputs in the units of the model. inches: the entries are in lb/ft3, inches of mercury, ksi
+/// and psi.
 perf_inputs read_perf_inputs(const entries& boxes, bool inches);
 
 /// The rotor thickness in mm as the entry of Form1 says now: performance reads it anew.

@@ -10,11 +10,11 @@ namespace kvt {
 
 /// dyn_visc = kin_visc_cst density / 1000000, Pa s, and
 /// tip_radius = base_radius + roll_radius + ecc - clearn_half - radouter, mm.
-void set_shared_values(const design_params& design, const rotor_profiles& rotors, const perf_inputs& inputs,
-                       perf_results& results);
+void set_shared_values(const design_params& design, const rotor_profiles& rotors,
+                       const perf_inputs& inputs, perf_results& results);
 
-/// press_pa and speed_rpm, elements 0 .. 5, from the lowest to the highest value of each range in equal steps.
-/// Kept: one bar is 101300 Pa and 14.5 psi are one bar.
+/// press_pa and speed_rpm, elements 0 .. 5, from the lowest to the highest value of each range in
+/// equal steps. Kept: one bar is 101300 Pa and 14.5 psi are one bar.
 void set_grid(const perf_inputs& inputs, perf_results& results);
 
 }  // namespace kvt

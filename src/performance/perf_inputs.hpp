@@ -1,9 +1,11 @@
-// perf_inputs: fluid, range, materials and porting type as Calculate Performance reads them from the entries.
+// perf_inputs: fluid, range, materials and porting type as Calculate Performance reads them from
+// the entries.
 #pragma once
 
 namespace kvt {
 
-/// Units are those of the model; only the pressure range stays in the unit of the entries (bar, or psi with inches).
+/// Units are those of the model; only the pressure range stays in the unit of the entries (bar, or
+/// psi with inches).
 struct perf_inputs {
     double density_kgm3 = 0.0;  ///< fluid density, kg/m3
     double kin_visc_cst = 0.0;  ///< kinematic viscosity, cSt
@@ -13,14 +15,15 @@ struct perf_inputs {
     double speed_hi = 0.0;
     double pressure_lo = 0.0;  ///< pressure range, bar or psi
     double pressure_hi = 0.0;
-    double young_inner_mpa = 0.0;     ///< Young's modulus of the inner rotor, MPa
-    double young_outer_mpa = 0.0;     ///< and of the outer rotor
-    double poisson_inner = 0.0;       ///< Poisson's ratio of the inner rotor
-    double poisson_outer = 0.0;       ///< and of the outer rotor
-    double friction = 0.0;            ///< coefficient of friction between rotors and housing
-    double Face_area_value = 0.0;     ///< share of the rotor faces that carries the film, percent
-    double OD_area_value = 0.0;       ///< share of the rotor periphery that does, percent
-    double outlet_start_inner = 0.0;  ///< degrees, from the text of the entry: the side load reads the text
+    double young_inner_mpa = 0.0;  ///< Young's modulus of the inner rotor, MPa
+    double young_outer_mpa = 0.0;  ///< and of the outer rotor
+    double poisson_inner = 0.0;    ///< Poisson's ratio of the inner rotor
+    double poisson_outer = 0.0;    ///< and of the outer rotor
+    double friction = 0.0;         ///< coefficient of friction between rotors and housing
+    double Face_area_value = 0.0;  ///< share of the rotor faces that carries the film, percent
+    double OD_area_value = 0.0;    ///< share of the rotor periphery that does, percent
+    double outlet_start_inner =
+        0.0;  ///< degrees, from the text of the entry: the side load reads the text
     double outlet_end_inner = 0.0;
     bool inches = false;              ///< the entries are in the imperial units
     bool inlet_double_sided = false;  ///< the porting type
@@ -29,7 +32,8 @@ struct perf_inputs {
     bool metering_groove = false;
 };
 
-/// Double sided or shadow outlet: the rotors are balanced, their faces float in the middle of the gap.
+/// Double sided or shadow outlet: the rotors are balanced, their faces float in the middle of the
+/// gap.
 inline bool is_balanced(const perf_inputs& inputs) {
     return inputs.outlet_double_sided || inputs.shadow_ports;
 }

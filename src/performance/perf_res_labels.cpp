@@ -27,7 +27,8 @@ std::string side_load_text(double load, bool inches) {
 
 std::string cutter_text(double cutter_r, bool inches) {
     if (inches) {
-        return number_text(floor_to_int(-2.0 * cutter_r * 1000.0 / MM_PER_INCH) / 1000.0) + " inches";
+        return number_text(floor_to_int(-2.0 * cutter_r * 1000.0 / MM_PER_INCH) / 1000.0) +
+               " inches";
     }
     return number_text(-2.0 * cutter_r) + " mm";
 }
@@ -45,12 +46,14 @@ void set_speed_labels(const perf_results& results, std::int16_t language, labels
 void set_load_labels(const perf_results& results, bool inches, labels& texts) {
     const double angle = results.side_load_angle[TOP][TOP];
     texts.max_shaft_side_load = side_load_text(results.side_load[TOP][TOP], inches);
-    texts.side_load_direction = number_text(floor_to_int(angle * 180.0 * 100.0 / TWO_PI_P) / 100.0) + " °";
+    texts.side_load_direction =
+        number_text(floor_to_int(angle * 180.0 * 100.0 / TWO_PI_P) / 100.0) + " °";
     texts.max_cutter_inner = cutter_text(results.cutter_r, inches);
 }
 
 void set_ripple_label(const perf_results& results, std::int16_t language, labels& texts) {
-    texts.Label1 = std::string(message_text(message::pressure_ripple, language)) + str(results.ripple_percent) + " %";
+    texts.Label1 = std::string(message_text(message::pressure_ripple, language)) +
+                   str(results.ripple_percent) + " %";
 }
 
 }  // namespace kvt

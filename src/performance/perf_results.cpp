@@ -91,8 +91,8 @@ constexpr perf_array_field ARRAYS[] = {
 
 constexpr perf_field<perf_speed_angles> SPEED_ARRAYS[] = {KVT_PERF_FIELD(sliding_velocity)};
 
-constexpr perf_field<perf_grid_angles> GRID_ARRAYS[] = {KVT_PERF_FIELD(contact_force), KVT_PERF_FIELD(hertz_stress),
-                                                        KVT_PERF_FIELD(hertz_sliding)};
+constexpr perf_field<perf_grid_angles> GRID_ARRAYS[] = {
+    KVT_PERF_FIELD(contact_force), KVT_PERF_FIELD(hertz_stress), KVT_PERF_FIELD(hertz_sliding)};
 
 #undef KVT_PERF_FIELD
 #undef KVT_PERF_ARRAY

@@ -1,4 +1,5 @@
-// The unit factors of the performance model. Several are rounded; each is part of every result and is kept.
+// The unit factors of the performance model. Several are rounded; each is part of every result and
+// is kept.
 #pragma once
 
 namespace kvt {
@@ -22,9 +23,11 @@ inline constexpr double KSI_MPA = 6.8947;
 
 /// rpm times cm3 a revolution, divided by this, is m3/s.
 inline constexpr double CC_RPM_PER_M3S = 60000000.0;
-/// cm3 a revolution times Pa, divided by this, is the theoretical torque in N m: TWO_PI_P in millionths.
+/// cm3 a revolution times Pa, divided by this, is the theoretical torque in N m: TWO_PI_P in
+/// millionths.
 inline constexpr double CC_PA_PER_NM = 6283185.4;
-/// mm2, divided by this, is the square of the radius in m of a round pipe of that area: PI_D in millionths.
+/// mm2, divided by this, is the square of the radius in m of a round pipe of that area: PI_D in
+/// millionths.
 inline constexpr double PIPE_MM2_PER_M2 = 3141592.6999999997;
 
 }  // namespace kvt

@@ -26,20 +26,22 @@ void repeat_passage(std::int32_t numlobes, perf_results& results) {
     const double steps = passage_steps(numlobes);
     for (std::int32_t c = 0; c <= numlobes - 2; ++c) {
         for (int t = 0; t <= steps; ++t) {
-            checked_at(results.ripple_pressure, to_int32(steps * c + t)) = checked_at(results.ripple_sector, t);
+            checked_at(results.ripple_pressure, to_int32(steps * c + t)) =
+                checked_at(results.ripple_sector, t);
         }
     }
 }
 
 void set_ripple_percent(perf_results& results) {
-    const double percent = checked_divide((results.ripple_max - results.ripple_min) * 100.0, results.ripple_max);
+    const double percent =
+        checked_divide((results.ripple_max - results.ripple_min) * 100.0, results.ripple_max);
     results.ripple_percent = floor_to_int(percent * 100.0) / 100.0;
 }
 
 }  // namespace
 
-void set_outlet_edge(const design_params& design, const port_params& ports, const perf_inputs& inputs,
-                     perf_results& results) {
+void set_outlet_edge(const design_params& design, const port_params& ports,
+                     const perf_inputs& inputs, perf_results& results) {
     const double x = (ports.outlet_p3_x + ports.outlet_p2_x) / 2.0;
     const double y = (ports.outlet_p3_y + ports.outlet_p2_y) / 2.0;
     results.port_centre_x = x;
@@ -48,17 +50,20 @@ void set_outlet_edge(const design_params& design, const port_params& ports, cons
     results.port_edge_r = checked_sqrt(x * x + y * y);
     const double outer_m = ports.outlet_outer_r / 1000.0;
     const double inner_m = ports.outlet_inner_r / 1000.0;
-    // Kept: the end angle is that of the outer radius, the start angle that of the inner one; pressure_ripple_test.
+    // Kept: the end angle is that of the outer radius, the start angle that of the inner one;
+    // pressure_ripple_test.
     results.port_volume = (outer_m * outer_m - inner_m * inner_m) * PI_D *
-                          (ports.outlet_end_outer_deg - ports.outlet_start_inner_deg) * (design.thick / 1000.0) / 360.0;
+                          (ports.outlet_end_outer_deg - ports.outlet_start_inner_deg) *
+                          (design.thick / 1000.0) / 360.0;
     if (inputs.metering_groove) {
-        results.nose_angle =
-            edge_angle((ports.groove_n1_x + ports.groove_n2_x) / 2.0, (ports.groove_n1_y + ports.groove_n2_y) / 2.0);
+        results.nose_angle = edge_angle((ports.groove_n1_x + ports.groove_n2_x) / 2.0,
+                                        (ports.groove_n1_y + ports.groove_n2_y) / 2.0);
     }
 }
 
-double march_into_outlet(const design_params& design, const rotor_profiles& rotors, const port_params& ports,
-                         const perf_inputs& inputs, perf_results& results) {
+double march_into_outlet(const design_params& design, const rotor_profiles& rotors,
+                         const port_params& ports, const perf_inputs& inputs,
+                         perf_results& results) {
     opening_march march(design, rotors, ports, inputs, results);
     while (!march.is_filled()) {
         march.step();
@@ -82,8 +87,9 @@ void recover_pressure(double end_pressure, std::int32_t numlobes, perf_results& 
     }
 }
 
-void calc_pressure_ripple(const design_params& design, const rotor_profiles& rotors, const port_params& ports,
-                          const perf_inputs& inputs, perf_results& results) {
+void calc_pressure_ripple(const design_params& design, const rotor_profiles& rotors,
+                          const port_params& ports, const perf_inputs& inputs,
+                          perf_results& results) {
     set_chamber_rate(design, rotors, results);
     set_outlet_edge(design, ports, inputs, results);
     std::ranges::fill(results.ripple_sector, 0.0);

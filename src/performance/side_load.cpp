@@ -21,8 +21,10 @@ struct directions {
     std::vector<double> sine, cosine;
 };
 
-/// side_x, side_y, side_mag and side_dir at a. The last angle is tested before it is rounded to an index, half to even.
-void add_lobes(std::int32_t numlobes, const perf_array& force, const directions& at, int a, perf_results& results) {
+/// side_x, side_y, side_mag and side_dir at a. The last angle is tested before it is rounded to an
+/// index, half to even.
+void add_lobes(std::int32_t numlobes, const perf_array& force, const directions& at, int a,
+               perf_results& results) {
     double& x = checked_at(results.side_x, a);
     double& y = checked_at(results.side_y, a);
     x = 0.0;
@@ -46,7 +48,8 @@ void set_contact_load(std::int32_t numlobes, const directions& at, std::size_t i
     double& angle = results.side_load_angle[i][j];
     const double last = checked_divide(360.0, numlobes - 1.0) - 1.0;
     for (int a = 1; a <= last; ++a) {
-        // Kept: reset at each a, so the load of the last a stands and not the largest; side_load_test holds it.
+        // Kept: reset at each a, so the load of the last a stands and not the largest;
+        // side_load_test holds it.
         load = 0.0;
         angle = 0.0;
         add_lobes(numlobes, results.contact_force[i][j], at, a, results);
@@ -61,13 +64,13 @@ void set_contact_load(std::int32_t numlobes, const directions& at, std::size_t i
 
 void set_side_loads(const design_params& design, const perf_inputs& inputs, perf_results& results) {
     const directions at(results.pressure_angle);
-    results.root_arc =
-        2.0 * design.radinnroot * PI_D * design.thick * (inputs.outlet_end_inner - inputs.outlet_start_inner) / 360.0;
+    results.root_arc = 2.0 * design.radinnroot * PI_D * design.thick *
+                       (inputs.outlet_end_inner - inputs.outlet_start_inner) / 360.0;
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {
         for (std::size_t i = 0; i < GRID_SIZE; ++i) {
             set_contact_load(design.numlobes, at, i, j, results);
-            results.side_load[i][j] =
-                checked_finite(results.side_load[i][j] + results.root_arc * results.press_pa[j] / 1000000.0);
+            results.side_load[i][j] = checked_finite(
+                results.side_load[i][j] + results.root_arc * results.press_pa[j] / 1000000.0);
         }
     }
 }

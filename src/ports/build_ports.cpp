@@ -12,7 +12,8 @@ namespace kvt {
 
 namespace {
 
-/// How one pass of a routine ended; radius_too_large: the entries go back and the next pass follows.
+/// How one pass of a routine ended; radius_too_large: the entries go back and the next pass
+/// follows.
 enum class pass_end { finished, refused, radius_too_large };
 
 port_shape shape_of(const port_fields& port, const port_work& work) {
@@ -21,7 +22,8 @@ port_shape shape_of(const port_fields& port, const port_work& work) {
                         work.design.ecc,     ports.side_angle_start, {}};
     for (std::size_t index = 0; index < shape.corners.size(); ++index) {
         const corner_fields& fields = port.corners[index];
-        shape.corners[index] = {ports.*fields.t_deg, fields.c.get(ports), fields.s.get(ports), fields.r.get(ports)};
+        shape.corners[index] = {ports.*fields.t_deg, fields.c.get(ports), fields.s.get(ports),
+                                fields.r.get(ports)};
     }
     return shape;
 }
@@ -70,8 +72,9 @@ pass_end outlet_pass(port_work& work) {
 }
 
 void tell_radius_too_large(const port_fields& port, const port_work& work) {
-    work.person.show_message(std::string(message_text(port.radius_too_large, work.language)) + "\r" +
-                             std::string(message_text(message::smaller_port_radius, work.language)));
+    work.person.show_message(
+        std::string(message_text(port.radius_too_large, work.language)) + "\r" +
+        std::string(message_text(message::smaller_port_radius, work.language)));
 }
 
 /// Writes a text to an entry. False when it stood there already.
@@ -81,26 +84,28 @@ bool write_back(std::string& box, const std::string& text) {
     return differs;
 }
 
-/// port_radii goes back to last_good_port_radius, and that to 0 when the entry says it already. False when the entry
-/// keeps its text.
+/// port_radii goes back to last_good_port_radius, and that to 0 when the entry says it already.
+/// False when the entry keeps its text.
 bool take_back_port_radius(const port_work& work) {
     if (val(work.boxes.port_radii) == work.ports.last_good_port_radius) {
         work.ports.last_good_port_radius = 0.0;
     }
-    return write_back(work.boxes.port_radii, cut_length_text(work.ports.last_good_port_radius, work.inches));
+    return write_back(work.boxes.port_radii,
+                      cut_length_text(work.ports.last_good_port_radius, work.inches));
 }
 
-/// Also the two radii go back, to those of the rotors. False when all three entries keep their texts.
+/// Also the two radii go back, to those of the rotors. False when all three entries keep their
+/// texts.
 bool take_back_all_radii(const port_fields& port, const port_work& work) {
     if (val(work.boxes.port_radii) == work.ports.last_good_port_radius) {
         work.ports.*port.inner_r = work.design.radinnroot;
         work.ports.*port.outer_r = work.design.outer_root;
     }
     const bool radius = take_back_port_radius(work);
-    const bool inner =
-        write_back(work.boxes.*port.inner_radius_box, cut_length_text(work.design.radinnroot, work.inches));
-    const bool outer =
-        write_back(work.boxes.*port.outer_radius_box, cut_length_text(work.design.outer_root, work.inches));
+    const bool inner = write_back(work.boxes.*port.inner_radius_box,
+                                  cut_length_text(work.design.radinnroot, work.inches));
+    const bool outer = write_back(work.boxes.*port.outer_radius_box,
+                                  cut_length_text(work.design.outer_root, work.inches));
     return radius || inner || outer;
 }
 

@@ -75,32 +75,36 @@ step_rule rule_of_side(double side_angle) {
 corner_search search_start_inner(const corner_input& in) {
     const auto [R, a, f, th] = in;
     const double tan_th = std::tan(th);
-    const double A =
-        checked_divide(R * cos_deg(a) - f * std::cos(th) - f * std::sin(th) * tan_th - R * sin_deg(a) * tan_th, f + R);
+    const double A = checked_divide(
+        R * cos_deg(a) - f * std::cos(th) - f * std::sin(th) * tan_th - R * sin_deg(a) * tan_th,
+        f + R);
     return {A, tan_th, false, a, step_rule::by_target};
 }
 
 corner_search search_end_inner(const corner_input& in) {
     const auto [R, c, f, th] = in;
     const double tan_th = std::tan(th);
-    const double A =
-        checked_divide(R * cos_deg(c) - f * std::cos(th) - R * tan_th * sin_deg(c) - f * tan_th * std::sin(th), f + R);
+    const double A = checked_divide(
+        R * cos_deg(c) - f * std::cos(th) - R * tan_th * sin_deg(c) - f * tan_th * std::sin(th),
+        f + R);
     return {A, tan_th, false, c, rule_of_side(th)};
 }
 
 corner_search search_end_outer(const corner_input& in) {
     const auto [Q, d, f, th] = in;
     const double tan_th = std::tan(th);
-    const double A =
-        checked_divide(Q * cos_deg(d) - Q * tan_th * sin_deg(d) - f * tan_th * std::sin(th) - f * std::cos(th), Q - f);
+    const double A = checked_divide(
+        Q * cos_deg(d) - Q * tan_th * sin_deg(d) - f * tan_th * std::sin(th) - f * std::cos(th),
+        Q - f);
     return {A, tan_th, false, d, rule_of_side(th)};
 }
 
 corner_search search_start_outer(const corner_input& in) {
     const auto [Q, b, f, th] = in;
     const double tan_th = std::tan(th);
-    const double A =
-        checked_divide(f * std::sin(th) * tan_th + Q * tan_th * sin_deg(b) - Q * cos_deg(b) + f * std::cos(th), Q - f);
+    const double A = checked_divide(
+        f * std::sin(th) * tan_th + Q * tan_th * sin_deg(b) - Q * cos_deg(b) + f * std::cos(th),
+        Q - f);
     return {A, tan_th, true, b, rule_of_side(th)};
 }
 

@@ -1,4 +1,5 @@
-// The search for a corner's fillet: at which angle a circle of radius f touches both the port's arc and its side.
+// The search for a corner's fillet: at which angle a circle of radius f touches both the port's arc
+// and its side.
 #pragma once
 
 #include <optional>
@@ -14,7 +15,8 @@ enum class step_rule {
 };
 
 /// One search. The angles phi are degrees, A and g have no unit.
-///     g(phi) = cos phi - sin phi tan(theta)      theta the direction of the side; negative_g takes -g
+///     g(phi) = cos phi - sin phi tan(theta)      theta the direction of the side; negative_g takes
+///     -g
 struct corner_search {
     double target = 0.0;    ///< A
     double tan_side = 0.0;  ///< tan(theta)
@@ -23,22 +25,24 @@ struct corner_search {
     step_rule rule = step_rule::none;
 };
 
-/// Width of the search's tolerance on both sides of A, the step in degrees, and the steps of one pass.
+/// Width of the search's tolerance on both sides of A, the step in degrees, and the steps of one
+/// pass.
 inline constexpr double SEARCH_TOLERANCE = 0.001;
 inline constexpr double SEARCH_STEP_DEG = 0.001;
 inline constexpr long SEARCH_PASS_STEPS = 180000;
 
 /// The angle, or nothing when both passes ran out: the second starts anew with A = -A.
-/// Kept: the test stands before the step, so the accepted angle is one step beyond the one at which g was computed, and
-/// a search whose |A| is below the tolerance ends at its start. The second pass takes its first step with the last g of
-/// the first. corner_search_test holds all three. With f = 0 the outcome of the first test hangs on the last bit.
-/// Source: docs/formulas/ports.md, "Search".
+/// Kept: the test stands before the step, so the accepted angle is one step beyond the one at which
+/// g was computed, and a search whose |A| is below the tolerance ends at its start. The second pass
+/// takes its first step with the last g of the first. corner_search_test holds all three. With f =
+/// 0 the outcome of the first test hangs on the last bit. Source: docs/formulas/ports.md, "Search".
 std::optional<double> corner_angle(const corner_search& search);
 
 /// The rule of the corners 2, 3, 4 and of the nose: U below PI_D/2, D above it, none exactly on it.
 step_rule rule_of_side(double side_angle);
 
-/// What a target is made of: the arc's radius, the entered angle on it, f, and the side's direction in radians.
+/// What a target is made of: the arc's radius, the entered angle on it, f, and the side's direction
+/// in radians.
 struct corner_input {
     double arc_r = 0.0;
     double angle_deg = 0.0;
@@ -51,7 +55,8 @@ struct corner_input {
 ///     2  (R cos c - f cos th - R tan th sin c - f tan th sin th) / (f + R)
 ///     3  (Q cos d - Q tan th sin d - f tan th sin th - f cos th) / (Q - f)
 ///     4  (f sin th tan th + Q tan th sin b - Q cos b + f cos th) / (Q - f)
-/// Each throws division_by_zero when its denominator is 0. The order of the products is part of the result.
+/// Each throws division_by_zero when its denominator is 0. The order of the products is part of the
+/// result.
 corner_search search_start_inner(const corner_input& in);
 corner_search search_end_inner(const corner_input& in);
 corner_search search_end_outer(const corner_input& in);

@@ -14,9 +14,10 @@ void add_inner_path(const groove_shape& groove, groove_outline& built) {
 
 void add_nose(const groove_shape& groove, groove_outline& built) {
     if (groove.f != 0.0) {
-        const double sweep =
-            fillet_angle_deg(groove.f, groove.f + groove.inner_r, distance_squared(groove.inner.s, groove.shift));
-        built.outline.add_fillet(groove.inner.c, groove.f, base_after_inner_arc(groove.inner), sweep);
+        const double sweep = fillet_angle_deg(groove.f, groove.f + groove.inner_r,
+                                              distance_squared(groove.inner.s, groove.shift));
+        built.outline.add_fillet(groove.inner.c, groove.f, base_after_inner_arc(groove.inner),
+                                 sweep);
         built.outline.add(groove.inner.s);
     }
     if (groove.inner.s != groove.outer.s) {
@@ -24,28 +25,31 @@ void add_nose(const groove_shape& groove, groove_outline& built) {
         built.mark_c = built.outline.last();
     }
     if (groove.f != 0.0) {
-        const double sweep = 180.0 - fillet_angle_deg(groove.f, groove.outer_r - groove.f,
-                                                      distance_squared(groove.outer.s, groove.shift));
-        built.outline.add_fillet(groove.outer.c, groove.f, base_before_outer_arc(groove.outer), sweep);
+        const double sweep =
+            180.0 - fillet_angle_deg(groove.f, groove.outer_r - groove.f,
+                                     distance_squared(groove.outer.s, groove.shift));
+        built.outline.add_fillet(groove.outer.c, groove.f, base_before_outer_arc(groove.outer),
+                                 sweep);
         built.outline.add(groove.outer.r);
     }
 }
 
 void add_outer_path(const groove_shape& groove, groove_outline& built) {
-    built.outline.add_arc(groove.outer_r, groove.shift, groove.outer.t_deg, groove.outer.t_deg - groove.start_outer_deg,
-                          -1);
+    built.outline.add_arc(groove.outer_r, groove.shift, groove.outer.t_deg,
+                          groove.outer.t_deg - groove.start_outer_deg, -1);
     built.outline.add(groove.b);
     built.main_last = built.outline.last();
 }
 
 void add_tail(const groove_shape& groove, groove_outline& built) {
-    built.outline.add_arc(groove.outer_r, groove.shift, groove.start_outer_deg, groove.overlap_deg, -1);
+    built.outline.add_arc(groove.outer_r, groove.shift, groove.start_outer_deg, groove.overlap_deg,
+                          -1);
     built.outline.add(groove.tail_outer);
     built.mark_d = built.outline.last();
     built.outline.add(groove.tail_inner);
     built.mark_a = built.outline.last();
-    built.outline.add_arc(groove.inner_r, groove.shift, groove.start_inner_deg - groove.overlap_deg, groove.overlap_deg,
-                          1);
+    built.outline.add_arc(groove.inner_r, groove.shift, groove.start_inner_deg - groove.overlap_deg,
+                          groove.overlap_deg, 1);
     built.outline.add(groove.a);
 }
 

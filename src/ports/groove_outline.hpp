@@ -1,5 +1,5 @@
-// The outline of the metering groove: out along the inner path, round the nose, back along the outer path, then the
-// tail.
+// The outline of the metering groove: out along the inner path, round the nose, back along the
+// outer path, then the tail.
 #pragma once
 
 #include "ports/outline_points.hpp"
@@ -10,10 +10,11 @@
 
 namespace kvt {
 
-/// A groove between two path circles about (-shift, 0), mm and degrees; f is the fillet radius of its nose.
+/// A groove between two path circles about (-shift, 0), mm and degrees; f is the fillet radius of
+/// its nose.
 struct groove_shape {
     double inner_r = 0.0, outer_r = 0.0, f = 0.0, shift = 0.0;
-    point2 a, b;                                          ///< where the inner and the outer path leave the port
+    point2 a, b;  ///< where the inner and the outer path leave the port
     double start_inner_deg = 0.0, start_outer_deg = 0.0;  ///< angles of a and b
     double overlap_deg = 0.0;                             ///< length of the tail inside the port
     point2 tail_inner, tail_outer;                        ///< ends of the tail
@@ -29,9 +30,10 @@ struct groove_outline {
     std::int16_t mark_d = 0;             ///< tail_outer
 };
 
-/// The closed outline: a, inner path, fillet, nose line, fillet, outer path, b, outer tail, inner tail, a. A radius f
-/// of 0 drops both fillets with the points that close them; equal tangent points drop the nose line.
-/// Throws run_time_error for a fillet whose angles don't exist, overflow behind index 32767.
+/// The closed outline: a, inner path, fillet, nose line, fillet, outer path, b, outer tail, inner
+/// tail, a. A radius f of 0 drops both fillets with the points that close them; equal tangent
+/// points drop the nose line. Throws run_time_error for a fillet whose angles don't exist, overflow
+/// behind index 32767.
 groove_outline outline_of_groove(const groove_shape& groove);
 
 }  // namespace kvt

@@ -21,7 +21,8 @@ void set_path_circles(const port_work& work) {
     const double e = work.design.ecc;
     ports.groove_width_mm = length_of(work.boxes.groove_width, work.inches);
     ports.groove_length_deg = val(work.boxes.groove_length);
-    ports.groove_centre_r = ((ports.outlet_outer_r - e - ports.outlet_inner_r) / 2.0) + ports.outlet_inner_r + e / 2.0;
+    ports.groove_centre_r =
+        ((ports.outlet_outer_r - e - ports.outlet_inner_r) / 2.0) + ports.outlet_inner_r + e / 2.0;
     ports.groove_inner_r = ports.groove_centre_r - ports.groove_width_mm / 2.0;
     ports.groove_outer_r = ports.groove_centre_r + ports.groove_width_mm / 2.0;
     const double half_width = ports.groove_width_mm / 2.0;
@@ -34,12 +35,14 @@ struct edge_line {
 };
 
 edge_line end_side_of_outlet(const port_params& ports) {
-    const double m = checked_divide(ports.outlet_p3_y - ports.outlet_p2_y, ports.outlet_p3_x - ports.outlet_p2_x);
+    const double m = checked_divide(ports.outlet_p3_y - ports.outlet_p2_y,
+                                    ports.outlet_p3_x - ports.outlet_p2_x);
     return {m, ports.outlet_p2_y - m * ports.outlet_p2_x};
 }
 
-/// Where the line meets the circle of radius r about (-e/2, 0): the first root, or the second one when it lies further
-/// out along the line on the side of the groove. Throws invalid_procedure_call when they don't meet.
+/// Where the line meets the circle of radius r about (-e/2, 0): the first root, or the second one
+/// when it lies further out along the line on the side of the groove. Throws invalid_procedure_call
+/// when they don't meet.
 point2 on_edge(const edge_line& edge, double r, double e) {
     const auto [m, k] = edge;
     const double B = e + 2.0 * k * m;
@@ -77,11 +80,14 @@ void set_start_points(const port_work& work) {
 void set_tail(const port_work& work) {
     port_params& ports = work.ports;
     const double shift = work.design.ecc / 2.0;
-    ports.overlap_deg = checked_divide(ports.groove_width_mm * 216.0, 2.0 * ports.groove_centre_r * PI_D);
+    ports.overlap_deg =
+        checked_divide(ports.groove_width_mm * 216.0, 2.0 * ports.groove_centre_r * PI_D);
     point_fields{&port_params::groove_tail_outer_x, &port_params::groove_tail_outer_y}.set(
-        ports, on_circle(ports.groove_outer_r, ports.groove_start_outer_deg - ports.overlap_deg, shift));
+        ports,
+        on_circle(ports.groove_outer_r, ports.groove_start_outer_deg - ports.overlap_deg, shift));
     point_fields{&port_params::groove_tail_inner_x, &port_params::groove_tail_inner_y}.set(
-        ports, on_circle(ports.groove_inner_r, ports.groove_start_inner_deg - ports.overlap_deg, shift));
+        ports,
+        on_circle(ports.groove_inner_r, ports.groove_start_inner_deg - ports.overlap_deg, shift));
 }
 
 /// Sets the nose corners and returns the direction of the line between them, radians.
@@ -92,8 +98,10 @@ double set_nose_line(const port_work& work) {
     const point2 n2 = on_circle(ports.groove_outer_r, ports.nose_outer_deg, shift);
     point_fields{&port_params::groove_n1_x, &port_params::groove_n1_y}.set(ports, n1);
     point_fields{&port_params::groove_n2_x, &port_params::groove_n2_y}.set(ports, n2);
-    point_fields{&port_params::groove_nose_inner_x, &port_params::groove_nose_inner_y}.set(ports, n1);
-    point_fields{&port_params::groove_nose_outer_x, &port_params::groove_nose_outer_y}.set(ports, n2);
+    point_fields{&port_params::groove_nose_inner_x, &port_params::groove_nose_inner_y}.set(ports,
+                                                                                           n1);
+    point_fields{&port_params::groove_nose_outer_x, &port_params::groove_nose_outer_y}.set(ports,
+                                                                                           n2);
     return nose_angle(n1, n2);
 }
 
@@ -128,7 +136,8 @@ void store_outline(port_params& ports, const groove_outline& built) {
     ports.groove_mark_a = built.mark_a;
     ports.groove_mark_b = built.mark_b;
     if (built.mark_c) {
-        ports.groove_mark_c = *built.mark_c;  // Kept: without a nose line the mark of an earlier groove stays
+        ports.groove_mark_c =
+            *built.mark_c;  // Kept: without a nose line the mark of an earlier groove stays
     }
     ports.groove_mark_d = built.mark_d;
 }
@@ -144,22 +153,26 @@ port_end build_metering_groove(port_work& work) {
 
     groove_shape shape = shape_of(work);
     const port_params& ports = work.ports;
-    const auto inner = corner_angle(search_end_inner({shape.inner_r, ports.nose_inner_deg, shape.f, gamma}));
+    const auto inner =
+        corner_angle(search_end_inner({shape.inner_r, ports.nose_inner_deg, shape.f, gamma}));
     if (!inner) {
         return refuse_length(work, message::metering_port_angle);
     }
     if (*inner < 0.0) {
         return refuse_length(work, message::port_into_inlet);
     }
-    const auto outer = corner_angle(search_end_outer({shape.outer_r, ports.nose_outer_deg, shape.f, gamma}));
+    const auto outer =
+        corner_angle(search_end_outer({shape.outer_r, ports.nose_outer_deg, shape.f, gamma}));
     if (!outer) {
         return refuse_length(work, message::metering_port_angle);
     }
     if (*outer > 180.0) {
         return refuse_length(work, message::port_into_inlet);
     }
-    shape.inner = corner_at(*inner, shape.inner_r, shape.inner_r + shape.f, shape.f, gamma, shape.shift);
-    shape.outer = corner_at(*outer, shape.outer_r, shape.outer_r - shape.f, shape.f, gamma, shape.shift);
+    shape.inner =
+        corner_at(*inner, shape.inner_r, shape.inner_r + shape.f, shape.f, gamma, shape.shift);
+    shape.outer =
+        corner_at(*outer, shape.outer_r, shape.outer_r - shape.f, shape.f, gamma, shape.shift);
     if (ports.groove_width_mm / 2.0 == ports.groove_corner_r) {
         shape.outer.s = shape.inner.s;  // the nose is one half circle
     }

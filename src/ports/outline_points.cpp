@@ -22,7 +22,8 @@ void outline_points::add(point2 point) {
     points_.push_back({checked_finite(point.x), checked_finite(point.y)});
 }
 
-void outline_points::add_arc(double r, double shift, double from_deg, double span_deg, int direction) {
+void outline_points::add_arc(double r, double shift, double from_deg, double span_deg,
+                             int direction) {
     const double bound = 2.0 * span_deg - 1.0;
     for (int k = 1; k <= bound; ++k) {
         add(on_circle(r, direction > 0 ? from_deg + k / 2.0 : from_deg - k / 2.0, shift));
@@ -60,7 +61,8 @@ void outline_points::store(std::vector<double>& x, std::vector<double>& y) const
 }
 
 double fillet_angle_deg(double f, double centre_r, double tangent_distance_squared) {
-    const double c = checked_divide(f * f + centre_r * centre_r - tangent_distance_squared, 2.0 * centre_r * f);
+    const double c =
+        checked_divide(f * f + centre_r * centre_r - tangent_distance_squared, 2.0 * centre_r * f);
     return degrees_of(arc_cosine_form(c, half_pi()));
 }
 

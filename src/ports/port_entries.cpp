@@ -43,7 +43,8 @@ double length_of(const std::string& text, bool inches) {
     return checked_finite(inches ? val(text) * MM_PER_INCH : val(text));
 }
 
-void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes, port_params& ports) {
+void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes,
+                      port_params& ports) {
     for (const corner_fields& corner : port.corners) {
         std::string& text = boxes.*corner.box;
         if (!text.empty()) {
@@ -57,7 +58,8 @@ void read_port_angles(const port_fields& port, const rotor_profiles& rotors, ent
     }
 }
 
-void fill_port_radii(const port_fields& port, const design_params& design, bool inches, entries& boxes) {
+void fill_port_radii(const port_fields& port, const design_params& design, bool inches,
+                     entries& boxes) {
     if (val(boxes.*port.inner_radius_box) == 0.0) {
         boxes.*port.inner_radius_box = length_text(design.radinnroot, inches);
     }
@@ -66,18 +68,21 @@ void fill_port_radii(const port_fields& port, const design_params& design, bool 
     }
 }
 
-void read_port_radii(const port_fields& port, const entries& boxes, bool inches, port_params& ports) {
+void read_port_radii(const port_fields& port, const entries& boxes, bool inches,
+                     port_params& ports) {
     ports.*port.inner_r = length_of(boxes.*port.inner_radius_box, inches);
     ports.*port.outer_r = length_of(boxes.*port.outer_radius_box, inches);
     ports.port_radius = length_of(boxes.port_radii, inches);
 }
 
-void reread_design(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors) {
+void reread_design(const entries& boxes, bool inches, design_params& design,
+                   rotor_profiles& rotors) {
     design.numlobes = to_int32(val(boxes.numlobes));
     for (const auto& [box, field] : ROTOR_LENGTHS) {
         design.*field = length_of(boxes.*box, inches);
     }
-    design.clearn_half = inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
+    design.clearn_half =
+        inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
     design.coarseness = to_int16(val(boxes.coarseness));
     set_rolling_circles(design, rotors);
     rotors.lobe_centre_offset = design.ecc + design.radinnroot;

@@ -1,4 +1,5 @@
-// The entries of the ports: defaults for the empty ones, their values in millimetres, the rotor entries read again.
+// The entries of the ports: defaults for the empty ones, their values in millimetres, the rotor
+// entries read again.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -14,25 +15,33 @@ namespace kvt {
 /// mm as a text in the unit of the entries, not cut: "12.7" or "0.5".
 std::string length_text(double mm, bool inches);
 
-/// mm as a text in the unit of the entries; in inches cut to three decimals, Int(mm * 1000 / 25.4) / 1000.
+/// mm as a text in the unit of the entries; in inches cut to three decimals, Int(mm * 1000 / 25.4)
+/// / 1000.
 std::string cut_length_text(double mm, bool inches);
 
 /// The value of a length entry, mm.
 double length_of(const std::string& text, bool inches);
 
-/// Reads the four angles of a port, degrees. An empty entry takes its chamber angle v (the start angles), or 180 - v
-/// (the end angles), and shows Int(v * 100) / 100, or 180 - Int(v * 100) / 100. Kept: this run computes with the exact
-/// default, the next one with the text; port_entries_test holds it.
-void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes, port_params& ports);
+/// Reads the four angles of a port, degrees. An empty entry takes its chamber angle v (the start
+/// angles), or 180 - v (the end angles), and shows Int(v * 100) / 100, or 180 - Int(v * 100) / 100.
+/// Kept: this run computes with the exact default, the next one with the text; port_entries_test
+/// holds it.
+void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes,
+                      port_params& ports);
 
-/// Puts radinnroot and outer_root, not cut, into the radius entries of a port whose value is exactly 0.
-void fill_port_radii(const port_fields& port, const design_params& design, bool inches, entries& boxes);
+/// Puts radinnroot and outer_root, not cut, into the radius entries of a port whose value is
+/// exactly 0.
+void fill_port_radii(const port_fields& port, const design_params& design, bool inches,
+                     entries& boxes);
 
 /// Reads both radii of a port and the common fillet radius, mm.
-void read_port_radii(const port_fields& port, const entries& boxes, bool inches, port_params& ports);
+void read_port_radii(const port_fields& port, const entries& boxes, bool inches,
+                     port_params& ports);
 
-/// Reads the rotor entries again but for radial_clear, fillet and outer_root, and computes base_radius, roll_radius and
-/// lobe_centre_offset anew. Throws overflow for a number of lobes or a resolution that doesn't fit its counter.
-void reread_design(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors);
+/// Reads the rotor entries again but for radial_clear, fillet and outer_root, and computes
+/// base_radius, roll_radius and lobe_centre_offset anew. Throws overflow for a number of lobes or a
+/// resolution that doesn't fit its counter.
+void reread_design(const entries& boxes, bool inches, design_params& design,
+                   rotor_profiles& rotors);
 
 }  // namespace kvt

@@ -8,18 +8,21 @@ namespace {
     point_fields {                                     \
         &port_params::name##_x, &port_params::name##_y \
     }
-#define KVT_CORNER(port, n, where, failure, default_angle, is_end)                                                  \
-    corner_fields {                                                                                                 \
-        &port_params::port##_t##n##_deg, KVT_POINT(port##_c##n), KVT_POINT(port##_s##n), KVT_POINT(port##_r##n),    \
-            KVT_POINT(port##_p##n), &port_params::port##_##where##_deg, &entries::port##_##where, #port "_" #where, \
-            message::failure, &rotor_profiles::default_angle, is_end                                                \
+#define KVT_CORNER(port, n, where, failure, default_angle, is_end)                              \
+    corner_fields {                                                                             \
+        &port_params::port##_t##n##_deg, KVT_POINT(port##_c##n), KVT_POINT(port##_s##n),        \
+            KVT_POINT(port##_r##n), KVT_POINT(port##_p##n), &port_params::port##_##where##_deg, \
+            &entries::port##_##where, #port "_" #where, message::failure,                       \
+            &rotor_profiles::default_angle, is_end                                              \
     }
-#define KVT_CORNERS(port)                                                                              \
-    {                                                                                                  \
-        KVT_CORNER(port, 1, start_inner, start_angle_inner_radius, min_chamber_inner_angle, false),    \
-            KVT_CORNER(port, 2, end_inner, end_angle_inner_radius, max_chamber_inner_angle, true),     \
-            KVT_CORNER(port, 3, end_outer, end_angle_outer_radius, max_chamber_outer_angle, true),     \
-            KVT_CORNER(port, 4, start_outer, start_angle_outer_radius, min_chamber_outer_angle, false) \
+#define KVT_CORNERS(port)                                                                          \
+    {                                                                                              \
+        KVT_CORNER(port, 1, start_inner, start_angle_inner_radius, min_chamber_inner_angle,        \
+                   false),                                                                         \
+            KVT_CORNER(port, 2, end_inner, end_angle_inner_radius, max_chamber_inner_angle, true), \
+            KVT_CORNER(port, 3, end_outer, end_angle_outer_radius, max_chamber_outer_angle, true), \
+            KVT_CORNER(port, 4, start_outer, start_angle_outer_radius, min_chamber_outer_angle,    \
+                       false)                                                                      \
     }
 #define KVT_MARKS(port)                                                                        \
     {                                                                                          \
@@ -43,7 +46,8 @@ constexpr port_fields INLET = {
     .keeps_start_outer_angle = false,
 };
 
-// Kept: the outlet's start angle on the outer radius stays as entered after its search; build_ports_test holds it.
+// Kept: the outlet's start angle on the outer radius stays as entered after its search;
+// build_ports_test holds it.
 constexpr port_fields OUTLET = {
     .corners = {KVT_CORNERS(outlet)},
     .inner_r = &port_params::outlet_inner_r,

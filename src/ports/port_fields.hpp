@@ -1,4 +1,5 @@
-// port_fields: what differs between the inlet and the outlet as a table: their entries, their fields, their messages.
+// port_fields: what differs between the inlet and the outlet as a table: their entries, their
+// fields, their messages.
 #pragma once
 
 #include "core/entries.hpp"
@@ -54,7 +55,8 @@ struct port_fields {
     message out_of_range;
     message radius_too_large;
     bool mirrored;                 ///< the finished outline gets negative y
-    bool keeps_start_outer_angle;  ///< the start angle on the outer radius stays as entered after its search
+    bool keeps_start_outer_angle;  ///< the start angle on the outer radius stays as entered after
+                                   ///< its search
 };
 
 /// Indexes of port_fields::corners.

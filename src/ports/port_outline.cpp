@@ -11,7 +11,9 @@ namespace {
 class port_outline_steps {
   public:
     explicit port_outline_steps(const port_shape& port)
-        : port_(port), filleted_(val(str(port.f)) != 0.0), start_base_(degrees_of(port.side_angle_start)) {}
+        : port_(port),
+          filleted_(val(str(port.f)) != 0.0),
+          start_base_(degrees_of(port.side_angle_start)) {}
 
     port_outline run() {
         points().add(corner(START_INNER).s);
@@ -43,7 +45,8 @@ class port_outline_steps {
         return fillet_angle_deg(port_.f, port_.f + port_.R, distance_squared(at.s, 0.0));
     }
     double outer_sweep(const port_corner& at) const {
-        return 180.0 - fillet_angle_deg(port_.f, port_.Q - port_.f, distance_squared(at.s, port_.e));
+        return 180.0 -
+               fillet_angle_deg(port_.f, port_.Q - port_.f, distance_squared(at.s, port_.e));
     }
 
     void start_inner_fillet() {

@@ -129,18 +129,23 @@ constexpr port_field<double> VALUES[] = {
 };
 
 constexpr port_field<std::int16_t> INDEXES[] = {
-    KVT_PORT_FIELD(inlet_port_last), KVT_PORT_FIELD(inlet_mark_a),     KVT_PORT_FIELD(inlet_mark_b),
-    KVT_PORT_FIELD(inlet_mark_c),    KVT_PORT_FIELD(inlet_mark_d),     KVT_PORT_FIELD(outlet_port_last),
-    KVT_PORT_FIELD(outlet_mark_a),   KVT_PORT_FIELD(outlet_mark_b),    KVT_PORT_FIELD(outlet_mark_c),
-    KVT_PORT_FIELD(outlet_mark_d),   KVT_PORT_FIELD(groove_main_last), KVT_PORT_FIELD(groove_last),
-    KVT_PORT_FIELD(groove_mark_a),   KVT_PORT_FIELD(groove_mark_b),    KVT_PORT_FIELD(groove_mark_c),
-    KVT_PORT_FIELD(groove_mark_d),
+    KVT_PORT_FIELD(inlet_port_last),  KVT_PORT_FIELD(inlet_mark_a),
+    KVT_PORT_FIELD(inlet_mark_b),     KVT_PORT_FIELD(inlet_mark_c),
+    KVT_PORT_FIELD(inlet_mark_d),     KVT_PORT_FIELD(outlet_port_last),
+    KVT_PORT_FIELD(outlet_mark_a),    KVT_PORT_FIELD(outlet_mark_b),
+    KVT_PORT_FIELD(outlet_mark_c),    KVT_PORT_FIELD(outlet_mark_d),
+    KVT_PORT_FIELD(groove_main_last), KVT_PORT_FIELD(groove_last),
+    KVT_PORT_FIELD(groove_mark_a),    KVT_PORT_FIELD(groove_mark_b),
+    KVT_PORT_FIELD(groove_mark_c),    KVT_PORT_FIELD(groove_mark_d),
 };
 
 constexpr port_array ARRAYS[] = {
-    KVT_PORT_ARRAY(inlet_port_x, inlet_port_last),   KVT_PORT_ARRAY(inlet_port_y, inlet_port_last),
-    KVT_PORT_ARRAY(outlet_port_x, outlet_port_last), KVT_PORT_ARRAY(outlet_port_y, outlet_port_last),
-    KVT_PORT_ARRAY(groove_x, groove_last),           KVT_PORT_ARRAY(groove_y, groove_last),
+    KVT_PORT_ARRAY(inlet_port_x, inlet_port_last),
+    KVT_PORT_ARRAY(inlet_port_y, inlet_port_last),
+    KVT_PORT_ARRAY(outlet_port_x, outlet_port_last),
+    KVT_PORT_ARRAY(outlet_port_y, outlet_port_last),
+    KVT_PORT_ARRAY(groove_x, groove_last),
+    KVT_PORT_ARRAY(groove_y, groove_last),
 };
 
 #undef KVT_PORT_FIELD

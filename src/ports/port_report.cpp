@@ -7,20 +7,23 @@ namespace kvt {
 
 namespace {
 
-void add_centres(const port_fields& port, const port_params& ports, std::vector<std::string>& lines) {
+void add_centres(const port_fields& port, const port_params& ports,
+                 std::vector<std::string>& lines) {
     for (const corner_fields& corner : port.corners) {
         const point2 c = corner.c.get(ports);
-        lines.push_back("X: " + number_text(c.x) + "; Y: " + number_text(port.mirrored ? c.y * -1.0 : c.y));
+        lines.push_back("X: " + number_text(c.x) +
+                        "; Y: " + number_text(port.mirrored ? c.y * -1.0 : c.y));
     }
 }
 
-void add_port(const std::string& name, const port_fields& port, const port_params& ports, double ecc,
-              std::vector<std::string>& lines) {
+void add_port(const std::string& name, const port_fields& port, const port_params& ports,
+              double ecc, std::vector<std::string>& lines) {
     lines.push_back(name + " Port Radii Centre Co-ordinates:");
     add_centres(port, ports, lines);
-    lines.push_back(name + " Port Inner Radius: " + number_text(ports.*port.inner_r) + "; Centre, X: 0; Y: 0");
-    lines.push_back(name + " Port Outer Radius: " + number_text(ports.*port.outer_r) + "; Centre, X: -" +
-                    number_text(ecc) + "; Y:0");
+    lines.push_back(name + " Port Inner Radius: " + number_text(ports.*port.inner_r) +
+                    "; Centre, X: 0; Y: 0");
+    lines.push_back(name + " Port Outer Radius: " + number_text(ports.*port.outer_r) +
+                    "; Centre, X: -" + number_text(ecc) + "; Y:0");
     lines.push_back("Port Corner Radii: " + number_text(ports.port_radius));
     lines.emplace_back();
 }
@@ -29,11 +32,11 @@ void add_port(const std::string& name, const port_fields& port, const port_param
 
 std::vector<std::string> port_report_lines(const port_params& ports, const design_params& design,
                                            const port_report_head& head) {
-    std::vector<std::string> lines = {
-        "Kavetta V" + head.version + " - Port Radius Co-ordinates",
-        "Cartesian Co-ordinate Datum is centre of Inner Rotor. Alignment of Cartesian Axes are as drawn in KVT model "
-        "window.",
-        head.date, head.project_name, ""};
+    std::vector<std::string> lines = {"Kavetta V" + head.version + " - Port Radius Co-ordinates",
+                                      "Cartesian Co-ordinate Datum is centre of Inner Rotor. "
+                                      "Alignment of Cartesian Axes are as drawn in KVT model "
+                                      "window.",
+                                      head.date, head.project_name, ""};
     add_port("Inlet", inlet_fields(), ports, design.ecc, lines);
     add_port("Outlet", outlet_fields(), ports, design.ecc, lines);
     lines.emplace_back("End of File");

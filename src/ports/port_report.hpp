@@ -19,8 +19,9 @@ struct port_report_head {
     std::string project_name;
 };
 
-/// The 24 lines, UTF-8: head, four fillet centres and three radii of each port. Millimetres in 15-digit text whatever
-/// the unit of the entries. The y of the inlet's centres is negated, as the inlet lies below the x axis.
+/// The 24 lines, UTF-8: head, four fillet centres and three radii of each port. Millimetres in
+/// 15-digit text whatever the unit of the entries. The y of the inlet's centres is negated, as the
+/// inlet lies below the x axis.
 std::vector<std::string> port_report_lines(const port_params& ports, const design_params& design,
                                            const port_report_head& head);
 

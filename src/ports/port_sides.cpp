@@ -30,8 +30,8 @@ void store_corner(const port_fields& port, port_work& work, std::size_t index, d
     const corner_fields& fields = port.corners[index];
     const double arc_r = is_inner(index) ? ports.*port.inner_r : ports.*port.outer_r;
     const double shift = is_inner(index) ? 0.0 : work.design.ecc;
-    const port_corner corner =
-        corner_at(t_deg, arc_r, centre_radius(port, ports, index), ports.port_radius, side_angle(ports, fields), shift);
+    const port_corner corner = corner_at(t_deg, arc_r, centre_radius(port, ports, index),
+                                         ports.port_radius, side_angle(ports, fields), shift);
     ports.*fields.t_deg = corner.t_deg;
     fields.c.set(ports, corner.c);
     fields.s.set(ports, corner.s);
@@ -41,7 +41,8 @@ void store_corner(const port_fields& port, port_work& work, std::size_t index, d
 corner_search search_of(const port_fields& port, const port_params& ports, std::size_t index) {
     const corner_fields& fields = port.corners[index];
     const double arc_r = is_inner(index) ? ports.*port.inner_r : ports.*port.outer_r;
-    const corner_input in = {arc_r, ports.*fields.angle_deg, ports.port_radius, side_angle(ports, fields)};
+    const corner_input in = {arc_r, ports.*fields.angle_deg, ports.port_radius,
+                             side_angle(ports, fields)};
     switch (index) {
         case START_INNER:
             return search_start_inner(in);
@@ -83,17 +84,20 @@ port_end set_searched_corner(const port_fields& port, port_work& work, std::size
     return port_end::finished;
 }
 
-/// Both corners of a side, the inner one first: on the x axis when both angle texts say so, else by search.
-port_end set_corners(const port_fields& port, port_work& work, std::size_t inner, std::size_t outer, double axis_deg) {
-    const bool on_axis =
-        val(work.boxes.*port.corners[inner].box) == axis_deg && val(work.boxes.*port.corners[outer].box) == axis_deg;
+/// Both corners of a side, the inner one first: on the x axis when both angle texts say so, else by
+/// search.
+port_end set_corners(const port_fields& port, port_work& work, std::size_t inner, std::size_t outer,
+                     double axis_deg) {
+    const bool on_axis = val(work.boxes.*port.corners[inner].box) == axis_deg &&
+                         val(work.boxes.*port.corners[outer].box) == axis_deg;
     if (!on_axis) {
         const port_end end = set_searched_corner(port, work, inner);
         return end == port_end::refused ? end : set_searched_corner(port, work, outer);
     }
     for (const std::size_t index : {inner, outer}) {
         work.ports.*port.corners[index].angle_deg = 0.0;
-        const double t = axis_corner_angle(work.ports.port_radius, centre_radius(port, work.ports, index));
+        const double t =
+            axis_corner_angle(work.ports.port_radius, centre_radius(port, work.ports, index));
         store_corner(port, work, index, port.corners[index].is_end ? 180.0 - t : t);
     }
     return port_end::finished;
@@ -105,7 +109,8 @@ void set_side_lines(const port_fields& port, const design_params& design, port_p
     for (std::size_t index = 0; index < port.corners.size(); ++index) {
         const corner_fields& fields = port.corners[index];
         const double r = is_inner(index) ? ports.*port.inner_r : ports.*port.outer_r;
-        fields.p.set(ports, on_circle(r, ports.*fields.angle_deg, is_inner(index) ? 0.0 : design.ecc));
+        fields.p.set(ports,
+                     on_circle(r, ports.*fields.angle_deg, is_inner(index) ? 0.0 : design.ecc));
     }
     const auto p = [&](std::size_t index) { return port.corners[index].p.get(ports); };
     ports.side_angle_start = start_side_angle(p(START_INNER), p(START_OUTER));

@@ -29,8 +29,9 @@ void clear_rotors(design_view& view) {
 
 void clear_all(design_view& view) {
     clear_rotors(view);
-    for (line_array* lines : {&view.metering_groove_extraline, &view.anglelineout, &view.angleline,
-                              &view.metering_groove_portline, &view.outlet_portline, &view.inlet_portline}) {
+    for (line_array* lines :
+         {&view.metering_groove_extraline, &view.anglelineout, &view.angleline,
+          &view.metering_groove_portline, &view.outlet_portline, &view.inlet_portline}) {
         lines->clear();
     }
 }
@@ -40,15 +41,16 @@ void set_plot_scale(const design_params& design, app_state& state) {
     state.view_ecc = design.ecc * state.view_scale;
 }
 
-void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
-                      design_view& view) {
+void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors,
+                      const app_state& state, design_view& view) {
     const double half = state.view_size / 2.0;
     draw_inner_outline(rotors, view.Line1, [&](const point2& point) {
-        return screen_point{
-            single(state.view_scale * point.x + half + state.view_ecc + design.clearn_half * state.view_scale),
-            single(state.view_scale * point.y + half)};
+        return screen_point{single(state.view_scale * point.x + half + state.view_ecc +
+                                   design.clearn_half * state.view_scale),
+                            single(state.view_scale * point.y + half)};
     });
-    view.Shape1 = {state.view_size / 2.0, state.view_size / 2.0, state.view_scale * design.maxdiameter, true};
+    view.Shape1 = {state.view_size / 2.0, state.view_size / 2.0,
+                   state.view_scale * design.maxdiameter, true};
 }
 
 }  // namespace kvt

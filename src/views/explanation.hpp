@@ -1,5 +1,6 @@
-// explanation: a drawing that names the parameters of the forms with dimension lines, as plain data; a tool paints it.
-// Lengths mm, angles degrees; x to the right, y up, the inner rotor axis at the origin, the outer one at (-ecc, 0).
+// explanation: a drawing that names the parameters of the forms with dimension lines, as plain
+// data; a tool paints it. Lengths mm, angles degrees; x to the right, y up, the inner rotor axis at
+// the origin, the outer one at (-ecc, 0).
 #pragma once
 
 #include "geometry/point2.hpp"
@@ -25,7 +26,8 @@ struct measured_line {
     bool arrow_from = false, arrow_to = true;
 };
 
-/// A dimension line of an angle: an arc counter-clockwise from `from_deg` to `to_deg`, an arrow at both ends.
+/// A dimension line of an angle: an arc counter-clockwise from `from_deg` to `to_deg`, an arrow at
+/// both ends.
 struct measured_arc {
     point2 centre;
     double radius = 0.0, from_deg = 0.0, to_deg = 0.0;
@@ -46,7 +48,8 @@ struct explained_parameter {
     std::vector<measured_line> lines;
     std::vector<measured_arc> arcs;
     std::vector<extension_line> extensions;
-    std::vector<point2> leader;  ///< from the text to the dimension line or the outline; empty: the text stands at it
+    std::vector<point2> leader;  ///< from the text to the dimension line or the outline; empty: the
+                                 ///< text stands at it
     bool leader_has_arrow = false;
 };
 

@@ -6,8 +6,8 @@
 
 namespace kvt {
 
-explained_parameter& add_name(explanation& drawing, std::string_view form, std::string_view label, const point2& at,
-                              text_side side) {
+explained_parameter& add_name(explanation& drawing, std::string_view form, std::string_view label,
+                              const point2& at, text_side side) {
     explained_parameter& parameter = drawing.parameters.emplace_back();
     parameter.form = form;
     parameter.label = label;
@@ -37,7 +37,8 @@ std::vector<point2> circle_points(const point2& centre, double radius) {
     return points;
 }
 
-std::vector<point2> listed_points(std::span<const double> x, std::span<const double> y, std::size_t last) {
+std::vector<point2> listed_points(std::span<const double> x, std::span<const double> y,
+                                  std::size_t last) {
     std::vector<point2> points;
     for (std::size_t index = 0; index <= last && index < x.size() && index < y.size(); ++index) {
         points.push_back({x[index], y[index]});
@@ -57,7 +58,11 @@ std::vector<point2> closed_outline(std::span<const double> xy) {
 }
 
 std::vector<point2> rectangle_points(const point2& lower_left, const point2& upper_right) {
-    return {lower_left, {upper_right.x, lower_left.y}, upper_right, {lower_left.x, upper_right.y}, lower_left};
+    return {lower_left,
+            {upper_right.x, lower_left.y},
+            upper_right,
+            {lower_left.x, upper_right.y},
+            lower_left};
 }
 
 std::vector<measured_line> arrows_around(const point2& a, const point2& b, double tail) {
@@ -66,7 +71,8 @@ std::vector<measured_line> arrows_around(const point2& a, const point2& b, doubl
         return {};
     }
     const point2 along{(b.x - a.x) / length * tail, (b.y - a.y) / length * tail};
-    return {{{a.x - along.x, a.y - along.y}, a, false, true}, {{b.x + along.x, b.y + along.y}, b, false, true}};
+    return {{{a.x - along.x, a.y - along.y}, a, false, true},
+            {{b.x + along.x, b.y + along.y}, b, false, true}};
 }
 
 }  // namespace kvt

@@ -24,8 +24,9 @@ struct drawn_flank {
 /// Draws the arcs of one design with its lobe centres at a radius.
 class outer_rotor_drawing {
   public:
-    outer_rotor_drawing(const design_params& design, double centre_radius, const outer_rotor_place& place,
-                        double view_scale, std::vector<drawn_arc>& arcs)
+    outer_rotor_drawing(const design_params& design, double centre_radius,
+                        const outer_rotor_place& place, double view_scale,
+                        std::vector<drawn_arc>& arcs)
         : design_(design),
           place_(place),
           view_scale_(view_scale),
@@ -42,8 +43,8 @@ class outer_rotor_drawing {
             theta = theta + pitch;
             first.push_back(flank(theta, theta - flank_.alpha, theta - flank_.beta, true));
             second.push_back(flank(theta, theta + flank_.alpha, theta + flank_.beta, false));
-            add_arc(polar_point(lobe_centre_radius_, theta), design_.radouter, second.back().lobe_angle,
-                    first.back().lobe_angle);
+            add_arc(polar_point(lobe_centre_radius_, theta), design_.radouter,
+                    second.back().lobe_angle, first.back().lobe_angle);
         }
         for (std::size_t lobe = 0; lobe < first.size(); ++lobe) {
             add_arc({0.0, 0.0}, design_.outer_root, second[lobe].root_angle,
@@ -52,7 +53,8 @@ class outer_rotor_drawing {
     }
 
   private:
-    /// Notes the angles of a flank and draws its fillet; on the first flank from root to lobe, on the second back.
+    /// Notes the angles of a flank and draws its fillet; on the first flank from root to lobe, on
+    /// the second back.
     drawn_flank flank(double theta, double A, double B, bool is_first) {
         const point2 root_end = polar_point(design_.outer_root, A);
         const point2 lobe_end = polar_point(flank_.tangent_radius, B);
@@ -60,9 +62,11 @@ class outer_rotor_drawing {
             const point2 centre = polar_point(design_.outer_root - design_.fillet, A);
             const double root_side = direction(centre, root_end);
             const double lobe_side = direction(centre, lobe_end);
-            add_arc(centre, design_.fillet, is_first ? root_side : lobe_side, is_first ? lobe_side : root_side);
+            add_arc(centre, design_.fillet, is_first ? root_side : lobe_side,
+                    is_first ? lobe_side : root_side);
         }
-        return {direction({0.0, 0.0}, root_end), direction(polar_point(lobe_centre_radius_, theta), lobe_end)};
+        return {direction({0.0, 0.0}, root_end),
+                direction(polar_point(lobe_centre_radius_, theta), lobe_end)};
     }
 
     static double direction(const point2& centre, const point2& point) {
@@ -70,8 +74,8 @@ class outer_rotor_drawing {
     }
 
     void add_arc(const point2& centre, double radius, double start, double end) {
-        arcs_.push_back(
-            {place_.x + centre.x * view_scale_, place_.y - centre.y * view_scale_, radius * view_scale_, start, end});
+        arcs_.push_back({place_.x + centre.x * view_scale_, place_.y - centre.y * view_scale_,
+                         radius * view_scale_, start, end});
     }
 
     const design_params& design_;
@@ -95,15 +99,16 @@ double drawing_angle(double dx, double dy) {
     return angle;
 }
 
-void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors, const app_state& state,
-                      design_view& view) {
+void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors,
+                      const app_state& state, design_view& view) {
     const double half = state.view_size / 2.0;
-    outer_rotor_drawing(design, lobe_centre_radius(design, rotors), {half, half, 0.0}, state.view_scale, view.Picture1)
+    outer_rotor_drawing(design, lobe_centre_radius(design, rotors), {half, half, 0.0},
+                        state.view_scale, view.Picture1)
         .run();
 }
 
-void redraw_outer_rotor(const design_params& design, const outer_rotor_place& place, const app_state& state,
-                        design_view& view) {
+void redraw_outer_rotor(const design_params& design, const outer_rotor_place& place,
+                        const app_state& state, design_view& view) {
     const double centre_radius = design.radouter + (design.radinnroot + design.ecc);
     outer_rotor_drawing(design, centre_radius, place, state.view_scale, view.Picture1).run();
 }

@@ -18,7 +18,8 @@ double direction(const point2& from, const point2& to) {
     return std::atan2(to.y - from.y, to.x - from.x) * DEGREES_PER_RADIAN;
 }
 
-/// One port as the drawing needs it: its corners without fillets where they lie, and the labels of its entries.
+/// One port as the drawing needs it: its corners without fillets where they lie, and the labels of
+/// its entries.
 struct explained_port {
     point2 start_inner, start_outer, end_inner, end_outer;
     double inner_r = 0.0, outer_r = 0.0;
@@ -61,10 +62,12 @@ explained_port outlet_of(const port_params& ports) {
             "Label16"};
 }
 
-/// Draws both ports. The measure is the hundredth of the outside diameter, as in the rotors' drawing.
+/// Draws both ports. The measure is the hundredth of the outside diameter, as in the rotors'
+/// drawing.
 class port_drawing {
   public:
-    port_drawing(const design_params& design, const rotor_profiles& rotors, const port_params& ports)
+    port_drawing(const design_params& design, const rotor_profiles& rotors,
+                 const port_params& ports)
         : rotors_(rotors),
           ports_(ports),
           outer_{-design.ecc, 0.0},
@@ -107,16 +110,21 @@ class port_drawing {
 
     void add_outlines() {
         const auto last = [](std::int16_t index) { return static_cast<std::size_t>(index); };
-        add(outline_style::background, listed_points(rotors_.outer_x, rotors_.outer_y, last(rotors_.outer_last)),
-            false);
         add(outline_style::background,
-            listed_points(rotors_.inner_x, rotors_.inner_y, static_cast<std::size_t>(PROFILE_POINTS) - 1), false);
-        add(outline_style::groove, listed_points(ports_.groove_x, ports_.groove_y, last(ports_.groove_main_last)),
-            true);
-        add(outline_style::inlet, listed_points(ports_.inlet_port_x, ports_.inlet_port_y, last(ports_.inlet_port_last)),
+            listed_points(rotors_.outer_x, rotors_.outer_y, last(rotors_.outer_last)), false);
+        add(outline_style::background,
+            listed_points(rotors_.inner_x, rotors_.inner_y,
+                          static_cast<std::size_t>(PROFILE_POINTS) - 1),
+            false);
+        add(outline_style::groove,
+            listed_points(ports_.groove_x, ports_.groove_y, last(ports_.groove_main_last)), true);
+        add(outline_style::inlet,
+            listed_points(ports_.inlet_port_x, ports_.inlet_port_y, last(ports_.inlet_port_last)),
             true);
         add(outline_style::outlet,
-            listed_points(ports_.outlet_port_x, ports_.outlet_port_y, last(ports_.outlet_port_last)), true);
+            listed_points(ports_.outlet_port_x, ports_.outlet_port_y,
+                          last(ports_.outlet_port_last)),
+            true);
         add(outline_style::axis, {at(-60.0, 0.0), at(60.0, 0.0)}, false);
         add(outline_style::axis, {at(0.0, -30.0), at(0.0, 30.0)}, false);
         add(outline_style::axis, {{0.0, -30.0 * unit_}, {0.0, 30.0 * unit_}}, false);
@@ -127,13 +135,16 @@ class port_drawing {
         name(port.frame, {outer_.x / 2.0, port.up * radius}, text_side::centred);
     }
 
-    /// The arc from the positive x axis to a corner, counter-clockwise above the axis, and its mirror below it.
-    static measured_arc arc_to(const point2& centre, double radius, const point2& corner, double up) {
+    /// The arc from the positive x axis to a corner, counter-clockwise above the axis, and its
+    /// mirror below it.
+    static measured_arc arc_to(const point2& centre, double radius, const point2& corner,
+                               double up) {
         const double degrees = direction(centre, corner);
-        return up > 0.0 ? measured_arc{centre, radius, 0.0, degrees} : measured_arc{centre, radius, degrees, 0.0};
+        return up > 0.0 ? measured_arc{centre, radius, 0.0, degrees}
+                        : measured_arc{centre, radius, degrees, 0.0};
     }
-    void measure_angle(explained_parameter& parameter, const point2& centre, double radius, const point2& corner,
-                       double up) const {
+    void measure_angle(explained_parameter& parameter, const point2& centre, double radius,
+                       const point2& corner, double up) const {
         const double reach = std::max(radius + 3.0 * unit_, distance_between(centre, corner));
         parameter.arcs = {arc_to(centre, radius, corner, up)};
         parameter.extensions = {{centre, point_at(centre, reach, direction(centre, corner))}};
@@ -142,25 +153,28 @@ class port_drawing {
     void name_inner_angles(const explained_port& port) {
         explained_parameter& start = name_right(port.label_start_inner, port.up * 7.0);
         measure_angle(start, {0.0, 0.0}, 0.86 * port.inner_r, port.start_inner, port.up);
-        start.leader = {start.text_at,
-                        point_at({0.0, 0.0}, 0.86 * port.inner_r, direction({0.0, 0.0}, port.start_inner) / 2.0)};
+        start.leader = {start.text_at, point_at({0.0, 0.0}, 0.86 * port.inner_r,
+                                                direction({0.0, 0.0}, port.start_inner) / 2.0)};
 
         explained_parameter& end = name_left(port.label_end_inner, port.up * 6.0);
         const double radius = 0.6 * port.inner_r;
         measure_angle(end, {0.0, 0.0}, radius, port.end_inner, port.up);
-        end.leader = {end.text_at, point_at({0.0, 0.0}, radius, direction({0.0, 0.0}, port.end_inner) - port.up * 4.0)};
+        end.leader = {end.text_at, point_at({0.0, 0.0}, radius,
+                                            direction({0.0, 0.0}, port.end_inner) - port.up * 4.0)};
     }
 
     void name_outer_angles(const explained_port& port) {
         explained_parameter& start = name_right(port.label_start_outer, port.up * 19.0);
         const double start_radius = port.outer_r + 6.0 * unit_;
         measure_angle(start, outer_, start_radius, port.start_outer, port.up);
-        start.leader = {start.text_at, point_at(outer_, start_radius, direction(outer_, port.start_outer) * 0.6)};
+        start.leader = {start.text_at,
+                        point_at(outer_, start_radius, direction(outer_, port.start_outer) * 0.6)};
 
         explained_parameter& end = name_left(port.label_end_outer, port.up * 34.0);
         const double end_radius = port.outer_r + 12.0 * unit_;
         measure_angle(end, outer_, end_radius, port.end_outer, port.up);
-        end.leader = {end.text_at, point_at(outer_, end_radius, direction(outer_, port.end_outer) - port.up * 3.0)};
+        end.leader = {end.text_at, point_at(outer_, end_radius,
+                                            direction(outer_, port.end_outer) - port.up * 3.0)};
     }
 
     void name_radii(const explained_port& port) {
@@ -180,7 +194,8 @@ class port_drawing {
         const point2 centre{ports_.outlet_c3_x, ports_.outlet_c3_y};
         const point2 side{ports_.outlet_s3_x, ports_.outlet_s3_y};
         const point2 arc{ports_.outlet_r3_x, ports_.outlet_r3_y};
-        const point2 middle = point_at(centre, ports_.port_radius, direction(centre, halfway(side, arc)));
+        const point2 middle =
+            point_at(centre, ports_.port_radius, direction(centre, halfway(side, arc)));
         explained_parameter& parameter = name_left("Label1", 21.0);
         parameter.leader = {parameter.text_at, middle};
         parameter.leader_has_arrow = true;
@@ -189,13 +204,15 @@ class port_drawing {
     void name_groove() {
         explained_parameter& length = name_left("Label10", 13.0);
         const double radius = ports_.groove_outer_r + 3.0 * unit_;
-        length.arcs = {{groove_centre_, radius, ports_.groove_start_outer_deg, ports_.nose_outer_deg}};
+        length.arcs = {
+            {groove_centre_, radius, ports_.groove_start_outer_deg, ports_.nose_outer_deg}};
         for (const double degrees : {ports_.groove_start_outer_deg, ports_.nose_outer_deg}) {
             length.extensions.push_back({point_at(groove_centre_, ports_.groove_outer_r, degrees),
                                          point_at(groove_centre_, radius + 2.0 * unit_, degrees)});
         }
-        length.leader = {length.text_at, point_at(groove_centre_, radius,
-                                                  (ports_.groove_start_outer_deg + ports_.nose_outer_deg) / 2.0)};
+        length.leader = {length.text_at,
+                         point_at(groove_centre_, radius,
+                                  (ports_.groove_start_outer_deg + ports_.nose_outer_deg) / 2.0)};
     }
 
     /// The groove across its path, four times as large as the rest.
@@ -222,11 +239,14 @@ class port_drawing {
             true);
 
         const double above = face + 6.0 * unit_;
-        explained_parameter& width = name("Label11", {middle.x, above + 5.0 * unit_}, text_side::centred);
+        explained_parameter& width =
+            name("Label11", {middle.x, above + 5.0 * unit_}, text_side::centred);
         width.lines = {{{left.x, above}, {right.x, above}, true, true}};
-        width.extensions = {{left, {left.x, above + 2.0 * unit_}}, {right, {right.x, above + 2.0 * unit_}}};
+        width.extensions = {{left, {left.x, above + 2.0 * unit_}},
+                            {right, {right.x, above + 2.0 * unit_}}};
 
-        explained_parameter& deep = name("Label12", {middle.x, bottom - edge - 6.0 * unit_}, text_side::centred);
+        explained_parameter& deep =
+            name("Label12", {middle.x, bottom - edge - 6.0 * unit_}, text_side::centred);
         deep.lines = {{{middle.x, face}, {middle.x, bottom}, true, true}};
         deep.leader = {{middle.x, bottom - edge - 3.0 * unit_}, {middle.x, bottom}};
         name("metering_groove", {middle.x, above + 18.0 * unit_}, text_side::centred);
@@ -241,7 +261,8 @@ class port_drawing {
 
 }  // namespace
 
-explanation explain_ports(const design_params& design, const rotor_profiles& rotors, const port_params& ports) {
+explanation explain_ports(const design_params& design, const rotor_profiles& rotors,
+                          const port_params& ports) {
     return port_drawing(design, rotors, ports).run();
 }
 

@@ -1,4 +1,5 @@
-// The drawing of the window port_explain: both ports and the metering groove with the names of the Port Design form.
+// The drawing of the window port_explain: both ports and the metering groove with the names of the
+// Port Design form.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -8,9 +9,11 @@
 
 namespace kvt {
 
-/// The drawing of designed ports over their rotors, to scale. Angles stand at the corners without fillets that the
-/// entries describe: those of the inner radius about the inner rotor axis, those of the outer radius about the outer
-/// one, all from the positive x axis, the inlet's downwards. A section at the right shows the groove's width and depth.
-explanation explain_ports(const design_params& design, const rotor_profiles& rotors, const port_params& ports);
+/// The drawing of designed ports over their rotors, to scale. Angles stand at the corners without
+/// fillets that the entries describe: those of the inner radius about the inner rotor axis, those
+/// of the outer radius about the outer one, all from the positive x axis, the inlet's downwards. A
+/// section at the right shows the groove's width and depth.
+explanation explain_ports(const design_params& design, const rotor_profiles& rotors,
+                          const port_params& ports);
 
 }  // namespace kvt

@@ -13,7 +13,9 @@ namespace {
 
 /// An element from one point in mm to another.
 drawn_line line_between(point2 from, point2 to, const app_state& state) {
-    const auto x = [&state](point2 p) { return single(state.view_scale * p.x + state.view_cx + state.view_ecc); };
+    const auto x = [&state](point2 p) {
+        return single(state.view_scale * p.x + state.view_cx + state.view_ecc);
+    };
     const auto y = [&state](point2 p) { return single(state.view_cy - state.view_scale * p.y); };
     return {x(from), y(from), x(to), y(to)};
 }
@@ -28,7 +30,8 @@ void draw_segments(const std::vector<double>& x, const std::vector<double>& y, i
     }
 }
 
-void draw_rays(point2 centre, const std::array<point2, 4>& corners, const app_state& state, line_array& lines) {
+void draw_rays(point2 centre, const std::array<point2, 4>& corners, const app_state& state,
+               line_array& lines) {
     lines.clear();
     for (std::size_t i = 0; i < corners.size(); ++i) {
         lines.set(i, line_between(centre, corners[i], state));
@@ -38,11 +41,13 @@ void draw_rays(point2 centre, const std::array<point2, 4>& corners, const app_st
 }  // namespace
 
 void draw_inlet_port(const port_params& ports, const app_state& state, design_view& view) {
-    draw_segments(ports.inlet_port_x, ports.inlet_port_y, 0, ports.inlet_port_last, state, view.inlet_portline);
+    draw_segments(ports.inlet_port_x, ports.inlet_port_y, 0, ports.inlet_port_last, state,
+                  view.inlet_portline);
 }
 
 void draw_outlet_port(const port_params& ports, const app_state& state, design_view& view) {
-    draw_segments(ports.outlet_port_x, ports.outlet_port_y, 0, ports.outlet_port_last, state, view.outlet_portline);
+    draw_segments(ports.outlet_port_x, ports.outlet_port_y, 0, ports.outlet_port_last, state,
+                  view.outlet_portline);
 }
 
 void draw_port_angles(const port_params& ports, const design_params& design, const app_state& state,
@@ -62,7 +67,8 @@ void draw_port_angles(const port_params& ports, const design_params& design, con
 }
 
 void draw_metering_groove(const port_params& ports, const app_state& state, design_view& view) {
-    draw_segments(ports.groove_x, ports.groove_y, 0, ports.groove_main_last, state, view.metering_groove_portline);
+    draw_segments(ports.groove_x, ports.groove_y, 0, ports.groove_main_last, state,
+                  view.metering_groove_portline);
     draw_segments(ports.groove_x, ports.groove_y, ports.groove_main_last, ports.groove_last, state,
                   view.metering_groove_extraline);
 }

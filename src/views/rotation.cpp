@@ -43,7 +43,8 @@ std::string rotated_angle_text(const app_state& state) {
     return number_text(floor_to_int(state.rotation_angle * 10.0) / 10.0);
 }
 
-void redraw_rotated(const design_params& design, const rotor_profiles& rotors, app_state& state, design_view& view) {
+void redraw_rotated(const design_params& design, const rotor_profiles& rotors, app_state& state,
+                    design_view& view) {
     view.Line1.element0_visible = false;
     view.Picture1.clear();
     state.view_ecc = state.view_scale * design.ecc;
@@ -51,8 +52,9 @@ void redraw_rotated(const design_params& design, const rotor_profiles& rotors, a
     draw_inner_outline(rotors, view.Line1, [&](const point2& point) {
         const double theta = polar_angle(point);
         const double r = radius_of(point);
-        return screen_point{single(state.view_ecc + state.view_scale * r * std::cos(theta + a) + state.view_cx),
-                            single(state.view_scale * r * std::sin(theta + a) + state.view_cy)};
+        return screen_point{
+            single(state.view_ecc + state.view_scale * r * std::cos(theta + a) + state.view_cx),
+            single(state.view_scale * r * std::sin(theta + a) + state.view_cy)};
     });
     const double start = -state.outer_rotation_angle * PI_D / HALF_TURN_DEG;
     redraw_outer_rotor(design, {state.view_cx, state.view_cy, start}, state, view);

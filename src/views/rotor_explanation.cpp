@@ -20,7 +20,8 @@ std::vector<point2> closed(std::vector<point2> points) {
     return points;
 }
 
-/// Draws one pair. Its measure is the hundredth of the outside diameter, so that all designs fill the picture alike.
+/// Draws one pair. Its measure is the hundredth of the outside diameter, so that all designs fill
+/// the picture alike.
 class rotor_drawing {
   public:
     rotor_drawing(const design_params& design, const rotor_profiles& rotors)
@@ -31,7 +32,8 @@ class rotor_drawing {
           radius_(design.maxdiameter / 2.0),
           bore_(radius_ + design.radial_clear),
           pitch_(360.0 / design.numlobes),
-          inner_(listed_points(rotors.inner_x, rotors.inner_y, static_cast<std::size_t>(PROFILE_POINTS) - 1)) {}
+          inner_(listed_points(rotors.inner_x, rotors.inner_y,
+                               static_cast<std::size_t>(PROFILE_POINTS) - 1)) {}
 
     explanation run() {
         drawing_.left = at(-116.0, 0.0).x;
@@ -63,8 +65,8 @@ class rotor_drawing {
     /// The point of the inner rotor's root nearest to an angle, on the profile.
     point2 inner_root(double degrees) const {
         const double inner_pitch = 360.0 / (design_.numlobes - 1);
-        const point2 direction =
-            point_at({0.0, 0.0}, design_.radinnroot, std::round(degrees / inner_pitch) * inner_pitch);
+        const point2 direction = point_at({0.0, 0.0}, design_.radinnroot,
+                                          std::round(degrees / inner_pitch) * inner_pitch);
         return inner_point_nearest(direction);
     }
     point2 inner_point_nearest(const point2& place) const {
@@ -95,7 +97,8 @@ class rotor_drawing {
         add(outline_style::space, circle_points(outer_, bore_));
         add(outline_style::body, circle_points(outer_, radius_));
         add(outline_style::space,
-            closed(listed_points(rotors_.outer_x, rotors_.outer_y, static_cast<std::size_t>(rotors_.outer_last))));
+            closed(listed_points(rotors_.outer_x, rotors_.outer_y,
+                                 static_cast<std::size_t>(rotors_.outer_last))));
         add(outline_style::body, closed(inner_));
         add(outline_style::shaft, circle_points({0.0, 0.0}, design_.shaftdiameter / 2.0));
         add(outline_style::axis, {at(-58.0, 0.0), at(58.0, 0.0)});
@@ -103,25 +106,28 @@ class rotor_drawing {
         add(outline_style::axis, {{0.0, -13.0 * unit_}, {0.0, 13.0 * unit_}});
     }
 
-    /// The pair from the side in its housing: against the left face, the axial clearance at the right.
+    /// The pair from the side in its housing: against the left face, the axial clearance at the
+    /// right.
     void add_side_view() {
         const double left = at(130.0, 0.0).x;
         const double face = left + design_.thick;
         const double wall = face + design_.axial_clear;
         const double edge = 7.0 * unit_;
         const double shaft = design_.shaftdiameter / 2.0;
-        add(outline_style::housing, rectangle_points({left - edge, -bore_ - edge}, {wall + edge, bore_ + edge}));
+        add(outline_style::housing,
+            rectangle_points({left - edge, -bore_ - edge}, {wall + edge, bore_ + edge}));
         add(outline_style::space, rectangle_points({left, -bore_}, {wall, bore_}));
         add(outline_style::body, rectangle_points({left, -radius_}, {face, radius_}));
-        add(outline_style::shaft, rectangle_points({left - 2.0 * edge, -shaft}, {wall + 2.0 * edge, shaft}));
+        add(outline_style::shaft,
+            rectangle_points({left - 2.0 * edge, -shaft}, {wall + 2.0 * edge, shaft}));
         add(outline_style::axis, {{left - 3.0 * edge, 0.0}, {wall + 3.0 * edge, 0.0}});
         name_thickness(left, face);
         name_axial_clearance(face, wall);
     }
     void name_thickness(double left, double face) {
         const double y = -67.0 * unit_;
-        explained_parameter& parameter =
-            add_name(drawing_, FORM, "Label8", {(left + face) / 2.0, y - 5.0 * unit_}, text_side::centred);
+        explained_parameter& parameter = add_name(
+            drawing_, FORM, "Label8", {(left + face) / 2.0, y - 5.0 * unit_}, text_side::centred);
         parameter.lines = {{{left, y}, {face, y}, true, true}};
         parameter.extensions = {{{left, -radius_}, {left, y - 2.0 * unit_}},
                                 {{face, -radius_}, {face, y - 2.0 * unit_}}};
@@ -129,15 +135,18 @@ class rotor_drawing {
     void name_axial_clearance(double face, double wall) {
         const double y = 64.0 * unit_;
         explained_parameter& parameter =
-            add_name(drawing_, FORM, "Label15", {face - design_.thick / 2.0, y + 6.0 * unit_}, text_side::centred);
+            add_name(drawing_, FORM, "Label15", {face - design_.thick / 2.0, y + 6.0 * unit_},
+                     text_side::centred);
         parameter.lines = arrows_around({face, y}, {wall, y}, 7.0 * unit_);
-        parameter.extensions = {{{face, radius_}, {face, y + 2.0 * unit_}}, {{wall, bore_}, {wall, y + 2.0 * unit_}}};
+        parameter.extensions = {{{face, radius_}, {face, y + 2.0 * unit_}},
+                                {{wall, bore_}, {wall, y + 2.0 * unit_}}};
     }
 
     void name_lobes() {
         const double radius = (lobe_centre_radius(design_, rotors_) + radius_) / 2.0;
         for (int lobe = 1; lobe <= design_.numlobes; ++lobe) {
-            drawing_.marks.push_back({point_at(outer_, radius, pitch_ * lobe), std::to_string(lobe)});
+            drawing_.marks.push_back(
+                {point_at(outer_, radius, pitch_ * lobe), std::to_string(lobe)});
         }
         explained_parameter& parameter = name_left("Label7", 54.0);
         const point2 number = point_at(outer_, radius, lobe_near(120.0));
@@ -146,14 +155,16 @@ class rotor_drawing {
 
     void name_materials() {
         const double gap = gap_near(150.0);
-        const measured_line outside{point_at(outer_, design_.outer_root, gap), point_at(outer_, radius_, gap), true,
-                                    true};
+        const measured_line outside{point_at(outer_, design_.outer_root, gap),
+                                    point_at(outer_, radius_, gap), true, true};
         const point2 root = inner_root(gap);
         const double direction = std::atan2(root.y, root.x) * DEGREES_PER_RADIAN;
-        const measured_line inside{point_at({0.0, 0.0}, design_.shaftdiameter / 2.0, direction), root, true, true};
+        const measured_line inside{point_at({0.0, 0.0}, design_.shaftdiameter / 2.0, direction),
+                                   root, true, true};
         explained_parameter& parameter = name_left("Label12", 30.0);
         parameter.lines = {outside, inside};
-        parameter.leader = {parameter.text_at, halfway(outside.from, outside.to), halfway(inside.from, inside.to)};
+        parameter.leader = {parameter.text_at, halfway(outside.from, outside.to),
+                            halfway(inside.from, inside.to)};
     }
 
     void name_outer_rotor() {
@@ -178,9 +189,11 @@ class rotor_drawing {
         const double root_end = lobe + flank.alpha * DEGREES_PER_RADIAN;
         const point2 centre = point_at(outer_, design_.outer_root - design_.fillet, root_end);
         const point2 root = point_at(outer_, design_.outer_root, root_end);
-        const point2 tangent = point_at(outer_, flank.tangent_radius, lobe + flank.beta * DEGREES_PER_RADIAN);
+        const point2 tangent =
+            point_at(outer_, flank.tangent_radius, lobe + flank.beta * DEGREES_PER_RADIAN);
         const point2 middle = halfway(root, tangent);
-        const double direction = std::atan2(middle.y - centre.y, middle.x - centre.x) * DEGREES_PER_RADIAN;
+        const double direction =
+            std::atan2(middle.y - centre.y, middle.x - centre.x) * DEGREES_PER_RADIAN;
         return point_at(centre, design_.fillet, direction);
     }
 
@@ -193,7 +206,8 @@ class rotor_drawing {
         const double y = 16.0 * unit_;
         explained_parameter& eccentricity = name_right("Label3", 12.0);
         eccentricity.lines = arrows_around({outer_.x, y}, {0.0, y}, 7.0 * unit_);
-        eccentricity.extensions = {{outer_, {outer_.x, y + 2.0 * unit_}}, {{0.0, 0.0}, {0.0, y + 2.0 * unit_}}};
+        eccentricity.extensions = {{outer_, {outer_.x, y + 2.0 * unit_}},
+                                   {{0.0, 0.0}, {0.0, y + 2.0 * unit_}}};
         eccentricity.leader = {eccentricity.text_at, eccentricity.lines.back().from};
 
         const point2 near = point_at({0.0, 0.0}, design_.shaftdiameter / 2.0, 220.0);
@@ -210,7 +224,8 @@ class rotor_drawing {
         tip.leader = {tip.text_at, tip.lines.front().from};
 
         explained_parameter& radial = name_right("Label21", -14.0);
-        radial.lines = arrows_around(point_at(outer_, radius_, -15.0), point_at(outer_, bore_, -15.0), 6.0 * unit_);
+        radial.lines = arrows_around(point_at(outer_, radius_, -15.0),
+                                     point_at(outer_, bore_, -15.0), 6.0 * unit_);
         radial.leader = {radial.text_at, radial.lines.back().from};
     }
 

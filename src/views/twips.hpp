@@ -3,7 +3,8 @@
 
 namespace kvt {
 
-/// The nearest single-precision number. Throws overflow for what such a number can't hold, and for no number.
+/// The nearest single-precision number. Throws overflow for what such a number can't hold, and for
+/// no number.
 float single(double twips);
 
 }  // namespace kvt

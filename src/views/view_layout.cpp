@@ -13,7 +13,8 @@ constexpr double HEIGHT_BEYOND_PICTURE = 1185.0;
 constexpr double WIDTH_BEYOND_PICTURE = 390.0;
 constexpr double LARGEST_VIEW_SIZE = 32767.0;
 
-/// The buttons and the angle stand in one row, the label above it; twips from the form's lower edge.
+/// The buttons and the angle stand in one row, the label above it; twips from the form's lower
+/// edge.
 constexpr double ROW_HEIGHT = 900.0;
 constexpr double LABEL_HEIGHT = 1100.0;
 

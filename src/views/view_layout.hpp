@@ -18,15 +18,16 @@ struct control_place {
 struct view_layout {
     double picture_side = 0.0;
     double form_height = 0.0, form_width = 0.0;  ///< not for a maximised form, which keeps its size
-    control_place rotate_rotors_cw, rotate_rotors_ccw, rotate_label, rotated_angle, zoom_all_command;
+    control_place rotate_rotors_cw, rotate_rotors_ccw, rotate_label, rotated_angle,
+        zoom_all_command;
 
     friend bool operator==(const view_layout&, const view_layout&) = default;
 };
 
-/// The form has a height of so many twips: view_size becomes the height less 1185, at most 32767; nothing more when
-/// that is negative. Otherwise the form is as high as the picture and 1185, and as wide as the picture and 390, so
-/// width follows height. The drawing keeps its scale until the next Calculate Profiles. Throws overflow for a height
-/// below the range of 16 bits.
+/// The form has a height of so many twips: view_size becomes the height less 1185, at most 32767;
+/// nothing more when that is negative. Otherwise the form is as high as the picture and 1185, and
+/// as wide as the picture and 390, so width follows height. The drawing keeps its scale until the
+/// next Calculate Profiles. Throws overflow for a height below the range of 16 bits.
 std::optional<view_layout> resize_view(double form_height, app_state& state);
 
 }  // namespace kvt

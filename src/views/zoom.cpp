@@ -17,8 +17,10 @@ struct noted_ports {
 };
 
 noted_ports note_ports(const design_view& view) {
-    return {shows_outline(view.outlet_portline), shows_outline(view.inlet_portline), shows_outline(view.angleline),
-            shows_outline(view.metering_groove_portline) || shows_outline(view.metering_groove_extraline)};
+    return {shows_outline(view.outlet_portline), shows_outline(view.inlet_portline),
+            shows_outline(view.angleline),
+            shows_outline(view.metering_groove_portline) ||
+                shows_outline(view.metering_groove_extraline)};
 }
 
 void redraw_inner_rotor(const rotor_profiles& rotors, const app_state& state, design_view& view) {
@@ -96,8 +98,8 @@ void zoom_to_band(const design_params& design, app_state& state) {
     state.view_cy = (state.view_cy - state.zoom_start_y) * state.view_zoom;
 }
 
-void redraw_zoomed(const design_params& design, const rotor_profiles& rotors, const port_params& ports,
-                   const app_state& state, design_view& view) {
+void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
+                   const port_params& ports, const app_state& state, design_view& view) {
     const noted_ports noted = note_ports(view);
     clear_all(view);
     redraw_inner_rotor(rotors, state, view);

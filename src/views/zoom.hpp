@@ -12,16 +12,16 @@ namespace kvt {
 /// Whether rotors are drawn. The band, the typed angle and the rotation do nothing without.
 bool has_rotors(const design_view& view);
 
-/// Mouse down at (x, y) twips, any button: the band starts there and all four lines are shown. The corner is rounded
-/// half to even to 16 bits; throws overflow outside.
+/// Mouse down at (x, y) twips, any button: the band starts there and all four lines are shown. The
+/// corner is rounded half to even to 16 bits; throws overflow outside.
 void start_rubber_band(double x, double y, app_state& state, design_view& view);
 
-/// Mouse move, also with no button down (the lines are invisible then). x and y may lie outside the picture. Throws
-/// overflow beyond single precision.
+/// Mouse move, also with no button down (the lines are invisible then). x and y may lie outside the
+/// picture. Throws overflow beyond single precision.
 void stretch_rubber_band(double x, double y, design_view& view);
 
-/// Mouse up: hides the band, rounds the corner like the first, and orders both so that start is the smaller one in each
-/// axis. True when the band has a width and a height.
+/// Mouse up: hides the band, rounds the corner like the first, and orders both so that start is the
+/// smaller one in each axis. True when the band has a width and a height.
 bool end_rubber_band(double x, double y, app_state& state, design_view& view);
 
 /// The band, ordered, fills the picture with its larger side:
@@ -30,11 +30,12 @@ bool end_rubber_band(double x, double y, app_state& state, design_view& view);
 ///     view_cx = (view_cx - zoom_start_x) view_zoom      view_cy likewise
 void zoom_to_band(const design_params& design, app_state& state);
 
-/// Draws everything that the view shows anew at the present scale and place: the inner rotor (without clearn_half,
-/// which only the first drawing adds), the ports, port angles and groove where they were drawn, the outer rotor and
-/// Shape1. The rotors stand at angle 0. Elements drawn before a failure stay. Throws run_time_error for what the outer
-/// rotor's arcs or a coordinate can't hold.
-void redraw_zoomed(const design_params& design, const rotor_profiles& rotors, const port_params& ports,
-                   const app_state& state, design_view& view);
+/// Draws everything that the view shows anew at the present scale and place: the inner rotor
+/// (without clearn_half, which only the first drawing adds), the ports, port angles and groove
+/// where they were drawn, the outer rotor and Shape1. The rotors stand at angle 0. Elements drawn
+/// before a failure stay. Throws run_time_error for what the outer rotor's arcs or a coordinate
+/// can't hold.
+void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
+                   const port_params& ports, const app_state& state, design_view& view);
 
 }  // namespace kvt

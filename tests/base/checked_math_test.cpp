@@ -1,4 +1,5 @@
-// Each checked helper: an ordinary case, its edges, and the failure it raises in place of infinity or NaN.
+// Each checked helper: an ordinary case, its edges, and the failure it raises in place of infinity
+// or NaN.
 #include "base/checked_math.hpp"
 
 #include "support/expect_failure.hpp"
@@ -79,9 +80,15 @@ struct rounding_case {
 };
 
 constexpr rounding_case ROUNDINGS[] = {
-    {0.5, 0.0, 0.0},      {1.5, 2.0, 1.0},      {2.5, 2.0, 2.0},
-    {2.500001, 3.0, 2.0}, {2.499999, 2.0, 2.0}, {-0.5, 0.0, -1.0},
-    {-1.5, -2.0, -2.0},   {-2.5, -2.0, -3.0},   {4503599627370497.0, 4503599627370497.0, 4503599627370497.0},
+    {0.5, 0.0, 0.0},
+    {1.5, 2.0, 1.0},
+    {2.5, 2.0, 2.0},
+    {2.500001, 3.0, 2.0},
+    {2.499999, 2.0, 2.0},
+    {-0.5, 0.0, -1.0},
+    {-1.5, -2.0, -2.0},
+    {-2.5, -2.0, -3.0},
+    {4503599627370497.0, 4503599627370497.0, 4503599627370497.0},
 };
 
 TEST(round_half_even, sends_a_tie_to_the_even_neighbour) {
@@ -122,8 +129,9 @@ TEST(to_int32, overflows_outside_its_range) {
     EXPECT_FAILURE(to_int32(NOT_A_NUMBER), failure::overflow);
 }
 
-// arctan(0) + half_pi; arctan(-0.6 / 0.8) + half_pi and arctan(0.6 / 0.8) + half_pi, the 3-4-5 triangle. The root of
-// -0.36 + 1 and the quotient are each off by half a unit in the last place, so the sum by less than 4e-16.
+// arctan(0) + half_pi; arctan(-0.6 / 0.8) + half_pi and arctan(0.6 / 0.8) + half_pi, the 3-4-5
+// triangle. The root of -0.36 + 1 and the quotient are each off by half a unit in the last place,
+// so the sum by less than 4e-16.
 TEST(arc_cosine_form, gives_the_angle_with_the_half_turn_of_its_caller) {
     EXPECT_EQ(arc_cosine_form(0.0, HALF_PI), HALF_PI);
     EXPECT_NEAR(arc_cosine_form(0.6, HALF_PI), HALF_PI - 0.64350110879328437, 4e-16);

@@ -48,7 +48,8 @@ TEST(code_page, keeps_all_256_byte_values_through_a_round_trip) {
     const std::string text = utf8_of_code_page(bytes);
     EXPECT_EQ(code_page_of_utf8(text), bytes);
     EXPECT_TRUE(fits_code_page(text));
-    // 128 of one byte; 96 + 5 of two bytes in Latin-1; of the table's other 27, ten lie below U+0800.
+    // 128 of one byte; 96 + 5 of two bytes in Latin-1; of the table's other 27, ten lie below
+    // U+0800.
     EXPECT_EQ(text.size(), 128u + 2 * (96 + 5 + 10) + 3 * 17);
 }
 

@@ -15,17 +15,20 @@ namespace {
 
 std::string shown(double magnitude) {
     const fifteen_digits parts = fifteen_digits_of(magnitude);
-    return std::string(parts.digits.begin(), parts.digits.end()) + " e" + std::to_string(parts.exponent);
+    return std::string(parts.digits.begin(), parts.digits.end()) + " e" +
+           std::to_string(parts.exponent);
 }
 
 /// What the standard library rounds to.
 std::string rounded(double magnitude) {
     std::array<char, 32> buffer;
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific, 14).ptr;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                   std::chars_format::scientific, 14)
+                         .ptr;
     const std::string text(buffer.data(), end);
     const std::size_t e = text.find('e');
-    return text.substr(0, 1) + text.substr(2, e - 2) + " e" + std::to_string(std::stoi(text.substr(e + 1)));
+    return text.substr(0, 1) + text.substr(2, e - 2) + " e" +
+           std::to_string(std::stoi(text.substr(e + 1)));
 }
 
 TEST(fifteen_digits, are_those_of_the_number) {

@@ -19,8 +19,9 @@ struct rounding_case {
     const char* text;
 };
 
-// 0.03125 and 0.09375 are exact in binary, so x * 10000 is the tie itself. The double next to 12.34565 lies a little
-// beside the tie, but its product with 10000 rounds to 123456.5 exactly: a tie again, and the even neighbour is 123456.
+// 0.03125 and 0.09375 are exact in binary, so x * 10000 is the tie itself. The double next
+// to 12.34565 lies a little beside the tie, but its product with 10000 rounds to 123456.5 exactly:
+// a tie again, and the even neighbour is 123456.
 constexpr rounding_case ROUNDINGS[] = {
     {0.0, 0, "0"},
     {-0.0, 0, "0"},
@@ -53,8 +54,10 @@ TEST(fixed4, shows_up_to_four_decimals_without_trailing_zeros) {
 }
 
 TEST(fixed4, shows_the_ends_of_its_range) {
-    EXPECT_EQ(fixed4::from_scaled(std::numeric_limits<std::int64_t>::max()).text(), "922337203685477.5807");
-    EXPECT_EQ(fixed4::from_scaled(std::numeric_limits<std::int64_t>::min()).text(), "-922337203685477.5808");
+    EXPECT_EQ(fixed4::from_scaled(std::numeric_limits<std::int64_t>::max()).text(),
+              "922337203685477.5807");
+    EXPECT_EQ(fixed4::from_scaled(std::numeric_limits<std::int64_t>::min()).text(),
+              "-922337203685477.5808");
 }
 
 TEST(fixed4, has_the_value_of_a_quotient_by_10000) {
@@ -71,7 +74,8 @@ TEST(fixed4, overflows_outside_64_bits) {
 }
 
 TEST(fixed4, takes_the_lowest_64_bit_number) {
-    EXPECT_EQ(fixed4::from(-922337203685477.5808).scaled(), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(fixed4::from(-922337203685477.5808).scaled(),
+              std::numeric_limits<std::int64_t>::min());
 }
 
 TEST(fixed4, is_nearest_to_random_numbers_and_survives_its_own_text) {

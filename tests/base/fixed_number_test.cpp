@@ -91,7 +91,8 @@ TEST(fixed_number, decides_near_a_half_by_the_15_digit_text) {
             value = std::nextafter(value, steps < 0 ? 0.0 : 1e300);
         }
         const bool is_half = number_text(value) == number_text(half);
-        ASSERT_EQ(fixed_number(value, decimals), shown(is_half || value > half ? k + 1 : k, decimals))
+        ASSERT_EQ(fixed_number(value, decimals),
+                  shown(is_half || value > half ? k + 1 : k, decimals))
             << number_text(value) << " with " << decimals;
     }
 }

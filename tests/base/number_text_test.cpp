@@ -103,8 +103,9 @@ TEST(val, counts_zeros_and_exponent_together) {
 
 TEST(val, overflows_above_the_largest_double) {
     for (const std::string& text :
-         {std::string("1e309"), std::string("-1e309"), std::string("1.8e308"), std::string("1e99999999999999999999"),
-          "1" + std::string(309, '0'), "0.0001e313" + std::string(3, '0')}) {
+         {std::string("1e309"), std::string("-1e309"), std::string("1.8e308"),
+          std::string("1e99999999999999999999"), "1" + std::string(309, '0'),
+          "0.0001e313" + std::string(3, '0')}) {
         EXPECT_FAILURE(val(text), failure::overflow);
     }
 }
@@ -117,8 +118,8 @@ TEST(number_of_text, takes_blanks_around_one_number) {
 }
 
 TEST(number_of_text, refuses_everything_that_is_not_one_number) {
-    for (const char* text : {"", " ", "\t", "x", "2.8x", "2.8 3", "2,8", "1e", "1e+", ".", "-", "0x1F", "inf", "nan",
-                             "1d3", "2.8\r", "\n2.8", "4 %"}) {
+    for (const char* text : {"", " ", "\t", "x", "2.8x", "2.8 3", "2,8", "1e", "1e+", ".", "-",
+                             "0x1F", "inf", "nan", "1d3", "2.8\r", "\n2.8", "4 %"}) {
         EXPECT_FAILURE(number_of_text(text), failure::type_mismatch);
     }
 }
@@ -232,19 +233,24 @@ double any_double(random_values& random) {
 TEST(number_text, is_within_half_a_unit_of_its_15th_digit_for_random_doubles) {
     random_values random;
     for (int left = property_count(20000); left > 0; --left) {
-        const double value = random.whole(0, 1) == 0 ? any_double(random) : random.real(-1000.0, 1000.0);
+        const double value =
+            random.whole(0, 1) == 0 ? any_double(random) : random.real(-1000.0, 1000.0);
         if (std::abs(value) < 1e-300 || std::abs(value) > 1e308) {
-            continue;  // at the ends of the range 15 digits are more than a double holds, or round out of it
+            continue;  // at the ends of the range 15 digits are more than a double holds, or round
+                       // out of it
         }
-        // Half a unit of the 15th digit is at most 5e-15 of the value; reading adds half of 2.2e-16.
-        EXPECT_LE(std::abs(val(number_text(value)) - value), 5.2e-15 * std::abs(value)) << number_text(value);
+        // Half a unit of the 15th digit is at most 5e-15 of the value; reading adds half
+        // of 2.2e-16.
+        EXPECT_LE(std::abs(val(number_text(value)) - value), 5.2e-15 * std::abs(value))
+            << number_text(value);
     }
 }
 
 TEST(number_text, stays_the_same_when_read_and_written_again) {
     random_values random;
     for (int left = property_count(20000); left > 0; --left) {
-        const double value = random.whole(0, 1) == 0 ? any_double(random) : random.real(-1000.0, 1000.0);
+        const double value =
+            random.whole(0, 1) == 0 ? any_double(random) : random.real(-1000.0, 1000.0);
         if (std::abs(value) < 1e-290 || std::abs(value) > 1e308) {
             continue;  // a denormal has fewer than 15 digits of its own
         }
@@ -275,7 +281,8 @@ TEST(number_of_text, is_val_or_a_type_mismatch_for_any_text) {
             EXPECT_EQ(value, val(text)) << text;
             ++read_count;
         } catch (const run_time_error& error) {
-            EXPECT_TRUE(error.kind() == failure::type_mismatch || error.kind() == failure::overflow) << text;
+            EXPECT_TRUE(error.kind() == failure::type_mismatch || error.kind() == failure::overflow)
+                << text;
         }
     }
     EXPECT_GT(read_count, 0);

@@ -14,10 +14,11 @@ struct failure_case {
 };
 
 constexpr failure_case FAILURES[] = {
-    {failure::invalid_procedure_call, 5},   {failure::overflow, 6},          {failure::subscript_out_of_range, 9},
-    {failure::division_by_zero, 11},        {failure::type_mismatch, 13},    {failure::file_not_found, 53},
-    {failure::input_past_end, 62},          {failure::path_file_access, 75}, {failure::path_not_found, 76},
-    {failure::invalid_property_value, 380},
+    {failure::invalid_procedure_call, 5}, {failure::overflow, 6},
+    {failure::subscript_out_of_range, 9}, {failure::division_by_zero, 11},
+    {failure::type_mismatch, 13},         {failure::file_not_found, 53},
+    {failure::input_past_end, 62},        {failure::path_file_access, 75},
+    {failure::path_not_found, 76},        {failure::invalid_property_value, 380},
 };
 
 TEST(run_time_error, has_the_number_of_its_kind) {

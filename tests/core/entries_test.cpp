@@ -1,4 +1,5 @@
-// Tests of the table of entries and labels: every member reached once, and the texts of a new program.
+// Tests of the table of entries and labels: every member reached once, and the texts of a new
+// program.
 #include "core/entries.hpp"
 
 #include <gtest/gtest.h>
@@ -14,7 +15,8 @@ TEST(entry_fields, reach_every_entry_exactly_once) {
         reached.insert(&(boxes.*field.member));
     }
     EXPECT_EQ(reached.size(), entry_fields().size());
-    EXPECT_EQ(reached.size(), sizeof(entries) / sizeof(std::string)) << "an entry has no row in the table";
+    EXPECT_EQ(reached.size(), sizeof(entries) / sizeof(std::string))
+        << "an entry has no row in the table";
 }
 
 TEST(entry_fields, lead_from_a_name_to_the_entry_of_that_name) {
@@ -23,7 +25,8 @@ TEST(entry_fields, lead_from_a_name_to_the_entry_of_that_name) {
     boxes.Outlet_inner_radius = "8.5";
     EXPECT_EQ(boxes.*find_entry("radinnroot")->member, "22.7");
     EXPECT_EQ(boxes.*find_entry("Outlet_inner_radius")->member, "8.5");
-    EXPECT_EQ(find_entry("outlet_inner_radius"), nullptr) << "names are letter for letter, capitals too";
+    EXPECT_EQ(find_entry("outlet_inner_radius"), nullptr)
+        << "names are letter for letter, capitals too";
     EXPECT_EQ(find_entry(""), nullptr);
 }
 
@@ -45,8 +48,9 @@ TEST(entries, hold_the_initial_texts_of_the_design_form) {
     for (const char* name : {"thick", "maxdiameter", "coarseness"}) {
         EXPECT_EQ(boxes.*find_entry(name)->member, "1") << name;
     }
-    for (const char* name : {"volumereqd", "ecc", "radouter", "radinnroot", "clearn", "shaftdiameter", "minmaterial",
-                             "axial_clear", "radial_clear", "fillet"}) {
+    for (const char* name :
+         {"volumereqd", "ecc", "radouter", "radinnroot", "clearn", "shaftdiameter", "minmaterial",
+          "axial_clear", "radial_clear", "fillet"}) {
         EXPECT_EQ(boxes.*find_entry(name)->member, "0") << name;
     }
     EXPECT_EQ(boxes.outer_root, "");

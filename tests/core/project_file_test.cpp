@@ -222,11 +222,12 @@ TEST(write_project, writes_the_boxes_of_a_new_program_in_59_lines) {
     record.capacity = "0.0";
     record.capacity_unit = 1;
     EXPECT_EQ(write_project(record),
-              "\r\n\r\nmm\r\n0\r\n0\r\n1\r\n1\r\n3\r\n0\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0.0\r\n 1 \r\n"  // 1 to 17
-              "\r\n\r\n\r\n\r\n\r\n\r\n0\r\n"                                                             // to 24
-              "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n 0 \r\n 0 \r\n\r\n"                                        // to 35
-              "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"                                          // to 47
-              " 0 \r\n\r\n 0 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n0\r\n");                                 // to 59
+              "\r\n\r\nmm\r\n0\r\n0\r\n1\r\n1\r\n3\r\n0\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0.0\r\n 1 "
+              "\r\n"                                                       // 1 to 17
+              "\r\n\r\n\r\n\r\n\r\n\r\n0\r\n"                              // to 24
+              "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n 0 \r\n 0 \r\n\r\n"         // to 35
+              "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"           // to 47
+              " 0 \r\n\r\n 0 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n0\r\n");  // to 59
 }
 
 TEST(write_project, refuses_a_line_end_in_a_box) {
@@ -259,7 +260,8 @@ TEST(project_file, keeps_random_typed_texts_to_the_byte) {
         record.project_name = typed_text(random);
         record.capacity_unit = static_cast<std::int16_t>(random.whole(-32768, 32767));
         for (const box_case& row : FULL_BOXES) {
-            record.boxes.*row.box = is_check_line(row.line) ? std::to_string(random.whole(0, 1)) : typed_text(random);
+            record.boxes.*row.box =
+                is_check_line(row.line) ? std::to_string(random.whole(0, 1)) : typed_text(random);
         }
         std::string name;
         project_record again = read_project(write_project(record), name);

@@ -21,7 +21,8 @@ present_windows moved_windows() {
     return windows;
 }
 
-std::string block(const std::string& heading, const std::string& numbers = " 1 \r\n 2 \r\n 3 \r\n 4 \r\n") {
+std::string block(const std::string& heading,
+                  const std::string& numbers = " 1 \r\n 2 \r\n 3 \r\n 4 \r\n") {
     return heading + "\r\n" + numbers + "\r\n";
 }
 
@@ -73,8 +74,9 @@ TEST(write_layout, adds_the_windows_that_are_there_in_their_order) {
 }
 
 TEST(write_layout, names_each_chart) {
-    const std::array headings = {"Flow Chart", "Power Chart",      "Stress Chart",       "Ripple Chart",
-                                 "VE Chart",   "Mech Effic Chart", "Overall Effic Chart"};
+    const std::array headings = {"Flow Chart",         "Power Chart", "Stress Chart",
+                                 "Ripple Chart",       "VE Chart",    "Mech Effic Chart",
+                                 "Overall Effic Chart"};
     for (std::size_t i = 0; i < headings.size(); ++i) {
         present_windows windows = moved_windows();
         windows.charts[i] = window_rectangle{1, 2, 3, 4};
@@ -111,7 +113,8 @@ TEST(read_layout, of_nothing_gives_the_built_in_sizes) {
     EXPECT_EQ(read, window_rectangles());
 }
 
-TEST(read_layout, that_ends_behind_an_optional_block_gives_the_built_in_sizes_with_Form1_where_it_was) {
+TEST(read_layout,
+     that_ends_behind_an_optional_block_gives_the_built_in_sizes_with_Form1_where_it_was) {
     window_rectangles read;
     EXPECT_TRUE(read_layout(five_blocks() + block("Main Screen"), read).failed);
     expect_sizes_after_failure(read, 10, 20);
@@ -144,13 +147,15 @@ TEST(read_layout, of_all_blocks_ends_well_and_maximises_the_main_window) {
 
 TEST(read_layout, with_lines_behind_the_last_block_leaves_the_main_window_normal) {
     window_rectangles read;
-    EXPECT_FALSE(read_layout(five_blocks() + block("Overall Effic Chart") + "more\r\n", read).failed);
+    EXPECT_FALSE(
+        read_layout(five_blocks() + block("Overall Effic Chart") + "more\r\n", read).failed);
     EXPECT_FALSE(read.main_window_maximised);
     EXPECT_EQ(read.OVREFF_graphview2, (chart_rectangle{1, 2, 3, 4}));
     expect_five_read(read);
 }
 
-TEST(read_layout, with_an_unknown_heading_and_more_behind_it_reads_no_block_and_leaves_the_main_window_normal) {
+TEST(read_layout,
+     with_an_unknown_heading_and_more_behind_it_reads_no_block_and_leaves_the_main_window_normal) {
     window_rectangles read;
     EXPECT_FALSE(read_layout(five_blocks() + block("Other") + block("Flow Chart"), read).failed);
     EXPECT_EQ(read.FLOW_graphview2, chart_rectangle());
@@ -169,7 +174,8 @@ TEST(read_layout, with_a_last_line_of_a_heading_alone_ends_there) {
 
 TEST(read_layout, out_of_order_reads_no_block_twice_back) {
     window_rectangles read;
-    EXPECT_FALSE(read_layout(five_blocks() + block("Power Chart") + block("Flow Chart"), read).failed);
+    EXPECT_FALSE(
+        read_layout(five_blocks() + block("Power Chart") + block("Flow Chart"), read).failed);
     EXPECT_EQ(read.LOAD_graphview2, (chart_rectangle{1, 2, 3, 4}));
     EXPECT_EQ(read.FLOW_graphview2, chart_rectangle());
 }
@@ -182,23 +188,29 @@ TEST(read_layout, with_a_number_that_does_not_convert_keeps_what_came_before) {
     expect_sizes_after_failure(read, 10, 77);
     for (const char* number : {"", "abc", "1E39", "8000 twips"}) {
         window_rectangles other;
-        EXPECT_TRUE(read_layout(std::string("Design\r\n") + number + "\r\n 1 \r\n 2 \r\n 3 \r\n\r\n", other).failed);
+        EXPECT_TRUE(
+            read_layout(std::string("Design\r\n") + number + "\r\n 1 \r\n 2 \r\n 3 \r\n\r\n", other)
+                .failed);
         EXPECT_EQ(other, window_rectangles()) << number;
     }
 }
 
 TEST(read_layout, rounds_chart_numbers_to_16_bits_and_fails_beyond) {
     window_rectangles read;
-    read_layout(five_blocks() + block("Flow Chart", " 1.5 \r\n 2.5 \r\n-3 \r\n 32767 \r\n") + "x", read);
+    read_layout(five_blocks() + block("Flow Chart", " 1.5 \r\n 2.5 \r\n-3 \r\n 32767 \r\n") + "x",
+                read);
     EXPECT_EQ(read.FLOW_graphview2, (chart_rectangle{2, 2, -3, 32767}));
     EXPECT_TRUE(
-        read_layout(five_blocks() + block("Flow Chart", " 40000 \r\n 2 \r\n 3 \r\n 4 \r\n") + "x", read).failed);
+        read_layout(five_blocks() + block("Flow Chart", " 40000 \r\n 2 \r\n 3 \r\n 4 \r\n") + "x",
+                    read)
+            .failed);
 }
 
 TEST(read_layout, opens_an_explanation_window_at_its_first_number) {
     window_rectangles read;
     EXPECT_FALSE(read_layout(five_blocks() + block("Gerotor Explanation", "a\r\n"), read).explain);
-    const layout_reading touched = read_layout(five_blocks() + block("Gerotor Explanation", " 9 \r\na\r\n"), read);
+    const layout_reading touched =
+        read_layout(five_blocks() + block("Gerotor Explanation", " 9 \r\na\r\n"), read);
     EXPECT_TRUE(touched.failed);
     EXPECT_TRUE(touched.explain);
     EXPECT_EQ(read.explain->height, 9.0F);
@@ -209,8 +221,10 @@ TEST(read_layout, ends_for_any_bytes) {
     for (int run = property_count(3000); run > 0; --run) {
         std::string bytes = five_blocks() + block("Main Screen") + block("Flow Chart");
         for (int change = random.whole(0, 4); change > 0; --change) {
-            const auto at = static_cast<std::size_t>(random.whole(0, static_cast<int>(bytes.size()) - 1));
-            bytes.replace(at, static_cast<std::size_t>(random.whole(0, 20)), random.text("19 -,.E\r\nMain\xFC", 8));
+            const auto at =
+                static_cast<std::size_t>(random.whole(0, static_cast<int>(bytes.size()) - 1));
+            bytes.replace(at, static_cast<std::size_t>(random.whole(0, 20)),
+                          random.text("19 -,.E\r\nMain\xFC", 8));
         }
         window_rectangles read;
         const layout_reading reading = read_layout(bytes, read);

@@ -68,7 +68,8 @@ struct language_case {
 };
 
 constexpr language_case LANGUAGES[] = {
-    {"1", 1, "1"}, {"2", 2, "2"}, {" 2 ", 2, "2"}, {"", 0, ""}, {"3", 0, ""}, {"22", 0, ""}, {"de", 0, ""},
+    {"1", 1, "1"}, {"2", 2, "2"}, {" 2 ", 2, "2"}, {"", 0, ""},
+    {"3", 0, ""},  {"22", 0, ""}, {"de", 0, ""},
 };
 
 TEST(settings_file, empties_line_5_when_it_names_no_language) {
@@ -76,7 +77,8 @@ TEST(settings_file, empties_line_5_when_it_names_no_language) {
         app_state state;
         read_settings(std::string("\r\n\r\n\r\n\r\n") + expected.line + "\r\n", state);
         EXPECT_EQ(state.language, expected.language) << expected.line;
-        EXPECT_EQ(write_settings(state), std::string("\r\n\r\n\r\n\r\n") + expected.written + "\r\n\r\n##\r\n");
+        EXPECT_EQ(write_settings(state),
+                  std::string("\r\n\r\n\r\n\r\n") + expected.written + "\r\n\r\n##\r\n");
     }
 }
 

@@ -13,7 +13,8 @@ TEST(window_rectangle_fields, stand_in_the_order_of_the_layout_file) {
     for (const window_rectangle_field& field : window_rectangle_fields()) {
         names.emplace_back(field.name);
     }
-    EXPECT_EQ(names, (std::vector<std::string>{"Form1", "portdes", "viewwinfrm", "Perffrm", "select_graphs"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"Form1", "portdes", "viewwinfrm", "Perffrm",
+                                               "select_graphs"}));
 }
 
 TEST(window_rectangle_fields, lead_from_a_name_to_the_window_of_that_name) {
@@ -22,7 +23,8 @@ TEST(window_rectangle_fields, lead_from_a_name_to_the_window_of_that_name) {
     EXPECT_EQ(find_named(window_rectangle_fields(), "MDIForm1"), nullptr);
 }
 
-// Height, width, top and left in twips. The windows stand beside each other: Design, Performance, Design view.
+// Height, width, top and left in twips. The windows stand beside each other: Design, Performance,
+// Design view.
 TEST(window_rectangles, hold_the_built_in_layout) {
     const window_rectangles layout;
     EXPECT_EQ(layout.Form1, (window_rectangle{8085, 5430, 0, 0}));

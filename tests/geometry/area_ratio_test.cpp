@@ -30,9 +30,11 @@ TEST(inner_profile_area, is_that_of_the_open_polygon) {
 TEST(outer_profile_area, is_that_of_the_polygon_where_the_profile_does_not_turn_back) {
     design_params design = sample_design();
     design.fillet = 0.0;
-    design.radouter = 9.0;  // seen from the inner axis, the flanks of smaller lobes hide a part of the root
+    design.radouter =
+        9.0;  // seen from the inner axis, the flanks of smaller lobes hide a part of the root
     rotor_profiles rotors = rotor_pair_of(design);
-    const double expected = shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last));
+    const double expected =
+        shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last));
     EXPECT_NEAR(outer_profile_area(rotors), expected, 1e-8 * expected);
 }
 
@@ -42,11 +44,12 @@ TEST(outer_profile_area, counts_the_parts_that_turn_back_as_positive) {
     rotor_profiles rotors = rotor_pair_of(design);
     double expected = 0.0;
     for (std::size_t m = 1; m <= static_cast<std::size_t>(rotors.outer_last); ++m) {
-        expected += std::fabs(rotors.outer_x[m - 1] * rotors.outer_y[m] - rotors.outer_x[m] * rotors.outer_y[m - 1]);
+        expected += std::fabs(rotors.outer_x[m - 1] * rotors.outer_y[m] -
+                              rotors.outer_x[m] * rotors.outer_y[m - 1]);
     }
     EXPECT_NEAR(outer_profile_area(rotors), expected / 2.0, 1e-8 * expected);
-    EXPECT_GT(expected / 2.0,
-              1.0 + shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last)));
+    EXPECT_GT(expected / 2.0, 1.0 + shoelace(rotors.outer_x, rotors.outer_y,
+                                             static_cast<std::size_t>(rotors.outer_last)));
 }
 
 TEST(area_ratio, is_cut_to_two_decimals_of_a_percent) {

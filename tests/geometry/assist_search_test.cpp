@@ -1,4 +1,5 @@
-// Tests of the Design assist's search: hand-made cases, its edges, and the single-step search it must equal.
+// Tests of the Design assist's search: hand-made cases, its edges, and the single-step search it
+// must equal.
 #include "geometry/assist_search.hpp"
 
 #include "base/constants.hpp"
@@ -43,7 +44,8 @@ TEST(assist_root, is_the_first_quarter_step_above_the_required_capacity) {
     design_params design = wanted(7);
     rotor_profiles rotors;
     // At 14.25: ecc = 14.25/5 - 0.01 = 2.84, tip = 14.25 + 2 * 2.84 - 0.06 = 19.87,
-    // (19.87^2 - 14.25^2) * 3.1415927 * 10 / 1000 = 6.02413...; at 14: ecc 2.79, tip 19.52, 5.81292...
+    // (19.87^2 - 14.25^2) * 3.1415927 * 10 / 1000 = 6.02413...; at 14: ecc 2.79,
+    // tip 19.52, 5.81292...
     EXPECT_EQ(find_root_and_eccentricity(fixed4::from(6.0), design, rotors).text(), "6.0241");
     EXPECT_EQ(design.radinnroot, 14.25);
     EXPECT_EQ(design.ecc, 2.84);
@@ -77,21 +79,25 @@ TEST(assist_root, of_three_lobes_has_the_eccentricity_of_the_root_less_a_hundred
 TEST(assist_root, fails_for_two_lobes) {
     design_params design = wanted(2);
     rotor_profiles rotors;
-    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors), failure::division_by_zero);
+    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors),
+                   failure::division_by_zero);
 }
 
 TEST(assist_root, fails_when_the_steps_change_nothing_any_more) {
     design_params design = wanted(2000000, 1e-300);
     rotor_profiles rotors;
-    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors), failure::overflow);
+    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors),
+                   failure::overflow);
     design.shaftdiameter = 1e25;
-    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors), failure::overflow);
+    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors),
+                   failure::overflow);
 }
 
 TEST(assist_root, fails_when_the_eccentricity_has_no_four_decimals) {
     design_params design = wanted(3, 1e-300);
     rotor_profiles rotors;
-    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors), failure::overflow);
+    EXPECT_FAILURE(find_root_and_eccentricity(fixed4::from(6.0), design, rotors),
+                   failure::overflow);
 }
 
 TEST(assist_diameter, exactly_reached_passes) {
@@ -117,7 +123,8 @@ TEST(assist_lobe, leaves_the_uniform_trochoid_of_the_last_radius) {
     const double size = design.radouter + design.radinnroot + design.ecc;
     const double t = 100.0 * PI_D / 1800.0;
     EXPECT_EQ(rotors.troch_angle[100], t);
-    EXPECT_EQ(rotors.troch_x[0], rotors.base_radius + rotors.roll_radius - (design.ecc - design.clearn_half));
+    EXPECT_EQ(rotors.troch_x[0],
+              rotors.base_radius + rotors.roll_radius - (design.ecc - design.clearn_half));
     EXPECT_NEAR(rotors.troch_x[100], size * std::cos(t) - 2.78 * std::cos(7.0 * t), 1e-9);
     EXPECT_NEAR(rotors.troch_y[100], size * std::sin(t) - 2.78 * std::sin(7.0 * t), 1e-9);
     EXPECT_EQ(rotors.troch_angle[3599], 3599.0 * PI_D / 1800.0);
@@ -183,10 +190,12 @@ found single_step_search(design_params design, double required) {
     const int i1 = static_cast<int>(std::nearbyint(middle * 0.6));
     const int i2 = static_cast<int>(std::nearbyint(middle * 1.4));
     const auto point = [&](int i) {
-        return trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc - design.clearn_half,
-                              i * PI_D / 1800.0);
+        return trochoid_point(rotors.base_radius, rotors.roll_radius,
+                              design.ecc - design.clearn_half, i * PI_D / 1800.0);
     };
-    const auto normal = [&](int i) { return -1.0 / ((point(i + 1).y - point(i).y) / (point(i + 1).x - point(i).x)); };
+    const auto normal = [&](int i) {
+        return -1.0 / ((point(i + 1).y - point(i).y) / (point(i + 1).x - point(i).x));
+    };
     design.radouter = std::nearbyint(N * design.ecc) + 0.25;
     double lobe = 0.0;
     do {
@@ -194,14 +203,17 @@ found single_step_search(design_params design, double required) {
         set_rolling_circles(design, rotors);
         const double m1 = normal(i1);
         const double m2 = normal(i2);
-        const double cx = (point(i2).y - point(i1).y + point(i1).x * m1 - point(i2).x * m2) / (m1 - m2);
+        const double cx =
+            (point(i2).y - point(i1).y + point(i1).x * m1 - point(i2).x * m2) / (m1 - m2);
         const double cy = point(i1).y - (point(i1).x - cx) * m1;
         lobe = std::hypot(point(i1).x - cx, point(i1).y - cy);
     } while (!(lobe > N * design.radouter / (N - 1.0) + design.ecc));
     const auto rho = [&] {
         const double K = size() / (N * design.ecc);
         const double bracket = (K * K - 1.0) * (N - 1.0);
-        return bracket < 0.0 ? 0.0 : std::pow(3.0 / (N + 1.0), 1.5) * (1.0 / K) * std::pow(bracket, 0.5) * size();
+        return bracket < 0.0
+                   ? 0.0
+                   : std::pow(3.0 / (N + 1.0), 1.5) * (1.0 / K) * std::pow(bracket, 0.5) * size();
     };
     while (design.radouter > rho()) {
         design.radinnroot += 0.25;
@@ -245,9 +257,12 @@ TEST(assist_search, finds_more_than_the_required_capacity_and_no_step_less_would
         if (less.radinnroot > first_root) {
             less.ecc = less.radinnroot / (design.numlobes - 2.0) - 0.01;
             const double tip = less.radinnroot + 2.0 * less.ecc - less.clearn_half;
-            const double capacity = (tip * tip - less.radinnroot * less.radinnroot) * PI_D * design.thick / 1000.0;
-            // ecc is rounded to 0.00005 mm, which moves the capacity by 4 r PI thick / 1000 times that
-            EXPECT_LE(capacity, required + 0.0002 * less.radinnroot * design.thick / 1000.0 * PI_D * 4.0);
+            const double capacity =
+                (tip * tip - less.radinnroot * less.radinnroot) * PI_D * design.thick / 1000.0;
+            // ecc is rounded to 0.00005 mm, which moves the capacity by 4 r PI thick / 1000 times
+            // that
+            EXPECT_LE(capacity,
+                      required + 0.0002 * less.radinnroot * design.thick / 1000.0 * PI_D * 4.0);
         }
     }
 }

@@ -9,7 +9,8 @@
 namespace kvt {
 
 TEST(capacity, is_the_annulus_between_tip_and_root) {
-    // Tip 24.5 + 2.85 - 0.06 - 7.5 = 19.79, root 14.15: (391.6441 - 200.2225) * 3.1415927 * 10 / 1000
+    // Tip 24.5 + 2.85 - 0.06 - 7.5 = 19.79, root 14.15: (391.6441 - 200.2225) * 3.1415927 * 10 /
+    // 1000
     const rotor_profiles rotors = prepared_rotors(sample_design());
     EXPECT_NEAR(annulus_volume(sample_design(), rotors), 6.01368701, 1e-8);
 }

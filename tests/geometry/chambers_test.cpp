@@ -46,7 +46,8 @@ TEST(half_pitch, is_half_the_angle_between_two_lobes) {
 }
 
 TEST(chamber_window, sees_the_contact_points_of_the_lobes_beside_it) {
-    // The line from the pitch point at (N ecc, 0) to a lobe centre at radius R meets the lobe radouter before it.
+    // The line from the pitch point at (N ecc, 0) to a lobe centre at radius R meets the lobe
+    // radouter before it.
     const design_params design = sample_design();
     const rotor_profiles rotors = prepared_rotors(design);
     const double t = half_pitch(design);
@@ -125,9 +126,12 @@ TEST(maximum_chamber, of_even_lobes_turns_both_profiles_about_the_inner_axis) {
     const double inner_turn = PI_D / 7.0;
     const double outer_turn = PI_D / 8.0;
     EXPECT_NEAR(rotors.rot_inner_x[5],
-                rotors.inner_x[5] * std::cos(inner_turn) - rotors.inner_y[5] * std::sin(inner_turn), 3e-6);
-    EXPECT_NEAR(rotors.rot_outer_xy[10],
-                rotors.outer_xy[10] * std::cos(outer_turn) - rotors.outer_xy[11] * std::sin(outer_turn), 3e-6);
+                rotors.inner_x[5] * std::cos(inner_turn) - rotors.inner_y[5] * std::sin(inner_turn),
+                3e-6);
+    EXPECT_NEAR(
+        rotors.rot_outer_xy[10],
+        rotors.outer_xy[10] * std::cos(outer_turn) - rotors.outer_xy[11] * std::sin(outer_turn),
+        3e-6);
 }
 
 TEST(chambers, have_their_angles_in_degrees) {
@@ -154,14 +158,16 @@ TEST(chambers, keep_the_older_label_when_their_sums_fail) {
 }
 
 TEST(chambers, differ_by_the_delivery_of_one_chamber) {
-    // A pump delivers N-1 times the difference of its chambers a turn of the inner rotor, per lobe of the outer one
-    // N; the annulus of the capacity is the usual estimate of it, within a few percent.
+    // A pump delivers N-1 times the difference of its chambers a turn of the inner rotor, per lobe
+    // of the outer one N; the annulus of the capacity is the usual estimate of it, within a few
+    // percent.
     const design_params design = design_with(7, 2.85, 7.5, 14.15);
     rotor_profiles rotors = rotor_pair_of(design);
     labels outputs;
     calculate_maximum_chamber(design, rotors, outputs);
     calculate_minimum_chamber(design, rotors, outputs);
-    const double delivered = 6.0 * (val(outputs.max_chamb_vol) - val(outputs.min_chamb_vol)) / 1000.0;
+    const double delivered =
+        6.0 * (val(outputs.max_chamb_vol) - val(outputs.min_chamb_vol)) / 1000.0;
     EXPECT_NEAR(delivered, 6.0137, 0.1);
 }
 

@@ -16,15 +16,19 @@ struct clean_up : testing::Test {
     design_params design;
     scripted_user person;
 
-    void run(std::int16_t language = ENGLISH_CODE) { clean_up_entries(boxes, design, person, language); }
+    void run(std::int16_t language = ENGLISH_CODE) {
+        clean_up_entries(boxes, design, person, language);
+    }
     static constexpr std::int16_t ENGLISH_CODE = 1;
     static constexpr std::int16_t GERMAN_CODE = 2;
 };
 
 const std::string THICKNESS_MESSAGE =
-    "The rotors must have a thickness to calculate the volumetric capacity! Use a thickness value = 1 if a volume per "
+    "The rotors must have a thickness to calculate the volumetric capacity! Use a thickness value "
+    "= 1 if a volume per "
     "unit thickness is required.";
-const std::string LOBE_MESSAGE = "The number of Outer Lobes must be an integer, of minimum value = 3";
+const std::string LOBE_MESSAGE =
+    "The number of Outer Lobes must be an integer, of minimum value = 3";
 
 }  // namespace
 
@@ -88,11 +92,12 @@ TEST_F(clean_up, sets_seven_empty_entries_to_0_and_no_others) {
     }
     run();
     EXPECT_TRUE(person.messages.empty());
-    for (const char* zero :
-         {"radinnroot", "radouter", "clearn", "volumereqd", "shaftdiameter", "minmaterial", "fillet"}) {
+    for (const char* zero : {"radinnroot", "radouter", "clearn", "volumereqd", "shaftdiameter",
+                             "minmaterial", "fillet"}) {
         EXPECT_EQ(boxes.*find_entry(zero)->member, "0") << zero;
     }
-    for (const char* empty : {"ecc", "maxdiameter", "axial_clear", "radial_clear", "outer_root", "coarseness"}) {
+    for (const char* empty :
+         {"ecc", "maxdiameter", "axial_clear", "radial_clear", "outer_root", "coarseness"}) {
         EXPECT_EQ(boxes.*find_entry(empty)->member, "") << empty;
     }
 }
@@ -133,8 +138,10 @@ TEST(validation, refuses_the_entries_in_the_order_of_its_table) {
         {"shaftdiameter", "Input a value for the diameter of the shaft"},
         {"clearn", "Input a value for the Tip Clearance"},
         {"thick",
-         "Input a value for the gerotor thickness. Can be value of 1 if a volume per unit thickness is required"},
-        {"minmaterial", "Input a value for the minimum thickness allowable between shaft and rotor profile"},
+         "Input a value for the gerotor thickness. Can be value of 1 if a volume per unit "
+         "thickness is required"},
+        {"minmaterial",
+         "Input a value for the minimum thickness allowable between shaft and rotor profile"},
         {"maxdiameter", "Input the maximum allowable diameter"},
         {"axial_clear", "Input the axial clearance of the rotor set"},
         {"radial_clear", "Input the radial clearance of the rotor set"},
@@ -210,16 +217,17 @@ TEST(reading, converts_inches_and_takes_half_the_clearance_at_12_7) {
     rotor_profiles rotors;
     rotors.profile_points = PROFILE_POINTS;
     entries boxes = sample_entries();
-    for (const char* name : {"ecc", "radouter", "thick", "radinnroot", "shaftdiameter", "maxdiameter", "axial_clear",
-                             "radial_clear", "fillet", "minmaterial"}) {
+    for (const char* name :
+         {"ecc", "radouter", "thick", "radinnroot", "shaftdiameter", "maxdiameter", "axial_clear",
+          "radial_clear", "fillet", "minmaterial"}) {
         boxes.*find_entry(name)->member = "0.5";
     }
     boxes.clearn = "0.01";
     read_entries(boxes, true, design, rotors);
     EXPECT_EQ(design.clearn_half, 0.127);
-    for (const double field :
-         {design.ecc, design.radouter, design.thick, design.radinnroot, design.shaftdiameter, design.maxdiameter,
-          design.axial_clear, design.radial_clear, design.fillet, design.minmaterial}) {
+    for (const double field : {design.ecc, design.radouter, design.thick, design.radinnroot,
+                               design.shaftdiameter, design.maxdiameter, design.axial_clear,
+                               design.radial_clear, design.fillet, design.minmaterial}) {
         EXPECT_EQ(field, 12.7);
     }
     EXPECT_EQ(design.numlobes, 7);

@@ -16,7 +16,8 @@ TEST(inner_rotor, lies_inside_the_trochoid_at_the_lobe_radius_and_half_the_clear
         const double dx = rotors.troch_x[i] - rotors.inner_x[i];
         const double dy = rotors.troch_y[i] - rotors.inner_y[i];
         ASSERT_NEAR(std::hypot(dx, dy), 7.56, 1e-12) << i;
-        ASSERT_LT(std::hypot(rotors.inner_x[i], rotors.inner_y[i]), std::hypot(rotors.troch_x[i], rotors.troch_y[i]));
+        ASSERT_LT(std::hypot(rotors.inner_x[i], rotors.inner_y[i]),
+                  std::hypot(rotors.troch_x[i], rotors.troch_y[i]));
     }
 }
 
@@ -78,7 +79,8 @@ TEST(plot_list, of_every_resolution_holds_its_share_and_is_closed) {
 
 TEST(plot_list, of_a_resolution_that_does_not_divide_the_points_rounds_its_last_elements) {
     design_params design = sample_design();
-    design.coarseness = 7;  // 514 samples; the last index 7200/7 + 1 = 1029.57 rounds to 1030, the one before to 1029
+    design.coarseness = 7;  // 514 samples; the last index 7200/7 + 1 = 1029.57 rounds to 1030, the
+                            // one before to 1029
     rotor_profiles rotors = prepared_rotors(design);
     rotors.inner_plot_xy.assign(1031, 0.0);
     fill_trochoid(design, rotors);

@@ -11,8 +11,9 @@ namespace kvt {
 
 namespace {
 
-/// A pair whose arrays the test sets: N = 7, eccentricity 2; inner points 0.1 degree apart about the x axis once
-/// turned back, all at the same radius; fillet points at the same angle seen from the inner axis.
+/// A pair whose arrays the test sets: N = 7, eccentricity 2; inner points 0.1 degree apart about
+/// the x axis once turned back, all at the same radius; fillet points at the same angle seen from
+/// the inner axis.
 struct made_up_pair {
     design_params design;
     rotor_profiles rotors;
@@ -86,7 +87,8 @@ TEST(interference, is_none_where_the_fillet_stays_outside) {
 TEST(interference, ends_silently_when_a_fillet_point_lies_behind_all_inner_points) {
     made_up_pair pair(20.0, 19.0, 3.0);
     pair.place_fillet(100, 19.0, 50.0);
-    EXPECT_FALSE(find_interference(pair.design, pair.rotors).has_value()) << "although 100 points lie too deep";
+    EXPECT_FALSE(find_interference(pair.design, pair.rotors).has_value())
+        << "although 100 points lie too deep";
 }
 
 TEST(interference, fails_when_the_first_fillet_point_lies_before_all_inner_points) {

@@ -1,4 +1,5 @@
-// Tests of the arcs of the outer rotor: start angle, sweep, and the tables that unwrap the end angle.
+// Tests of the arcs of the outer rotor: start angle, sweep, and the tables that unwrap the end
+// angle.
 #include "geometry/outer_arc.hpp"
 
 #include "base/constants.hpp"
@@ -11,7 +12,8 @@ namespace kvt {
 
 namespace {
 
-/// An arc between two diagonals, each at 45 degrees of its quadrant; the angles in eighths of a turn.
+/// An arc between two diagonals, each at 45 degrees of its quadrant; the angles in eighths of a
+/// turn.
 struct diagonal_arc {
     int start_x, start_y, end_x, end_y;
     int start, end;
@@ -44,10 +46,12 @@ TEST(fillet_or_root_arc, unwraps_the_end_angle_row_by_row) {
 
 TEST(lobe_arc, unwraps_the_end_angle_row_by_row) {
     const std::vector<diagonal_arc> rows = {
-        {+1, +1, +1, +1, 9, 9}, {+1, +1, +1, -1, 9, 7},  {+1, +1, -1, +1, 9, 3}, {+1, +1, -1, -1, 9, 5},
-        {+1, -1, +1, +1, 7, 1}, {+1, -1, +1, -1, 7, 7},  {+1, -1, -1, +1, 7, 3}, {+1, -1, -1, -1, 7, 5},
-        {-1, +1, +1, +1, 3, 1}, {-1, +1, +1, -1, 3, -1}, {-1, +1, -1, +1, 3, 3}, {-1, +1, -1, -1, 3, -3},
-        {-1, -1, +1, +1, 5, 1}, {-1, -1, +1, -1, 5, -1}, {-1, -1, -1, +1, 5, 3}, {-1, -1, -1, -1, 5, 5},
+        {+1, +1, +1, +1, 9, 9},  {+1, +1, +1, -1, 9, 7},  {+1, +1, -1, +1, 9, 3},
+        {+1, +1, -1, -1, 9, 5},  {+1, -1, +1, +1, 7, 1},  {+1, -1, +1, -1, 7, 7},
+        {+1, -1, -1, +1, 7, 3},  {+1, -1, -1, -1, 7, 5},  {-1, +1, +1, +1, 3, 1},
+        {-1, +1, +1, -1, 3, -1}, {-1, +1, -1, +1, 3, 3},  {-1, +1, -1, -1, 3, -3},
+        {-1, -1, +1, +1, 5, 1},  {-1, -1, +1, -1, 5, -1}, {-1, -1, -1, +1, 5, 3},
+        {-1, -1, -1, -1, 5, 5},
     };
     for (const diagonal_arc& row : rows) {
         const point2 start = {2.0 * row.start_x, 2.0 * row.start_y};

@@ -10,14 +10,16 @@
 namespace kvt {
 
 TEST(fillet_angle, of_an_equilateral_triangle_is_60_degrees) {
-    // Outer centre, fillet centre and lobe centre 12 apart from each other: Rr - f = 12, C = 12, Ro + f = 12.
+    // Outer centre, fillet centre and lobe centre 12 apart from each other: Rr - f = 12, C = 12, Ro
+    // + f = 12.
     design_params design;
     design.radouter = 10.0;
     design.fillet = 2.0;
     design.outer_root = 14.0;
     rotor_profiles rotors;
     rotors.lobe_centre_offset = 2.0;
-    EXPECT_NEAR(fillet_angle(design, rotors), std::acos(0.5), 5e-8);  // 5e-8: the constant of the right angle
+    EXPECT_NEAR(fillet_angle(design, rotors), std::acos(0.5),
+                5e-8);  // 5e-8: the constant of the right angle
 }
 
 TEST(fillet_angle, fails_for_a_lobe_that_does_not_reach_the_root) {
@@ -53,8 +55,9 @@ TEST(tangent_point, lies_on_the_lobe_and_on_the_fillet) {
     const double y = flank.tangent_radius * std::sin(flank.beta);
     EXPECT_NEAR(std::hypot(x - lobe_centre_radius(design, rotors), y), design.radouter, 2e-6);
     const double to_fillet = design.outer_root - design.fillet;
-    EXPECT_NEAR(std::hypot(x - to_fillet * std::cos(flank.alpha), y - to_fillet * std::sin(flank.alpha)), design.fillet,
-                2e-6);
+    EXPECT_NEAR(
+        std::hypot(x - to_fillet * std::cos(flank.alpha), y - to_fillet * std::sin(flank.alpha)),
+        design.fillet, 2e-6);
     EXPECT_EQ(flank.alpha, fillet_angle(design, rotors));
 }
 

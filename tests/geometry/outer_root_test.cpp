@@ -62,7 +62,8 @@ TEST_F(outer_root_rules, lower_a_radius_above_the_maximum) {
     run();
     EXPECT_EQ(design.outer_root, 24.44);
     EXPECT_EQ(boxes.outer_root, "24.44");
-    EXPECT_EQ(person.messages, std::vector<std::string>{"Maximum value for Outer Rotor Root Radius is 24.44"});
+    EXPECT_EQ(person.messages,
+              std::vector<std::string>{"Maximum value for Outer Rotor Root Radius is 24.44"});
 }
 
 TEST_F(outer_root_rules, raise_a_radius_below_the_minimum) {
@@ -71,7 +72,8 @@ TEST_F(outer_root_rules, raise_a_radius_below_the_minimum) {
     run();
     EXPECT_NEAR(design.outer_root, 22.7, 1e-13);
     EXPECT_EQ(boxes.outer_root, "22.7");
-    EXPECT_EQ(person.messages, std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
+    EXPECT_EQ(person.messages,
+              std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
 }
 
 TEST_F(outer_root_rules, store_the_full_minimum_but_show_15_digits_so_it_is_told_again) {
@@ -97,26 +99,30 @@ TEST_F(outer_root_rules, take_and_show_inches_in_inch_mode) {
     run(true);
     EXPECT_EQ(boxes.outer_root, "0.962204724409449");
     EXPECT_EQ(design.outer_root, 0.962204724409449 * 25.4);
-    EXPECT_EQ(person.messages,
-              std::vector<std::string>{"Maximum value for Outer Rotor Root Radius is 0.962204724409449"});
+    EXPECT_EQ(
+        person.messages,
+        std::vector<std::string>{"Maximum value for Outer Rotor Root Radius is 0.962204724409449"});
 }
 
 TEST_F(outer_root_rules, in_inch_mode_leave_a_kept_radius_unconverted_and_raise_it) {
-    // The text is 0.9 inch = 22.86 mm, between the limits; the kept number 0.9 counts as millimetres.
+    // The text is 0.9 inch = 22.86 mm, between the limits; the kept number 0.9 counts as
+    // millimetres.
     boxes.outer_root = "0.9";
     design.outer_root = 0.9;
     run(true);
     EXPECT_NEAR(design.outer_root, 22.7, 1e-13);
     EXPECT_EQ(boxes.outer_root, "0.893700787401575");
-    EXPECT_EQ(person.messages,
-              std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 0.893700787401575"});
+    EXPECT_EQ(
+        person.messages,
+        std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 0.893700787401575"});
 }
 
 TEST_F(outer_root_rules, are_told_in_english_in_either_language) {
     boxes.outer_root = "0";
     design.outer_root = 0.0;
     apply_outer_root_rules(prepared_rotors(design), false, 2, design, boxes, person);
-    EXPECT_EQ(person.messages, std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
+    EXPECT_EQ(person.messages,
+              std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
 }
 
 TEST(typed_outer_root, is_kept_when_eccentricity_and_root_are_those_of_the_stored_design) {

@@ -94,9 +94,10 @@ TEST(outer_rotor, moves_in_short_steps_all_the_way_round) {
         const design_params design = design_with_lobes(lobes, 0.8);
         const rotor_profiles rotors = outer_rotor_of(design);
         for (std::size_t m = 1; m <= static_cast<std::size_t>(rotors.outer_last); ++m) {
-            const double step =
-                std::hypot(rotors.outer_x[m] - rotors.outer_x[m - 1], rotors.outer_y[m] - rotors.outer_y[m - 1]);
-            ASSERT_LT(step, std::max(0.0755, design.outer_root * TWO_PI_D / lobes / 50.0)) << lobes << " point " << m;
+            const double step = std::hypot(rotors.outer_x[m] - rotors.outer_x[m - 1],
+                                           rotors.outer_y[m] - rotors.outer_y[m - 1]);
+            ASSERT_LT(step, std::max(0.0755, design.outer_root * TWO_PI_D / lobes / 50.0))
+                << lobes << " point " << m;
         }
     }
 }
@@ -115,7 +116,8 @@ TEST(outer_rotor, runs_with_new_lists_each_time) {
     fill_outer_rotor(design, rotors);
     EXPECT_EQ(rotors.outer_xy.size(), 608U * 3U + 2U);
     EXPECT_EQ(rotors.outer_xy.back(), 0.0);
-    EXPECT_EQ(rotors.fillet_x.size(), 101U) << "only a run with fillets gives the fillet lists new elements";
+    EXPECT_EQ(rotors.fillet_x.size(), 101U)
+        << "only a run with fillets gives the fillet lists new elements";
 }
 
 }  // namespace kvt

@@ -19,7 +19,8 @@ TEST(triangle_area, has_no_sign) {
 }
 
 TEST(triangle_area, of_an_impossible_cosine_fails_on_the_inner_side_only) {
-    // Distances 1 and 2 with points 0.5 apart: c = (4 + 1 - 0.25) / 4 = 1.1875, 1 - c^2 = -0.41015625
+    // Distances 1 and 2 with points 0.5 apart: c = (4 + 1 - 0.25) / 4 = 1.1875, 1 - c^2 =
+    // -0.41015625
     const point2 p = {1.0, 0.0};
     const point2 q = {1.5, 0.0};
     EXPECT_FAILURE(inner_triangle_area(p, 1.0, q, 2.0), failure::invalid_procedure_call);
@@ -27,7 +28,8 @@ TEST(triangle_area, of_an_impossible_cosine_fails_on_the_inner_side_only) {
 }
 
 TEST(triangle_area, fails_for_a_point_at_the_origin) {
-    EXPECT_FAILURE(outer_triangle_area({0.0, 0.0}, 0.0, {1.0, 0.0}, 1.0), failure::division_by_zero);
+    EXPECT_FAILURE(outer_triangle_area({0.0, 0.0}, 0.0, {1.0, 0.0}, 1.0),
+                   failure::division_by_zero);
 }
 
 TEST(polar_angle, adds_half_a_turn_left_of_the_axis_only) {

@@ -35,7 +35,8 @@ TEST(quarter_steps, stand_still_when_every_value_may_end_the_search) {
 double first_above(double start, double limit) {
     double value = start;
     while (!(value > limit)) {
-        value = pass_over_quarters(value, QUARTER_MM, [limit](double, double to) { return !(to > limit); });
+        value = pass_over_quarters(value, QUARTER_MM,
+                                   [limit](double, double to) { return !(to > limit); });
         value = next_quarter(value, QUARTER_MM);
     }
     return value;

@@ -64,7 +64,8 @@ TEST(trochoid_spacing, runs_fine_coarse_extra_fine_through_a_lobe) {
     EXPECT_EQ(spacing.step(2, 411), spacing.step_extra * 1000000.0);
     EXPECT_EQ(spacing.step(2, 412), spacing.step_extra * 1000000.0);
     EXPECT_EQ(spacing.step(2, 413), 25000.0);
-    EXPECT_EQ(spacing.step(0, 413), spacing.step_extra * 1000000.0) << "lobe 0 has one extra step more";
+    EXPECT_EQ(spacing.step(0, 413), spacing.step_extra * 1000000.0)
+        << "lobe 0 has one extra step more";
     EXPECT_EQ(spacing.step(0, 414), 25000.0);
 }
 
@@ -77,7 +78,8 @@ TEST(trochoid_spacing, goes_once_round_for_all_usual_lobe_numbers) {
 }
 
 TEST(trochoid_spacing, leaves_points_out_when_the_rest_is_not_above_the_lobes) {
-    // 34 lobes: 105 points each, zones 21 + 63 + 21 = 105, rest 30, which is not above 34: 3570 points, 357 degrees.
+    // 34 lobes: 105 points each, zones 21 + 63 + 21 = 105, rest 30, which is not above 34: 3570
+    // points, 357 degrees.
     const totals sum = totals_of(34);
     EXPECT_EQ(sum.points, 3570.0);
     EXPECT_NEAR(sum.millionths, 357000000.0, 1e-3);

@@ -10,7 +10,8 @@
 namespace kvt {
 
 TEST(trochoid_parameters, of_the_sample_design_are_those_worked_out_by_hand) {
-    // 7.5 + 14.15 + 2.85 = 24.5; a = 24.5 / (1/6 + 1) = 21; b = 21/6 = 3.5; R = 24.5 - 0.06; K = 24.44 / 19.95
+    // 7.5 + 14.15 + 2.85 = 24.5; a = 24.5 / (1/6 + 1) = 21; b = 21/6 = 3.5; R = 24.5 - 0.06; K
+    // = 24.44 / 19.95
     rotor_profiles rotors;
     set_trochoid_parameters(sample_design(), rotors);
     EXPECT_NEAR(rotors.base_radius, 21.0, 1e-13);
@@ -27,7 +28,8 @@ TEST(trochoid_parameters, fail_for_an_eccentricity_of_0) {
 }
 
 TEST(curvature, of_three_lobes_is_that_worked_out_by_hand) {
-    // N = 3, K = 1.25: (3/4)^1.5 * 1/1.25 * ((1.5625 - 1) * 2)^0.5 * 10 = 0.649519 * 0.8 * 1.0606602 * 10
+    // N = 3, K = 1.25: (3/4)^1.5 * 1/1.25 * ((1.5625 - 1) * 2)^0.5 * 10 = 0.649519 * 0.8
+    // * 1.0606602 * 10
     design_params design;
     design.numlobes = 3;
     rotor_profiles rotors;
@@ -78,7 +80,8 @@ TEST(trochoid_point, stands_at_the_difference_of_the_radii_on_the_axis) {
     // Half a rolling turn later (t = pi/7, 7 t = pi) it stands at their sum.
     const double t = std::acos(-1.0) / 7.0;
     const point2 top = trochoid_point(21.0, 3.5, 2.85, t);
-    EXPECT_NEAR(std::hypot(top.x, top.y), std::hypot(24.5 * std::cos(t) + 2.85, 24.5 * std::sin(t)), 1e-12);
+    EXPECT_NEAR(std::hypot(top.x, top.y), std::hypot(24.5 * std::cos(t) + 2.85, 24.5 * std::sin(t)),
+                1e-12);
 }
 
 TEST(trochoid_point, fails_without_a_rolling_circle) {
@@ -93,7 +96,8 @@ TEST(trochoid, starts_one_fine_step_past_the_axis_and_ends_on_it) {
     EXPECT_NEAR(rotors.troch_angle[3599], 2.0 * PI_D, 1e-12);
     EXPECT_NEAR(rotors.troch_x[3599], 24.5 - 2.85, 1e-9);
     EXPECT_NEAR(rotors.troch_y[3599], 0.0, 1e-5);
-    const point2 first = trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc, rotors.troch_angle[0]);
+    const point2 first =
+        trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc, rotors.troch_angle[0]);
     EXPECT_EQ(rotors.troch_x[0], first.x);
     EXPECT_EQ(rotors.troch_y[0], first.y);
 }

@@ -1,4 +1,5 @@
-// Tests of the guide's layout: chapters in order, contents with the right pages, pictures that are there.
+// Tests of the guide's layout: chapters in order, contents with the right pages, pictures that are
+// there.
 #include "base/text_file.hpp"
 #include "guide_pdf/guide_book.hpp"
 #include "support/temporary_folder.hpp"
@@ -18,7 +19,9 @@ class guide_pdf : public testing::Test {
     guide_pdf() : writer(out_path()) {}
 
     QString out_path() const { return QString::fromStdString(folder.file("guide.pdf")); }
-    void page(const std::string& name, const std::string& text) { write_file(folder.path() / name, text); }
+    void page(const std::string& name, const std::string& text) {
+        write_file(folder.path() / name, text);
+    }
     guide_book book() {
         const QString place = QString::fromStdString(folder.path().string());
         return {place, {place, place}, writer};
@@ -72,14 +75,16 @@ TEST_F(guide_pdf, a_heading_never_stands_alone_at_the_foot_of_a_page) {
         page("01-first.md", "# First\n\n" + paragraphs(count) + "## Late\n\n## Later\n\nText.\n");
         const guide_book guide = book();
         ASSERT_EQ(guide.contents().size(), 3U);
-        EXPECT_EQ(guide.contents()[1].page, guide.contents()[2].page) << count << " paragraphs before it";
+        EXPECT_EQ(guide.contents()[1].page, guide.contents()[2].page)
+            << count << " paragraphs before it";
     }
 }
 
 TEST_F(guide_pdf, names_the_pictures_that_are_missing) {
     QImage(40, 20, QImage::Format_RGB32).save(QString::fromStdString(folder.file("Form1.png")));
     QImage(40, 20, QImage::Format_RGB32).save(QString::fromStdString(folder.file("a picture.jpg")));
-    page("01-first.md", "# First\n\n![a](screen:Form1)\n\n![b](share:a picture.jpg)\n\n![c](screen:Form9)\n");
+    page("01-first.md",
+         "# First\n\n![a](screen:Form1)\n\n![b](share:a picture.jpg)\n\n![c](screen:Form9)\n");
     EXPECT_EQ(book().missing_pictures(), QStringList{"screen:Form9"});
 }
 
@@ -89,7 +94,8 @@ TEST_F(guide_pdf, a_picture_takes_room) {
     EXPECT_EQ(book().contents()[1].page, 3);
     // Three pictures of 0.42 of a page do not fit on one.
     page("01-first.md",
-         "# First\n\n![a](screen:high)\n\n![a](screen:high)\n\n![a](screen:high)\n\n## Below\n\nText.\n");
+         "# First\n\n![a](screen:high)\n\n![a](screen:high)\n\n![a](screen:high)\n\n## "
+         "Below\n\nText.\n");
     QImage(1500, 1900, QImage::Format_RGB32).save(QString::fromStdString(folder.file("high.png")));
     EXPECT_EQ(book().contents()[1].page, 4);
 }

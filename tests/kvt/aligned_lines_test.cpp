@@ -11,11 +11,13 @@ TEST(aligned_lines, starts_all_values_in_one_column) {
 }
 
 TEST(aligned_table, puts_every_column_but_the_first_flush_right) {
-    EXPECT_EQ(aligned_table({{"rpm", "1", "10"}, {"600", "72.5", "3"}}), "rpm     1  10\n600  72.5   3\n");
+    EXPECT_EQ(aligned_table({{"rpm", "1", "10"}, {"600", "72.5", "3"}}),
+              "rpm     1  10\n600  72.5   3\n");
 }
 
 TEST(aligned_table, counts_characters_and_allows_short_rows) {
-    EXPECT_EQ(aligned_table({{"Tiefe", "1°", "2"}, {"ä"}, {"b", "12°"}}), "Tiefe   1°  2\nä\nb      12°\n");
+    EXPECT_EQ(aligned_table({{"Tiefe", "1°", "2"}, {"ä"}, {"b", "12°"}}),
+              "Tiefe   1°  2\nä\nb      12°\n");
 }
 
 TEST(aligned_table, is_empty_without_rows) {

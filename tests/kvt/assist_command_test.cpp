@@ -7,10 +7,15 @@ namespace kvt {
 namespace {
 
 kvt_run assist_engine_oil(const std::vector<std::string>& options) {
-    std::vector<std::string> arguments = {
-        "assist", example("engine_oil"), "--set", "volumereqd=6",    "--set",           "thick=10",
-        "--set",  "shaftdiameter=18",    "--set", "minmaterial=2.5", "--set",           "clearn=0.12",
-        "--set",  "numlobes=7",          "--set", "maxdiameter=52",  "--capacity-unit", "4"};
+    std::vector<std::string> arguments = {"assist",          example("engine_oil"),
+                                          "--set",           "volumereqd=6",
+                                          "--set",           "thick=10",
+                                          "--set",           "shaftdiameter=18",
+                                          "--set",           "minmaterial=2.5",
+                                          "--set",           "clearn=0.12",
+                                          "--set",           "numlobes=7",
+                                          "--set",           "maxdiameter=52",
+                                          "--capacity-unit", "4"};
     arguments.insert(arguments.end(), options.begin(), options.end());
     return run_kvt(arguments);
 }
@@ -51,7 +56,8 @@ TEST(assist_command, saves_a_project_that_calculates) {
 
 TEST(assist_command, ends_with_1_and_saves_nothing_when_the_rotors_do_not_fit) {
     const temporary_folder folder;
-    const kvt_run run = assist_engine_oil({"--set", "maxdiameter=50", "--write", folder.file("found.KVT")});
+    const kvt_run run =
+        assist_engine_oil({"--set", "maxdiameter=50", "--write", folder.file("found.KVT")});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "Ended  failure\n");
     EXPECT_NE(run.err.find("will not fit in the maximum diameter"), std::string::npos) << run.err;

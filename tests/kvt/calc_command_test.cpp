@@ -16,8 +16,9 @@ std::vector<std::string> keys(const json& object) {
     return names;
 }
 
-const texts ALL_KEYS = {"ended",          "messages",    "entries",      "labels",      "design_params",
-                        "rotor_profiles", "port_params", "report_lines", "perf_results"};
+const texts ALL_KEYS = {"ended",       "messages",      "entries",
+                        "labels",      "design_params", "rotor_profiles",
+                        "port_params", "report_lines",  "perf_results"};
 const texts KEYS_OF_PORTS(ALL_KEYS.begin(), ALL_KEYS.end() - 1);
 const texts KEYS_OF_PROFILES(ALL_KEYS.begin(), ALL_KEYS.end() - 3);
 const texts KEYS_WITHOUT_RUN = {"ended", "messages", "entries", "labels"};
@@ -53,10 +54,10 @@ TEST(calc_command, ends_with_failure_when_the_shaft_is_too_thick) {
     const kvt_run run = calc_engine_oil({"--set", "shaftdiameter=33"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "failure");
-    EXPECT_EQ(
-        run.report()["messages"],
-        texts{"The material thickness between the drive shaft and the Radius of Inner Root is less than specified. "
-              "Reduce the shaft size or increase the Inner Root size."});
+    EXPECT_EQ(run.report()["messages"],
+              texts{"The material thickness between the drive shaft and the Radius of Inner Root "
+                    "is less than specified. "
+                    "Reduce the shaft size or increase the Inner Root size."});
     EXPECT_EQ(run.report()["design_params"]["shaftdiameter"], 33.0);
     EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
@@ -65,19 +66,21 @@ TEST(calc_command, ends_with_closing_when_the_trochoid_has_loops) {
     const kvt_run run = calc_engine_oil({"--set", "ecc=4"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "closing");
-    EXPECT_EQ(
-        run.report()["messages"],
-        texts{"This design will create an inner rotor with errors. Try increasing the Radius of the Inner Root, "
-              "reducing the eccentricity, reducing the Radius Outer Lobes or reducing the number of Outer lobes"});
+    EXPECT_EQ(run.report()["messages"], texts{"This design will create an inner rotor with errors. "
+                                              "Try increasing the Radius of the Inner Root, "
+                                              "reducing the eccentricity, reducing the Radius "
+                                              "Outer Lobes or reducing the number of Outer lobes"});
     EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
 
 TEST(calc_command, ends_with_error_when_the_lobes_do_not_reach_the_root) {
-    const kvt_run run = calc_engine_oil({"--set", "radouter=2", "--set", "fillet=0", "--language", "2"});
+    const kvt_run run =
+        calc_engine_oil({"--set", "radouter=2", "--set", "fillet=0", "--language", "2"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "error");
     // This message exists in English only.
-    EXPECT_EQ(run.report()["messages"].back(), "The value of Radius Outer Lobes is too small, enter a larger value");
+    EXPECT_EQ(run.report()["messages"].back(),
+              "The value of Radius Outer Lobes is too small, enter a larger value");
     EXPECT_EQ(keys(run.report()), KEYS_OF_PROFILES);
 }
 
@@ -101,7 +104,8 @@ TEST(calc_command, ends_with_fatal_when_the_run_itself_fails) {
 
 TEST(calc_command, speaks_german_with_language_2) {
     const kvt_run run = calc_engine_oil({"--language", "2", "--set", "ecc=0"});
-    EXPECT_EQ(run.report()["messages"], texts{"Die Exzentrizität kann gleich nicht sein, auf null zu stellen!!"});
+    EXPECT_EQ(run.report()["messages"],
+              texts{"Die Exzentrizität kann gleich nicht sein, auf null zu stellen!!"});
     EXPECT_EQ(run.err, "Die Exzentrizität kann gleich nicht sein, auf null zu stellen!!\n");
     EXPECT_EQ(calc_engine_oil({"--language", "2", "--set", "numlobes=8x"}).err,
               "Laufzeitfehler 13: Unverträglicher Typ\n");
@@ -118,9 +122,12 @@ TEST(calc_command, writes_the_json_to_a_file_beside_the_summary) {
 
 TEST(calc_command, ends_with_1_when_the_json_cannot_be_written) {
     const temporary_folder folder;
-    const kvt_run run = run_kvt({"calc", example("engine_oil"), "--json", folder.file("missing/report.json")});
+    const kvt_run run =
+        run_kvt({"calc", example("engine_oil"), "--json", folder.file("missing/report.json")});
     EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.err.find("missing/report.json: Run-time error 76: Path not found"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("missing/report.json: Run-time error 76: Path not found"),
+              std::string::npos)
+        << run.err;
 }
 
 TEST(calc_command, stops_after_the_stage_asked_for) {
@@ -138,38 +145,44 @@ TEST(calc_command, stays_ok_with_status_1_when_a_port_is_refused_and_goes_on) {
     EXPECT_EQ(keys(run.report()), ALL_KEYS);
 }
 
-// Without a groove length no port is built at all, and the performance of no port divides by its area.
+// Without a groove length no port is built at all, and the performance of no port divides by its
+// area.
 TEST(calc_command, ends_with_fatal_when_no_port_was_ever_built) {
     const kvt_run run = calc_engine_oil({"--set", "groove_length=0"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "fatal");
     EXPECT_EQ(run.report()["messages"],
-              (texts{"Enter a value for the length of the Metering Groove", "Run-time error 11: Division by zero"}));
+              (texts{"Enter a value for the length of the Metering Groove",
+                     "Run-time error 11: Division by zero"}));
     EXPECT_EQ(run.report()["entries"]["groove_length"], "");
 }
 
 TEST(calc_command, prints_a_message_of_two_lines_as_two_lines) {
     const kvt_run run = calc_engine_oil({"--set", "inlet_inner_radius=30"});
     EXPECT_EQ(run.err,
-              "The specified port radius is too large for the Inlet Port\nPlease enter a smaller port radius\n");
-    EXPECT_EQ(run.report()["messages"],
-              texts{"The specified port radius is too large for the Inlet Port\rPlease enter a smaller port radius"});
+              "The specified port radius is too large for the Inlet Port\nPlease enter a smaller "
+              "port radius\n");
+    EXPECT_EQ(run.report()["messages"], texts{"The specified port radius is too large for the "
+                                              "Inlet Port\rPlease enter a smaller port radius"});
 }
 
 TEST(calc_command, reports_no_performance_when_its_entries_are_refused) {
     const kvt_run run = calc_engine_oil({"--set", "kin_visc=0", "--language", "2"});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "ok");
-    EXPECT_EQ(run.report()["messages"],
-              texts{"Tragen Sie eine Viskosität für die gepumpte Flüssigkeit, ein in cSt (centistokes)"});
+    EXPECT_EQ(
+        run.report()["messages"],
+        texts{"Tragen Sie eine Viskosität für die gepumpte Flüssigkeit, ein in cSt (centistokes)"});
     EXPECT_EQ(keys(run.report()), KEYS_OF_PORTS);
 }
 
 TEST(calc_command, ends_with_fatal_when_the_performance_fails) {
-    const kvt_run run = calc_engine_oil({"--set", "vap_press=800"});  // above an atmosphere of 760 mmHg
+    const kvt_run run =
+        calc_engine_oil({"--set", "vap_press=800"});  // above an atmosphere of 760 mmHg
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.report()["ended"], "fatal");
-    EXPECT_EQ(run.report()["messages"], texts{"Run-time error 5: Invalid procedure call or argument"});
+    EXPECT_EQ(run.report()["messages"],
+              texts{"Run-time error 5: Invalid procedure call or argument"});
     EXPECT_EQ(keys(run.report()), ALL_KEYS);
     EXPECT_EQ(run.report()["perf_results"]["fill_velocity"], 0.0);
 }
@@ -198,14 +211,16 @@ TEST(calc_command, ends_with_read_error_for_a_folder) {
 TEST(calc_command, ends_with_read_error_for_a_file_that_ends_too_early) {
     for (const std::size_t lines : {0U, 1U, 22U, 24U, 52U, 54U, 56U}) {
         const temporary_folder folder;
-        expect_read_error(changed_project(folder, {}, lines), "Run-time error 62: Input past end of file");
+        expect_read_error(changed_project(folder, {}, lines),
+                          "Run-time error 62: Input past end of file");
     }
 }
 
 TEST(calc_command, ends_with_read_error_for_lines_that_hold_no_number) {
     for (const std::size_t line : {11U, 12U, 17U, 33U, 48U}) {
         const temporary_folder folder;
-        expect_read_error(changed_project(folder, {{line, "abc"}}), "Run-time error 13: Type mismatch");
+        expect_read_error(changed_project(folder, {{line, "abc"}}),
+                          "Run-time error 13: Type mismatch");
     }
 }
 

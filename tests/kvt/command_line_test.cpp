@@ -42,24 +42,29 @@ TEST(command_line, ends_with_2_and_a_reason_for_what_it_does_not_understand) {
 TEST(command_line, names_the_controls_near_an_unknown_one) {
     const kvt_run run = calc_engine_oil({"--set", "rodouter=7"});
     EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.err.find("there is no control 'rodouter'; near names: radouter"), std::string::npos) << run.err;
-}
-
-TEST(command_line, refuses_a_character_that_a_project_file_cannot_hold) {
-    EXPECT_EQ(calc_engine_oil({"--set", "fluid_density=8\xE6\x97\xA5"}).status, 2);
-    EXPECT_EQ(calc_engine_oil({"--set", "fluid_density=8\xC3\xBC"}).status, 0);  // u with dots is in the code page
-    EXPECT_EQ(calc_engine_oil({"--set", "fluid_density=8\xC3"}).status, 2);      // no character at all
-}
-
-TEST(command_line, names_the_texts_of_the_unit_list) {
-    const kvt_run run = calc_engine_oil({"--set", "unittype=Litres"});
-    EXPECT_NE(run.err.find("Lit/Min/1000rpm, USGall/Min/1000rpm, ImpGall/Min/1000rpm, CC/Rev, Cu In/Rev"),
+    EXPECT_NE(run.err.find("there is no control 'rodouter'; near names: radouter"),
               std::string::npos)
         << run.err;
 }
 
+TEST(command_line, refuses_a_character_that_a_project_file_cannot_hold) {
+    EXPECT_EQ(calc_engine_oil({"--set", "fluid_density=8\xE6\x97\xA5"}).status, 2);
+    EXPECT_EQ(calc_engine_oil({"--set", "fluid_density=8\xC3\xBC"}).status,
+              0);  // u with dots is in the code page
+    EXPECT_EQ(calc_engine_oil({"--set", "fluid_density=8\xC3"}).status, 2);  // no character at all
+}
+
+TEST(command_line, names_the_texts_of_the_unit_list) {
+    const kvt_run run = calc_engine_oil({"--set", "unittype=Litres"});
+    EXPECT_NE(
+        run.err.find("Lit/Min/1000rpm, USGall/Min/1000rpm, ImpGall/Min/1000rpm, CC/Rev, Cu In/Rev"),
+        std::string::npos)
+        << run.err;
+}
+
 TEST(command_line, takes_options_before_the_project) {
-    const kvt_run run = run_kvt({"calc", "--set", "thick=11", "--set", "fillet=1", example("engine_oil")});
+    const kvt_run run =
+        run_kvt({"calc", "--set", "thick=11", "--set", "fillet=1", example("engine_oil")});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
 }
@@ -74,11 +79,13 @@ TEST(command_line, takes_an_empty_text) {
 }
 
 TEST(command_line, helps_with_an_example) {
-    for (const auto& arguments : std::vector<std::vector<std::string>>{{"--help"}, {"calc", "--help"}}) {
+    for (const auto& arguments :
+         std::vector<std::vector<std::string>>{{"--help"}, {"calc", "--help"}}) {
         const kvt_run run = run_kvt(arguments);
         EXPECT_EQ(run.status, 0);
         EXPECT_EQ(run.err, "");
-        EXPECT_NE(run.out.find("kvt calc engine_oil.KVT --set thick=12 --set fillet=0 --json -"), std::string::npos);
+        EXPECT_NE(run.out.find("kvt calc engine_oil.KVT --set thick=12 --set fillet=0 --json -"),
+                  std::string::npos);
     }
 }
 

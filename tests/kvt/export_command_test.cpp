@@ -17,8 +17,8 @@ TEST(export_command, writes_the_project_under_its_name_with_that_path_as_first_l
     const kvt_run run = export_engine_oil(folder.path().string(), {"--cnc", "inner_xy"});
     const std::string written = folder.file("engine_oil.KVT");
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.out,
-              written + "\n" + folder.file("inner_xy.cnc") + "\n" + folder.file("port_radius_coordinates.txt") + "\n");
+    EXPECT_EQ(run.out, written + "\n" + folder.file("inner_xy.cnc") + "\n" +
+                           folder.file("port_radius_coordinates.txt") + "\n");
     EXPECT_EQ(run.err, "");
     std::vector<std::string> expected = split_lines(read_file(example("engine_oil")));
     expected[0] = written;
@@ -28,8 +28,8 @@ TEST(export_command, writes_the_project_under_its_name_with_that_path_as_first_l
 
 TEST(export_command, writes_typed_texts_as_they_are_before_any_calculation) {
     const temporary_folder folder;
-    const kvt_run run =
-        export_engine_oil(folder.path().string(), {"--set", "thick=12,50", "--set", "ecc=0", "--capacity-unit", "4"});
+    const kvt_run run = export_engine_oil(
+        folder.path().string(), {"--set", "thick=12,50", "--set", "ecc=0", "--capacity-unit", "4"});
     const std::vector<std::string> lines = split_lines(read_file(folder.file("engine_oil.KVT")));
     EXPECT_EQ(lines[5], "12,50");
     EXPECT_EQ(lines[10], "0");
@@ -50,7 +50,8 @@ TEST(export_command, gives_the_extension_of_projects_to_any_input) {
     const temporary_folder folder;
     const std::string input = folder.file("pump.v2.txt");
     write_file(input, read_file(example("engine_oil")));
-    const kvt_run run = run_kvt({"export", input, "--out", folder.path().string(), "--cnc", "outer_gcode"});
+    const kvt_run run =
+        run_kvt({"export", input, "--out", folder.path().string(), "--cnc", "outer_gcode"});
     EXPECT_TRUE(run.out.starts_with(folder.file("pump.v2.KVT") + "\n")) << run.out;
 }
 
@@ -74,7 +75,8 @@ TEST(export_command, ends_with_1_when_the_folder_cannot_be_made) {
     write_file(folder.file("files"), "a file in the way");
     const kvt_run run = export_engine_oil(folder.file("files"));
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, folder.file("files/engine_oil.KVT") + ": Run-time error 76: Path not found\n");
+    EXPECT_EQ(run.err,
+              folder.file("files/engine_oil.KVT") + ": Run-time error 76: Path not found\n");
 }
 
 TEST(export_command, ends_with_1_and_writes_nothing_when_leaving_an_entry_fails) {

@@ -9,7 +9,8 @@ namespace {
 namespace fs = std::filesystem;
 
 kvt_run export_to(const temporary_folder& folder, std::vector<std::string> options) {
-    options.insert(options.begin(), {"export", example("engine_oil"), "--out", folder.path().string()});
+    options.insert(options.begin(),
+                   {"export", example("engine_oil"), "--out", folder.path().string()});
     return run_kvt(options);
 }
 
@@ -23,8 +24,9 @@ std::set<std::string> drawings_in(const temporary_folder& folder) {
     return names;
 }
 
-const std::set<std::string> ALL = {"inner.dxf", "outer.dxf", "inlet.dxf",    "outlet.dxf", "groove.dxf",
-                                   "inner.stp", "outer.stp", "assembly.stp", "ports.stp"};
+const std::set<std::string> ALL = {"inner.dxf",  "outer.dxf",    "inlet.dxf",
+                                   "outlet.dxf", "groove.dxf",   "inner.stp",
+                                   "outer.stp",  "assembly.stp", "ports.stp"};
 
 TEST(export_drawings, writes_everything_without_a_choice) {
     const temporary_folder folder;
@@ -43,14 +45,16 @@ TEST(export_drawings, writes_what_is_named_and_nothing_else) {
 TEST(export_drawings, writes_all_of_one_kind) {
     const temporary_folder folder;
     EXPECT_EQ(export_to(folder, {"--step", "all"}).status, 0);
-    EXPECT_EQ(drawings_in(folder), (std::set<std::string>{"inner.stp", "outer.stp", "assembly.stp", "ports.stp"}));
+    EXPECT_EQ(drawings_in(folder),
+              (std::set<std::string>{"inner.stp", "outer.stp", "assembly.stp", "ports.stp"}));
 }
 
 TEST(export_drawings, adds_the_files_of_the_simulation_exchange) {
     const temporary_folder folder;
     EXPECT_EQ(export_to(folder, {"--dxf", "inner", "--gt"}).status, 0);
-    EXPECT_EQ(drawings_in(folder), (std::set<std::string>{"inner.dxf", "inner_rotor_GT.stp", "outer_rotor_GT.stp",
-                                                          "in_port_GT.stp", "out_port_GT.stp"}));
+    EXPECT_EQ(drawings_in(folder),
+              (std::set<std::string>{"inner.dxf", "inner_rotor_GT.stp", "outer_rotor_GT.stp",
+                                     "in_port_GT.stp", "out_port_GT.stp"}));
 }
 
 TEST(export_drawings, carries_the_given_date_and_the_path) {
@@ -64,7 +68,8 @@ TEST(export_drawings, carries_the_given_date_and_the_path) {
 TEST(export_drawings, leaves_out_a_groove_that_is_not_ticked_and_refuses_it_when_named) {
     const temporary_folder folder;
     EXPECT_EQ(export_to(folder, {"--dxf", "all", "--set", "metering_groove=0"}).status, 0);
-    EXPECT_EQ(drawings_in(folder), (std::set<std::string>{"inner.dxf", "outer.dxf", "inlet.dxf", "outlet.dxf"}));
+    EXPECT_EQ(drawings_in(folder),
+              (std::set<std::string>{"inner.dxf", "outer.dxf", "inlet.dxf", "outlet.dxf"}));
     const temporary_folder other;
     const kvt_run run = export_to(other, {"--dxf", "groove,inner", "--set", "metering_groove=0"});
     EXPECT_EQ(run.status, 1);
@@ -76,8 +81,9 @@ TEST(export_drawings, has_no_bodies_of_a_refused_port) {
     const temporary_folder folder;
     // No side can join such angles: the search for its corners runs out.
     const kvt_run run =
-        export_to(folder, {"--step", "ports", "--dxf", "all", "--set", "inlet_start_inner=83", "--set",
-                           "inlet_start_outer=18", "--set", "inlet_end_inner=91", "--set", "inlet_end_outer=173"});
+        export_to(folder, {"--step", "ports", "--dxf", "all", "--set", "inlet_start_inner=83",
+                           "--set", "inlet_start_outer=18", "--set", "inlet_end_inner=91", "--set",
+                           "inlet_end_outer=173"});
     EXPECT_EQ(run.status, 1);
     EXPECT_FALSE(drawings_in(folder).contains("inlet.dxf"));
     const std::string bytes = read_file(folder.file("ports.stp"));

@@ -14,7 +14,8 @@ TEST(json_report, gives_every_entry_of_the_three_input_forms) {
     const json boxes = calc_engine_oil({}).report()["entries"];
     std::size_t expected = 0;
     for (const entry_field& field : entry_fields()) {
-        const bool input = field.form == "Form1" || field.form == "portdes" || field.form == "Perffrm";
+        const bool input =
+            field.form == "Form1" || field.form == "portdes" || field.form == "Perffrm";
         EXPECT_EQ(boxes.contains(std::string(field.name)), input) << field.name;
         expected += input ? 1 : 0;
     }
@@ -58,7 +59,8 @@ TEST(json_report, gives_the_inputs_in_millimetres) {
 TEST(json_report, gives_the_capacity_as_its_exact_text) {
     const json report = calc_engine_oil({}).report();
     EXPECT_EQ(report["rotor_profiles"]["capacity"], report["labels"]["capacity"]);
-    EXPECT_EQ(val(report["labels"]["capacity"].get<std::string>()), report["rotor_profiles"]["capacity_cc"]);
+    EXPECT_EQ(val(report["labels"]["capacity"].get<std::string>()),
+              report["rotor_profiles"]["capacity_cc"]);
 }
 
 TEST(json_report, gives_no_arrays_unless_asked_for_the_full_form) {
@@ -75,7 +77,8 @@ std::size_t length(const json& rotors, const char* name) {
 }
 
 TEST(json_report, cuts_the_arrays_to_their_used_length) {
-    const json rotors = calc_engine_oil({"--full", "--stage", "profiles"}).report()["rotor_profiles"];
+    const json rotors =
+        calc_engine_oil({"--full", "--stage", "profiles"}).report()["rotor_profiles"];
     EXPECT_EQ(rotors["profile_points"], 3600.0);
     EXPECT_EQ(length(rotors, "troch_x"), 3601U);
     EXPECT_EQ(length(rotors, "troch_y"), 3601U);
@@ -93,8 +96,8 @@ TEST(json_report, cuts_the_arrays_to_their_used_length) {
 }
 
 TEST(json_report, gives_no_fillet_points_for_a_design_without_fillets) {
-    const json rotors =
-        calc_engine_oil({"--full", "--stage", "profiles", "--set", "fillet=0"}).report()["rotor_profiles"];
+    const json rotors = calc_engine_oil({"--full", "--stage", "profiles", "--set", "fillet=0"})
+                            .report()["rotor_profiles"];
     EXPECT_EQ(length(rotors, "fillet_x"), 0U);
     EXPECT_EQ(length(rotors, "fillet_y"), 0U);
     EXPECT_EQ(length(rotors, "fillet_r"), 0U);
@@ -114,13 +117,14 @@ TEST(json_report, gives_the_outlines_of_the_ports_up_to_their_last_point) {
 }
 
 TEST(json_report, gives_the_plotted_points_of_a_coarser_drawing) {
-    const json rotors =
-        calc_engine_oil({"--full", "--stage", "profiles", "--set", "coarseness=9"}).report()["rotor_profiles"];
+    const json rotors = calc_engine_oil({"--full", "--stage", "profiles", "--set", "coarseness=9"})
+                            .report()["rotor_profiles"];
     EXPECT_EQ(length(rotors, "inner_plot_xy"), 802U);  // 400 points and the closing one
 }
 
 TEST(json_report, gives_the_outer_profile_twice_in_the_same_numbers) {
-    const json rotors = calc_engine_oil({"--full", "--stage", "profiles"}).report()["rotor_profiles"];
+    const json rotors =
+        calc_engine_oil({"--full", "--stage", "profiles"}).report()["rotor_profiles"];
     for (std::size_t i = 0; i < length(rotors, "outer_x"); ++i) {
         ASSERT_EQ(rotors["outer_x"][i], rotors["outer_xy"][2 * i]) << i;
         ASSERT_EQ(rotors["outer_y"][i], rotors["outer_xy"][2 * i + 1]) << i;
@@ -129,11 +133,13 @@ TEST(json_report, gives_the_outer_profile_twice_in_the_same_numbers) {
 
 TEST(json_report, gives_the_lines_and_arcs_of_the_design_view) {
     const json view = calc_engine_oil({"--full", "--stage", "ports"}).report()["view"];
-    EXPECT_EQ(view["Line1"].size(), 3601U);       // 3600 pairs of neighbours and the closing line
-    EXPECT_EQ(view["Picture1"].size(), 8U * 4U);  // two fillets, the lobe and the root of each of 8 lobes
+    EXPECT_EQ(view["Line1"].size(), 3601U);  // 3600 pairs of neighbours and the closing line
+    EXPECT_EQ(view["Picture1"].size(),
+              8U * 4U);  // two fillets, the lobe and the root of each of 8 lobes
     EXPECT_EQ(view["Shape1"]["visible"], true);
     EXPECT_GT(view["inlet_portline"].size(), 100U);
-    EXPECT_EQ(calc_engine_oil({"--full", "--stage", "profiles"}).report()["view"]["inlet_portline"], json::array());
+    EXPECT_EQ(calc_engine_oil({"--full", "--stage", "profiles"}).report()["view"]["inlet_portline"],
+              json::array());
     for (const char* field : {"x1", "y1", "x2", "y2"}) {
         EXPECT_TRUE(view["Line1"][0][field].is_number()) << field;
     }
@@ -147,7 +153,8 @@ TEST(json_report, keeps_every_bit_of_a_number) {
     kavetta.design_params.ecc = 0.1 + 0.2;
     kavetta.design_params.fillet = std::numeric_limits<double>::denorm_min();
     kavetta.design_params.thick = 1.0 / 3.0;
-    const json design = json::parse(json_report(kavetta, {}, {.profiles_reached = true}, false))["design_params"];
+    const json design =
+        json::parse(json_report(kavetta, {}, {.profiles_reached = true}, false))["design_params"];
     EXPECT_EQ(design["ecc"].get<double>(), 0.1 + 0.2);
     EXPECT_EQ(design["fillet"].get<double>(), std::numeric_limits<double>::denorm_min());
     EXPECT_EQ(design["thick"].get<double>(), 1.0 / 3.0);

@@ -51,7 +51,8 @@ inline kvt_run calc_engine_oil(const std::vector<std::string>& options) {
 }
 
 /// A copy of the engine oil example with some lines (1-based) replaced, cut to a number of lines.
-inline std::string changed_project(const temporary_folder& folder, const std::map<std::size_t, std::string>& changes,
+inline std::string changed_project(const temporary_folder& folder,
+                                   const std::map<std::size_t, std::string>& changes,
                                    std::size_t line_count = 59) {
     std::vector<std::string> lines = split_lines(read_file(example("engine_oil")));
     text_lines text;

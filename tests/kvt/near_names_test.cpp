@@ -22,7 +22,8 @@ TEST(edit_distance, ignores_capitals) {
 }
 
 TEST(near_names, gives_the_nearest_first) {
-    EXPECT_EQ(near_names("speed_l", {"speed_hi", "speed_lo", "thick"}), (names{"speed_lo", "speed_hi"}));
+    EXPECT_EQ(near_names("speed_l", {"speed_hi", "speed_lo", "thick"}),
+              (names{"speed_lo", "speed_hi"}));
 }
 
 TEST(near_names, finds_a_name_by_its_beginning) {

@@ -1,4 +1,5 @@
-// Tests of the program kvt itself, started as a process: exit statuses, streams, and what it leaves on the disk.
+// Tests of the program kvt itself, started as a process: exit statuses, streams, and what it leaves
+// on the disk.
 #include "base/text_file.hpp"
 #include "kvt/kvt_run.hpp"
 
@@ -15,15 +16,17 @@ std::string quoted(const std::string& text) {
     return "'" + text + "'";
 }
 
-/// Runs the program in a folder that is also its home, so that whatever it leaves behind is found there.
+/// Runs the program in a folder that is also its home, so that whatever it leaves behind is found
+/// there.
 class program_test : public testing::Test {
   protected:
     kvt_run start(const std::string& arguments) {
         const std::string home = folder.file("home");
         fs::create_directories(home);
         const std::string command = "cd " + quoted(home) + " && HOME=" + quoted(home) +
-                                    " KAVETTA_HOME=" + quoted(home + "/Kavetta") + " " + quoted(KVT_PROGRAM) + " " +
-                                    arguments + " >" + quoted(folder.file("out")) + " 2>" + quoted(folder.file("err"));
+                                    " KAVETTA_HOME=" + quoted(home + "/Kavetta") + " " +
+                                    quoted(KVT_PROGRAM) + " " + arguments + " >" +
+                                    quoted(folder.file("out")) + " 2>" + quoted(folder.file("err"));
         const int ended = std::system(command.c_str());
         kvt_run run;
         run.status = WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
@@ -85,8 +88,9 @@ TEST_F(program_test, writes_what_the_options_name_and_nothing_else) {
         left.push_back(fs::relative(file.path(), folder.file("home")).string());
     }
     std::sort(left.begin(), left.end());
-    EXPECT_EQ(left, (std::vector<std::string>{"files", "files/engine_oil.KVT", "files/outer_gcode.cnc",
-                                              "files/port_radius_coordinates.txt", "report.json"}));
+    EXPECT_EQ(left,
+              (std::vector<std::string>{"files", "files/engine_oil.KVT", "files/outer_gcode.cnc",
+                                        "files/port_radius_coordinates.txt", "report.json"}));
 }
 
 }  // namespace

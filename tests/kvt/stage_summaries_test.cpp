@@ -24,7 +24,8 @@ using words = std::vector<std::string>;
 std::vector<std::string> table_lines(const std::string& report, const std::string& caption) {
     const std::vector<std::string> lines = split_lines(report);
     const auto found = std::find(lines.begin(), lines.end(), caption);
-    return lines.end() - found < 8 ? std::vector<std::string>() : std::vector<std::string>(found + 1, found + 8);
+    return lines.end() - found < 8 ? std::vector<std::string>()
+                                   : std::vector<std::string>(found + 1, found + 8);
 }
 
 std::string summary_of(const std::string& design, const std::vector<std::string>& options = {}) {
@@ -47,7 +48,8 @@ TEST(port_summary, shows_both_ports_with_the_inlet_below_the_axis) {
 
 TEST(port_summary, shows_the_groove_of_a_design_that_has_one) {
     EXPECT_NE(summary_of("engine_oil").find("Nose Corner Radius"), std::string::npos);
-    EXPECT_EQ(summary_of("engine_oil", {"--set", "metering_groove=0"}).find("Nose Corner Radius"), std::string::npos);
+    EXPECT_EQ(summary_of("engine_oil", {"--set", "metering_groove=0"}).find("Nose Corner Radius"),
+              std::string::npos);
 }
 
 TEST(port_summary, shows_inches_for_a_design_in_inches) {
@@ -58,7 +60,8 @@ TEST(port_summary, shows_inches_for_a_design_in_inches) {
 }
 
 TEST(performance_summary, shows_a_table_over_speeds_and_pressures) {
-    const std::vector<std::string> table = table_lines(summary_of("engine_oil"), "Pump Flow (Lit/min)");
+    const std::vector<std::string> table =
+        table_lines(summary_of("engine_oil"), "Pump Flow (Lit/min)");
     ASSERT_EQ(table.size(), 7U);
     const json results = calc_engine_oil({}).report()["perf_results"];
     const words last = words_after(table[6], "");
@@ -69,22 +72,25 @@ TEST(performance_summary, shows_a_table_over_speeds_and_pressures) {
 
 TEST(performance_summary, shows_seven_tables_in_either_language_and_unit) {
     for (const std::string caption :
-         {"Pump Flow (USGall/min)", "Volumetric Efficiency (%)", "Mechanical Efficiency (%)", "Overall Efficiency (%)",
-          "Pump Drive Power (HP)", "Maximum Hertz (Contact) Stress (Ksi)", "Shaft Side Load (lbsf)"}) {
+         {"Pump Flow (USGall/min)", "Volumetric Efficiency (%)", "Mechanical Efficiency (%)",
+          "Overall Efficiency (%)", "Pump Drive Power (HP)", "Maximum Hertz (Contact) Stress (Ksi)",
+          "Shaft Side Load (lbsf)"}) {
         EXPECT_EQ(table_lines(summary_of("inch_hydraulic"), caption).size(), 7U) << caption;
     }
     for (const std::string caption :
-         {"Pumpen Sie Ablauf (Lit/min)", "Volumetric Wirkungsgrad (%)", "Mechanischer Wirkungsgrad (%)",
-          "Gesamtwirkungsgrad (%)", "Pumpen Sie Antriebkraft (KW)", "Größte Hertz (Kontakt) Spannung (MPa)",
-          "Wellenseitenkraft (N)"}) {
-        EXPECT_EQ(table_lines(summary_of("engine_oil", {"--language", "2"}), caption).size(), 7U) << caption;
+         {"Pumpen Sie Ablauf (Lit/min)", "Volumetric Wirkungsgrad (%)",
+          "Mechanischer Wirkungsgrad (%)", "Gesamtwirkungsgrad (%)", "Pumpen Sie Antriebkraft (KW)",
+          "Größte Hertz (Kontakt) Spannung (MPa)", "Wellenseitenkraft (N)"}) {
+        EXPECT_EQ(table_lines(summary_of("engine_oil", {"--language", "2"}), caption).size(), 7U)
+            << caption;
     }
 }
 
 TEST(performance_summary, shows_the_headline_results_as_perf_res_does) {
     const json labels = calc_engine_oil({}).report()["labels"];
     const std::string report = summary_of("engine_oil");
-    for (const char* label : {"max_speed", "max_shaft_side_load", "max_cutter_inner", "Label5", "Label1"}) {
+    for (const char* label :
+         {"max_speed", "max_shaft_side_load", "max_cutter_inner", "Label5", "Label1"}) {
         EXPECT_NE(report.find(labels[label].get<std::string>()), std::string::npos) << label;
     }
 }

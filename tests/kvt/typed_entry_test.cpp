@@ -15,8 +15,8 @@ TEST(typed_entry, replaces_the_text_of_a_box) {
 }
 
 TEST(typed_entry, keeps_texts_of_the_port_and_performance_forms_as_typed) {
-    const json boxes =
-        entries_after({"--set", "Outlet_inner_radius= 17,4 ", "--set", "speed_hi=6500 rpm", "--stage", "profiles"});
+    const json boxes = entries_after({"--set", "Outlet_inner_radius= 17,4 ", "--set",
+                                      "speed_hi=6500 rpm", "--stage", "profiles"});
     EXPECT_EQ(boxes["Outlet_inner_radius"], " 17,4 ");
     EXPECT_EQ(boxes["speed_hi"], "6500 rpm");
 }
@@ -35,7 +35,8 @@ TEST(typed_entry, fires_the_handler_of_the_drawing_resolution) {
 
 TEST(typed_entry, fires_the_handler_of_the_lobe_number) {
     const kvt_run run = calc_engine_oil({"--set", "numlobes=2"});
-    EXPECT_EQ(run.report()["messages"][0], "The number of Outer Lobes must be an integer, of minimum value = 3");
+    EXPECT_EQ(run.report()["messages"][0],
+              "The number of Outer Lobes must be an integer, of minimum value = 3");
     EXPECT_EQ(run.report()["entries"]["numlobes"], "3");
 }
 
@@ -50,10 +51,12 @@ TEST(typed_entry, types_in_the_given_order) {
 }
 
 TEST(typed_entry, clicks_a_porting_type_with_what_follows_from_it) {
-    const json boxes = entries_after({"--set", "inlet_double_sided=1", "--set", "outlet_double_sided=1"});
+    const json boxes =
+        entries_after({"--set", "inlet_double_sided=1", "--set", "outlet_double_sided=1"});
     EXPECT_EQ(boxes["inlet_double_sided"], "1");
     EXPECT_EQ(boxes["outlet_double_sided"], "1");
-    EXPECT_EQ(boxes["shadow_ports"], "0");  // both sides leave no room for shadow ports; they were on in the file
+    EXPECT_EQ(boxes["shadow_ports"],
+              "0");  // both sides leave no room for shadow ports; they were on in the file
 }
 
 TEST(typed_entry, switches_to_inches_with_dimens2) {
@@ -62,7 +65,8 @@ TEST(typed_entry, switches_to_inches_with_dimens2) {
 }
 
 TEST(typed_entry, switches_to_millimetres_with_dimens1) {
-    const kvt_run run = run_kvt({"calc", example("inch_hydraulic"), "--json", "-", "--set", "dimens1=1"});
+    const kvt_run run =
+        run_kvt({"calc", example("inch_hydraulic"), "--json", "-", "--set", "dimens1=1"});
     EXPECT_EQ(run.report()["design_params"]["ecc"], 0.15);
 }
 
@@ -75,13 +79,14 @@ TEST(typed_entry, selects_a_capacity_unit_by_its_list_text) {
 TEST(typed_entry, converts_the_required_capacity_with_the_unit) {
     const std::string project = example("engine_oil");
     // 7.57 / 3.785 = 2 US gallons
-    const kvt_run run =
-        run_kvt({"calc", project, "--json", "-", "--set", "volumereqd=7.57", "--set", "unittype=USGall/Min/1000rpm"});
+    const kvt_run run = run_kvt({"calc", project, "--json", "-", "--set", "volumereqd=7.57",
+                                 "--set", "unittype=USGall/Min/1000rpm"});
     EXPECT_EQ(run.report()["entries"]["volumereqd"], "2");
 }
 
 TEST(typed_entry, comes_after_the_unit_of_the_option_capacity_unit) {
-    const json report = calc_engine_oil({"--capacity-unit", "2", "--set", "volumereqd=7.57"}).report();
+    const json report =
+        calc_engine_oil({"--capacity-unit", "2", "--set", "volumereqd=7.57"}).report();
     EXPECT_EQ(report["labels"]["unittype"], "USGall/Min/1000rpm");
     EXPECT_EQ(report["entries"]["volumereqd"], "7.57");
 }

@@ -1,4 +1,5 @@
-// The whole road: every delivered example and every test design goes from its file to all that kvt reports.
+// The whole road: every delivered example and every test design goes from its file to all that kvt
+// reports.
 #include "base/number_text.hpp"
 #include "kvt/kvt_run.hpp"
 
@@ -39,7 +40,8 @@ json brief_report(const std::string& project) {
 }
 
 json full_rotors(const std::string& project) {
-    return run_kvt({"calc", project, "--json", "-", "--full", "--stage", "profiles"}).report()["rotor_profiles"];
+    return run_kvt({"calc", project, "--json", "-", "--full", "--stage", "profiles"})
+        .report()["rotor_profiles"];
 }
 
 /// A number that is infinite or none would have become null.
@@ -164,7 +166,9 @@ TEST(whole_road, exports_a_project_that_exports_to_the_same_lines) {
         const temporary_folder folder;
         const std::string name = fs::path(project).filename().string();
         ASSERT_EQ(run_kvt({"export", project, "--out", folder.file("a")}).status, 0) << project;
-        ASSERT_EQ(run_kvt({"export", folder.file("a/" + name), "--out", folder.file("b")}).status, 0) << project;
+        ASSERT_EQ(run_kvt({"export", folder.file("a/" + name), "--out", folder.file("b")}).status,
+                  0)
+            << project;
         std::vector<std::string> first = split_lines(read_file(folder.file("a/" + name)));
         std::vector<std::string> second = split_lines(read_file(folder.file("b/" + name)));
         first[0].clear();  // the path

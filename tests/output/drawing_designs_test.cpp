@@ -1,4 +1,5 @@
-// What holds for the STEP and DXF files of every design: random designs, every file written into memory and read back.
+// What holds for the STEP and DXF files of every design: random designs, every file written into
+// memory and read back.
 #include "app/files/dxf_output.hpp"
 #include "app/files/step_output.hpp"
 #include "base/constants.hpp"
@@ -38,7 +39,8 @@ void expect_sound(const step_reader& read) {
 }
 
 /// A prism of a contour: both its heights, counter-clockwise, with its points and area.
-void expect_prism(const step_solid& solid, const std::vector<point2>& contour, double bottom, double top) {
+void expect_prism(const step_solid& solid, const std::vector<point2>& contour, double bottom,
+                  double top) {
     ASSERT_EQ(solid.contours.size(), 2U) << solid.name;
     EXPECT_NEAR(solid.contours[0].z, bottom, 1e-12) << solid.name;
     EXPECT_NEAR(solid.contours[1].z, top, 1e-12) << solid.name;
@@ -52,13 +54,15 @@ void expect_prism(const step_solid& solid, const std::vector<point2>& contour, d
 
 void expect_inner(const program& kavetta, const step_solid& solid) {
     EXPECT_EQ(solid.name, "INNER ROTOR");
-    expect_prism(solid, inner_rotor_contour(kavetta.rotor_profiles), 0.0, kavetta.design_params.thick);
+    expect_prism(solid, inner_rotor_contour(kavetta.rotor_profiles), 0.0,
+                 kavetta.design_params.thick);
 }
 
 void expect_outer(const program& kavetta, const step_solid& solid) {
     const design_params& design = kavetta.design_params;
     EXPECT_EQ(solid.name, "Outer rotor");
-    const std::size_t points = static_cast<std::size_t>(design.numlobes) * (design.fillet == 0.0 ? 300 : 500);
+    const std::size_t points =
+        static_cast<std::size_t>(design.numlobes) * (design.fillet == 0.0 ? 300 : 500);
     EXPECT_EQ(solid.contours.at(0).points.size(), points);
     expect_prism(solid, outer_rotor_contour(kavetta.rotor_profiles), 0.0, design.thick);
     ASSERT_EQ(solid.circle_radii.size(), 4U);
@@ -96,8 +100,10 @@ void expect_ports(const program& kavetta) {
     const entries& boxes = kavetta.entries;
     const double thick = kavetta.design_params.thick;
     const double above = kavetta.design_params.axial_clear + thick;
-    const double inlet = outline_area(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last);
-    const double outlet = outline_area(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last);
+    const double inlet =
+        outline_area(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last);
+    const double outlet =
+        outline_area(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last);
     const double inlet_below = boxes.inlet_double_sided == "1" ? thick / 2.0 : thick;
     const double outlet_below = boxes.outlet_double_sided == "1" ? thick / 2.0 : thick;
     const bool shadow = boxes.shadow_ports == "1";
@@ -105,10 +111,12 @@ void expect_ports(const program& kavetta) {
     expect_port(solids.at(at++), inlet, -inlet_below, 0.0);
     expect_port(solids.at(at++), outlet, -outlet_below, 0.0);
     if (shadow || boxes.outlet_double_sided == "1") {
-        expect_port(solids.at(at++), outlet, above, above + thick * (boxes.outlet_double_sided == "1" ? 0.5 : 0.2));
+        expect_port(solids.at(at++), outlet, above,
+                    above + thick * (boxes.outlet_double_sided == "1" ? 0.5 : 0.2));
     }
     if (shadow || boxes.inlet_double_sided == "1") {
-        expect_port(solids.at(at++), inlet, above, above + thick * (boxes.inlet_double_sided == "1" ? 0.5 : 0.2));
+        expect_port(solids.at(at++), inlet, above,
+                    above + thick * (boxes.inlet_double_sided == "1" ? 0.5 : 0.2));
     }
     if (boxes.metering_groove == "1") {
         const double groove = outline_area(ports.groove_x, ports.groove_y, ports.groove_last);
@@ -117,8 +125,8 @@ void expect_ports(const program& kavetta) {
     EXPECT_EQ(at, solids.size());
 }
 
-void expect_vertices(const dxf_content& read, const std::vector<double>& x, const std::vector<double>& y,
-                     std::size_t count, double unit) {
+void expect_vertices(const dxf_content& read, const std::vector<double>& x,
+                     const std::vector<double>& y, std::size_t count, double unit) {
     EXPECT_EQ(read.polylines, 1);
     ASSERT_EQ(read.vertices.size(), count + 1);
     EXPECT_EQ(read.vertices.front(), read.vertices.back());
@@ -128,9 +136,9 @@ void expect_vertices(const dxf_content& read, const std::vector<double>& x, cons
     }
 }
 
-/// Where the fillet centres lie farther out than the lobe centres, the arcs of fillet and lobe don't meet: the formula
-/// of their common point takes its angle at the lobe centre below 90 degrees. Profile and path have gaps of their own
-/// then.
+/// Where the fillet centres lie farther out than the lobe centres, the arcs of fillet and lobe
+/// don't meet: the formula of their common point takes its angle at the lobe centre below 90
+/// degrees. Profile and path have gaps of their own then.
 bool has_joined_lobes(const design_params& design) {
     const double C = design.radinnroot + design.ecc + design.radouter;
     return (design.outer_root - design.fillet) * std::cos(fillet_angle(design, C)) < C;
@@ -144,12 +152,13 @@ void expect_dxf_files(const program& kavetta) {
     expect_vertices(content(dxf_file::inner), rotors.inner_x, rotors.inner_y, 3600, unit);
     // No outline of these designs meets x = 0 exactly.
     const auto count = [](std::int16_t last) { return static_cast<std::size_t>(last) + 1; };
-    expect_vertices(content(dxf_file::inlet), ports.inlet_port_x, ports.inlet_port_y, count(ports.inlet_port_last),
-                    unit);
-    expect_vertices(content(dxf_file::outlet), ports.outlet_port_x, ports.outlet_port_y, count(ports.outlet_port_last),
-                    unit);
+    expect_vertices(content(dxf_file::inlet), ports.inlet_port_x, ports.inlet_port_y,
+                    count(ports.inlet_port_last), unit);
+    expect_vertices(content(dxf_file::outlet), ports.outlet_port_x, ports.outlet_port_y,
+                    count(ports.outlet_port_last), unit);
     if (kavetta.entries.metering_groove == "1") {
-        expect_vertices(content(dxf_file::groove), ports.groove_x, ports.groove_y, count(ports.groove_last), unit);
+        expect_vertices(content(dxf_file::groove), ports.groove_x, ports.groove_y,
+                        count(ports.groove_last), unit);
     }
     const dxf_content outer = content(dxf_file::outer);
     const design_params& design = kavetta.design_params;
@@ -157,9 +166,11 @@ void expect_dxf_files(const program& kavetta) {
     EXPECT_EQ(outer.vertices.size(), 2U + lobes * (design.fillet == 0.0 ? 300 : 320));
     EXPECT_EQ(outer.vertices.front(), outer.vertices.back());
     if (has_joined_lobes(design)) {
-        // The same curve with 10 chords a fillet: of a half turn's they cut off 10 f^2/2 (s - sin s), s = PI/10.
+        // The same curve with 10 chords a fillet: of a half turn's they cut off 10 f^2/2 (s - sin
+        // s), s = PI/10.
         const double profile = signed_area(outer_rotor_contour(rotors));
-        const double cut = 2.0 * design.numlobes * 5.0 * design.fillet * design.fillet * (0.314159 - 0.309017);
+        const double cut =
+            2.0 * design.numlobes * 5.0 * design.fillet * design.fillet * (0.314159 - 0.309017);
         EXPECT_NEAR(signed_area(outer.vertices) * unit * unit, profile, 2e-4 * profile + cut);
     }
 }
@@ -169,8 +180,8 @@ TEST(drawing_files, of_every_design_read_back_to_its_profiles) {
     const int designs = property_count(DESIGNS);
     for (int tried = 0; tried < designs && !testing::Test::HasFailure(); ++tried) {
         const program kavetta = random_design(random);
-        SCOPED_TRACE("design " + std::to_string(tried) + ": N " + kavetta.entries.numlobes + " ecc " +
-                     kavetta.entries.ecc + " fillet " + kavetta.entries.fillet);
+        SCOPED_TRACE("design " + std::to_string(tried) + ": N " + kavetta.entries.numlobes +
+                     " ecc " + kavetta.entries.ecc + " fillet " + kavetta.entries.fillet);
         const std::string inner = step_bytes(kavetta, step_file::inner);
         const step_reader read_inner(inner);
         expect_sound(read_inner);

@@ -42,11 +42,13 @@ TEST(shortened, keeps_the_ends_of_runs_and_of_long_lines) {
         bytes += "X" + std::to_string(i) + ".5 #1\r\n";
     }
     // Weights 1 to 9; behind "#" stands no number: 0.5 + 2 * 1.5 + 3 * 2.5 + ... + 9 * 8.5 = 262.5.
-    EXPECT_EQ(shortened(bytes + "tail\r\n"),
-              "head\r\nX0.5 #1\r\nX1.5 #1\r\n... 5 lines like these ...\r\nX7.5 #1\r\nX8.5 #1\r\ntail\r\n"
-              "... 11 lines, 9 numbers, weighted sum 262.5000\r\n");
-    EXPECT_EQ(shortened(std::string(500, 'a') + "\r\n"), std::string(150, 'a') + " ... " + std::string(150, 'a') +
-                                                             "\r\n... 1 lines, 0 numbers, weighted sum 0.0000\r\n");
+    EXPECT_EQ(
+        shortened(bytes + "tail\r\n"),
+        "head\r\nX0.5 #1\r\nX1.5 #1\r\n... 5 lines like these ...\r\nX7.5 #1\r\nX8.5 #1\r\ntail\r\n"
+        "... 11 lines, 9 numbers, weighted sum 262.5000\r\n");
+    EXPECT_EQ(shortened(std::string(500, 'a') + "\r\n"),
+              std::string(150, 'a') + " ... " + std::string(150, 'a') +
+                  "\r\n... 1 lines, 0 numbers, weighted sum 0.0000\r\n");
 }
 
 }  // namespace

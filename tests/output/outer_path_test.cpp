@@ -62,7 +62,8 @@ TEST(outer_path, has_the_points_of_the_computed_profile) {
     const std::vector<point2> points = outer_path_points(outer_rotor_path(design));
     ASSERT_EQ(points.size(), 1U + 320U * 7U + 1U);
     EXPECT_EQ(points.front(), points.back());
-    // Every tenth point of a computed fillet is one of the file; the computed profile is moved by -ecc.
+    // Every tenth point of a computed fillet is one of the file; the computed profile is moved by
+    // -ecc.
     for (std::size_t j = 0; j <= 10; ++j) {
         EXPECT_NEAR(points[j].x - design.ecc, rotors.outer_x[10 * j], 1e-6);
         EXPECT_NEAR(points[j].y, rotors.outer_y[10 * j], 1e-6);
@@ -101,7 +102,8 @@ TEST(outer_path, meets_in_corners_where_the_root_arcs_vanish) {
         EXPECT_EQ(arc.radius, 12.0);
     }
     expect_closed_chain(cutter);
-    // The first corner lies half a step before the first lobe, at the same distance from both lobe centres.
+    // The first corner lies half a step before the first lobe, at the same distance from both lobe
+    // centres.
     EXPECT_NEAR(std::atan2(cutter.first.y, cutter.first.x), TWO_PI_D / 14.0, 1e-12);
     EXPECT_EQ(outer_path_points(cutter).size(), 1U + 250U * 7U + 1U);
 }

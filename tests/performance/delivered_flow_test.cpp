@@ -12,32 +12,37 @@ class delivered_flow_test : public testing::Test {
     delivered_flow_test() { calculate(); }
     void calculate() {
         sample.prepare();
-        calc_flow(sample.design_params, sample.rotor_profiles, sample.port_params, sample.perf_inputs,
-                  sample.perf_results);
+        calc_flow(sample.design_params, sample.rotor_profiles, sample.port_params,
+                  sample.perf_inputs, sample.perf_results);
     }
     const perf_results& now() const { return sample.perf_results; }
     double capacity() const { return sample.rotor_profiles.capacity_cc; }
     performance_case sample = load_performance_case("n09_crank_oil");
 };
 
-/// Hagen-Poiseuille by hand: PI_D/8 * r^4 / eta * p / l with r 1 mm, eta 0.01 Pa s, p 1e5 Pa, l = 2 * 10 * PI_D mm:
-/// (PI_D / 8) * 1e-12 / 0.01 * 1e5 / (0.02 PI_D) = 1e-12 / 0.01 * 1e5 / 0.16 = 6.25e-5 m3/s.
+/// Hagen-Poiseuille by hand: PI_D/8 * r^4 / eta * p / l with r 1 mm, eta 0.01 Pa s, p 1e5 Pa, l = 2
+/// * 10 * PI_D mm: (PI_D / 8) * 1e-12 / 0.01 * 1e5 / (0.02 PI_D) = 1e-12 / 0.01 * 1e5 / 0.16
+/// = 6.25e-5 m3/s.
 TEST(tip_leak, is_the_flow_of_a_round_pipe) {
     EXPECT_NEAR(tip_leak(0.001, 10.0, 0.01, 1e5), 6.25e-5, 1e-18);
 }
 
 TEST_F(delivered_flow_test, loses_leaks_that_grow_with_pressure_alone) {
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-        EXPECT_NEAR(now().leak_tip[j] / now().leak_tip[0], now().press_pa[j] / now().press_pa[0], 1e-12);
-        EXPECT_NEAR(now().leak_face[j] / now().leak_face[0], now().press_pa[j] / now().press_pa[0], 1e-12);
+        EXPECT_NEAR(now().leak_tip[j] / now().leak_tip[0], now().press_pa[j] / now().press_pa[0],
+                    1e-12);
+        EXPECT_NEAR(now().leak_face[j] / now().leak_face[0], now().press_pa[j] / now().press_pa[0],
+                    1e-12);
         for (std::size_t i = 0; i < GRID_SIZE; ++i) {
             const double geometric = now().effective_cc * now().speed_rpm[i] / 60000000.0;
-            EXPECT_DOUBLE_EQ(now().flow_m3s[i][j], geometric - now().leak_tip[j] - now().leak_face[j]);
+            EXPECT_DOUBLE_EQ(now().flow_m3s[i][j],
+                             geometric - now().leak_tip[j] - now().leak_face[j]);
         }
     }
 }
 
-/// Half the gap squared in the velocity and the whole gap in the area: a quarter of the leak, not an eighth.
+/// Half the gap squared in the velocity and the whole gap in the area: a quarter of the leak, not
+/// an eighth.
 TEST_F(delivered_flow_test, halves_the_gap_of_balanced_rotors_in_the_velocity_only) {
     sample.perf_inputs.outlet_double_sided = sample.perf_inputs.shadow_ports = false;
     calculate();
@@ -53,12 +58,15 @@ TEST_F(delivered_flow_test, halves_the_gap_of_balanced_rotors_in_the_velocity_on
 TEST_F(delivered_flow_test, needs_no_more_than_the_rotor_annulus_of_a_wide_port) {
     sample.port_params.outlet_outer_r = sample.design_params.outer_root;
     sample.port_params.outlet_inner_r = sample.design_params.radinnroot;
-    const double annulus = effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params);
+    const double annulus =
+        effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params);
     sample.port_params.outlet_outer_r += 3.0;
     sample.port_params.outlet_inner_r -= 3.0;
-    EXPECT_EQ(effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params), annulus);
+    EXPECT_EQ(effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params),
+              annulus);
     sample.port_params.outlet_inner_r = sample.design_params.radinnroot + 1.0;
-    EXPECT_LT(effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params), annulus);
+    EXPECT_LT(effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params),
+              annulus);
 }
 
 TEST_F(delivered_flow_test, takes_the_whole_capacity_for_the_chamber_arc_and_not_more) {
@@ -74,7 +82,8 @@ TEST_F(delivered_flow_test, takes_the_whole_capacity_for_the_chamber_arc_and_not
     EXPECT_NEAR(effective_capacity(sample.design_params, rotors, ports), capacity() / 2.0, 1e-12)
         << "a shorter port loses in proportion";
     ports.outlet_end_outer_deg = 179.0;
-    EXPECT_EQ(effective_capacity(sample.design_params, rotors, ports), capacity()) << "a longer one gains nothing";
+    EXPECT_EQ(effective_capacity(sample.design_params, rotors, ports), capacity())
+        << "a longer one gains nothing";
 }
 
 /// Ports entered as 180/180 end at 0 in memory: the arc is negative.

@@ -19,7 +19,8 @@ class drive_power_test : public testing::Test {
 TEST_F(drive_power_test, has_the_theoretical_hydraulic_torque_at_every_speed) {
     for (std::size_t i = 0; i < GRID_SIZE; ++i) {
         for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-            const double torque = sample.rotor_profiles.capacity_cc * now().press_pa[j] / (2.0 * 3.1415927 * 1e6);
+            const double torque =
+                sample.rotor_profiles.capacity_cc * now().press_pa[j] / (2.0 * 3.1415927 * 1e6);
             EXPECT_NEAR(now().hyd_torque[i][j], torque, 1e-15);
         }
     }
@@ -30,9 +31,10 @@ TEST_F(drive_power_test, adds_five_terms_and_not_the_drag_of_the_tips) {
         EXPECT_GT(now().tip_drag_power[i], 0.0);
         for (std::size_t j = 0; j < GRID_SIZE; ++j) {
             EXPECT_EQ(now().drive_power[i][j], now().hyd_power[i][j] + now().friction_power[i][j] +
-                                                   now().face_power_inner[i] + now().face_power_outer[i] +
-                                                   now().od_power[i]);
-            EXPECT_DOUBLE_EQ(now().drive_torque[i][j], now().drive_power[i][j] / shaft_speed(now().speed_rpm[i]));
+                                                   now().face_power_inner[i] +
+                                                   now().face_power_outer[i] + now().od_power[i]);
+            EXPECT_DOUBLE_EQ(now().drive_torque[i][j],
+                             now().drive_power[i][j] / shaft_speed(now().speed_rpm[i]));
         }
     }
 }
@@ -50,7 +52,8 @@ TEST_F(drive_power_test, is_hydraulic_power_and_friction_without_film_areas) {
 TEST_F(drive_power_test, has_efficiencies_that_multiply) {
     for (std::size_t i = 0; i < GRID_SIZE; ++i) {
         for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-            EXPECT_NEAR(now().mech_eff[i][j], now().hyd_torque[i][j] / now().drive_torque[i][j], 1e-14);
+            EXPECT_NEAR(now().mech_eff[i][j], now().hyd_torque[i][j] / now().drive_torque[i][j],
+                        1e-14);
             EXPECT_EQ(now().overall_eff[i][j], now().vol_eff[i][j] * now().mech_eff[i][j]);
         }
     }
@@ -73,8 +76,8 @@ TEST_F(drive_power_test, finds_its_extremes_anew_in_every_run) {
 TEST_F(drive_power_test, starts_its_smallest_power_at_ten_megawatts) {
     sample.rotor_profiles.capacity_cc = 1e9;
     sample.prepare();
-    calc_drive_power(sample.design_params, sample.rotor_profiles, sample.port_params, sample.perf_inputs,
-                     sample.perf_results);
+    calc_drive_power(sample.design_params, sample.rotor_profiles, sample.port_params,
+                     sample.perf_inputs, sample.perf_results);
     EXPECT_GT(now().drive_power[0][0], 1e7);
     EXPECT_EQ(now().power_min, 1e7);
 }

@@ -15,7 +15,8 @@ class face_films_test : public testing::Test {
     void calculate() {
         sample.prepare();
         set_mean_radii(sample.design_params, sample.perf_results);
-        set_face_areas(sample.design_params, sample.port_params, sample.perf_inputs, sample.perf_results);
+        set_face_areas(sample.design_params, sample.port_params, sample.perf_inputs,
+                       sample.perf_results);
         set_pressure_friction(sample.perf_inputs, sample.port_params, sample.perf_results);
         set_face_shear(sample.design_params, sample.perf_inputs, sample.perf_results);
         set_periphery_shear(sample.design_params, sample.perf_inputs, sample.perf_results);
@@ -24,7 +25,8 @@ class face_films_test : public testing::Test {
     performance_case sample = load_performance_case("n04_fuel");
 };
 
-/// n04: tip 9.37, root 5, shaft 3.5: m1 = 7.185, m2 = 4.25 (3/4 of 5 is 3.75); outer: 15 and 11.6, 11.6 and 7.2.
+/// n04: tip 9.37, root 5, shaft 3.5: m1 = 7.185, m2 = 4.25 (3/4 of 5 is 3.75); outer: 15
+/// and 11.6, 11.6 and 7.2.
 TEST_F(face_films_test, take_the_radius_half_way_between_the_rings) {
     EXPECT_NEAR(now().inner_mean_r, (7.185 + 4.25) / 2.0, 1e-12);
     EXPECT_NEAR(now().outer_mean_r, (13.3 + 9.4) / 2.0, 1e-12);
@@ -46,10 +48,13 @@ TEST_F(face_films_test, lie_where_no_port_is) {
     calculate();
     EXPECT_EQ(now().land_share_inner, 0.5);
     EXPECT_EQ(now().land_share_outer, 0.5);
-    EXPECT_NEAR(now().face_area_inner, (now().area_tip - now().area_root) / 4.0 + (now().area_root - now().area_shaft),
+    EXPECT_NEAR(now().face_area_inner,
+                (now().area_tip - now().area_root) / 4.0 + (now().area_root - now().area_shaft),
                 1e-10);
-    EXPECT_NEAR(now().face_area_outer,
-                (now().area_max - now().area_outer_root) + (now().area_outer_root - now().area_pitch) / 4.0, 1e-10);
+    EXPECT_NEAR(
+        now().face_area_outer,
+        (now().area_max - now().area_outer_root) + (now().area_outer_root - now().area_pitch) / 4.0,
+        1e-10);
 }
 
 /// The share beyond the torque term is the same at every speed: a torque that no speed multiplies.
@@ -71,7 +76,8 @@ TEST_F(face_films_test, carry_friction_in_proportion_to_the_coefficient) {
     EXPECT_EQ(now().friction_power[3][2], 2.0 * before.friction_power[3][2]);
 }
 
-class balanced_face_films_test : public face_films_test, public testing::WithParamInterface<bool perf_inputs::*> {};
+class balanced_face_films_test : public face_films_test,
+                                 public testing::WithParamInterface<bool perf_inputs::*> {};
 
 TEST_P(balanced_face_films_test, have_no_friction_and_twice_the_shear_in_half_the_gap) {
     const perf_results one_sided = now();
@@ -80,16 +86,21 @@ TEST_P(balanced_face_films_test, have_no_friction_and_twice_the_shear_in_half_th
     EXPECT_EQ(now().friction_power, perf_grid{});
     EXPECT_EQ(now().face_load_inner, one_sided.face_load_inner) << "worked out all the same";
     for (std::size_t i = 0; i < GRID_SIZE; ++i) {
-        EXPECT_DOUBLE_EQ(now().face_shear_inner[i], 2.0 * one_sided.face_shear_inner[i]) << "half the gap";
+        EXPECT_DOUBLE_EQ(now().face_shear_inner[i], 2.0 * one_sided.face_shear_inner[i])
+            << "half the gap";
         EXPECT_DOUBLE_EQ(now().face_shear_outer[i], 2.0 * one_sided.face_shear_outer[i]);
-        EXPECT_DOUBLE_EQ(now().face_power_inner[i], 4.0 * one_sided.face_power_inner[i]) << "and two of them";
+        EXPECT_DOUBLE_EQ(now().face_power_inner[i], 4.0 * one_sided.face_power_inner[i])
+            << "and two of them";
         EXPECT_DOUBLE_EQ(now().face_power_outer[i], 4.0 * one_sided.face_power_outer[i]);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(ticks, balanced_face_films_test,
-                         testing::Values(&perf_inputs::outlet_double_sided, &perf_inputs::shadow_ports),
-                         [](const auto& tick) { return tick.index == 0 ? "outlet_double_sided" : "shadow_ports"; });
+                         testing::Values(&perf_inputs::outlet_double_sided,
+                                         &perf_inputs::shadow_ports),
+                         [](const auto& tick) {
+                             return tick.index == 0 ? "outlet_double_sided" : "shadow_ports";
+                         });
 
 TEST_F(face_films_test, have_no_second_film_in_one_gap) {
     EXPECT_EQ(now().face_shear_inner_2, perf_list{});

@@ -26,12 +26,15 @@ class hertz_contact_test : public testing::Test {
     performance_case sample = load_performance_case("n07_engine_oil_groove");
 };
 
-/// The curvature of the trochoid offset inwards by the lobe radius, from the trochoid itself by differences.
+/// The curvature of the trochoid offset inwards by the lobe radius, from the trochoid itself by
+/// differences.
 TEST_F(hertz_contact_test, has_the_curvature_of_the_offset_trochoid) {
     for (const std::size_t a : {20U, 90U, 160U}) {
-        EXPECT_NEAR(now().lobe_arm_dist[1][a] - now().troch_curv_r[a] - sample.design_params.radouter,
-                    now().inner_curv_r[a], 1e-12);
-        EXPECT_NEAR(1.0 / now().inner_curv_r[a] + 1.0 / sample.design_params.radouter, 1.0 / now().equiv_r[a], 1e-12);
+        EXPECT_NEAR(
+            now().lobe_arm_dist[1][a] - now().troch_curv_r[a] - sample.design_params.radouter,
+            now().inner_curv_r[a], 1e-12);
+        EXPECT_NEAR(1.0 / now().inner_curv_r[a] + 1.0 / sample.design_params.radouter,
+                    1.0 / now().equiv_r[a], 1e-12);
     }
 }
 
@@ -39,16 +42,16 @@ TEST_F(hertz_contact_test, stresses_by_force_modulus_and_radius) {
     const double thick = sample.design_params.thick;
     for (std::size_t a = 1; a <= 179; ++a) {
         ASSERT_GE(now().equiv_r[a], 0.0);
-        const double stress =
-            std::sqrt(now().combined_modulus * now().contact_force[2][3][a] / (thick * 6.2831854 * now().equiv_r[a]));
+        const double stress = std::sqrt(now().combined_modulus * now().contact_force[2][3][a] /
+                                        (thick * 6.2831854 * now().equiv_r[a]));
         EXPECT_EQ(now().hertz_stress[2][3][a], stress);
     }
 }
 
 TEST_F(hertz_contact_test, takes_sliding_and_speed_of_index_1_at_every_speed) {
     for (const std::size_t i : {0U, 1U, 5U}) {
-        const double expected =
-            now().hertz_stress[i][2][90] * now().sliding_velocity[1][90] * 30.0 / (now().speed_rpm[1] * 3.1415927);
+        const double expected = now().hertz_stress[i][2][90] * now().sliding_velocity[1][90] *
+                                30.0 / (now().speed_rpm[1] * 3.1415927);
         EXPECT_EQ(now().hertz_sliding[i][2][90], expected);
     }
 }
@@ -69,7 +72,8 @@ TEST_F(hertz_contact_test, finds_the_largest_stress) {
     EXPECT_EQ(now().hertz_max, largest);
 }
 
-/// A hollow wider than the lobe: -10 against 7.5 gives an equivalent radius of 30; -5 gives one of -15.
+/// A hollow wider than the lobe: -10 against 7.5 gives an equivalent radius of 30; -5 gives one of
+/// -15.
 TEST_F(hertz_contact_test, keeps_its_values_where_the_equivalent_radius_is_negative) {
     now().equiv_r[90] = -15.0;
     now().hertz_stress[5][5][90] = 4321.0;
@@ -86,7 +90,8 @@ TEST_F(hertz_contact_test, keeps_its_values_where_the_equivalent_radius_is_negat
 
 TEST_F(hertz_contact_test, fails_for_an_equivalent_radius_of_zero) {
     now().equiv_r[90] = 0.0;
-    EXPECT_FAILURE(set_contact_stress(sample.design_params.thick, 90, now()), failure::division_by_zero);
+    EXPECT_FAILURE(set_contact_stress(sample.design_params.thick, 90, now()),
+                   failure::division_by_zero);
 }
 
 TEST_F(hertz_contact_test, takes_the_tightest_hollow_for_the_cutter) {
@@ -109,8 +114,8 @@ TEST_F(hertz_contact_test, cuts_the_cutter_radius_downwards) {
     EXPECT_LT(now().cutter_r, tightest_concave_radius(now()));
 }
 
-/// c = 1: the three points stand in one line. The curvature radius then is that of the lobe itself, turned inside out,
-/// and the equivalent radius divides by 0.
+/// c = 1: the three points stand in one line. The curvature radius then is that of the lobe itself,
+/// turned inside out, and the equivalent radius divides by 0.
 TEST_F(hertz_contact_test, fails_in_one_line_after_taking_the_arm_for_the_curvature) {
     now().lobe_dist[1][90] = 16.0;
     now().lobe_arm_dist[1][90] = 20.0;

@@ -21,7 +21,8 @@ TEST_F(maximum_speed_test, fills_with_the_velocity_of_the_atmosphere) {
     sample.perf_inputs.density_kgm3 = 800.0;
     sample.prepare();
     EXPECT_DOUBLE_EQ(now().fill_velocity, std::sqrt(250.0)) << "2 * 100000 / 800";
-    EXPECT_DOUBLE_EQ(now().tip_speed_rpm, std::sqrt(250.0) * 1000.0 / now().tip_radius * 60.0 / 6.2831854);
+    EXPECT_DOUBLE_EQ(now().tip_speed_rpm,
+                     std::sqrt(250.0) * 1000.0 / now().tip_radius * 60.0 / 6.2831854);
 }
 
 TEST_F(maximum_speed_test, counts_a_stored_end_angle_of_zero_as_180) {
@@ -47,7 +48,8 @@ TEST_F(maximum_speed_test, doubles_for_a_double_sided_inlet_in_the_port_only) {
 }
 
 TEST_F(maximum_speed_test, has_reynolds_number_2000_on_the_port_radius) {
-    const double reynolds = sample.perf_inputs.density_kgm3 * now().port_velocity * now().port_equiv_r / now().dyn_visc;
+    const double reynolds =
+        sample.perf_inputs.density_kgm3 * now().port_velocity * now().port_equiv_r / now().dyn_visc;
     EXPECT_NEAR(reynolds, 2000.0, 1e-9);
     EXPECT_NEAR(now().port_equiv_r * now().port_equiv_r * 3.1415927, now().port_area, 1e-15);
 }

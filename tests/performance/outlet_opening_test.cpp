@@ -15,12 +15,13 @@ namespace {
 void prepare_march(performance_case& sample) {
     sample.prepare();
     set_chamber_rate(sample.design_params, sample.rotor_profiles, sample.perf_results);
-    set_outlet_edge(sample.design_params, sample.port_params, sample.perf_inputs, sample.perf_results);
+    set_outlet_edge(sample.design_params, sample.port_params, sample.perf_inputs,
+                    sample.perf_results);
 }
 
 double march(performance_case& sample) {
-    return march_into_outlet(sample.design_params, sample.rotor_profiles, sample.port_params, sample.perf_inputs,
-                             sample.perf_results);
+    return march_into_outlet(sample.design_params, sample.rotor_profiles, sample.port_params,
+                             sample.perf_inputs, sample.perf_results);
 }
 
 /// The march as its formulas stand, every chamber volume summed anew.
@@ -67,18 +68,20 @@ struct plain_march {
                 continue;
             }
             const double area = h * std::sqrt(h * h / 3.0);
-            const double depth = sample.perf_inputs.metering_groove ? sample.port_params.groove_depth_mm : thick;
+            const double depth =
+                sample.perf_inputs.metering_groove ? sample.port_params.groove_depth_mm : thick;
             const double volume = (depth / 1000.0) * area;
             const double pipe_r = std::sqrt(std::abs(volume) / (thick * 3.1415927 / 1000.0));
-            const double q =
-                (3.1415927 / 8.0) * (std::pow(pipe_r, 4.0) / r.dyn_visc) * ((p_out - p_ch) / (thick / 1000.0));
+            const double q = (3.1415927 / 8.0) * (std::pow(pipe_r, 4.0) / r.dyn_visc) *
+                             ((p_out - p_ch) / (thick / 1000.0));
             const double step = q * (1.0 / (r.speed_rpm[0] * 3600.0 / 60.0));
             p_ch = p_ch + e * step / trapped;
             double w = r.port_volume;
             double d = 0.0;
             for (int k = 1; k <= n - 2.0; ++k) {
                 const double index = s + (k / (n - 1.0)) * 3600.0;
-                if (index - 1800.0 / (n - 1.0) < 3600.0 - sample.port_params.outlet_start_inner_deg * 10.0) {
+                if (index - 1800.0 / (n - 1.0) <
+                    3600.0 - sample.port_params.outlet_start_inner_deg * 10.0) {
                     w = w + chamber_volume(index);
                     d = d + r.chamber_rate[static_cast<std::size_t>(std::nearbyint(index))];
                 }
@@ -120,7 +123,9 @@ TEST_P(outlet_opening_test, lets_the_outlet_pressure_fall_until_the_chamber_has_
     const double end = march(sample);
     EXPECT_LT(end, sample.perf_results.press_pa[0]);
     for (std::size_t row = 1; sample.perf_results.ripple_sector[row] > 0.0; ++row) {
-        EXPECT_LE(sample.perf_results.ripple_sector[row], sample.perf_results.ripple_sector[row - 1]) << row;
+        EXPECT_LE(sample.perf_results.ripple_sector[row],
+                  sample.perf_results.ripple_sector[row - 1])
+            << row;
     }
 }
 
@@ -176,8 +181,8 @@ TEST(outlet_opening, starts_at_step_1400) {
     plain.opening(1400, closed);
     EXPECT_FALSE(closed);
     plain.run();
-    opening_march one_step(sample.design_params, sample.rotor_profiles, sample.port_params, sample.perf_inputs,
-                           sample.perf_results);
+    opening_march one_step(sample.design_params, sample.rotor_profiles, sample.port_params,
+                           sample.perf_inputs, sample.perf_results);
     EXPECT_FALSE(one_step.is_filled());
     one_step.step();
     EXPECT_EQ(sample.perf_results.ripple_sector[0], plain.rows[0]);

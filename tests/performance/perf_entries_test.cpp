@@ -1,4 +1,5 @@
-// The entries of Perffrm: commas, the order of the validation, the conversions of both unit systems.
+// The entries of Perffrm: commas, the order of the validation, the conversions of both unit
+// systems.
 #include "performance/perf_entries.hpp"
 
 #include "base/number_text.hpp"
@@ -32,11 +33,12 @@ entries sound_entries() {
     return boxes;
 }
 
-constexpr box IN_ORDER[] = {&entries::fluid_density, &entries::kin_visc,       &entries::vap_press,
-                            &entries::bulk_mod_text, &entries::speed_lo,       &entries::speed_hi,
-                            &entries::pressure_lo,   &entries::pressure_hi,    &entries::young_inner,
-                            &entries::young_outer,   &entries::poissons_inner, &entries::poissons_outer,
-                            &entries::friction};
+constexpr box IN_ORDER[] = {
+    &entries::fluid_density, &entries::kin_visc,       &entries::vap_press,
+    &entries::bulk_mod_text, &entries::speed_lo,       &entries::speed_hi,
+    &entries::pressure_lo,   &entries::pressure_hi,    &entries::young_inner,
+    &entries::young_outer,   &entries::poissons_inner, &entries::poissons_outer,
+    &entries::friction};
 
 TEST(perf_entries, take_a_comma_for_a_point) {
     entries boxes = sound_entries();
@@ -48,7 +50,8 @@ TEST(perf_entries, take_a_comma_for_a_point) {
     for (const box entry : IN_ORDER) {
         EXPECT_EQ(boxes.*entry, "1.5.2");
     }
-    EXPECT_EQ(boxes.Face_area_value + boxes.OD_area_value + boxes.UTS_value, "99,599,599,5") << "not of the thirteen";
+    EXPECT_EQ(boxes.Face_area_value + boxes.OD_area_value + boxes.UTS_value, "99,599,599,5")
+        << "not of the thirteen";
 }
 
 TEST(perf_entries, pass_when_sound) {
@@ -56,12 +59,13 @@ TEST(perf_entries, pass_when_sound) {
 }
 
 TEST(perf_entries, are_refused_in_the_fixed_order) {
-    constexpr message TEXTS[] = {
-        message::input_density,        message::input_viscosity,      message::input_vapour_pressure,
-        message::input_bulk_modulus,   message::input_speed_range,    message::speed_range_order,
-        message::input_pressure_range, message::pressure_range_order, message::input_youngs_inner,
-        message::input_youngs_outer,   message::input_poissons_inner, message::input_poissons_outer,
-        message::input_friction};
+    constexpr message TEXTS[] = {message::input_density,         message::input_viscosity,
+                                 message::input_vapour_pressure, message::input_bulk_modulus,
+                                 message::input_speed_range,     message::speed_range_order,
+                                 message::input_pressure_range,  message::pressure_range_order,
+                                 message::input_youngs_inner,    message::input_youngs_outer,
+                                 message::input_poissons_inner,  message::input_poissons_outer,
+                                 message::input_friction};
     const entries sound = sound_entries();
     entries boxes;
     for (std::size_t n = 0; n < std::size(IN_ORDER); ++n) {

@@ -6,7 +6,8 @@
 namespace kvt {
 namespace {
 
-perf_inputs range(double speed_lo, double speed_hi, double pressure_lo, double pressure_hi, bool inches) {
+perf_inputs range(double speed_lo, double speed_hi, double pressure_lo, double pressure_hi,
+                  bool inches) {
     perf_inputs inputs;
     inputs.speed_lo = speed_lo;
     inputs.speed_hi = speed_hi;

@@ -1,4 +1,5 @@
-// The five sample designs: all of perf_results against reference values, and the names of its fields.
+// The five sample designs: all of perf_results against reference values, and the names of its
+// fields.
 #include "support/expect_performance.hpp"
 #include "support/performance_case.hpp"
 

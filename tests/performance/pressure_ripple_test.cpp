@@ -15,7 +15,8 @@ class pressure_ripple_test : public testing::Test {
     pressure_ripple_test() { sample.run(); }
     perf_results& now() { return sample.perf_results; }
     void set_edge() {
-        set_outlet_edge(sample.design_params, sample.port_params, sample.perf_inputs, sample.perf_results);
+        set_outlet_edge(sample.design_params, sample.port_params, sample.perf_inputs,
+                        sample.perf_results);
     }
     performance_case sample = load_performance_case("n07_engine_oil_groove");
 };
@@ -35,7 +36,8 @@ TEST_F(pressure_ripple_test, adds_half_a_turn_in_every_quadrant) {
     EXPECT_FAILURE(set_edge(), failure::division_by_zero);
 }
 
-/// Outer radius 20, inner 10, thickness 10 mm, from 10 degrees (inner) to 130 (outer): a third of 300 PI_D 10 mm3.
+/// Outer radius 20, inner 10, thickness 10 mm, from 10 degrees (inner) to 130 (outer): a third of
+/// 300 PI_D 10 mm3.
 TEST_F(pressure_ripple_test, takes_the_outer_end_and_the_inner_start_for_the_port_volume) {
     port_params& ports = sample.port_params;
     ports.outlet_outer_r = 20.0;
@@ -72,7 +74,8 @@ TEST_F(pressure_ripple_test, never_lies_below_the_line_of_recovery) {
     recover_pressure(80000.0, 7, now());
     EXPECT_NEAR(now().recovery, 20000.0 / 600.0, 1e-10);
     EXPECT_EQ(now().ripple_sector[0], 99000.0);
-    EXPECT_EQ(now().ripple_sector[2], 80000.0 + now().recovery * 2) << "at its end the march lies below";
+    EXPECT_EQ(now().ripple_sector[2], 80000.0 + now().recovery * 2)
+        << "at its end the march lies below";
     EXPECT_NEAR(now().ripple_sector[300], 90000.0, 1e-9);
     EXPECT_NEAR(now().ripple_sector[600], 100000.0, 1e-9);
     EXPECT_EQ(now().ripple_sector[601], 0.0);
@@ -83,20 +86,24 @@ TEST_F(pressure_ripple_test, never_lies_below_the_line_of_recovery) {
 TEST_F(pressure_ripple_test, repeats_the_passage_over_the_turn) {
     for (std::size_t c = 0; c < 5; ++c) {
         for (std::size_t t = 0; t < 600; ++t) {
-            ASSERT_EQ(now().ripple_pressure[600 * c + t], now().ripple_sector[t == 0 && c > 0 ? 0 : t]);
+            ASSERT_EQ(now().ripple_pressure[600 * c + t],
+                      now().ripple_sector[t == 0 && c > 0 ? 0 : t]);
         }
     }
-    EXPECT_EQ(now().ripple_pressure[3600], now().ripple_sector[600]) << "the last passage ends behind the turn";
+    EXPECT_EQ(now().ripple_pressure[3600], now().ripple_sector[600])
+        << "the last passage ends behind the turn";
 }
 
 /// N = 8: 514.2857 steps a passage, t runs to 514, and the index is rounded.
 TEST_F(pressure_ripple_test, bounds_its_loops_by_the_real_number_of_steps) {
     sample.design_params.numlobes = 8;
-    calc_pressure_ripple(sample.design_params, sample.rotor_profiles, sample.port_params, sample.perf_inputs, now());
+    calc_pressure_ripple(sample.design_params, sample.rotor_profiles, sample.port_params,
+                         sample.perf_inputs, now());
     EXPECT_EQ(now().ripple_pressure[1], now().ripple_sector[1]);
     EXPECT_EQ(now().ripple_pressure[514], now().ripple_sector[0]) << "514.29 of the second passage";
     EXPECT_EQ(now().ripple_pressure[1029], now().ripple_sector[0]) << "1028.57 of the third";
-    EXPECT_EQ(now().ripple_pressure[3600], now().ripple_sector[514]) << "6 passages and 514 are 3599.7";
+    EXPECT_EQ(now().ripple_pressure[3600], now().ripple_sector[514])
+        << "6 passages and 514 are 3599.7";
 }
 
 TEST_F(pressure_ripple_test, gives_two_decimals_cut) {

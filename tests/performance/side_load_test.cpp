@@ -53,8 +53,8 @@ TEST_F(side_load_test, is_that_of_the_last_angle_and_not_the_largest) {
     EXPECT_EQ(now().side_load_angle[2][3], now().side_dir[89]);
 }
 
-/// N = 8: lobes 51.43 degrees apart. For a = 25 they stand at 76.43, 127.86 and 179.29, which are 76, 128 and 179; for
-/// a = 26 the last one at 180.29 counts no more, though it would round to 180.
+/// N = 8: lobes 51.43 degrees apart. For a = 25 they stand at 76.43, 127.86 and 179.29, which are
+/// 76, 128 and 179; for a = 26 the last one at 180.29 counts no more, though it would round to 180.
 TEST_F(side_load_test, rounds_the_lobe_angle_after_the_test_against_180) {
     sample.design_params.numlobes = 8;
     set_all_contacts(0.0, 1.0);

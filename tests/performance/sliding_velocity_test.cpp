@@ -20,7 +20,8 @@ class sliding_velocity_test : public testing::Test {
     performance_case sample = load_performance_case("n04_fuel");
 };
 
-/// At 240 degrees and N = 4 the angle is half a turn: the distance is n_ecc + trochoid_r = 4 * 2.2 + 13.17.
+/// At 240 degrees and N = 4 the angle is half a turn: the distance is n_ecc + trochoid_r = 4 * 2.2
+/// + 13.17.
 TEST_F(sliding_velocity_test, is_largest_where_the_lobe_is_farthest) {
     EXPECT_NEAR(now().contact_dist[240], 21.97, 1e-6);
     const double speed = now().speed_rpm[0];
@@ -31,7 +32,8 @@ TEST_F(sliding_velocity_test, is_largest_where_the_lobe_is_farthest) {
 TEST_F(sliding_velocity_test, has_the_mean_of_360_degrees) {
     for (std::size_t i = 0; i < GRID_SIZE; ++i) {
         const perf_array& turn = now().sliding_velocity[i];
-        EXPECT_EQ(now().sliding_mean[i], std::accumulate(turn.begin() + 1, turn.end(), 0.0) / 360.0);
+        EXPECT_EQ(now().sliding_mean[i],
+                  std::accumulate(turn.begin() + 1, turn.end(), 0.0) / 360.0);
         EXPECT_EQ(turn[0], 0.0) << "degree 0 is not computed";
     }
 }
@@ -49,8 +51,8 @@ TEST_F(sliding_velocity_test, starts_its_maximum_anew_in_every_run) {
     sample.perf_inputs.speed_hi = sample.perf_inputs.speed_lo * 1.5;
     calculate();
     EXPECT_LT(now().sliding_max[5], fast);
-    EXPECT_EQ(now().sliding_max[5],
-              *std::max_element(now().sliding_velocity[5].begin(), now().sliding_velocity[5].end()));
+    EXPECT_EQ(now().sliding_max[5], *std::max_element(now().sliding_velocity[5].begin(),
+                                                      now().sliding_velocity[5].end()));
 }
 
 }  // namespace

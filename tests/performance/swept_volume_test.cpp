@@ -1,9 +1,10 @@
-// The capacity against the swept volume that the two profiles really have, by exact areas of a chamber over a full
-// turn.
+// The capacity against the swept volume that the two profiles really have, by exact areas of a
+// chamber over a full turn.
 //
-// A chamber is the polygon of the outer profile from the contact point of one lobe to that of the next, and of the
-// inner profile back. The common normal of a contact goes through the pitch point at x = (N - 1) ecc, so the contact
-// point of a lobe lies on its circle towards that point; the chamber ends there on a straight line over the clearance.
+// A chamber is the polygon of the outer profile from the contact point of one lobe to that of the
+// next, and of the inner profile back. The common normal of a contact goes through the pitch point
+// at x = (N - 1) ecc, so the contact point of a lobe lies on its circle towards that point; the
+// chamber ends there on a straight line over the clearance.
 #include "support/performance_case.hpp"
 #include "support/sample_design.hpp"
 
@@ -38,7 +39,8 @@ class rotor_pair {
         }
     }
 
-    /// Area of the chamber between lobes 0 and 1 when the inner rotor has turned by phi radians, mm2.
+    /// Area of the chamber between lobes 0 and 1 when the inner rotor has turned by phi radians,
+    /// mm2.
     double chamber_area(double phi) const {
         const point turned_outer = std::polar(1.0, phi * (numlobes_ - 1.0) / numlobes_);
         const point first = contact_point(0, turned_outer);
@@ -50,8 +52,8 @@ class rotor_pair {
         return shoelace(polygon);
     }
 
-    /// What the pump moves in one turn of the inner rotor: every chamber from its smallest to its largest area, mm3.
-    /// The chambers pass N - 1 times a turn, each in a turn of the outer rotor.
+    /// What the pump moves in one turn of the inner rotor: every chamber from its smallest to its
+    /// largest area, mm3. The chambers pass N - 1 times a turn, each in a turn of the outer rotor.
     double swept_volume(double thick) const {
         constexpr int POSITIONS = 720;
         const double one_passage = TURN * numlobes_ / (numlobes_ - 1.0);
@@ -70,15 +72,18 @@ class rotor_pair {
         double largest = 0.0;
         for (int degrees = 0; degrees < 360; degrees += 5) {
             const double phi = degrees * TURN / 360.0;
-            const point contact = contact_point(0, std::polar(1.0, phi * (numlobes_ - 1.0) / numlobes_));
-            largest = std::max(largest, std::abs(inner_[nearest(contact, phi)] * std::polar(1.0, phi) - contact));
+            const point contact =
+                contact_point(0, std::polar(1.0, phi * (numlobes_ - 1.0) / numlobes_));
+            largest = std::max(
+                largest, std::abs(inner_[nearest(contact, phi)] * std::polar(1.0, phi) - contact));
         }
         return largest;
     }
 
   private:
     point contact_point(int lobe, point turned) const {
-        const point centre = outer_centre_ + std::polar(lobe_distance_, TURN * lobe / numlobes_) * turned;
+        const point centre =
+            outer_centre_ + std::polar(lobe_distance_, TURN * lobe / numlobes_) * turned;
         return centre + radouter_ * (pitch_point_ - centre) / std::abs(pitch_point_ - centre);
     }
 
@@ -106,12 +111,13 @@ class rotor_pair {
 
     std::size_t nearest(point contact, double phi) const {
         const point back = contact * std::polar(1.0, -phi);
-        const auto found =
-            std::ranges::min_element(inner_, {}, [&](const point& stored) { return std::norm(stored - back); });
+        const auto found = std::ranges::min_element(
+            inner_, {}, [&](const point& stored) { return std::norm(stored - back); });
         return static_cast<std::size_t>(found - inner_.begin());
     }
 
-    /// The inner profile runs counter-clockwise, so the chamber takes it from the second contact backwards.
+    /// The inner profile runs counter-clockwise, so the chamber takes it from the second contact
+    /// backwards.
     void add_inner(point first, point second, point turned, std::vector<point>& polygon) const {
         const double phi = std::arg(turned);
         const std::size_t last = nearest(first, phi);
@@ -139,9 +145,9 @@ class rotor_pair {
     std::vector<point> inner_, outer_;
 };
 
-/// Swept volume from the contact points alone: a rotor that turns with w about its centre sweeps w (q^2 - p^2) / 2
-/// between contacts at the distances p and q from it. For a pair without clearance; the sum of the positive rates, mm3
-/// a turn.
+/// Swept volume from the contact points alone: a rotor that turns with w about its centre sweeps w
+/// (q^2 - p^2) / 2 between contacts at the distances p and q from it. For a pair without clearance;
+/// the sum of the positive rates, mm3 a turn.
 double volume_of_the_rates(const design_params& design) {
     constexpr int STEPS = 20000;
     const double lobes = design.numlobes;
@@ -166,9 +172,10 @@ double volume_of_the_rates(const design_params& design) {
 
 struct measured {
     const char* sample;
-    double swept_cc;           ///< with the clearance
-    double reads_above;        ///< capacity_cc over it, percent
-    double without_clearance;  ///< the same over the swept volume of a pair without clearance, percent
+    double swept_cc;     ///< with the clearance
+    double reads_above;  ///< capacity_cc over it, percent
+    double
+        without_clearance;  ///< the same over the swept volume of a pair without clearance, percent
 };
 
 double percent_above(double capacity_cc, double swept_cc) {
@@ -181,23 +188,27 @@ class swept_volume_test : public testing::TestWithParam<measured> {
 };
 
 TEST_P(swept_volume_test, differs_from_the_capacity_as_the_page_says) {
-    const double swept_cc = rotor_pair(sample.design_params).swept_volume(sample.design_params.thick) / 1000.0;
+    const double swept_cc =
+        rotor_pair(sample.design_params).swept_volume(sample.design_params.thick) / 1000.0;
     EXPECT_NEAR(swept_cc, GetParam().swept_cc, 0.001);
-    EXPECT_NEAR(percent_above(sample.rotor_profiles.capacity_cc, swept_cc), GetParam().reads_above, 0.02);
+    EXPECT_NEAR(percent_above(sample.rotor_profiles.capacity_cc, swept_cc), GetParam().reads_above,
+                0.02);
 }
 
-/// Two ways to the same volume: the polygons have 3600 points, so a few hundredths of a percent remain.
+/// Two ways to the same volume: the polygons have 3600 points, so a few hundredths of a percent
+/// remain.
 TEST_P(swept_volume_test, agrees_with_the_rates_at_the_contacts) {
     design_params tight = sample.design_params;
     tight.clearn_half = 0.0;
     const double polygons = rotor_pair(tight).swept_volume(tight.thick);
     const double rates = volume_of_the_rates(tight);
     EXPECT_NEAR(polygons / rates, 1.0, 0.0005);
-    EXPECT_NEAR(percent_above(sample.rotor_profiles.capacity_cc, rates / 1000.0), GetParam().without_clearance, 0.02);
+    EXPECT_NEAR(percent_above(sample.rotor_profiles.capacity_cc, rates / 1000.0),
+                GetParam().without_clearance, 0.02);
 }
 
-/// The contact points of the tool lie on the inner profile but for the clearance, which is clearn_half where the rotors
-/// come closest and larger on the flanks.
+/// The contact points of the tool lie on the inner profile but for the clearance, which is
+/// clearn_half where the rotors come closest and larger on the flanks.
 TEST_P(swept_volume_test, measures_chambers_that_end_at_the_contacts) {
     const double gap = rotor_pair(sample.design_params).largest_contact_gap();
     EXPECT_GT(gap, sample.design_params.clearn_half * 0.9);

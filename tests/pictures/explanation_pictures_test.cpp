@@ -1,4 +1,5 @@
-// The delivered explanation pictures: there, of one size, drawn in both languages, with texts that can be read.
+// The delivered explanation pictures: there, of one size, drawn in both languages, with texts that
+// can be read.
 #include "core/text_table.hpp"
 #include "pictures/explanation_painting.hpp"
 #include "support/sample_design.hpp"
@@ -13,8 +14,9 @@ namespace kvt {
 
 namespace {
 
-constexpr const char* PICTURES[] = {"explain screen - small1.jpg", "explain screen - small german1.jpg",
-                                    "port explain - small2.jpg", "port explain - small german2.jpg"};
+constexpr const char* PICTURES[] = {
+    "explain screen - small1.jpg", "explain screen - small german1.jpg",
+    "port explain - small2.jpg", "port explain - small german2.jpg"};
 
 QImage delivered(const char* name) {
     return QImage(QString(KVT_SHARE_FOLDER) + "/" + name);
@@ -61,8 +63,10 @@ TEST(explanation_painting, writes_the_captions_of_the_form) {
     const painted_explanation english = paint_explanation(drawing, 900, 1);
     const painted_explanation german = paint_explanation(drawing, 900, 2);
     ASSERT_EQ(english.texts.size(), 13U);
-    EXPECT_EQ(english.texts[0].text, row_text(*find_caption("Form1", drawing.parameters[0].label), 1));
-    EXPECT_EQ(german.texts[0].text, row_text(*find_caption("Form1", drawing.parameters[0].label), 2));
+    EXPECT_EQ(english.texts[0].text,
+              row_text(*find_caption("Form1", drawing.parameters[0].label), 1));
+    EXPECT_EQ(german.texts[0].text,
+              row_text(*find_caption("Form1", drawing.parameters[0].label), 2));
     EXPECT_TRUE(unreadable_texts(english).empty());
     EXPECT_TRUE(unreadable_texts(german).empty());
 }

@@ -1,4 +1,5 @@
-// Tests of both ports: every refusal with its message in both languages, and the way back from a radius too large.
+// Tests of both ports: every refusal with its message in both languages, and the way back from a
+// radius too large.
 #include "ports/build_ports.hpp"
 
 #include "base/checked_math.hpp"
@@ -16,7 +17,8 @@ using log_lines = std::vector<std::string>;
 
 /// The angles of both ports, and the fillet radius.
 void type_ports(entries& boxes, const std::string& start_inner, const std::string& start_outer,
-                const std::string& end_inner, const std::string& end_outer, const std::string& radius) {
+                const std::string& end_inner, const std::string& end_outer,
+                const std::string& radius) {
     boxes.inlet_start_inner = boxes.outlet_start_inner = start_inner;
     boxes.inlet_start_outer = boxes.outlet_start_outer = start_outer;
     boxes.inlet_end_inner = boxes.outlet_end_inner = end_inner;
@@ -46,7 +48,8 @@ TEST(build_ports, a_search_that_runs_out_empties_and_focuses_its_entry_in_both_l
             tested.boxes.Outlet_inner_radius = "14.6";
             tested.boxes.inlet_inner_radius = "14.6";
             tested.boxes.inlet_outer_radius = "22.2";
-            type_ports(tested.boxes, row.start_inner, row.start_outer, row.end_inner, row.end_outer, row.radius);
+            type_ports(tested.boxes, row.start_inner, row.start_outer, row.end_inner, row.end_outer,
+                       row.radius);
             port_work work = tested.work();
             const std::string told = "message " + std::string(message_text(row.text, language));
             const std::string inlet = "inlet_" + std::string(row.corner);
@@ -82,10 +85,11 @@ TEST(build_ports, a_port_beyond_the_axis_is_told_and_no_entry_is_emptied) {
         EXPECT_EQ(build_inlet_port(work), port_end::refused);
         EXPECT_EQ(build_outlet_port(work), port_end::refused);
         const bool german = language == GERMAN;
-        EXPECT_EQ(tested.person.messages, (log_lines{german ? "Hafen dehnt zu weit in „Auslauf“ Gebiet der Pumpe aus"
-                                                            : "Port extends too far into 'Outlet' region of pump",
-                                                     german ? "Hafen dehnt zu weit in „Einlass“ Gebiet der Pumpe aus"
-                                                            : "Port extends too far into 'Inlet' region of pump"}));
+        EXPECT_EQ(tested.person.messages,
+                  (log_lines{german ? "Hafen dehnt zu weit in „Auslauf“ Gebiet der Pumpe aus"
+                                    : "Port extends too far into 'Outlet' region of pump",
+                             german ? "Hafen dehnt zu weit in „Einlass“ Gebiet der Pumpe aus"
+                                    : "Port extends too far into 'Inlet' region of pump"}));
         EXPECT_EQ(tested.boxes.inlet_end_inner, "190");
         EXPECT_EQ(tested.boxes.outlet_end_inner, "190");
     }
@@ -130,9 +134,11 @@ TEST(build_ports, a_radius_too_large_goes_back_to_the_last_good_one) {
         tested.ports.last_good_port_radius = 1.25;
         tested.boxes.port_radii = "4.6";
         EXPECT_EQ(build_inlet_port(work), port_end::finished);
-        EXPECT_EQ(tested.person.messages, log_lines{too_large(message::port_radius_too_large_inlet, language)});
+        EXPECT_EQ(tested.person.messages,
+                  log_lines{too_large(message::port_radius_too_large_inlet, language)});
         EXPECT_EQ(tested.boxes.port_radii, "1.25");
-        EXPECT_EQ(tested.boxes.inlet_inner_radius, "14.15") << "also the radii go back, to the rotors'";
+        EXPECT_EQ(tested.boxes.inlet_inner_radius, "14.15")
+            << "also the radii go back, to the rotors'";
         EXPECT_EQ(tested.boxes.inlet_outer_radius, "22.9");
         EXPECT_EQ(tested.ports.port_radius, 1.25);
     }
@@ -140,10 +146,13 @@ TEST(build_ports, a_radius_too_large_goes_back_to_the_last_good_one) {
 
 TEST(build_ports, messages_of_the_radius_are_these) {
     EXPECT_EQ(too_large(message::port_radius_too_large_inlet, ENGLISH),
-              "The specified port radius is too large for the Inlet Port\rPlease enter a smaller port radius");
+              "The specified port radius is too large for the Inlet Port\rPlease enter a smaller "
+              "port radius");
     EXPECT_EQ(too_large(message::port_radius_too_large_outlet, ENGLISH),
-              "The specified port radius is too large for the Outlet Port\rPlease enter a smaller port radius");
-    EXPECT_EQ(message_text(message::smaller_port_radius, GERMAN), "Please enter a smaller port radius");
+              "The specified port radius is too large for the Outlet Port\rPlease enter a smaller "
+              "port radius");
+    EXPECT_EQ(message_text(message::smaller_port_radius, GERMAN),
+              "Please enter a smaller port radius");
 }
 
 TEST(build_ports, a_radius_that_was_good_and_is_too_large_now_goes_back_to_0) {
@@ -161,8 +170,9 @@ TEST(build_ports, texts_in_inches_are_written_back_cut_to_three_decimals) {
     port_design tested;
     tested.inches = true;
     for (const entry_field& field : entry_fields()) {
-        const bool is_length = field.name == "ecc" || field.name == "radouter" || field.name == "radinnroot" ||
-                               field.name == "inlet_inner_radius" || field.name == "inlet_outer_radius";
+        const bool is_length = field.name == "ecc" || field.name == "radouter" ||
+                               field.name == "radinnroot" || field.name == "inlet_inner_radius" ||
+                               field.name == "inlet_outer_radius";
         if (is_length) {
             tested.boxes.*field.member = number_text(val(tested.boxes.*field.member) / 25.4);
         }
@@ -189,7 +199,8 @@ TEST(build_ports, a_pass_that_would_write_the_same_texts_ends_as_refused) {
     port_work work = tested.work();
     EXPECT_EQ(build_inlet_port(work), port_end::refused);
     EXPECT_EQ(tested.person.log,
-              (log_lines{"message " + too_large(message::port_radius_too_large_inlet, ENGLISH), "not busy"}));
+              (log_lines{"message " + too_large(message::port_radius_too_large_inlet, ENGLISH),
+                         "not busy"}));
     EXPECT_EQ(tested.ports.inlet_port_last, 0);
 }
 
@@ -201,7 +212,8 @@ TEST(build_ports, a_radius_for_the_inlet_only_comes_back_from_the_outlet) {
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
     EXPECT_TRUE(tested.person.messages.empty());
     ASSERT_EQ(build_outlet_port(work), port_end::finished);
-    EXPECT_EQ(tested.person.messages, log_lines{too_large(message::port_radius_too_large_outlet, ENGLISH)});
+    EXPECT_EQ(tested.person.messages,
+              log_lines{too_large(message::port_radius_too_large_outlet, ENGLISH)});
     EXPECT_EQ(tested.boxes.port_radii, "0");
     EXPECT_EQ(tested.boxes.Outlet_inner_radius, "14.15");
     EXPECT_EQ(tested.boxes.Outlet_outer_radius, "22.9");
@@ -220,7 +232,8 @@ TEST(build_ports, a_start_side_to_the_left_rebuilds_the_inlet_too) {
     tested.ports.last_good_port_radius = 0.5;
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
     ASSERT_EQ(build_outlet_port(work), port_end::finished);
-    EXPECT_EQ(tested.person.messages, log_lines{too_large(message::port_radius_too_large_outlet, ENGLISH)});
+    EXPECT_EQ(tested.person.messages,
+              log_lines{too_large(message::port_radius_too_large_outlet, ENGLISH)});
     EXPECT_EQ(tested.boxes.port_radii, "0.5");
     EXPECT_EQ(tested.boxes.Outlet_outer_radius, "20") << "the radii are left alone";
     EXPECT_NEAR(std::hypot(tested.ports.inlet_c1_x, tested.ports.inlet_c1_y), 14.5 + 0.5, 1e-9);
@@ -247,7 +260,8 @@ TEST(build_ports, a_whole_half_circle_has_no_search_and_touches_the_axis) {
     type_ports(tested.boxes, "0", "0", "180", "180", "1.5");
     port_work work = tested.work();
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
-    // Kept: the closed form takes an arctangent where the arcsine would touch the axis, so the port reaches beyond it.
+    // Kept: the closed form takes an arctangent where the arcsine would touch the axis, so the port
+    // reaches beyond it.
     EXPECT_NEAR(tested.ports.inlet_s1_y, 16.0 * std::sin(std::atan(1.5 / 16.0)) - 1.5, 1e-6);
     EXPECT_LT(tested.ports.inlet_s1_y, 0.0);
     EXPECT_LT(tested.ports.inlet_s3_y, 0.0);

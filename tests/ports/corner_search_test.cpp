@@ -23,7 +23,8 @@ double steps_down(double phi, int count) {
 }
 
 TEST(corner_search, accepts_the_angle_one_step_beyond_the_one_it_tested) {
-    // g(60) is within the tolerance at once, but the step is taken before the test. g = 0.4999999... < A steps up.
+    // g(60) is within the tolerance at once, but the step is taken before the test. g =
+    // 0.4999999... < A steps up.
     const double A = cos_deg(60.0) + 0.0005;
     EXPECT_EQ(corner_angle(cosine_search(A, 60.0, step_rule::up)), 60.0 + 0.001);
     EXPECT_EQ(corner_angle(cosine_search(A, 60.0, step_rule::down)), 60.0 - 0.001);
@@ -53,8 +54,9 @@ TEST(corner_search, fails_when_neither_the_target_nor_its_negative_is_met) {
 }
 
 TEST(corner_search, walks_half_a_turn_in_one_direction_only) {
-    // tan = 2: g is 2.236 at -63.4 and -2.236 at 116.6 degrees. From 100 degrees (g = -2.143) rule D walks down
-    // and meets 2.2 at -53.1; rule U walks up to 280 (g = 2.143), then for -2.2 down to -80, and meets neither.
+    // tan = 2: g is 2.236 at -63.4 and -2.236 at 116.6 degrees. From 100 degrees (g = -2.143) rule
+    // D walks down and meets 2.2 at -53.1; rule U walks up to 280 (g = 2.143), then for -2.2 down
+    // to -80, and meets neither.
     const auto found = corner_angle({2.2, 2.0, false, 100.0, step_rule::down});
     ASSERT_TRUE(found);
     EXPECT_NEAR(*found, -53.1, 0.5);
@@ -62,8 +64,9 @@ TEST(corner_search, walks_half_a_turn_in_one_direction_only) {
 }
 
 TEST(corner_search, second_pass_meets_the_negative_target) {
-    // From 90 degrees the first pass for 2.1 walks up to 270 (g = 2.0). The second one for -2.1 has rule D, as A is
-    // below 1 now: g is above A, so it walks up too, and meets -2.1 before the bottom of g.
+    // From 90 degrees the first pass for 2.1 walks up to 270 (g = 2.0). The second one for -2.1 has
+    // rule D, as A is below 1 now: g is above A, so it walks up too, and meets -2.1 before the
+    // bottom of g.
     const auto found = corner_angle({2.1, 2.0, false, 90.0, step_rule::by_target});
     ASSERT_TRUE(found);
     EXPECT_GT(*found, 90.0);
@@ -76,7 +79,8 @@ TEST(corner_search, fails_after_two_passes_without_a_step) {
 }
 
 TEST(corner_search, a_target_of_exactly_1_has_no_rule_but_its_negative_has) {
-    // The first pass stands still at 60 degrees; the second, with A = -1 and rule D, walks up to the cosine of -1.
+    // The first pass stands still at 60 degrees; the second, with A = -1 and rule D, walks up to
+    // the cosine of -1.
     const auto found = corner_angle(cosine_search(1.0, 60.0, step_rule::by_target));
     ASSERT_TRUE(found);
     EXPECT_NEAR(cos_deg(*found), -1.0, 0.0011);
@@ -111,7 +115,8 @@ TEST(corner_search, sharp_corners_have_the_g_of_their_own_angle_as_target) {
 }
 
 TEST(corner_search, targets_put_the_fillet_beside_the_side_line) {
-    // theta = 0 is a side straight up, on x = R cos a for the inner corner: the centre lies f beside it.
+    // theta = 0 is a side straight up, on x = R cos a for the inner corner: the centre lies f
+    // beside it.
     const corner_input inner = {10.0, 60.0, 2.0, 0.0};
     EXPECT_NEAR(search_start_inner(inner).target * 12.0, 10.0 * cos_deg(60.0) - 2.0, 1e-12);
     EXPECT_NEAR(search_end_inner(inner).target * 12.0, 10.0 * cos_deg(60.0) - 2.0, 1e-12);

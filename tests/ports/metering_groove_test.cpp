@@ -22,7 +22,9 @@ struct groove_on_outlet : port_design {
         port_work on = work();
         return build_metering_groove(on);
     }
-    point2 at(std::int64_t i) const { return {checked_at(ports.groove_x, i), checked_at(ports.groove_y, i)}; }
+    point2 at(std::int64_t i) const {
+        return {checked_at(ports.groove_x, i), checked_at(ports.groove_y, i)};
+    }
     double path_r(std::int64_t i) const { return std::hypot(at(i).x + 2.85 / 2.0, at(i).y); }
 };
 
@@ -45,7 +47,8 @@ TEST(metering_groove, starts_and_ends_on_the_end_side_of_the_outlet) {
     const auto beside_edge = [&](point2 at) {
         const double dx = ports.outlet_p3_x - ports.outlet_p2_x;
         const double dy = ports.outlet_p3_y - ports.outlet_p2_y;
-        return ((at.x - ports.outlet_p2_x) * dy - (at.y - ports.outlet_p2_y) * dx) / std::hypot(dx, dy);
+        return ((at.x - ports.outlet_p2_x) * dy - (at.y - ports.outlet_p2_y) * dx) /
+               std::hypot(dx, dy);
     };
     EXPECT_NEAR(beside_edge(tested.at(0)), 0.0, 1e-9);
     EXPECT_NEAR(beside_edge(tested.at(ports.groove_main_last)), 0.0, 1e-9);
@@ -108,7 +111,8 @@ void expect_refused(groove_on_outlet& tested, const std::string& told) {
     const std::int16_t last = tested.ports.groove_last;
     tested.person.log.clear();
     EXPECT_EQ(tested.build(), port_end::refused);
-    EXPECT_EQ(tested.person.log, (std::vector<std::string>{"message " + told, "focus groove_length", "not busy"}));
+    EXPECT_EQ(tested.person.log,
+              (std::vector<std::string>{"message " + told, "focus groove_length", "not busy"}));
     EXPECT_EQ(tested.boxes.groove_length, "");
     EXPECT_EQ(tested.ports.groove_last, last);
 }
@@ -141,7 +145,8 @@ TEST(metering_groove, a_nose_that_no_circle_touches_is_refused) {
     expect_refused(tested, "Error with the Metering Port Angle, please enter a different value");
     tested.boxes.groove_length = "12";
     tested.language = GERMAN;
-    expect_refused(tested, "Fehler mit dem Messenden Hafenwinkel, trägt bitte einen verschiedenen Wert ein");
+    expect_refused(
+        tested, "Fehler mit dem Messenden Hafenwinkel, trägt bitte einen verschiedenen Wert ein");
 }
 
 TEST(metering_groove, a_short_or_negative_length_is_not_refused) {

@@ -1,4 +1,5 @@
-// Tests of a growing outline: how many points an arc, a fillet and a side take, and how it is stored.
+// Tests of a growing outline: how many points an arc, a fillet and a side take, and how it is
+// stored.
 #include "ports/outline_points.hpp"
 
 #include "ports/polar.hpp"
@@ -28,7 +29,8 @@ TEST(outline_points, an_arc_counts_to_a_real_bound) {
 TEST(outline_points, angles_of_an_arc_are_not_accumulated) {
     outline_points outline;
     outline.add_arc(10.0, 2.0, 20.1, 30.0, -1);
-    EXPECT_EQ(outline.points()[40], (point2{10.0 * cos_deg(20.1 - 41 / 2.0) - 2.0, 10.0 * sin_deg(20.1 - 41 / 2.0)}));
+    EXPECT_EQ(outline.points()[40],
+              (point2{10.0 * cos_deg(20.1 - 41 / 2.0) - 2.0, 10.0 * sin_deg(20.1 - 41 / 2.0)}));
 }
 
 TEST(outline_points, a_fillet_turns_clockwise) {
@@ -75,8 +77,10 @@ TEST(outline_points, angle_of_a_fillet_by_the_cosine_rule) {
     // A right angle between 3 and 4 has the opposite side 5; 60 degrees in an equilateral triangle.
     EXPECT_NEAR(fillet_angle_deg(3.0, 4.0, 25.0), 90.0, 1e-5);
     EXPECT_NEAR(fillet_angle_deg(2.0, 2.0, 4.0), 60.0, 1e-5);
-    EXPECT_FAILURE(fillet_angle_deg(1.0, 2.0, 9.0), failure::division_by_zero);         // stretched: cosine -1
-    EXPECT_FAILURE(fillet_angle_deg(1.0, 2.0, 16.0), failure::invalid_procedure_call);  // no triangle
+    EXPECT_FAILURE(fillet_angle_deg(1.0, 2.0, 9.0),
+                   failure::division_by_zero);  // stretched: cosine -1
+    EXPECT_FAILURE(fillet_angle_deg(1.0, 2.0, 16.0),
+                   failure::invalid_procedure_call);  // no triangle
 }
 
 TEST(outline_points, bases_of_the_fillets) {
@@ -91,7 +95,8 @@ TEST(outline_points, bases_of_the_fillets) {
     at.s = {1.0, -1.0};
     EXPECT_NEAR(base_before_outer_arc(at), 45.0, 1e-5);
     at.s = {-1.0, 1.0};
-    EXPECT_NEAR(base_before_outer_arc(at), 225.0, 1e-5) << "positive, and the centre below the tangent point";
+    EXPECT_NEAR(base_before_outer_arc(at), 225.0, 1e-5)
+        << "positive, and the centre below the tangent point";
     at.s = {-1.0, -1.0};
     EXPECT_NEAR(base_before_outer_arc(at), 135.0, 1e-5);
 }

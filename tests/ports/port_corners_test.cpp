@@ -15,7 +15,8 @@ TEST(port_corners, a_corner_touches_its_arc_and_its_side) {
     EXPECT_NEAR(std::hypot(at.r.x + 0.5, at.r.y), 10.0, 1e-12);
     EXPECT_NEAR(std::hypot(at.c.x - at.r.x, at.c.y - at.r.y), 2.0, 1e-12);
     EXPECT_NEAR(std::hypot(at.c.x - at.s.x, at.c.y - at.s.y), 2.0, 1e-12);
-    // The side runs along (sin 0.7, cos 0.7), so the line to its tangent point is at right angles to it.
+    // The side runs along (sin 0.7, cos 0.7), so the line to its tangent point is at right angles
+    // to it.
     EXPECT_NEAR((at.s.x - at.c.x) * std::sin(0.7) + (at.s.y - at.c.y) * std::cos(0.7), 0.0, 1e-12);
     EXPECT_EQ(at.t_deg, 30.0);
 }

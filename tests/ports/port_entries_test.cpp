@@ -99,7 +99,8 @@ TEST(port_entries, the_rotor_entries_are_read_again_but_for_three) {
 TEST(port_entries, a_single_lobe_divides_by_zero) {
     port_design tested;
     tested.boxes.numlobes = "1";
-    EXPECT_FAILURE(reread_design(tested.boxes, false, tested.design, tested.rotors), failure::division_by_zero);
+    EXPECT_FAILURE(reread_design(tested.boxes, false, tested.design, tested.rotors),
+                   failure::division_by_zero);
 }
 
 }  // namespace

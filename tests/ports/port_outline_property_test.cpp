@@ -1,4 +1,5 @@
-// What holds for every port: random ports on random rotors, all outlines closed, simple, dense, tangent, on their side.
+// What holds for every port: random ports on random rotors, all outlines closed, simple, dense,
+// tangent, on their side.
 #include "base/checked_math.hpp"
 #include "base/number_text.hpp"
 #include "ports/build_ports.hpp"
@@ -21,8 +22,9 @@ std::string typed(double value) {
     return number_text(std::round(value * 1000.0) / 1000.0);
 }
 
-/// Rotors and ports as an engineer would choose them: starts 5 to 45 degrees, ends 130 to 175, the outer angles
-/// nearer to the axis than the inner ones, a fillet of up to a fifth of the port's width (or none).
+/// Rotors and ports as an engineer would choose them: starts 5 to 45 degrees, ends 130 to 175, the
+/// outer angles nearer to the axis than the inner ones, a fillet of up to a fifth of the port's
+/// width (or none).
 void type_random_design(random_values& random, port_design& tested) {
     const int lobes = random.whole(4, 15);
     const double ecc = random.real(0.8, 5.0);
@@ -94,13 +96,14 @@ double search_tolerance(double centre_r) {
     return centre_r * (0.001 + 0.001 * PI / 180.0) + 1e-6;
 }
 
-/// Kept: a side that passes the arc's centre at the distance f has a target of about 0, and the search then ends at
-/// once at the entered angle, off the tangent.
+/// Kept: a side that passes the arc's centre at the distance f has a target of about 0, and the
+/// search then ends at once at the entered angle, off the tangent.
 bool ended_at_once(double t_deg, const std::string& entered) {
     return t_deg == val(entered);
 }
 
-void expect_tangent(point2 c, double f, double shift, double centre_r, point2 side_a, point2 side_b) {
+void expect_tangent(point2 c, double f, double shift, double centre_r, point2 side_a,
+                    point2 side_b) {
     EXPECT_NEAR(std::hypot(c.x + shift, c.y), centre_r, 1e-9);
     EXPECT_NEAR(distance_to_line(c, side_a, side_b), f, search_tolerance(centre_r));
 }
@@ -143,7 +146,8 @@ void expect_sound(const points& outline, double largest_step, int side) {
 }
 
 /// The last step of an arc is below a whole degree; a twentieth of the longer side.
-double largest_step(const port_params& ports, double outer_r, point2 s1, point2 s4, point2 s2, point2 s3) {
+double largest_step(const port_params& ports, double outer_r, point2 s1, point2 s4, point2 s2,
+                    point2 s3) {
     const double side = std::max(distance(s1, s4), distance(s2, s3));
     return std::max({outer_r * PI / 180.0, side / 20.0, ports.port_radius * PI / 180.0}) * 1.0001 +
            search_tolerance(outer_r);
@@ -160,23 +164,27 @@ TEST(port_outline_properties, hold_for_random_ports_on_random_rotors) {
         const port_end inlet_end = build_inlet_port(work);
         const port_end outlet_end = build_outlet_port(work);
         const port_params& p = tested.ports;
-        if (inlet_end == port_end::refused || outlet_end == port_end::refused || !tested.person.messages.empty()) {
+        if (inlet_end == port_end::refused || outlet_end == port_end::refused ||
+            !tested.person.messages.empty()) {
             continue;
         }
         ++built;
-        SCOPED_TRACE("inlet " + tested.boxes.inlet_start_inner + " " + tested.boxes.inlet_start_outer + " " +
-                     tested.boxes.inlet_end_inner + " " + tested.boxes.inlet_end_outer + " outlet " +
-                     tested.boxes.outlet_start_inner + " " + tested.boxes.outlet_start_outer + " " +
-                     tested.boxes.outlet_end_inner + " " + tested.boxes.outlet_end_outer + " R " +
-                     tested.boxes.inlet_inner_radius + " Q " + tested.boxes.inlet_outer_radius + " f " +
-                     tested.boxes.port_radii + " e " + tested.boxes.ecc);
+        SCOPED_TRACE("inlet " + tested.boxes.inlet_start_inner + " " +
+                     tested.boxes.inlet_start_outer + " " + tested.boxes.inlet_end_inner + " " +
+                     tested.boxes.inlet_end_outer + " outlet " + tested.boxes.outlet_start_inner +
+                     " " + tested.boxes.outlet_start_outer + " " + tested.boxes.outlet_end_inner +
+                     " " + tested.boxes.outlet_end_outer + " R " + tested.boxes.inlet_inner_radius +
+                     " Q " + tested.boxes.inlet_outer_radius + " f " + tested.boxes.port_radii +
+                     " e " + tested.boxes.ecc);
         expect_sound(outline(p.inlet_port_x, p.inlet_port_y, p.inlet_port_last),
-                     largest_step(p, p.inlet_outer_r, {p.inlet_s1_x, p.inlet_s1_y}, {p.inlet_s4_x, p.inlet_s4_y},
-                                  {p.inlet_s2_x, p.inlet_s2_y}, {p.inlet_s3_x, p.inlet_s3_y}),
+                     largest_step(p, p.inlet_outer_r, {p.inlet_s1_x, p.inlet_s1_y},
+                                  {p.inlet_s4_x, p.inlet_s4_y}, {p.inlet_s2_x, p.inlet_s2_y},
+                                  {p.inlet_s3_x, p.inlet_s3_y}),
                      -1);
         expect_sound(outline(p.outlet_port_x, p.outlet_port_y, p.outlet_port_last),
-                     largest_step(p, p.outlet_outer_r, {p.outlet_s1_x, p.outlet_s1_y}, {p.outlet_s4_x, p.outlet_s4_y},
-                                  {p.outlet_s2_x, p.outlet_s2_y}, {p.outlet_s3_x, p.outlet_s3_y}),
+                     largest_step(p, p.outlet_outer_r, {p.outlet_s1_x, p.outlet_s1_y},
+                                  {p.outlet_s4_x, p.outlet_s4_y}, {p.outlet_s2_x, p.outlet_s2_y},
+                                  {p.outlet_s3_x, p.outlet_s3_y}),
                      1);
         fillets += expect_tangent_fillets(tested);
         if (testing::Test::HasFailure()) {

@@ -11,8 +11,9 @@ port_shape quarter_ring() {
     port_shape port;
     port.R = 10.0;
     port.Q = 20.0;
-    port.corners = {corner_at(0.0, 10.0, 10.0, 0.0, 0.0, 0.0), corner_at(90.0, 10.0, 10.0, 0.0, 0.0, 0.0),
-                    corner_at(90.0, 20.0, 20.0, 0.0, 0.0, 0.0), corner_at(0.0, 20.0, 20.0, 0.0, 0.0, 0.0)};
+    port.corners = {
+        corner_at(0.0, 10.0, 10.0, 0.0, 0.0, 0.0), corner_at(90.0, 10.0, 10.0, 0.0, 0.0, 0.0),
+        corner_at(90.0, 20.0, 20.0, 0.0, 0.0, 0.0), corner_at(0.0, 20.0, 20.0, 0.0, 0.0, 0.0)};
     return port;
 }
 

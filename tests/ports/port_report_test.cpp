@@ -25,7 +25,8 @@ TEST(port_report, has_24_lines_with_the_inlet_below_the_axis) {
     ports.outlet_c4_y = 0.1 + 0.2;
     const std::vector<std::string> expected = {
         "Kavetta V2021.1.1 - Port Radius Co-ordinates",
-        "Cartesian Co-ordinate Datum is centre of Inner Rotor. Alignment of Cartesian Axes are as drawn in KVT model "
+        "Cartesian Co-ordinate Datum is centre of Inner Rotor. Alignment of Cartesian Axes are as "
+        "drawn in KVT model "
         "window.",
         "03.11.21",
         "pump",

@@ -68,8 +68,10 @@ TEST(port_sides, end_angles_of_180_become_0_in_the_record) {
     EXPECT_EQ(tested.ports.outlet_end_inner_deg, 0.0);
     EXPECT_EQ(tested.ports.outlet_end_outer_deg, 0.0);
     EXPECT_EQ(tested.boxes.outlet_end_inner, "180") << "the entry stays";
-    EXPECT_NEAR(tested.ports.outlet_t2_deg, 180.0 - std::atan(1.5 / 16.1) * 180.0 / 3.1415927, 1e-12);
-    EXPECT_NEAR(tested.ports.outlet_t3_deg, 180.0 - std::atan(1.5 / 20.7) * 180.0 / 3.1415927, 1e-12);
+    EXPECT_NEAR(tested.ports.outlet_t2_deg, 180.0 - std::atan(1.5 / 16.1) * 180.0 / 3.1415927,
+                1e-12);
+    EXPECT_NEAR(tested.ports.outlet_t3_deg, 180.0 - std::atan(1.5 / 20.7) * 180.0 / 3.1415927,
+                1e-12);
 }
 
 TEST(port_sides, angles_become_those_of_the_tangent_points_but_for_the_outlet_s_outer_start) {
@@ -83,11 +85,15 @@ TEST(port_sides, angles_become_those_of_the_tangent_points_but_for_the_outlet_s_
         const point2 s1 = fields->corners[START_INNER].s.get(tested.ports);
         const point2 s3 = fields->corners[END_OUTER].s.get(tested.ports);
         const point2 s4 = fields->corners[START_OUTER].s.get(tested.ports);
-        const auto degrees = [](double y, double x) { return std::atan(y / x) * 180.0 / 3.1415927; };
+        const auto degrees = [](double y, double x) {
+            return std::atan(y / x) * 180.0 / 3.1415927;
+        };
         EXPECT_EQ(tested.ports.*fields->corners[START_INNER].angle_deg, degrees(s1.y, s1.x));
-        EXPECT_EQ(tested.ports.*fields->corners[END_OUTER].angle_deg, degrees(s3.y, 2.85 + s3.x) + 180.0);
+        EXPECT_EQ(tested.ports.*fields->corners[END_OUTER].angle_deg,
+                  degrees(s3.y, 2.85 + s3.x) + 180.0);
         const double outer_start = tested.ports.*fields->corners[START_OUTER].angle_deg;
-        EXPECT_EQ(outer_start, fields->keeps_start_outer_angle ? entered : degrees(s4.y, 2.85 + s4.x));
+        EXPECT_EQ(outer_start,
+                  fields->keeps_start_outer_angle ? entered : degrees(s4.y, 2.85 + s4.x));
     }
 }
 

@@ -1,7 +1,8 @@
-// kvt_control_places: where the controls of the forms stand in the main window, so that the road test knows where to
-// click. Usage: kvt_control_places SHARE_FOLDER. Prints "form control x y" lines: the middle of each control in pixels
-// from the upper left corner of the main window, with the default layout. "MDIForm1" stands before the menus and, where
-// they appear when their menu is open, the menu entries.
+// kvt_control_places: where the controls of the forms stand in the main window, so that the road
+// test knows where to click. Usage: kvt_control_places SHARE_FOLDER. Prints "form control x y"
+// lines: the middle of each control in pixels from the upper left corner of the main window, with
+// the default layout. "MDIForm1" stands before the menus and, where they appear when their menu is
+// open, the menu entries.
 #include "app/desk/start_up.hpp"
 #include "support/temporary_folder.hpp"
 #include "ui/shell/application_style.hpp"
@@ -22,8 +23,8 @@ void print_places(kvt::MDIForm1& window) {
         for (const QWidget* control : form->findChildren<QWidget*>()) {
             if (control->isVisible() && !control->objectName().isEmpty()) {
                 const QPoint middle = control->mapTo(&window, control->rect().center());
-                std::printf("%s %s %d %d\n", qPrintable(form->objectName()), qPrintable(control->objectName()),
-                            middle.x(), middle.y());
+                std::printf("%s %s %d %d\n", qPrintable(form->objectName()),
+                            qPrintable(control->objectName()), middle.x(), middle.y());
             }
         }
     }
@@ -39,7 +40,8 @@ void print_menus(kvt::MDIForm1& window) {
         const QRect place = bar->actionGeometry(title);
         print_place(title->menu()->objectName(), bar->mapTo(&window, place.center()));
         for (QAction* entry : title->menu()->actions()) {
-            // Near the left end: a menu is as wide as its longest entry, which can be the path of a project.
+            // Near the left end: a menu is as wide as its longest entry, which can be the path of a
+            // project.
             const QRect row = title->menu()->actionGeometry(entry);
             const QPoint start(row.left() + FROM_LEFT, row.center().y());
             print_place(entry->objectName(), bar->mapTo(&window, place.bottomLeft() + start));

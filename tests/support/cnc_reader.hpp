@@ -1,4 +1,5 @@
-// A small interpreter of the CNC files: it reads them line by line and sweeps the path that a machine would follow.
+// A small interpreter of the CNC files: it reads them line by line and sweeps the path that a
+// machine would follow.
 #pragma once
 
 #include "geometry/point2.hpp"
@@ -21,7 +22,8 @@ struct cnc_move {
     double radius = 0.0;   ///< R of an arc
     double degrees = 0.0;  ///< C of a lathe line, whose X stands in end.x
     bool lathe = false;
-    bool cutting = false;  ///< behind the line that moves the tool down, before the one that moves it up
+    bool cutting =
+        false;  ///< behind the line that moves the tool down, before the one that moves it up
 };
 
 /// The lines between two heads; the comments of the head stand in front of its moves.
@@ -80,7 +82,8 @@ class cnc_reader {
     }
 
     void read_comment(std::string_view line) {
-        const bool down = line.find("TOOL DOWN") != line.npos || line.find("WERKZEUG HINUNTER") != line.npos;
+        const bool down =
+            line.find("TOOL DOWN") != line.npos || line.find("WERKZEUG HINUNTER") != line.npos;
         const bool up = line.find("TOOL UP") != line.npos || line.find("WERKZEUG AUS") != line.npos;
         if (down || up) {
             if (cutting_ == down) {
@@ -96,17 +99,20 @@ class cnc_reader {
         sections_.back().comments.emplace_back(line);
     }
 
-    /// A letter and a number with the decimals of the file; the literal last line of the outer rotor has four.
+    /// A letter and a number with the decimals of the file; the literal last line of the outer
+    /// rotor has four.
     double word(std::string_view& line, char letter) const {
         if (!line.starts_with(letter)) {
             throw std::runtime_error(std::string("no ") + letter);
         }
         line.remove_prefix(1);
         double value = 0.0;
-        const auto read = std::from_chars(line.data(), line.data() + line.size(), value, std::chars_format::fixed);
+        const auto read = std::from_chars(line.data(), line.data() + line.size(), value,
+                                          std::chars_format::fixed);
         const std::string_view text(line.data(), static_cast<std::size_t>(read.ptr - line.data()));
         const std::size_t point = text.find('.');
-        if (point == text.npos || point == 0 || (text.front() == '-' && (point == 1 || value == 0.0))) {
+        if (point == text.npos || point == 0 ||
+            (text.front() == '-' && (point == 1 || value == 0.0))) {
             throw std::runtime_error("a number in another form: " + std::string(text));
         }
         const auto decimals = static_cast<int>(text.size() - point - 1);
@@ -138,8 +144,8 @@ inline std::vector<point2> swept_arc(point2 start, const cnc_move& move) {
     const double dy = move.end.y - start.y;
     const double chord = std::hypot(dx, dy);
     if (chord > 2.0 * move.radius + 0.01) {
-        throw std::runtime_error("an arc that does not reach its end: chord " + std::to_string(chord) + " radius " +
-                                 std::to_string(move.radius));
+        throw std::runtime_error("an arc that does not reach its end: chord " +
+                                 std::to_string(chord) + " radius " + std::to_string(move.radius));
     }
     const double turn = move.code == 3 ? 1.0 : -1.0;
     const double height = std::sqrt(std::max(move.radius * move.radius - chord * chord / 4.0, 0.0));
@@ -153,14 +159,15 @@ inline std::vector<point2> swept_arc(point2 start, const cnc_move& move) {
     std::vector<point2> points;
     for (int k = 1; k < steps; ++k) {
         const double angle = first + sweep * k / steps;
-        points.push_back({centre.x + move.radius * std::cos(angle), centre.y + move.radius * std::sin(angle)});
+        points.push_back(
+            {centre.x + move.radius * std::cos(angle), centre.y + move.radius * std::sin(angle)});
     }
     points.push_back(move.end);
     return points;
 }
 
-/// The path of the cutting moves (of all moves when the file knows no tool down), arcs as fine polygons. The first
-/// point is where the path starts.
+/// The path of the cutting moves (of all moves when the file knows no tool down), arcs as fine
+/// polygons. The first point is where the path starts.
 inline std::vector<point2> swept_path(const std::vector<cnc_move>& moves, point2 start) {
     std::vector<point2> path{start};
     for (const cnc_move& move : moves) {
@@ -183,7 +190,8 @@ inline double distance_from_path(point2 point, const std::vector<point2>& path) 
         const double px = point.x - path[i].x;
         const double py = point.y - path[i].y;
         const double length2 = dx * dx + dy * dy;
-        const double share = length2 > 0.0 ? std::clamp((px * dx + py * dy) / length2, 0.0, 1.0) : 0.0;
+        const double share =
+            length2 > 0.0 ? std::clamp((px * dx + py * dy) / length2, 0.0, 1.0) : 0.0;
         const double ex = px - share * dx;
         const double ey = py - share * dy;
         smallest = std::min(smallest, ex * ex + ey * ey);

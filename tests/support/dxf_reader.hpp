@@ -17,9 +17,10 @@ struct dxf_content {
     std::vector<std::string> number_texts;  ///< x and y of every vertex as they stand
 };
 
-/// Reads groups as a receiving program does: pairs of lines, each code a whole number behind one blank. Throws
-/// std::runtime_error for a line without CR LF, a code that is none, a section or a polyline that is not ended, a
-/// vertex outside a polyline or without x, y and z, an entity on a layer that no table names, anything behind EOF.
+/// Reads groups as a receiving program does: pairs of lines, each code a whole number behind one
+/// blank. Throws std::runtime_error for a line without CR LF, a code that is none, a section or a
+/// polyline that is not ended, a vertex outside a polyline or without x, y and z, an entity on a
+/// layer that no table names, anything behind EOF.
 dxf_content read_dxf(std::string_view bytes);
 
 }  // namespace kvt

@@ -1,4 +1,5 @@
-// Golden files: a written text is compared byte by byte with the file of the same name under tests/data/output.
+// Golden files: a written text is compared byte by byte with the file of the same name under
+// tests/data/output.
 #pragma once
 
 #include <algorithm>
@@ -26,16 +27,17 @@ inline std::string first_difference(const std::string& text, const std::string& 
             return "";
         }
         if (!more_here || !more_there || here != there) {
-            return "line " + std::to_string(line) + ": '" + (more_here ? here : "") + "' instead of '" +
-                   (more_there ? there : "") + "'";
+            return "line " + std::to_string(line) + ": '" + (more_here ? here : "") +
+                   "' instead of '" + (more_there ? there : "") + "'";
         }
     }
 }
 
-/// Fails when the text differs from the golden file, and leaves it as golden_out/NAME.out in the working folder;
-/// tools/accept_goldens.sh copies it over the golden file.
+/// Fails when the text differs from the golden file, and leaves it as golden_out/NAME.out in the
+/// working folder; tools/accept_goldens.sh copies it over the golden file.
 inline void expect_golden(const std::string& name, const std::string& text) {
-    const std::string expected = bytes_of_file(std::filesystem::path(KVT_TEST_DATA) / "output" / name);
+    const std::string expected =
+        bytes_of_file(std::filesystem::path(KVT_TEST_DATA) / "output" / name);
     if (text == expected) {
         return;
     }

@@ -9,7 +9,8 @@
 
 namespace kvt {
 
-/// The program with the design NAME.KVT, not calculated yet. Nothing is written: the program has no folder.
+/// The program with the design NAME.KVT, not calculated yet. Nothing is written: the program has no
+/// folder.
 inline program opened_design(const std::string& name) {
     program kavetta;
     scripted_user person;

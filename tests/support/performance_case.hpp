@@ -1,4 +1,5 @@
-// performance_case: a sample design with everything that Calculate Performance reads, and the results it must give.
+// performance_case: a sample design with everything that Calculate Performance reads, and the
+// results it must give.
 #pragma once
 
 #include "base/text_file.hpp"
@@ -25,8 +26,8 @@
 
 namespace kvt {
 
-inline constexpr std::array SAMPLES = {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n07_inch_hydraulic",
-                                       "n09_crank_oil"};
+inline constexpr std::array SAMPLES = {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove",
+                                       "n07_inch_hydraulic", "n09_crank_oil"};
 
 struct performance_case {
     kvt::design_params design_params;
@@ -37,7 +38,9 @@ struct performance_case {
     kvt::perf_results perf_results;
     nlohmann::json expected;  ///< the reference file
 
-    bool inches() const { return expected["labels"]["max_shaft_side_load"].get<std::string>().ends_with("lbsf"); }
+    bool inches() const {
+        return expected["labels"]["max_shaft_side_load"].get<std::string>().ends_with("lbsf");
+    }
 
     /// Speed limits and grid, then the eight routines in the order of Calculate Performance.
     void run() {
@@ -90,8 +93,8 @@ inline void read_rotors(const nlohmann::json& from, rotor_profiles& rotors) {
 /// Reads tests/data/reference/NAME_performance.json; perf_inputs are read from its entries.
 inline performance_case load_performance_case(const std::string& name) {
     performance_case sample;
-    sample.expected = nlohmann::json::parse(
-        read_file(std::filesystem::path(KVT_TEST_DATA) / "reference" / (name + "_performance.json")));
+    sample.expected = nlohmann::json::parse(read_file(std::filesystem::path(KVT_TEST_DATA) /
+                                                      "reference" / (name + "_performance.json")));
     read_design(sample.expected["design_params"], sample.design_params);
     read_rotors(sample.expected["rotor_profiles"], sample.rotor_profiles);
     for (const port_field<double>& field : port_values()) {

@@ -1,4 +1,5 @@
-// The ports of the sound 7-lobe design for tests of the ports: typed entries, records, and the work on them.
+// The ports of the sound 7-lobe design for tests of the ports: typed entries, records, and the work
+// on them.
 #pragma once
 
 #include "core/app_state.hpp"
@@ -51,7 +52,9 @@ struct port_design {
     }
 
     port_work work() { return {ports, design, rotors, boxes, person, language, inches}; }
-    std::string last_message() const { return person.messages.empty() ? "" : person.messages.back(); }
+    std::string last_message() const {
+        return person.messages.empty() ? "" : person.messages.back();
+    }
 };
 
 }  // namespace kvt

@@ -1,4 +1,5 @@
-// Random designs with ports, as an engineer would type them, drawn until every command accepts them.
+// Random designs with ports, as an engineer would type them, drawn until every command accepts
+// them.
 #pragma once
 
 #include "app/program.hpp"
@@ -19,7 +20,8 @@ inline std::string typed_number(double value) {
     return number_text(std::round(value * 10000.0) / 10000.0);
 }
 
-/// The rotors in the unit of the entries: 25.4 for inches makes them as large as those of 1 for millimetres.
+/// The rotors in the unit of the entries: 25.4 for inches makes them as large as those of 1 for
+/// millimetres.
 inline void type_random_rotors(random_values& random, entries& boxes, double unit) {
     const int lobes = random.whole(3, 14);
     const double ratio = random.real(1.12, 2.6);
@@ -64,7 +66,8 @@ inline void type_random_ports(random_values& random, entries& boxes) {
     boxes.groove_depth = typed_number(0.2 * width);
 }
 
-/// A steep end side can put the start of a groove on the other side of the pump; such a groove is no pocket.
+/// A steep end side can put the start of a groove on the other side of the pump; such a groove is
+/// no pocket.
 inline bool groove_stands_at_its_port(const port_params& ports) {
     return ports.groove_a_y > 0.0 && ports.groove_b_y > 0.0;
 }
@@ -85,8 +88,8 @@ inline program random_design(random_values& random) {
             continue;
         }
         const ports_designed done = design_ports(kavetta, person);
-        const bool groove =
-            kavetta.entries.metering_groove == "0" || (done.groove && groove_stands_at_its_port(kavetta.port_params));
+        const bool groove = kavetta.entries.metering_groove == "0" ||
+                            (done.groove && groove_stands_at_its_port(kavetta.port_params));
         if (done.inlet && done.outlet && groove && person.messages.empty()) {
             return kavetta;
         }

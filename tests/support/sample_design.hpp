@@ -1,4 +1,5 @@
-// A sound 7-lobe design for tests: as typed entries, as a read design, and as a computed rotor pair.
+// A sound 7-lobe design for tests: as typed entries, as a read design, and as a computed rotor
+// pair.
 #pragma once
 
 #include "base/constants.hpp"

@@ -1,4 +1,5 @@
-// scripted_user: a user for tests that answers from a script and keeps a log of everything a command did to it.
+// scripted_user: a user for tests that answers from a script and keeps a log of everything a
+// command did to it.
 #pragma once
 
 #include "core/user.hpp"
@@ -16,7 +17,8 @@ class scripted_user : public user {
     std::vector<std::string> messages;  ///< the texts of the message boxes, in order
     std::vector<std::string> questions;
     std::vector<std::string> statuses;
-    std::vector<std::string> log;      ///< everything, one line a call: "unload perf_res", "focus ecc", ...
+    std::vector<std::string>
+        log;  ///< everything, one line a call: "unload perf_res", "focus ecc", ...
     std::vector<file_dialog> dialogs;  ///< the dialogs that were shown
     // The script. A question, dialog or prompt that the script does not foresee throws.
     std::deque<answer> answers;
@@ -51,8 +53,12 @@ class scripted_user : public user {
         log.push_back("status " + std::string(text));
     }
     void show_form(std::string_view form) override { log.push_back("show " + std::string(form)); }
-    void unload_form(std::string_view form) override { log.push_back("unload " + std::string(form)); }
-    void set_focus(std::string_view control) override { log.push_back("focus " + std::string(control)); }
+    void unload_form(std::string_view form) override {
+        log.push_back("unload " + std::string(form));
+    }
+    void set_focus(std::string_view control) override {
+        log.push_back("focus " + std::string(control));
+    }
     void set_busy(bool busy) override { log.emplace_back(busy ? "busy" : "not busy"); }
     void show_progress(std::string_view text, int percent) override {
         log.push_back("progress " + std::string(text) + " " + std::to_string(percent));

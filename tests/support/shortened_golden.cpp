@@ -32,7 +32,8 @@ std::string form_of(const std::string& line) {
     return form;
 }
 
-/// How many groups of `size` lines follow each other from `at` on that have the forms of the first one.
+/// How many groups of `size` lines follow each other from `at` on that have the forms of the first
+/// one.
 std::size_t groups_from(const std::vector<std::string>& forms, std::size_t at, std::size_t size) {
     std::size_t groups = 1;
     while (at + (groups + 1) * size <= forms.size() &&
@@ -48,7 +49,8 @@ std::string kept(const std::string& line) {
     if (line.size() <= LONGEST_LINE) {
         return line + "\r\n";
     }
-    return line.substr(0, KEPT_OF_A_LINE) + " ... " + line.substr(line.size() - KEPT_OF_A_LINE) + "\r\n";
+    return line.substr(0, KEPT_OF_A_LINE) + " ... " + line.substr(line.size() - KEPT_OF_A_LINE) +
+           "\r\n";
 }
 
 bool starts_number(char c) {
@@ -81,8 +83,8 @@ std::string summary_of(const std::string& bytes, std::size_t line_count) {
             ++at;
         }
     }
-    return "... " + std::to_string(line_count) + " lines, " + std::to_string(numbers) + " numbers, weighted sum " +
-           fixed_number(sum, 4) + "\r\n";
+    return "... " + std::to_string(line_count) + " lines, " + std::to_string(numbers) +
+           " numbers, weighted sum " + fixed_number(sum, 4) + "\r\n";
 }
 
 /// Whether two texts are the same but for the last digits of their numbers.

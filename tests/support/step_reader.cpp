@@ -41,7 +41,8 @@ std::string_view group_at(std::string_view text, std::size_t at) {
 /// The lists "(...)" at the top level of a parameter list.
 std::vector<std::string_view> lists_in(std::string_view parameters) {
     std::vector<std::string_view> lists;
-    for (std::size_t at = parameters.find('('); at != std::string_view::npos; at = parameters.find('(', at)) {
+    for (std::size_t at = parameters.find('('); at != std::string_view::npos;
+         at = parameters.find('(', at)) {
         lists.push_back(group_at(parameters, at));
         at += lists.back().size() + 2;
     }
@@ -50,7 +51,8 @@ std::vector<std::string_view> lists_in(std::string_view parameters) {
 
 std::vector<int> references_in(std::string_view text) {
     std::vector<int> numbers;
-    for (std::size_t at = text.find('#'); at != std::string_view::npos; at = text.find('#', at + 1)) {
+    for (std::size_t at = text.find('#'); at != std::string_view::npos;
+         at = text.find('#', at + 1)) {
         int number = 0;
         std::from_chars(text.data() + at + 1, text.data() + text.size(), number);
         numbers.push_back(number);
@@ -234,17 +236,20 @@ std::vector<std::string> step_reader::wall_sides() const {
         const auto rows = lists_in(lists_in(parameters_of(surface.text)).at(0));
         const std::vector<double> top = point(references_in(rows.at(0)).front());
         const std::vector<double> bottom = point(references_in(rows.at(0)).back());
-        // Along a row v goes from one end of the wall to the other, from row to row u goes along the contour. Seen
-        // along u, the normal u x v of a wall whose v goes down points to the left.
+        // Along a row v goes from one end of the wall to the other, from row to row u goes along
+        // the contour. Seen along u, the normal u x v of a wall whose v goes down points to the
+        // left.
         const bool downwards = bottom.at(2) < top.at(2);
         const bool same_sense = face.text.find(".T.") != std::string_view::npos;
-        sides.push_back("#" + std::to_string(number) + (downwards == same_sense ? " left" : " right"));
+        sides.push_back("#" + std::to_string(number) +
+                        (downwards == same_sense ? " left" : " right"));
     }
     return sides;
 }
 
 std::vector<step_contour> step_reader::contours_of(const std::vector<int>& curves) const {
-    std::map<double, std::map<int, std::vector<int>>> by_height;  // the control points of a curve by its first one
+    std::map<double, std::map<int, std::vector<int>>>
+        by_height;  // the control points of a curve by its first one
     for (const int curve : curves) {
         std::vector<int> points = entity(curve).references;
         const int first = points.front();
@@ -288,7 +293,8 @@ std::vector<step_solid> step_reader::solids() const {
                 curves.push_back(part);
             } else if (keyword == "CIRCLE") {
                 const std::string_view parameters = parameters_of(entity(part).text);
-                solid.circle_radii.push_back(numbers_in(parameters.substr(parameters.rfind(',') + 1)).at(0));
+                solid.circle_radii.push_back(
+                    numbers_in(parameters.substr(parameters.rfind(',') + 1)).at(0));
             }
         }
         solid.contours = contours_of(curves);

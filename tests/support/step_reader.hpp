@@ -1,4 +1,5 @@
-// A small structural reader of STEP files for tests: entities and their references, solids with their contours.
+// A small structural reader of STEP files for tests: entities and their references, solids with
+// their contours.
 #pragma once
 
 #include "geometry/point2.hpp"
@@ -28,8 +29,9 @@ struct step_solid {
     std::vector<double> circle_radii;
 };
 
-/// Reads the text at once; the text must outlive the reader. Throws std::runtime_error for what it doesn't understand:
-/// a line without its CR LF, a number twice, a statement without its semicolon, a missing section.
+/// Reads the text at once; the text must outlive the reader. Throws std::runtime_error for what it
+/// doesn't understand: a line without its CR LF, a number twice, a statement without its semicolon,
+/// a missing section.
 class step_reader {
   public:
     explicit step_reader(std::string_view bytes);
@@ -43,12 +45,13 @@ class step_reader {
     std::vector<int> unresolved() const;
     /// EDGE_CURVEs that are not used by exactly two ORIENTED_EDGEs.
     std::vector<int> edges_not_used_twice() const;
-    /// What is wrong with spline curves and surfaces: multiplicities that don't sum to the control points plus four,
-    /// knots that don't ascend or of another count, surfaces whose borders are no curve's control points. Empty when
-    /// all is well.
+    /// What is wrong with spline curves and surfaces: multiplicities that don't sum to the control
+    /// points plus four, knots that don't ascend or of another count, surfaces whose borders are no
+    /// curve's control points. Empty when all is well.
     std::vector<std::string> spline_problems() const;
-    /// Spline faces whose outward side, by the row order of their control points and their sense, lies to the right of
-    /// a counter-clockwise contour (walls of prisms do) or to its left (a bore does): "#13 right", "#26 left".
+    /// Spline faces whose outward side, by the row order of their control points and their sense,
+    /// lies to the right of a counter-clockwise contour (walls of prisms do) or to its left (a bore
+    /// does): "#13 right", "#26 left".
     std::vector<std::string> wall_sides() const;
     std::vector<step_solid> solids() const;
 

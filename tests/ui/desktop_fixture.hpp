@@ -38,7 +38,8 @@ class desktop_test : public testing::Test {
     void TearDown() override { EXPECT_EQ(robot.surprises, std::vector<std::string>()); }
 
     void write_settings(char language) {
-        write_file(folder.path() / "KVT.ini", std::string("\r\n\r\n\r\n\r\n") + language + "\r\nmanual\r\n##\r\n");
+        write_file(folder.path() / "KVT.ini",
+                   std::string("\r\n\r\n\r\n\r\n") + language + "\r\nmanual\r\n##\r\n");
     }
 
     /// Starts with the prompt closed, or with a project.
@@ -77,7 +78,9 @@ class desktop_test : public testing::Test {
     QLineEdit* box(const char* name) { return find<QLineEdit>(name); }
     std::string shown(const char* name) { return utf8_text(box(name)->text()); }
     std::string label(const char* name) { return utf8_text(find<QLabel>(name)->text()); }
-    std::string label_on(const char* form, const char* name) { return utf8_text(find_on<QLabel>(form, name)->text()); }
+    std::string label_on(const char* form, const char* name) {
+        return utf8_text(find_on<QLabel>(form, name)->text());
+    }
     std::string status() { return utf8_text(window().statusBar()->currentMessage()); }
 
     /// The window of a form that is built when it is shown; nullptr while it is not.
@@ -86,7 +89,8 @@ class desktop_test : public testing::Test {
     /// A delivered design in the program's folder, so that files written beside it stay there.
     std::string own_design_file(const std::string& name) {
         const std::filesystem::path own = folder.path() / "projects" / (name + ".KVT");
-        std::filesystem::copy_file(design_file(name), own, std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::copy_file(design_file(name), own,
+                                   std::filesystem::copy_options::overwrite_existing);
         return own.string();
     }
 
@@ -107,8 +111,9 @@ class desktop_test : public testing::Test {
         find<QAction>(entry)->trigger();
         settle();
     }
-    /// Lets what waits in the event loop happen, e.g. the handler of an entry that was left. Then gives the main window
-    /// back what a window manager gives back behind a dialog: without a screen there is none.
+    /// Lets what waits in the event loop happen, e.g. the handler of an entry that was left. Then
+    /// gives the main window back what a window manager gives back behind a dialog: without a
+    /// screen there is none.
     void settle() {
         for (int round = 0; round < 5; ++round) {
             QCoreApplication::processEvents();

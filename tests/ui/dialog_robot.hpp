@@ -1,4 +1,5 @@
-// dialog_robot: answers the modal dialogs of the program as a person would, and keeps what they said.
+// dialog_robot: answers the modal dialogs of the program as a person would, and keeps what they
+// said.
 #pragma once
 
 #include "core/user.hpp"
@@ -27,17 +28,19 @@ class dialog_robot : public QObject {
     std::vector<std::string> messages;   ///< message boxes with one button, in order
     std::vector<std::string> questions;  ///< message boxes with several buttons, in order
     std::vector<std::string> titles;     ///< window titles of the file dialogs, in order
-    std::vector<std::string> surprises;  ///< dialogs that the script did not foresee; they were cancelled
+    std::vector<std::string>
+        surprises;  ///< dialogs that the script did not foresee; they were cancelled
 
     // The script.
-    std::deque<std::string> answers;                   ///< the text of the button to press, question by question
-    std::deque<std::optional<std::string>> files;      ///< the path to choose; nothing cancels
-    std::deque<std::optional<std::string>> names;      ///< project names; nothing cancels
-    std::deque<std::string> prompts;                   ///< "new", "open" or "" (closed) for Form2
-    std::string left_open;                             ///< name of a dialog that the test itself works in
-    std::function<void()> at_message;                  ///< looked at while a message box is open
-    std::function<void()> at_prompt;                   ///< looked at before Form2 is answered
-    std::function<void(QFileDialog&)> at_file_dialog;  ///< looked at before a file dialog is answered
+    std::deque<std::string> answers;  ///< the text of the button to press, question by question
+    std::deque<std::optional<std::string>> files;  ///< the path to choose; nothing cancels
+    std::deque<std::optional<std::string>> names;  ///< project names; nothing cancels
+    std::deque<std::string> prompts;               ///< "new", "open" or "" (closed) for Form2
+    std::string left_open;             ///< name of a dialog that the test itself works in
+    std::function<void()> at_message;  ///< looked at while a message box is open
+    std::function<void()> at_prompt;   ///< looked at before Form2 is answered
+    std::function<void(QFileDialog&)>
+        at_file_dialog;  ///< looked at before a file dialog is answered
 
   private:
     void look_again();

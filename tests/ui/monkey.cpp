@@ -62,7 +62,8 @@ const std::vector<key_stroke>& key_strokes() {
 
 }  // namespace
 
-monkey_answers::monkey_answers(random_values& random, std::vector<std::string> projects, std::filesystem::path saved)
+monkey_answers::monkey_answers(random_values& random, std::vector<std::string> projects,
+                               std::filesystem::path saved)
     : random_(random), projects_(std::move(projects)), saved_(std::move(saved)) {
     look_again();
 }
@@ -126,8 +127,10 @@ void monkey_answers::answer_file(QFileDialog& dialog) {
         return;
     }
     const bool saving = dialog.acceptMode() == QFileDialog::AcceptSave;
-    const std::size_t chosen = static_cast<std::size_t>(random_.whole(0, static_cast<int>(projects_.size()) - 1));
-    const std::string saved = (saved_ / ("saved" + std::to_string(random_.whole(0, 2)) + ".KVT")).string();
+    const std::size_t chosen =
+        static_cast<std::size_t>(random_.whole(0, static_cast<int>(projects_.size()) - 1));
+    const std::string saved =
+        (saved_ / ("saved" + std::to_string(random_.whole(0, 2)) + ".KVT")).string();
     dialog.selectFile(qt_text(saving ? saved : projects_[chosen]));
     QMetaObject::invokeMethod(&dialog, "accept");
     // A file that isn't there keeps the dialog open behind a message of its own.
@@ -145,10 +148,14 @@ void monkey::act() {
         int weight;
     };
     static constexpr habit HABITS[] = {
-        {"click", &monkey::click, 30},     {"type", &monkey::type, 28},
-        {"key", &monkey::press_key, 18},   {"drag", &monkey::drag, 8},
-        {"wheel", &monkey::turn_wheel, 4}, {"resize", &monkey::resize, 3},
-        {"menu", &monkey::choose_menu, 6}, {"language or unit", &monkey::switch_language_or_unit, 3},
+        {"click", &monkey::click, 30},
+        {"type", &monkey::type, 28},
+        {"key", &monkey::press_key, 18},
+        {"drag", &monkey::drag, 8},
+        {"wheel", &monkey::turn_wheel, 4},
+        {"resize", &monkey::resize, 3},
+        {"menu", &monkey::choose_menu, 6},
+        {"language or unit", &monkey::switch_language_or_unit, 3},
     };
     int number = random_.whole(0, 99);
     for (const habit& habit : HABITS) {
@@ -174,12 +181,14 @@ QWidget* monkey::any_control() {
 }
 
 QPoint monkey::any_place(const QWidget& widget) {
-    return {random_.whole(0, std::max(0, widget.width() - 1)), random_.whole(0, std::max(0, widget.height() - 1))};
+    return {random_.whole(0, std::max(0, widget.width() - 1)),
+            random_.whole(0, std::max(0, widget.height() - 1))};
 }
 
 void monkey::click() {
-    static const std::vector<Qt::MouseButton> BUTTONS = {Qt::LeftButton, Qt::LeftButton,  Qt::LeftButton,
-                                                         Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+    static const std::vector<Qt::MouseButton> BUTTONS = {Qt::LeftButton,  Qt::LeftButton,
+                                                         Qt::LeftButton,  Qt::LeftButton,
+                                                         Qt::RightButton, Qt::MiddleButton};
     QWidget* widget = any_control();
     const QPoint place = any_place(*widget);
     if (random_.whole(0, 9) == 0) {
@@ -219,10 +228,12 @@ void monkey::press_key() {
 
 void monkey::drag() {
     auto* picture = desktop_.window().findChild<QWidget*>("Picture1");
-    const QPointer<QWidget> widget = picture != nullptr && random_.whole(0, 1) == 0 ? picture : any_control();
+    const QPointer<QWidget> widget =
+        picture != nullptr && random_.whole(0, 1) == 0 ? picture : any_control();
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, any_place(*widget));
     for (int step = 0; step < DRAG_STEPS && widget != nullptr; ++step) {
-        QTest::mouseMove(widget, any_place(*widget) + QPoint(random_.whole(-20, 20), random_.whole(-20, 20)));
+        QTest::mouseMove(
+            widget, any_place(*widget) + QPoint(random_.whole(-20, 20), random_.whole(-20, 20)));
     }
     if (widget != nullptr) {
         QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, any_place(*widget));
@@ -232,8 +243,8 @@ void monkey::drag() {
 void monkey::turn_wheel() {
     QWidget* widget = any_control();
     const QPoint place = any_place(*widget);
-    QWheelEvent wheel(place, widget->mapToGlobal(place), {}, {0, random_.whole(-3, 3) * 120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent wheel(place, widget->mapToGlobal(place), {}, {0, random_.whole(-3, 3) * 120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget, &wheel);
 }
 
@@ -262,7 +273,8 @@ void monkey::choose_menu() {
 }
 
 void monkey::switch_language_or_unit() {
-    static const std::vector<const char*> CONTROLS = {"Image1", "Image2", "dimens1", "dimens2", "Des_assist_check"};
+    static const std::vector<const char*> CONTROLS = {"Image1", "Image2", "dimens1", "dimens2",
+                                                      "Des_assist_check"};
     if (auto* control = desktop_.window().findChild<QWidget*>(any(CONTROLS))) {
         QTest::mouseClick(control, Qt::LeftButton);
     }

@@ -1,5 +1,5 @@
-// monkey: hits the windows of the program with random keys, clicks, drags, wheels, sizes and menu entries, and answers
-// the dialogs that appear.
+// monkey: hits the windows of the program with random keys, clicks, drags, wheels, sizes and menu
+// entries, and answers the dialogs that appear.
 #pragma once
 
 #include "support/property_runs.hpp"
@@ -21,13 +21,15 @@ class QMessageBox;
 
 namespace kvt {
 
-/// Answers every modal dialog at random, from the event loop, so that it works while a command waits for the answer.
+/// Answers every modal dialog at random, from the event loop, so that it works while a command
+/// waits for the answer.
 class monkey_answers : public QObject {
     Q_OBJECT
 
   public:
     /// projects: files to open, good and bad; saved: the folder to which it saves.
-    monkey_answers(random_values& random, std::vector<std::string> projects, std::filesystem::path saved);
+    monkey_answers(random_values& random, std::vector<std::string> projects,
+                   std::filesystem::path saved);
 
     int answered = 0;
 
@@ -68,7 +70,8 @@ class monkey {
     QPoint any_place(const QWidget& widget);
     template <typename value>
     value any(const std::vector<value>& values) {
-        return values[static_cast<std::size_t>(random_.whole(0, static_cast<int>(values.size()) - 1))];
+        return values[static_cast<std::size_t>(
+            random_.whole(0, static_cast<int>(values.size()) - 1))];
     }
 
     random_values& random_;

@@ -20,7 +20,8 @@ namespace kvt {
 namespace {
 
 constexpr int EVENTS = 20000;
-/// The program ends now and then by a run-time failure, as it should. A monkey that does nothing else tests nothing.
+/// The program ends now and then by a run-time failure, as it should. A monkey that does nothing
+/// else tests nothing.
 constexpr int EVENTS_A_RUN = 20;
 
 /// Takes the place of the program that opens the help file.
@@ -43,7 +44,8 @@ class monkey_test : public testing::Test {
     monkey_test() {
         fill_program_folder(folder.path(), KVT_SHARE_FOLDER);
         write_file(folder.path() / "KVT_V2021_Help_EN.pdf", "%PDF");
-        for (const char* name : {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n07_inch_hydraulic"}) {
+        for (const char* name :
+             {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n07_inch_hydraulic"}) {
             const std::string file = std::string(name) + ".KVT";
             const std::filesystem::path copy = folder.path() / "projects" / file;
             write_file(copy, read_file(std::string(KVT_TEST_DATA) + "/designs/" + file));
@@ -59,7 +61,8 @@ class monkey_test : public testing::Test {
         const bool with_design = random.whole(0, 3) > 0;
         do {
             on_screen = std::make_unique<desktop>(folder.path());
-        } while (!on_screen->start(with_design ? projects[static_cast<std::size_t>(random.whole(0, 3))] : ""));
+        } while (!on_screen->start(
+            with_design ? projects[static_cast<std::size_t>(random.whole(0, 3))] : ""));
         on_screen->window().activateWindow();
         QCoreApplication::processEvents();
         find_boxes();
@@ -88,11 +91,13 @@ class monkey_test : public testing::Test {
         const entries& kept = on_screen->program().entries;
         for (const auto& [box, field] : boxes) {
             ASSERT_NE(box, nullptr) << field->name << " has gone, event " << event;
-            ASSERT_EQ(utf8_text(box->text()), kept.*field->member) << field->name << ", event " << event;
+            ASSERT_EQ(utf8_text(box->text()), kept.*field->member)
+                << field->name << ", event " << event;
         }
         for (const auto& [check, field] : checks) {
             ASSERT_NE(check, nullptr) << field->name << " has gone, event " << event;
-            ASSERT_EQ(check->isChecked(), kept.*field->member == "1") << field->name << ", event " << event;
+            ASSERT_EQ(check->isChecked(), kept.*field->member == "1")
+                << field->name << ", event " << event;
         }
     }
 
@@ -130,8 +135,8 @@ TEST_F(monkey_test, random_events_neither_end_the_process_nor_lose_an_entry) {
             sent[kind] += count;
         }
     }
-    std::cout << events << " events, " << starts << " starts, " << answers.answered << " dialogs, " << help.opened
-              << " times the help file\n";
+    std::cout << events << " events, " << starts << " starts, " << answers.answered << " dialogs, "
+              << help.opened << " times the help file\n";
     EXPECT_GT(answers.answered, 0);
     EXPECT_EQ(sent.size(), 8U) << "every kind of event was sent";
     EXPECT_LT(starts, events / EVENTS_A_RUN + 2);

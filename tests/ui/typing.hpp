@@ -10,7 +10,8 @@ inline void type_keys(QWidget* widget, const QString& text) {
         if (character.unicode() < 0x80) {
             QTest::keyClick(widget, character.toLatin1());
         } else {
-            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(character), Qt::NoModifier);
+            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(character),
+                                Qt::NoModifier);
         }
     }
 }

@@ -50,9 +50,11 @@ TEST(inner_rotor_lines, stand_beside_the_outer_rotor_with_y_not_flipped) {
     draw_inner_rotor(design, rotors, state, view);
     const drawn_line& first = view.Line1.elements[0];
     const double s = state.view_scale;
-    EXPECT_FLOAT_EQ(first.x1, static_cast<float>(s * rotors.inner_x[0] + 1500.0 + s * 2.85 + s * 0.06));
+    EXPECT_FLOAT_EQ(first.x1,
+                    static_cast<float>(s * rotors.inner_x[0] + 1500.0 + s * 2.85 + s * 0.06));
     EXPECT_FLOAT_EQ(first.y1, static_cast<float>(s * rotors.inner_y[0] + 1500.0));
-    EXPECT_FLOAT_EQ(first.x2, static_cast<float>(s * rotors.inner_x[1] + 1500.0 + s * 2.85 + s * 0.06));
+    EXPECT_FLOAT_EQ(first.x2,
+                    static_cast<float>(s * rotors.inner_x[1] + 1500.0 + s * 2.85 + s * 0.06));
     EXPECT_TRUE(view.Line1.element0_visible);
 }
 
@@ -62,7 +64,8 @@ TEST(inner_rotor_lines, are_one_a_plotted_point_and_a_closing_one) {
         design.coarseness = static_cast<std::int16_t>(coarseness);
         design_view view;
         draw_inner_rotor(design, inner_rotor_of(design), state_for(design), view);
-        EXPECT_EQ(view.Line1.elements.size(), 3600U / static_cast<std::size_t>(coarseness) + 1U) << coarseness;
+        EXPECT_EQ(view.Line1.elements.size(), 3600U / static_cast<std::size_t>(coarseness) + 1U)
+            << coarseness;
     }
 }
 
@@ -96,7 +99,8 @@ TEST(inner_rotor_lines, fail_when_they_do_not_fit_single_precision) {
     app_state state = state_for(design);
     state.view_scale = 1e300;
     design_view view;
-    EXPECT_FAILURE(draw_inner_rotor(design, inner_rotor_of(design), state, view), failure::overflow);
+    EXPECT_FAILURE(draw_inner_rotor(design, inner_rotor_of(design), state, view),
+                   failure::overflow);
 }
 
 TEST(outside_circle, has_the_maximum_diameter_about_the_centre) {

@@ -30,10 +30,12 @@ std::vector<drawn_arc> arcs_of(const design_params& design) {
 
 std::size_t arcs_with_radius(const std::vector<drawn_arc>& arcs, double radius) {
     return static_cast<std::size_t>(std::count_if(
-        arcs.begin(), arcs.end(), [radius](const drawn_arc& arc) { return std::fabs(arc.radius - radius) < 1e-9; }));
+        arcs.begin(), arcs.end(),
+        [radius](const drawn_arc& arc) { return std::fabs(arc.radius - radius) < 1e-9; }));
 }
 
-/// Every end of an arc has exactly one partner among the ends of the others, so the outline is closed.
+/// Every end of an arc has exactly one partner among the ends of the others, so the outline is
+/// closed.
 void expect_every_end_meets_one_other(const std::vector<drawn_arc>& arcs, double tolerance) {
     std::vector<arc_end> ends;
     for (const drawn_arc& arc : arcs) {
@@ -43,7 +45,8 @@ void expect_every_end_meets_one_other(const std::vector<drawn_arc>& arcs, double
     for (std::size_t i = 0; i < ends.size(); ++i) {
         int partners = 0;
         for (std::size_t other = 0; other < ends.size(); ++other) {
-            if (other != i && std::hypot(ends[i].x - ends[other].x, ends[i].y - ends[other].y) < tolerance) {
+            if (other != i &&
+                std::hypot(ends[i].x - ends[other].x, ends[i].y - ends[other].y) < tolerance) {
                 ++partners;
             }
         }
@@ -102,7 +105,8 @@ TEST(outer_rotor_arcs, run_counter_clockwise_the_short_way) {
 
 TEST(outer_rotor_arcs, flip_the_y_axis_and_stand_about_the_outer_centre) {
     const auto arcs = arcs_of(sample_design());
-    // The third arc is the first lobe, at one pitch: 24.5 mm from the view's centre, above it on the screen.
+    // The third arc is the first lobe, at one pitch: 24.5 mm from the view's centre, above it on
+    // the screen.
     const double pitch = TWO_PI_D / 7.0;
     EXPECT_NEAR(arcs[2].x, 1500.0 + 24.5 * std::cos(pitch) * SCALE, 1e-9);
     EXPECT_NEAR(arcs[2].y, 1500.0 - 24.5 * std::sin(pitch) * SCALE, 1e-9);

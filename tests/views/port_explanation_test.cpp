@@ -1,4 +1,5 @@
-// Tests of the ports' explanation drawing: angles and radii end at the corners and outlines that they describe.
+// Tests of the ports' explanation drawing: angles and radii end at the corners and outlines that
+// they describe.
 #include "views/port_explanation.hpp"
 
 #include "core/text_table.hpp"
@@ -16,7 +17,8 @@ namespace {
 
 class port_explanation : public testing::Test {
   protected:
-    port_explanation() : pump(designed()), drawing(explain_ports(pump.design, pump.rotors, pump.ports)) {}
+    port_explanation()
+        : pump(designed()), drawing(explain_ports(pump.design, pump.rotors, pump.ports)) {}
 
     static port_design designed() {
         port_design pump;
@@ -30,11 +32,13 @@ class port_explanation : public testing::Test {
     }
 
     const explained_parameter& named(std::string_view label) const {
-        const auto found = std::ranges::find(drawing.parameters, label, &explained_parameter::label);
+        const auto found =
+            std::ranges::find(drawing.parameters, label, &explained_parameter::label);
         EXPECT_NE(found, drawing.parameters.end()) << label;
         return *found;
     }
-    /// The arc of an angle, as the entry has it: the outlet's ends at it, the inlet's starts at its negative.
+    /// The arc of an angle, as the entry has it: the outlet's ends at it, the inlet's starts at its
+    /// negative.
     double outlet_angle(std::string_view label) const {
         EXPECT_EQ(named(label).arcs.at(0).from_deg, 0.0);
         return named(label).arcs.at(0).to_deg;
@@ -80,7 +84,8 @@ TEST_F(port_explanation, angles_of_the_inlet_run_downwards) {
     EXPECT_NEAR(inlet_angle("Label5"), 146.0, CORNER);
 }
 
-TEST_F(port_explanation, inner_angles_are_about_the_inner_axis_and_outer_angles_about_the_outer_one) {
+TEST_F(port_explanation,
+       inner_angles_are_about_the_inner_axis_and_outer_angles_about_the_outer_one) {
     for (const char* label : {"Label9", "Label7", "Label2", "Label4"}) {
         EXPECT_EQ(named(label).arcs.at(0).centre, inner_axis) << label;
         EXPECT_EQ(named(label).extensions.at(0).from, inner_axis) << label;
@@ -103,7 +108,8 @@ TEST_F(port_explanation, radii_lead_from_their_axes_to_the_arcs) {
 
 TEST_F(port_explanation, the_fillet_radius_points_at_a_corner_of_the_outlet) {
     const point2 end = named("Label1").leader.back();
-    EXPECT_NEAR(distance_between(end, {pump.ports.outlet_c3_x, pump.ports.outlet_c3_y}), 1.5, EXACT);
+    EXPECT_NEAR(distance_between(end, {pump.ports.outlet_c3_x, pump.ports.outlet_c3_y}), 1.5,
+                EXACT);
     EXPECT_LT(distance_between(end, {pump.ports.outlet_p3_x, pump.ports.outlet_p3_y}), 1.5)
         << "on the side of the corner without its fillet";
 }
@@ -122,7 +128,8 @@ TEST_F(port_explanation, width_and_depth_of_the_groove_have_one_scale) {
 }
 
 TEST_F(port_explanation, the_outlines_are_those_of_the_ports) {
-    const auto inlet = std::ranges::find(drawing.outlines, outline_style::inlet, &explained_outline::style);
+    const auto inlet =
+        std::ranges::find(drawing.outlines, outline_style::inlet, &explained_outline::style);
     ASSERT_NE(inlet, drawing.outlines.end());
     ASSERT_EQ(inlet->points.size(), static_cast<std::size_t>(pump.ports.inlet_port_last) + 1);
     EXPECT_EQ(inlet->points[5], (point2{pump.ports.inlet_port_x[5], pump.ports.inlet_port_y[5]}));

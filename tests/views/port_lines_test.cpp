@@ -66,13 +66,15 @@ TEST(port_lines, angle_lines_lead_from_the_rotor_centres_to_the_corners) {
     draw_port_angles(ports, shown.design, shown.state, shown.view);
     const line_array& inner = shown.view.angleline;
     ASSERT_EQ(inner.elements.size(), 4U);
-    EXPECT_EQ(inner.elements[0], (drawn_line{1700.0F, 1600.0F, 1800.0F, 2100.0F})) << "the inlet lies below";
+    EXPECT_EQ(inner.elements[0], (drawn_line{1700.0F, 1600.0F, 1800.0F, 2100.0F}))
+        << "the inlet lies below";
     EXPECT_EQ(inner.elements[1].x2, 1900.0F);
     EXPECT_EQ(inner.elements[2], (drawn_line{1700.0F, 1600.0F, 2200.0F, 1100.0F}));
     EXPECT_EQ(inner.elements[3].x2, 2300.0F);
     const line_array& outer = shown.view.anglelineout;
     ASSERT_EQ(outer.elements.size(), 4U);
-    EXPECT_EQ(outer.elements[0], (drawn_line{1500.0F, 1600.0F, 2100.0F, 1700.0F})) << "from (-ecc, 0) to p4";
+    EXPECT_EQ(outer.elements[0], (drawn_line{1500.0F, 1600.0F, 2100.0F, 1700.0F}))
+        << "from (-ecc, 0) to p4";
     EXPECT_EQ(outer.elements[1].x2, 2000.0F);
     EXPECT_EQ(outer.elements[2].x2, 2500.0F);
     EXPECT_EQ(outer.elements[3].x2, 2400.0F);
@@ -102,8 +104,9 @@ TEST(port_lines, clearing_hides_all_six_arrays) {
     clear_port_lines(shown.view);
     EXPECT_FALSE(shows_outline(shown.view.inlet_portline));
     for (const line_array* lines :
-         {&shown.view.inlet_portline, &shown.view.outlet_portline, &shown.view.angleline, &shown.view.anglelineout,
-          &shown.view.metering_groove_portline, &shown.view.metering_groove_extraline}) {
+         {&shown.view.inlet_portline, &shown.view.outlet_portline, &shown.view.angleline,
+          &shown.view.anglelineout, &shown.view.metering_groove_portline,
+          &shown.view.metering_groove_extraline}) {
         EXPECT_EQ(lines->elements.size(), 1U);
         EXPECT_FALSE(lines->element0_visible);
     }

@@ -21,7 +21,8 @@ struct drawn_pair {
     app_state state;
     design_view view;
 
-    explicit drawn_pair(const design_params& wanted) : design(wanted), rotors(rotor_pair_of(wanted)) {
+    explicit drawn_pair(const design_params& wanted)
+        : design(wanted), rotors(rotor_pair_of(wanted)) {
         set_plot_scale(design, state);
         state.view_cx = 1480.0;
         state.view_cy = 1510.0;
@@ -127,7 +128,9 @@ double distance_from(const line_array& lines, double x, double y) {
         const double dy = line.y2 - line.y1;
         const double length2 = dx * dx + dy * dy;
         const double along =
-            length2 == 0.0 ? 0.0 : std::clamp(((x - line.x1) * dx + (y - line.y1) * dy) / length2, 0.0, 1.0);
+            length2 == 0.0
+                ? 0.0
+                : std::clamp(((x - line.x1) * dx + (y - line.y1) * dy) / length2, 0.0, 1.0);
         nearest = std::min(nearest, std::hypot(x - line.x1 - along * dx, y - line.y1 - along * dy));
     }
     return nearest;
@@ -148,17 +151,21 @@ TEST(rotated_pair, one_inner_lobe_on_is_the_same_pair) {
         pair.turn_to(std::to_string(360 / (lobes - 1)).c_str());
         for (std::size_t i = 0; i < pair.view.Line1.elements.size(); i += 37) {
             const drawn_line& line = pair.view.Line1.elements[i];
-            EXPECT_LT(distance_from(at_zero.Line1, line.x1, line.y1), 0.05) << lobes << " lobes, element " << i;
+            EXPECT_LT(distance_from(at_zero.Line1, line.x1, line.y1), 0.05)
+                << lobes << " lobes, element " << i;
         }
         ASSERT_EQ(pair.view.Picture1.size(), at_zero.Picture1.size());
         for (const drawn_arc& arc : pair.view.Picture1) {
-            const auto partner =
-                std::find_if(at_zero.Picture1.begin(), at_zero.Picture1.end(), [&arc](const drawn_arc& other) {
+            const auto partner = std::find_if(
+                at_zero.Picture1.begin(), at_zero.Picture1.end(), [&arc](const drawn_arc& other) {
                     return std::hypot(arc.x - other.x, arc.y - other.y) < 1e-3 &&
-                           std::fabs(std::remainder(arc.start_angle - other.start_angle, TWO_PI_L)) < 1e-6 &&
-                           std::fabs(std::remainder(arc.end_angle - other.end_angle, TWO_PI_L)) < 1e-6;
+                           std::fabs(std::remainder(arc.start_angle - other.start_angle,
+                                                    TWO_PI_L)) < 1e-6 &&
+                           std::fabs(std::remainder(arc.end_angle - other.end_angle, TWO_PI_L)) <
+                               1e-6;
                 });
-            EXPECT_NE(partner, at_zero.Picture1.end()) << lobes << " lobes, arc at " << arc.x << ", " << arc.y;
+            EXPECT_NE(partner, at_zero.Picture1.end())
+                << lobes << " lobes, arc at " << arc.x << ", " << arc.y;
         }
     }
 }
@@ -169,19 +176,21 @@ TEST(rotated_pair, turns_both_rotors_clockwise_on_the_screen) {
     const design_view at_zero = pair.view;
     pair.turn_to("10");
     const double axis_x = pair.state.view_cx + pair.state.view_ecc;
-    const auto direction = [](double x, double y) { return std::atan2(y, x); };  // y down: clockwise is positive
+    const auto direction = [](double x, double y) {
+        return std::atan2(y, x);
+    };  // y down: clockwise is positive
     const drawn_line& before = at_zero.Line1.elements[100];
     const drawn_line& after = pair.view.Line1.elements[100];
-    EXPECT_NEAR(std::remainder(
-                    direction(after.x1 - axis_x, after.y1 - 1510.0) - direction(before.x1 - axis_x, before.y1 - 1510.0),
-                    TWO_PI_L),
+    EXPECT_NEAR(std::remainder(direction(after.x1 - axis_x, after.y1 - 1510.0) -
+                                   direction(before.x1 - axis_x, before.y1 - 1510.0),
+                               TWO_PI_L),
                 10.0 * PI_L / 180.0, 1e-6);
     const drawn_arc& lobe = at_zero.Picture1[2];
     const drawn_arc& turned = pair.view.Picture1[2];
-    EXPECT_NEAR(
-        std::remainder(direction(turned.x - 1480.0, turned.y - 1510.0) - direction(lobe.x - 1480.0, lobe.y - 1510.0),
-                       TWO_PI_L),
-        10.0 * 6.0 / 7.0 * PI_L / 180.0, 1e-6);
+    EXPECT_NEAR(std::remainder(direction(turned.x - 1480.0, turned.y - 1510.0) -
+                                   direction(lobe.x - 1480.0, lobe.y - 1510.0),
+                               TWO_PI_L),
+                10.0 * 6.0 / 7.0 * PI_L / 180.0, 1e-6);
 }
 
 TEST(rotated_pair, leaves_ports_and_outside_circle_alone) {
@@ -198,7 +207,8 @@ TEST(rotated_pair, leaves_ports_and_outside_circle_alone) {
 TEST(rotated_pair, fails_at_a_point_on_the_y_axis) {
     drawn_pair pair;
     pair.rotors.inner_plot_xy[200] = 0.0;
-    EXPECT_FAILURE(redraw_rotated(pair.design, pair.rotors, pair.state, pair.view), failure::division_by_zero);
+    EXPECT_FAILURE(redraw_rotated(pair.design, pair.rotors, pair.state, pair.view),
+                   failure::division_by_zero);
 }
 
 TEST(rotated_pair, has_no_point_on_the_y_axis_for_any_sound_design) {
@@ -211,8 +221,10 @@ TEST(rotated_pair, has_no_point_on_the_y_axis_for_any_sound_design) {
         // Round figures, as people type them, are the ones that could meet the axis.
         const double step = random.whole(0, 1) == 0 ? 0.05 : 0.5;
         design.ecc = step * random.whole(1, static_cast<int>(4.0 / step));
-        design.radouter = step * random.whole(static_cast<int>(2.0 / step), static_cast<int>(10.0 / step));
-        design.radinnroot = step * random.whole(static_cast<int>(8.0 / step), static_cast<int>(40.0 / step));
+        design.radouter =
+            step * random.whole(static_cast<int>(2.0 / step), static_cast<int>(10.0 / step));
+        design.radinnroot =
+            step * random.whole(static_cast<int>(8.0 / step), static_cast<int>(40.0 / step));
         design.coarseness = static_cast<std::int16_t>(random.whole(1, 6));
         rotor_profiles rotors = prepared_rotors(design);
         if (curves_too_tightly(design, rotors) || !fill_trochoid(design, rotors)) {

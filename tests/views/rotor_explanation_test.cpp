@@ -17,7 +17,8 @@ namespace {
 class rotor_explanation : public testing::Test {
   protected:
     const explained_parameter& named(std::string_view label) const {
-        const auto found = std::ranges::find(drawing.parameters, label, &explained_parameter::label);
+        const auto found =
+            std::ranges::find(drawing.parameters, label, &explained_parameter::label);
         EXPECT_NE(found, drawing.parameters.end()) << label;
         return *found;
     }
@@ -29,14 +30,16 @@ class rotor_explanation : public testing::Test {
     double to_inner_profile(const point2& place) const {
         double nearest = 1e9;
         for (std::size_t i = 0; i < 3600; ++i) {
-            nearest = std::min(nearest, distance_between(place, {rotors.inner_x[i], rotors.inner_y[i]}));
+            nearest =
+                std::min(nearest, distance_between(place, {rotors.inner_x[i], rotors.inner_y[i]}));
         }
         return nearest;
     }
     double to_outer_profile(const point2& place) const {
         double nearest = 1e9;
         for (std::size_t i = 0; i <= static_cast<std::size_t>(rotors.outer_last); ++i) {
-            nearest = std::min(nearest, distance_between(place, {rotors.outer_x[i], rotors.outer_y[i]}));
+            nearest =
+                std::min(nearest, distance_between(place, {rotors.outer_x[i], rotors.outer_y[i]}));
         }
         return nearest;
     }
@@ -59,8 +62,9 @@ TEST_F(rotor_explanation, names_every_dimension_of_the_design_form_once) {
         EXPECT_NE(find_caption(parameter.form, parameter.label), nullptr) << parameter.label;
         EXPECT_TRUE(labels.insert(parameter.label).second) << parameter.label;
     }
-    EXPECT_EQ(labels, (std::set<std::string_view>{"Label2", "Label3", "Label4", "Label5", "Label6", "Label7", "Label8",
-                                                  "Label9", "Label10", "Label12", "Label15", "Label20", "Label21"}));
+    EXPECT_EQ(labels, (std::set<std::string_view>{"Label2", "Label3", "Label4", "Label5", "Label6",
+                                                  "Label7", "Label8", "Label9", "Label10",
+                                                  "Label12", "Label15", "Label20", "Label21"}));
 }
 
 TEST_F(rotor_explanation, the_eccentricity_lies_between_the_two_axes) {
@@ -73,7 +77,8 @@ TEST_F(rotor_explanation, the_eccentricity_lies_between_the_two_axes) {
 TEST_F(rotor_explanation, the_radius_of_the_inner_root_ends_on_the_inner_profile) {
     const measured_line line = named("Label10").lines.at(0);
     EXPECT_EQ(line.from, (point2{0.0, 0.0}));
-    EXPECT_NEAR(length(line), design.radinnroot, design.clearn_half + EXACT) << "less half the tip clearance";
+    EXPECT_NEAR(length(line), design.radinnroot, design.clearn_half + EXACT)
+        << "less half the tip clearance";
     EXPECT_NEAR(to_inner_profile(line.to), 0.0, EXACT);
 }
 
@@ -111,7 +116,8 @@ TEST_F(rotor_explanation, the_tip_clearance_of_an_even_number_of_lobes_is_measur
     even.numlobes = 6;
     even.outer_root = 24.0;
     const explanation six = explain_rotors(even, rotor_pair_of(even));
-    const auto found = std::ranges::find(six.parameters, std::string_view("Label4"), &explained_parameter::label);
+    const auto found =
+        std::ranges::find(six.parameters, std::string_view("Label4"), &explained_parameter::label);
     ASSERT_NE(found, six.parameters.end());
     EXPECT_NEAR(gap(*found), even.clearn_half, 1e-6);
 }

@@ -108,7 +108,8 @@ TEST(zoomed_drawing, has_inner_rotor_arcs_and_circle_at_the_new_place) {
     redraw_zoomed(design, rotors, {}, state, view);
     const double s = 3000.0 * 0.95 / 52.0 * 2.0;
     EXPECT_EQ(view.Line1.elements.size(), 3601U);
-    EXPECT_FLOAT_EQ(view.Line1.elements[0].x1, static_cast<float>(s * rotors.inner_x[0] + 2000.0 + 2.85 * s));
+    EXPECT_FLOAT_EQ(view.Line1.elements[0].x1,
+                    static_cast<float>(s * rotors.inner_x[0] + 2000.0 + 2.85 * s));
     EXPECT_FLOAT_EQ(view.Line1.elements[0].y1, static_cast<float>(s * rotors.inner_y[0] + 2200.0));
     ASSERT_EQ(view.Picture1.size(), 28U);
     EXPECT_EQ(view.Picture1.back().x, 2000.0);
@@ -167,15 +168,17 @@ TEST(zoomed_drawing, has_the_ports_that_were_drawn_before) {
     EXPECT_EQ(view.metering_groove_portline.elements.size(), 2U);
     EXPECT_EQ(view.metering_groove_extraline.elements.size(), 3U);
     EXPECT_TRUE(view.inlet_portline.element0_visible);
-    EXPECT_FLOAT_EQ(view.inlet_portline.elements[1].x2, before.inlet_portline.elements[1].x2 * 3.0F);
+    EXPECT_FLOAT_EQ(view.inlet_portline.elements[1].x2,
+                    before.inlet_portline.elements[1].x2 * 3.0F);
 }
 
 TEST(zoomed_drawing, has_no_ports_when_none_were_drawn) {
     const design_params design = sample_design();
     design_view view;
     redraw_zoomed(design, rotor_pair_of(design), few_points(), state_for(design), view);
-    for (const line_array* lines : {&view.inlet_portline, &view.outlet_portline, &view.angleline, &view.anglelineout,
-                                    &view.metering_groove_portline, &view.metering_groove_extraline}) {
+    for (const line_array* lines :
+         {&view.inlet_portline, &view.outlet_portline, &view.angleline, &view.anglelineout,
+          &view.metering_groove_portline, &view.metering_groove_extraline}) {
         EXPECT_EQ(lines->elements.size(), 1U);
         EXPECT_FALSE(lines->element0_visible);
     }
@@ -186,7 +189,8 @@ TEST(zoomed_drawing, fails_where_a_coordinate_exceeds_single_precision) {
     app_state state = state_for(design);
     state.view_scale = 1e39;
     design_view view;
-    EXPECT_FAILURE(redraw_zoomed(design, rotor_pair_of(design), {}, state, view), failure::overflow);
+    EXPECT_FAILURE(redraw_zoomed(design, rotor_pair_of(design), {}, state, view),
+                   failure::overflow);
 }
 
 }  // namespace

@@ -39,8 +39,9 @@ QString text_of(const QString& path) {
 void set_up(QPdfWriter& writer) {
     writer.setResolution(DOTS_PER_INCH);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(QMarginsF(SIDE_MARGIN_MM, TOP_MARGIN_MM, SIDE_MARGIN_MM, BOTTOM_MARGIN_MM),
-                          QPageLayout::Millimeter);
+    writer.setPageMargins(
+        QMarginsF(SIDE_MARGIN_MM, TOP_MARGIN_MM, SIDE_MARGIN_MM, BOTTOM_MARGIN_MM),
+        QPageLayout::Millimeter);
     writer.setTitle("Kavetta: user's guide");
     writer.setCreator("Kavetta");
 }
@@ -51,7 +52,8 @@ guide_book::guide_book(const QString& folder, const picture_folders& folders, QP
     : writer_(writer), folders_(folders) {
     set_up(writer);
     const QSizeF page(writer.width(), writer.height());
-    for (const QString& name : QDir(folder).entryList({"[0-9][0-9]-*.md"}, QDir::Files, QDir::Name)) {
+    for (const QString& name :
+         QDir(folder).entryList({"[0-9][0-9]-*.md"}, QDir::Files, QDir::Name)) {
         chapters_.emplace_back(text_of(folder + "/" + name), folders, page, &writer);
     }
     find_contents();
@@ -78,7 +80,8 @@ int guide_book::contents_pages() const {
     for (const guide_chapter& chapter : chapters_) {
         lines += chapter.headings().size();
     }
-    const int per_page = static_cast<int>((writer_.height() / MM - CONTENTS_HEAD_MM) / CONTENTS_LINE_MM);
+    const int per_page =
+        static_cast<int>((writer_.height() / MM - CONTENTS_HEAD_MM) / CONTENTS_LINE_MM);
     return (static_cast<int>(lines) + per_page - 1) / per_page;
 }
 
@@ -106,14 +109,16 @@ void guide_book::write_title(QPainter& painter) {
     const double width = writer_.width();
     painter.setPen(QColor(0x1f, 0x3a, 0x68));
     painter.setFont(text_font(40.0, true));
-    painter.drawText(QRectF(0.0, 40.0 * MM, width, 24.0 * MM), Qt::AlignLeft | Qt::AlignVCenter, "Kavetta");
+    painter.drawText(QRectF(0.0, 40.0 * MM, width, 24.0 * MM), Qt::AlignLeft | Qt::AlignVCenter,
+                     "Kavetta");
     painter.setFont(text_font(20.0));
     painter.drawText(QRectF(0.0, 64.0 * MM, width, 14.0 * MM), Qt::AlignLeft | Qt::AlignVCenter,
                      "Design of gerotor pumps: user's guide");
     painter.setPen(FAINT);
     painter.setFont(text_font(12.0));
     painter.drawText(QRectF(0.0, 80.0 * MM, width, 8.0 * MM), Qt::AlignLeft | Qt::AlignVCenter,
-                     "Version " + QString::fromUtf8(FULL_VERSION.data(), static_cast<qsizetype>(FULL_VERSION.size())));
+                     "Version " + QString::fromUtf8(FULL_VERSION.data(),
+                                                    static_cast<qsizetype>(FULL_VERSION.size())));
     const QImage picture(folders_.share + "/explain screen - small1.jpg");
     if (!picture.isNull()) {
         const double height = width * picture.height() / picture.width();
@@ -130,7 +135,8 @@ void guide_book::write_contents(QPainter& painter) {
             write_margins(painter, "Contents");
             painter.setPen(QColor(0x1f, 0x3a, 0x68));
             painter.setFont(text_font(20.0, true));
-            painter.drawText(QRectF(0.0, 0.0, writer_.width(), 10.0 * MM), Qt::AlignLeft, "Contents");
+            painter.drawText(QRectF(0.0, 0.0, writer_.width(), 10.0 * MM), Qt::AlignLeft,
+                             "Contents");
             y = CONTENTS_HEAD_MM * MM;
         }
         write_contents_line(painter, line, y);
@@ -162,10 +168,11 @@ void guide_book::write_margins(QPainter& painter, const QString& head) {
     painter.setFont(text_font(8.0));
     painter.drawText(QRectF(0.0, -12.0 * MM, width, 6.0 * MM), Qt::AlignLeft | Qt::AlignVCenter,
                      "Kavetta user's guide");
-    painter.drawText(QRectF(0.0, -12.0 * MM, width, 6.0 * MM), Qt::AlignRight | Qt::AlignVCenter, head);
+    painter.drawText(QRectF(0.0, -12.0 * MM, width, 6.0 * MM), Qt::AlignRight | Qt::AlignVCenter,
+                     head);
     painter.drawLine(QPointF(0.0, -5.0 * MM), QPointF(width, -5.0 * MM));
-    painter.drawText(QRectF(0.0, writer_.height() + 5.0 * MM, width, 6.0 * MM), Qt::AlignRight | Qt::AlignVCenter,
-                     QString::number(page_));
+    painter.drawText(QRectF(0.0, writer_.height() + 5.0 * MM, width, 6.0 * MM),
+                     Qt::AlignRight | Qt::AlignVCenter, QString::number(page_));
 }
 
 }  // namespace kvt

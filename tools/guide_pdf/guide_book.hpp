@@ -1,4 +1,5 @@
-// guide_book: the guide as a whole: title page, table of contents, chapters with running heads and page numbers.
+// guide_book: the guide as a whole: title page, table of contents, chapters with running heads and
+// page numbers.
 #pragma once
 
 #include "guide_pdf/guide_chapter.hpp"
@@ -21,7 +22,8 @@ struct contents_line {
 
 class guide_book {
   public:
-    /// Takes the pages NN-*.md of a folder in the order of their numbers and lays them out for a writer.
+    /// Takes the pages NN-*.md of a folder in the order of their numbers and lays them out for a
+    /// writer.
     guide_book(const QString& folder, const picture_folders& folders, QPdfWriter& writer);
 
     std::size_t chapter_count() const { return chapters_.size(); }

@@ -21,7 +21,8 @@ constexpr double TEXT_POINTS = 10.0;
 constexpr std::array HEADING_POINTS = {20.0, 14.0, 11.5};
 /// Pictures are taken at this scaling, so that they print well.
 constexpr double PICTURE_SCALING = 2.0;
-/// The layout takes sizes of pictures in pixels of a screen; on paper a form is shown a little smaller.
+/// The layout takes sizes of pictures in pixels of a screen; on paper a form is shown a little
+/// smaller.
 constexpr double SCREEN_PIXELS_PER_INCH = 96.0;
 constexpr double PIXELS_PER_INCH = 125.0;
 /// Of the height of a page that a picture may take.
@@ -70,8 +71,8 @@ QString with_escaped_names(QString markdown) {
 
 }  // namespace
 
-guide_chapter::guide_chapter(const QString& markdown, const picture_folders& folders, const QSizeF& page,
-                             QPaintDevice* device)
+guide_chapter::guide_chapter(const QString& markdown, const picture_folders& folders,
+                             const QSizeF& page, QPaintDevice* device)
     : document_(std::make_unique<QTextDocument>()), page_(page) {
     QFont font;
     font.setFamilies({"Liberation Sans", "DejaVu Sans"});
@@ -119,18 +120,22 @@ void guide_chapter::size_pictures(double dots_per_inch) {
             if (!format.isValid()) {
                 continue;
             }
-            const QVariant resource = document_->resource(QTextDocument::ImageResource, QUrl(format.name()));
+            const QVariant resource =
+                document_->resource(QTextDocument::ImageResource, QUrl(format.name()));
             const QImage image = qvariant_cast<QImage>(resource);
-            const double wanted = image.width() / PICTURE_SCALING * SCREEN_PIXELS_PER_INCH / PIXELS_PER_INCH;
-            const double shape = image.isNull() ? 0.0 : static_cast<double>(image.height()) / image.width();
+            const double wanted =
+                image.width() / PICTURE_SCALING * SCREEN_PIXELS_PER_INCH / PIXELS_PER_INCH;
+            const double shape =
+                image.isNull() ? 0.0 : static_cast<double>(image.height()) / image.width();
             const double highest = LARGEST_SHARE_OF_PAGE * page_.height() / std::max(shape, 0.01);
-            const double width =
-                std::min(wanted, std::min(page_.width(), highest) * SCREEN_PIXELS_PER_INCH / dots_per_inch);
+            const double width = std::min(
+                wanted, std::min(page_.width(), highest) * SCREEN_PIXELS_PER_INCH / dots_per_inch);
             format.setWidth(width);
             format.setHeight(width * shape);
             QTextCursor cursor(document_.get());
             cursor.setPosition(part.fragment().position());
-            cursor.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
+            cursor.setPosition(part.fragment().position() + part.fragment().length(),
+                               QTextCursor::KeepAnchor);
             cursor.setCharFormat(format);
         }
     }
@@ -188,7 +193,8 @@ int guide_chapter::page_of(const QTextBlock& block) const {
     return static_cast<int>((top + line) / page_.height());
 }
 
-/// A heading whose text would begin on the next page goes there too, and with it a heading right above it.
+/// A heading whose text would begin on the next page goes there too, and with it a heading right
+/// above it.
 void guide_chapter::keep_headings_with_text() {
     while (move_first_lone_heading()) {
     }
@@ -197,8 +203,10 @@ void guide_chapter::keep_headings_with_text() {
 bool guide_chapter::move_first_lone_heading() {
     for (QTextBlock block = document_->begin(); block.isValid(); block = block.next()) {
         const bool is_heading = block.blockFormat().headingLevel() > 0;
-        const bool is_moved = block.blockFormat().pageBreakPolicy() == QTextFormat::PageBreak_AlwaysBefore;
-        if (is_heading && !is_moved && block.next().isValid() && page_of(block.next()) > page_of(block)) {
+        const bool is_moved =
+            block.blockFormat().pageBreakPolicy() == QTextFormat::PageBreak_AlwaysBefore;
+        if (is_heading && !is_moved && block.next().isValid() &&
+            page_of(block.next()) > page_of(block)) {
             set_page_break(block, QTextFormat::PageBreak_AlwaysBefore);
             set_page_break(block.next(), QTextFormat::PageBreak_Auto);
             return true;

@@ -1,4 +1,5 @@
-// guide_chapter: one page of the user's guide as a laid-out document, with its headings and pictures.
+// guide_chapter: one page of the user's guide as a laid-out document, with its headings and
+// pictures.
 #pragma once
 
 #include <QSizeF>
@@ -21,7 +22,8 @@ struct guide_heading {
     int page = 0;
 };
 
-/// Where the pictures of the guide are: screen:NAME is NAME.png of the screenshots, share:NAME a delivered file.
+/// Where the pictures of the guide are: screen:NAME is NAME.png of the screenshots, share:NAME a
+/// delivered file.
 struct picture_folders {
     QString screens, share;
 };
@@ -29,7 +31,8 @@ struct picture_folders {
 class guide_chapter {
   public:
     /// Lays the Markdown out on pages of a size, in the device's dots.
-    guide_chapter(const QString& markdown, const picture_folders& folders, const QSizeF& page, QPaintDevice* device);
+    guide_chapter(const QString& markdown, const picture_folders& folders, const QSizeF& page,
+                  QPaintDevice* device);
 
     const QString& title() const { return title_; }
     const std::vector<guide_heading>& headings() const { return headings_; }

@@ -1,5 +1,6 @@
 // kvt_guide_pdf: turns the pages of the user's guide into one PDF.
-// Usage: kvt_guide_pdf PAGES_FOLDER SCREENS_FOLDER SHARE_FOLDER OUT.pdf. Exit status 1 when a picture is missing.
+// Usage: kvt_guide_pdf PAGES_FOLDER SCREENS_FOLDER SHARE_FOLDER OUT.pdf. Exit status 1 when a
+// picture is missing.
 #include "guide_pdf/guide_book.hpp"
 
 #include <QFileInfo>
@@ -11,7 +12,8 @@
 int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     if (argc != 5) {
-        std::fputs("usage: kvt_guide_pdf PAGES_FOLDER SCREENS_FOLDER SHARE_FOLDER OUT.pdf\n", stderr);
+        std::fputs("usage: kvt_guide_pdf PAGES_FOLDER SCREENS_FOLDER SHARE_FOLDER OUT.pdf\n",
+                   stderr);
         return 2;
     }
     {

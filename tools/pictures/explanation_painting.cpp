@@ -100,7 +100,8 @@ class explanation_painter {
 
     void paint(const explained_outline& outline) {
         const outline_look& look = look_of(outline.style);
-        painter_->setPen(QPen(look.pen, look.width * size_, look.dashes, Qt::FlatCap, Qt::RoundJoin));
+        painter_->setPen(
+            QPen(look.pen, look.width * size_, look.dashes, Qt::FlatCap, Qt::RoundJoin));
         if (outline.is_filled) {
             painter_->setBrush(look.fill);
             painter_->drawPolygon(pixels(outline.points));
@@ -178,8 +179,8 @@ class explanation_painter {
         const text_row* row = find_caption(parameter.form, parameter.label);
         assert(row != nullptr);
         const std::string_view text = row_text(*row, language_);
-        paint_text(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), parameter.text_at,
-                   parameter.side, true);
+        paint_text(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                   parameter.text_at, parameter.side, true);
     }
 
     void paint_text(const QString& text, const point2& where, text_side side, bool is_name) {
@@ -209,7 +210,8 @@ class explanation_painter {
 
 }  // namespace
 
-painted_explanation paint_explanation(const explanation& drawing, int width, std::int16_t language) {
+painted_explanation paint_explanation(const explanation& drawing, int width,
+                                      std::int16_t language) {
     return explanation_painter(drawing, width, language).run();
 }
 
@@ -222,7 +224,8 @@ std::vector<std::string> unreadable_texts(const painted_explanation& painted) {
         }
         for (std::size_t other = one + 1; other < painted.texts.size(); ++other) {
             if (painted.texts[one].place.intersects(painted.texts[other].place)) {
-                findings.push_back("overlap: " + painted.texts[one].text + ", " + painted.texts[other].text);
+                findings.push_back("overlap: " + painted.texts[one].text + ", " +
+                                   painted.texts[other].text);
             }
         }
     }

@@ -1,4 +1,5 @@
-// Paints an explanation drawing: outlines, dimension lines with their arrows, and the names of the parameters.
+// Paints an explanation drawing: outlines, dimension lines with their arrows, and the names of the
+// parameters.
 #pragma once
 
 #include "views/explanation.hpp"
@@ -26,7 +27,8 @@ struct painted_explanation {
 /// The picture of a drawing, so many pixels wide, with the captions of a language.
 painted_explanation paint_explanation(const explanation& drawing, int width, std::int16_t language);
 
-/// What is wrong with the texts: two that overlap, one that leaves the picture. Empty when they can all be read.
+/// What is wrong with the texts: two that overlap, one that leaves the picture. Empty when they can
+/// all be read.
 std::vector<std::string> unreadable_texts(const painted_explanation& painted);
 
 }  // namespace kvt

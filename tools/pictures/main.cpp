@@ -1,6 +1,7 @@
-// kvt_pictures: draws the explanation pictures that are delivered with the program, in both languages.
-// Usage: kvt_pictures DESIGN.KVT OUT_FOLDER. The design is calculated and its ports designed; their drawing is the
-// picture. Exit status 1 when the design is refused or a text can't be read.
+// kvt_pictures: draws the explanation pictures that are delivered with the program, in both
+// languages. Usage: kvt_pictures DESIGN.KVT OUT_FOLDER. The design is calculated and its ports
+// designed; their drawing is the picture. Exit status 1 when the design is refused or a text can't
+// be read.
 #include "app/files/project_commands.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
@@ -26,8 +27,12 @@ class silent_user : public kvt::user {
         std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
         has_refused = true;
     }
-    kvt::answer ask(std::string_view, kvt::question_buttons) override { return kvt::answer::cancel; }
-    std::optional<std::string> choose_file(const kvt::file_dialog&) override { return std::nullopt; }
+    kvt::answer ask(std::string_view, kvt::question_buttons) override {
+        return kvt::answer::cancel;
+    }
+    std::optional<std::string> choose_file(const kvt::file_dialog&) override {
+        return std::nullopt;
+    }
     std::optional<std::string> ask_project_name() override { return std::nullopt; }
     kvt::start_choice ask_new_or_open() override { return kvt::start_choice::neither; }
     void show_status(std::string_view) override {}
@@ -48,7 +53,8 @@ bool calculate(const char* design, kvt::program& kavetta) {
     kavetta.folder = folder.path().toStdString();
     kavetta.app_state.projects_folder = folder.path().toStdString();
     const bool has_rotors = kvt::calculate_profiles(kavetta, person) == kvt::run_end::ok;
-    return has_rotors && kvt::design_ports(kavetta, person) == kvt::ports_designed{true, true, true} &&
+    return has_rotors &&
+           kvt::design_ports(kavetta, person) == kvt::ports_designed{true, true, true} &&
            !person.has_refused;
 }
 
@@ -62,11 +68,13 @@ bool write(const kvt::explanation& drawing, std::int16_t language, const QString
 }
 
 bool write_pictures(const kvt::program& kavetta, const QString& folder) {
-    const kvt::explanation rotors = kvt::explain_rotors(kavetta.design_params, kavetta.rotor_profiles);
+    const kvt::explanation rotors =
+        kvt::explain_rotors(kavetta.design_params, kavetta.rotor_profiles);
     const kvt::explanation ports =
         kvt::explain_ports(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params);
     bool all_written = write(rotors, kvt::ENGLISH, folder + "/explain screen - small1.jpg");
-    all_written = write(rotors, kvt::GERMAN, folder + "/explain screen - small german1.jpg") && all_written;
+    all_written =
+        write(rotors, kvt::GERMAN, folder + "/explain screen - small german1.jpg") && all_written;
     all_written = write(ports, kvt::ENGLISH, folder + "/port explain - small2.jpg") && all_written;
     return write(ports, kvt::GERMAN, folder + "/port explain - small german2.jpg") && all_written;
 }

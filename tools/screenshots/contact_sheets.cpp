@@ -21,7 +21,8 @@ struct column {
     int percent;
 };
 
-constexpr std::array COLUMNS = {column{"light", 100}, column{"dark", 100}, column{"light", 200}, column{"dark", 200}};
+constexpr std::array COLUMNS = {column{"light", 100}, column{"dark", 100}, column{"light", 200},
+                                column{"dark", 200}};
 constexpr std::array LANGUAGES = {"english", "german"};
 
 struct cell {
@@ -37,7 +38,8 @@ std::vector<std::vector<cell>> cells_of(const QDir& pieces, const QString& form)
         for (const column& at : COLUMNS) {
             QImage picture(pieces.filePath(piece_name(form, language, at.palette, at.percent)));
             picture.setDevicePixelRatio(1.0);
-            row.push_back({QString("%1, %2, %3 %").arg(language, at.palette).arg(at.percent), picture});
+            row.push_back(
+                {QString("%1, %2, %3 %").arg(language, at.palette).arg(at.percent), picture});
         }
     }
     return rows;
@@ -89,7 +91,8 @@ QImage sheet_of(const std::vector<std::vector<cell>>& rows) {
 
 }  // namespace
 
-QString piece_name(const QString& form, const QString& language, const QString& palette, int percent) {
+QString piece_name(const QString& form, const QString& language, const QString& palette,
+                   int percent) {
     return QString("%1.%2.%3.%4.png").arg(form, language, palette).arg(percent);
 }
 

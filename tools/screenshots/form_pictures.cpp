@@ -48,7 +48,8 @@ form_pictures pictures_of_dialogs(const program& kavetta) {
     progressfrm progress(kavetta, nullptr);
     progress.show_progress(QString(), HALF_WAY);
     form_pictures pictures;
-    for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress}) {
+    for (QDialog* dialog :
+         std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress}) {
         pictures[dialog->objectName()] = picture_of(*dialog);
     }
     splashform splash;

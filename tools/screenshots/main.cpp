@@ -1,8 +1,9 @@
 // kvt_screenshots: pictures of the running program.
-//   kvt_screenshots guide SHARE PROJECT.KVT OUT     the pictures of the user's guide, English, light
-//   kvt_screenshots pieces SHARE PROJECT.KVT OUT    every form in both languages, light and dark
-//   kvt_screenshots sheets PIECES OUT               one contact sheet a form from such pieces
-// SHARE is the folder of the delivered files. With QT_SCALE_FACTOR=2 the pictures are those of a dense screen.
+//   kvt_screenshots guide SHARE PROJECT.KVT OUT     the pictures of the user's guide, English,
+//   light kvt_screenshots pieces SHARE PROJECT.KVT OUT    every form in both languages, light and
+//   dark kvt_screenshots sheets PIECES OUT               one contact sheet a form from such pieces
+// SHARE is the folder of the delivered files. With QT_SCALE_FACTOR=2 the pictures are those of a
+// dense screen.
 #include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
 #include "core/app_state.hpp"
@@ -87,8 +88,9 @@ bool take_pieces(const std::string& share, const std::string& project, const QDi
             pictures["MDIForm1"] = picture_of_workplace(stage);
             kvt::form_pictures pieces;
             for (const auto& [name, picture] : pictures) {
-                const QString piece = kvt::piece_name(name, language == kvt::ENGLISH ? "english" : "german",
-                                                      is_dark ? "dark" : "light", percent);
+                const QString piece =
+                    kvt::piece_name(name, language == kvt::ENGLISH ? "english" : "german",
+                                    is_dark ? "dark" : "light", percent);
                 pieces[piece.chopped(4)] = picture;
             }
             all_taken = save(pieces, out) && all_taken;

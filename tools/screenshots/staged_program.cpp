@@ -21,16 +21,19 @@ constexpr int WATCH_MS = 20;
 
 }  // namespace
 
-staged_program::staged_program(const std::string& share, const std::string& project, std::int16_t language) {
+staged_program::staged_program(const std::string& share, const std::string& project,
+                               std::int16_t language) {
     const std::filesystem::path path = utf8_text(folder_.path());
     fill_program_folder(path, share);
-    write_file(path / "KVT.ini", "\r\n\r\n\r\n\r\n" + std::to_string(language) + "\r\nmanual\r\n##\r\n");
+    write_file(path / "KVT.ini",
+               "\r\n\r\n\r\n\r\n" + std::to_string(language) + "\r\nmanual\r\n##\r\n");
     QObject::connect(&watch_, &QTimer::timeout, [this] { close_dialog(); });
     watch_.start(WATCH_MS);
     desktop_ = std::make_unique<desktop>(path);
     program().window_rectangles.main_window_maximised = false;
     // A copy: Design Ports writes its report beside the project.
-    const std::filesystem::path copy = path / "projects" / std::filesystem::path(project).filename();
+    const std::filesystem::path copy =
+        path / "projects" / std::filesystem::path(project).filename();
     write_file(copy, read_file(project));
     desktop_->start(copy.string());
     window().showNormal();
@@ -40,8 +43,9 @@ staged_program::staged_program(const std::string& share, const std::string& proj
 
 bool staged_program::calculate_rotors() {
     bool done = false;
-    runner().act(
-        [&done](kvt::program& kavetta, user& person) { done = calculate_profiles(kavetta, person) == run_end::ok; });
+    runner().act([&done](kvt::program& kavetta, user& person) {
+        done = calculate_profiles(kavetta, person) == run_end::ok;
+    });
     settle();
     return done;
 }

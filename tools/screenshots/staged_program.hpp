@@ -1,4 +1,5 @@
-// staged_program: the desktop program in a folder of its own, with a project that has gone through all stages.
+// staged_program: the desktop program in a folder of its own, with a project that has gone through
+// all stages.
 #pragma once
 
 #include "ui/shell/desktop.hpp"
@@ -18,7 +19,8 @@ class staged_program {
     /// share: the delivered files. language: ENGLISH or GERMAN.
     staged_program(const std::string& share, const std::string& project, std::int16_t language);
 
-    /// Calculates profiles, ports and performance, and opens the explanation windows. False when a stage was refused.
+    /// Calculates profiles, ports and performance, and opens the explanation windows. False when a
+    /// stage was refused.
     bool calculate();
     /// The rotors alone, without ports.
     bool calculate_rotors();

@@ -63,7 +63,8 @@ std::optional<fs::path> unsaved_entries(const program& kavetta) {
     for (const std::string_view name : {AUTOSAVE_FILE_NAME, RECOVERY_FILE_NAME}) {
         const fs::path file = kavetta.folder / name;
         std::error_code error;
-        if (fs::is_regular_file(file, error) && (!youngest || written_at(file) > written_at(*youngest))) {
+        if (fs::is_regular_file(file, error) &&
+            (!youngest || written_at(file) > written_at(*youngest))) {
             youngest = file;
         }
     }
@@ -73,8 +74,8 @@ std::optional<fs::path> unsaved_entries(const program& kavetta) {
 bool offer_unsaved_entries(program& kavetta, user& person) {
     const std::optional<fs::path> file = unsaved_entries(kavetta);
     const std::int16_t language = kavetta.app_state.language;
-    if (!file ||
-        person.ask(message_text(message::open_unsaved_entries, language), question_buttons::yes_no) != answer::yes) {
+    if (!file || person.ask(message_text(message::open_unsaved_entries, language),
+                            question_buttons::yes_no) != answer::yes) {
         return false;
     }
     try {

@@ -1,4 +1,5 @@
-// The enabling chain as one table: what each step of the work enables and what it disables downstream of it.
+// The enabling chain as one table: what each step of the work enables and what it disables
+// downstream of it.
 #pragma once
 
 #include "core/enabling.hpp"

@@ -9,7 +9,8 @@
 namespace kvt {
 
 bool exit_program(program& kavetta, user& person) {
-    const std::string_view question = message_text(message::save_before_exit, kavetta.app_state.language);
+    const std::string_view question =
+        message_text(message::save_before_exit, kavetta.app_state.language);
     switch (person.ask(question, question_buttons::yes_no_cancel)) {
         case answer::cancel:
             kavetta.app_state.exit_cancelled = true;

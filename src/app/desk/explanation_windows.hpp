@@ -12,8 +12,8 @@ enum class explanation_window { gerotor, porting };
 /// The name of the window's form.
 std::string_view form_of(explanation_window window);
 
-/// The load of the window: clears its flag explain_closed or port_explain_closed, sets its title, and returns the file
-/// of its picture in the program's folder, both in the current language.
+/// The load of the window: clears its flag explain_closed or port_explain_closed, sets its title,
+/// and returns the file of its picture in the program's folder, both in the current language.
 /// Throws run_time_error (file not found) when the picture is missing; the flag is cleared by then.
 std::filesystem::path load_explanation(program& kavetta, explanation_window window);
 

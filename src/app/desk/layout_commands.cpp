@@ -69,7 +69,8 @@ start_layout read_start_layout(program& kavetta) {
             start.shown.push_back(field.name);
         }
     }
-    // Touched windows come before the others of the error path; the order among children doesn't show.
+    // Touched windows come before the others of the error path; the order among children doesn't
+    // show.
     if (reading.explain) {
         start.shown.push_back("explain");
     }

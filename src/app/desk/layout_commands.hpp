@@ -9,25 +9,27 @@
 
 namespace kvt {
 
-/// mnuscreensave: writes screen.ini from the present windows and tells so. Explanation windows are written while
-/// explain_closed and port_explain_closed say that they are open. Throws run_time_error when it can't be written.
+/// mnuscreensave: writes screen.ini from the present windows and tells so. Explanation windows are
+/// written while explain_closed and port_explain_closed say that they are open. Throws
+/// run_time_error when it can't be written.
 void save_layout(program& kavetta, user& person, present_windows windows);
 
-/// mnuscreenrestore: the built-in rectangles of the five windows, shown again where they were closed, the main window
-/// maximised, both explanation windows unloaded; writes the five fixed blocks, without a message. Stored rectangles of
-/// charts stay. The screen takes window_rectangles over after the command. Throws run_time_error when the file can't be
-/// written.
+/// mnuscreenrestore: the built-in rectangles of the five windows, shown again where they were
+/// closed, the main window maximised, both explanation windows unloaded; writes the five fixed
+/// blocks, without a message. Stored rectangles of charts stay. The screen takes window_rectangles
+/// over after the command. Throws run_time_error when the file can't be written.
 void restore_default_layout(program& kavetta, user& person);
 
 /// What the screen does after the layout was read.
 struct start_layout {
     std::vector<std::string_view> shown;  ///< forms in the order in which they are shown
-    std::string_view focus;               ///< the form that gets the focus; empty: as the platform leaves it
+    std::string_view focus;  ///< the form that gets the focus; empty: as the platform leaves it
 };
 
-/// The load of MDIForm1: marks both explanation windows as closed, reads screen.ini into window_rectangles (see
-/// read_layout) and says what to show. The first touch of Form1, at the first number or in the error path, shows the
-/// new-or-open prompt; so start_project comes before the screen takes the rectangles over. Never fails.
+/// The load of MDIForm1: marks both explanation windows as closed, reads screen.ini into
+/// window_rectangles (see read_layout) and says what to show. The first touch of Form1, at the
+/// first number or in the error path, shows the new-or-open prompt; so start_project comes before
+/// the screen takes the rectangles over. Never fails.
 start_layout read_start_layout(program& kavetta);
 
 }  // namespace kvt

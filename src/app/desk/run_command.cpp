@@ -11,11 +11,15 @@ namespace kvt {
 
 namespace {
 
-std::string fatal_text(const program& kavetta, const run_time_error& error, const std::filesystem::path& recovery) {
-    const auto text = [&kavetta](message id) { return std::string(message_text(id, kavetta.app_state.language)); };
+std::string fatal_text(const program& kavetta, const run_time_error& error,
+                       const std::filesystem::path& recovery) {
+    const auto text = [&kavetta](message id) {
+        return std::string(message_text(id, kavetta.app_state.language));
+    };
     std::string told = text(message::run_time_failure) + std::to_string(error.number()) + ": " +
                        std::string(failure_text(error.kind(), kavetta.app_state.language)) + ". ";
-    told += recovery.empty() ? text(message::entries_not_saved) : text(message::entries_saved_to) + recovery.string();
+    told += recovery.empty() ? text(message::entries_not_saved)
+                             : text(message::entries_saved_to) + recovery.string();
     return told;
 }
 

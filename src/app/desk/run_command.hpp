@@ -1,5 +1,5 @@
-// The top of every command of the desktop program: a run-time failure that no command handled saves the entries to a
-// recovery project, tells the user, and ends the program.
+// The top of every command of the desktop program: a run-time failure that no command handled saves
+// the entries to a recovery project, tells the user, and ends the program.
 #pragma once
 
 #include "app/program.hpp"
@@ -12,7 +12,8 @@ namespace kvt {
 /// The recovery project in the program's folder.
 inline constexpr std::string_view RECOVERY_FILE_NAME = "recovery.KVT";
 
-/// Runs a command. True when the program ends: the command said so, or a run-time failure reached the top.
+/// Runs a command. True when the program ends: the command said so, or a run-time failure reached
+/// the top.
 bool run_command(program& kavetta, user& person, const std::function<bool()>& command);
 
 /// Writes the entries to the recovery project and returns its path; empty when even that fails.

@@ -25,7 +25,8 @@ std::string existing_folder_of(const program& kavetta, const std::string& path) 
 void find_projects_folder(program& kavetta) {
     std::string& folder = kavetta.app_state.projects_folder;
     if (folder.empty()) {
-        folder = existing_folder_of(kavetta, first_settings_line(read_file(kavetta.folder / SETTINGS_FILE_NAME)));
+        folder = existing_folder_of(
+            kavetta, first_settings_line(read_file(kavetta.folder / SETTINGS_FILE_NAME)));
     }
 }
 

@@ -56,7 +56,8 @@ void fill_program_folder(const fs::path& folder, const fs::path& share) {
         create_folder(folder / delivered);
     }
     std::error_code error;
-    for (fs::recursive_directory_iterator file(share, error), end; !error && file != end; file.increment(error)) {
+    for (fs::recursive_directory_iterator file(share, error), end; !error && file != end;
+         file.increment(error)) {
         const fs::path target = folder / file->path().lexically_relative(share);
         if (file->is_directory(error)) {
             create_folder(target);

@@ -27,7 +27,8 @@ void set_unit_labels_again(program& kavetta) {
 }  // namespace
 
 void set_english_captions(program& kavetta) {
-    // Kept: the forms whose English stands at design time only stay German after a change back to English.
+    // Kept: the forms whose English stands at design time only stay German after a change back to
+    // English.
     set_rows(kavetta, text_kind::caption, ENGLISH);
     set_unit_labels_again(kavetta);
 }

@@ -1,4 +1,5 @@
-// Language and units: the caption routines, the unit label routines, and the change of the capacity unit.
+// Language and units: the caption routines, the unit label routines, and the change of the capacity
+// unit.
 #pragma once
 
 #include "app/program.hpp"
@@ -8,21 +9,25 @@
 
 namespace kvt {
 
-/// The caption routine of a language: sets the captions of all forms, then runs the label routine of drawing_units.
+/// The caption routine of a language: sets the captions of all forms, then runs the label routine
+/// of drawing_units.
 void set_english_captions(program& kavetta);
 void set_german_captions(program& kavetta);
-/// The routine of the current language: 1 English, 2 German, anything else leaves the captions alone.
+/// The routine of the current language: 1 English, 2 German, anything else leaves the captions
+/// alone.
 void set_captions(program& kavetta);
 
 /// A click on a flag: sets the language, unloads perf_res, runs the caption routine.
 void choose_language(program& kavetta, user& person, std::int16_t language);
 
-/// The unit label routines, run by a click on dimens1 (millimetres) and dimens2 (inches). No entry changes.
+/// The unit label routines, run by a click on dimens1 (millimetres) and dimens2 (inches). No entry
+/// changes.
 void set_mm_labels(program& kavetta);
 void set_inch_labels(program& kavetta);
 
-/// A selection in the unittype list. Converts capacity and volumereqd through the fixed-point type, and sets
-/// units_label. Texts that are not in the list do nothing. Throws overflow for values that do not fit.
+/// A selection in the unittype list. Converts capacity and volumereqd through the fixed-point type,
+/// and sets units_label. Texts that are not in the list do nothing. Throws overflow for values that
+/// do not fit.
 void select_capacity_unit(program& kavetta, std::string_view list_text);
 
 }  // namespace kvt

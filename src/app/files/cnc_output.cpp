@@ -14,7 +14,8 @@ namespace kvt {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> RESOLUTIONS = {"0.01", "0.001", "0.0001", "0.00001", "0.000001"};
+constexpr std::array<std::string_view, 5> RESOLUTIONS = {"0.01", "0.001", "0.0001", "0.00001",
+                                                         "0.000001"};
 /// Decimals of the first resolution.
 constexpr int FIRST_DIGITS = 2;
 
@@ -41,10 +42,12 @@ std::string tool_too_great(const program& kavetta, message text, double largest)
            std::string(text_of(kavetta, message::select_tool_size));
 }
 
-/// One press of okbutton, check by check. Each check shows its message and answers false when it fails.
+/// One press of okbutton, check by check. Each check shows its message and answers false when it
+/// fails.
 class form_checks {
   public:
-    form_checks(program& kavetta, user& person, cnc_form& form) : kavetta_(kavetta), person_(person), form_(form) {}
+    form_checks(program& kavetta, user& person, cnc_form& form)
+        : kavetta_(kavetta), person_(person), form_(form) {}
 
     bool run() {
         if (!has_resolution() || !has_tool_sizes()) {
@@ -70,10 +73,13 @@ class form_checks {
         return false;
     }
 
-    bool has_resolution() { return !form_.machine_res_combo.empty() || refuse(resolution_message(kavetta_)); }
+    bool has_resolution() {
+        return !form_.machine_res_combo.empty() || refuse(resolution_message(kavetta_));
+    }
 
     bool has_tool_sizes() {
-        for (const std::size_t file : {INNER_OFFSET, INNER_OFFSET_CHECKED, OUTER_OFFSET, INLET_POCKET, OUTLET_POCKET}) {
+        for (const std::size_t file :
+             {INNER_OFFSET, INNER_OFFSET_CHECKED, OUTER_OFFSET, INLET_POCKET, OUTLET_POCKET}) {
             if (ticked(file) && form_.toolsize.empty()) {
                 return refuse(text_of(kavetta_, message::tool_size_required));
             }
@@ -99,8 +105,8 @@ class form_checks {
         if (!offset || radouter - kavetta_.cnc_choices.tool_diameter / 2.0 >= 0.0) {
             return true;
         }
-        return refuse(std::string(text_of(kavetta_, message::tool_too_great_for_rotor)) + number_text(radouter * 2.0) +
-                      " " + form_.toolunits);
+        return refuse(std::string(text_of(kavetta_, message::tool_too_great_for_rotor)) +
+                      number_text(radouter * 2.0) + " " + form_.toolunits);
     }
 
     bool tool_fits_port(std::size_t file) {
@@ -108,8 +114,9 @@ class form_checks {
         if (!ticked(file) || kavetta_.cnc_choices.tool_diameter / 2.0 <= port_radius) {
             return true;
         }
-        return refuse_entry(form_.toolsize, "toolsize",
-                            tool_too_great(kavetta_, message::tool_too_great_for_port_radius, port_radius * 2.0));
+        return refuse_entry(
+            form_.toolsize, "toolsize",
+            tool_too_great(kavetta_, message::tool_too_great_for_port_radius, port_radius * 2.0));
     }
 
     bool tool_fits_groove() {
@@ -134,7 +141,8 @@ class form_checks {
 
 file_dialog cnc_dialog(const program& kavetta, const cnc_file& file) {
     const std::int16_t language = kavetta.app_state.language;
-    return save_text_dialog(cnc_text(std::string(file.name) + "_title", language), cnc_text("filter", language), "cnc");
+    return save_text_dialog(cnc_text(std::string(file.name) + "_title", language),
+                            cnc_text("filter", language), "cnc");
 }
 
 /// The project file carries the path of some of the files.
@@ -143,11 +151,12 @@ void remember_path(app_state& state, const cnc_file& file, const std::string& pa
         std::string_view name;
         std::string app_state::*path;
     };
-    static constexpr std::array<remembered, 5> ROWS = {{{"inner_xy", &app_state::cnc_file_inner},
-                                                        {"inner_offset", &app_state::cnc_file_innertooloffset},
-                                                        {"outer_xy", &app_state::cnc_file_xyouter},
-                                                        {"outer_offset", &app_state::cnc_file_outertooloffset},
-                                                        {"outer_gcode", &app_state::cnc_file_outer}}};
+    static constexpr std::array<remembered, 5> ROWS = {
+        {{"inner_xy", &app_state::cnc_file_inner},
+         {"inner_offset", &app_state::cnc_file_innertooloffset},
+         {"outer_xy", &app_state::cnc_file_xyouter},
+         {"outer_offset", &app_state::cnc_file_outertooloffset},
+         {"outer_gcode", &app_state::cnc_file_outer}}};
     for (const remembered& row : ROWS) {
         if (row.name == file.name) {
             state.*row.path = path;
@@ -158,11 +167,12 @@ void remember_path(app_state& state, const cnc_file& file, const std::string& pa
 void ask_and_save(program& kavetta, user& person, std::size_t index) {
     const cnc_file& file = cnc_files()[index];
     bool written = false;
-    ask_and_save_text(kavetta, person, cnc_dialog(kavetta, file), [&](text_lines& text, const std::string& path) {
-        written = true;
-        remember_path(kavetta.app_state, file, path);
-        file.write(cnc_source_of(kavetta), text);
-    });
+    ask_and_save_text(kavetta, person, cnc_dialog(kavetta, file),
+                      [&](text_lines& text, const std::string& path) {
+                          written = true;
+                          remember_path(kavetta.app_state, file, path);
+                          file.write(cnc_source_of(kavetta), text);
+                      });
     if (written && index == INNER_OFFSET) {
         if (const std::string notice = wrong_side_notice(kavetta); !notice.empty()) {
             person.show_message(notice);
@@ -211,14 +221,17 @@ bool check_cnc_form(program& kavetta, user& person, cnc_form& form) {
 }
 
 cnc_source cnc_source_of(const program& kavetta) {
-    return {kavetta.design_params, kavetta.rotor_profiles,         kavetta.port_params,        kavetta.entries,
-            kavetta.cnc_choices,   kavetta.app_state.project_name, kavetta.app_state.language, inches(kavetta)};
+    return {kavetta.design_params,      kavetta.rotor_profiles,
+            kavetta.port_params,        kavetta.entries,
+            kavetta.cnc_choices,        kavetta.app_state.project_name,
+            kavetta.app_state.language, inches(kavetta)};
 }
 
 std::string wrong_side_notice(const program& kavetta) {
     int count = 0;
     try {
-        const double tool_radius = cutter_radius_mm(kavetta.cnc_choices.tool_diameter, inches(kavetta));
+        const double tool_radius =
+            cutter_radius_mm(kavetta.cnc_choices.tool_diameter, inches(kavetta));
         count = wrong_side_count(kavetta.design_params, kavetta.rotor_profiles, tool_radius);
     } catch (const run_time_error&) {
         return "";  // the file ended there too

@@ -1,4 +1,5 @@
-// The CNC output dialog, Form3: which files, which cutter, which resolution, and the run of the writers.
+// The CNC output dialog, Form3: which files, which cutter, which resolution, and the run of the
+// writers.
 #pragma once
 
 #include "app/program.hpp"
@@ -20,25 +21,30 @@ struct cnc_form {
     std::vector<std::string> machine_res_items;  ///< the list of the combo box
 };
 
-/// The form as it loads: units of the project, the five resolutions with the locale's decimal mark, nothing ticked.
+/// The form as it loads: units of the project, the five resolutions with the locale's decimal mark,
+/// nothing ticked.
 cnc_form open_cnc_form(const program& kavetta, char decimal_mark = '.');
 
-/// A click on a tick box, by its index in cnc_files. The outlet's pocket box shows the entry of the groove's tool when
-/// metering_groove is ticked too; without the tick the entry is hidden and emptied.
+/// A click on a tick box, by its index in cnc_files. The outlet's pocket box shows the entry of the
+/// groove's tool when metering_groove is ticked too; without the tick the entry is hidden and
+/// emptied.
 void tick_cnc_file(const program& kavetta, cnc_form& form, std::size_t file, bool ticked);
 
-/// The boxes of okbutton: the checks in their order, each with its message, then the ticked writers in theirs, each
-/// with its save dialog. Answers whether the form closes: false when a check failed; nothing is written then. A file
-/// whose dialog is cancelled is skipped; a run-time failure ends its file, which is saved as far as it got. Kept: the
-/// check of the port radius compares the diameter as typed, in inches too, with millimetres; cnc_output_test holds it.
+/// The boxes of okbutton: the checks in their order, each with its message, then the ticked writers
+/// in theirs, each with its save dialog. Answers whether the form closes: false when a check
+/// failed; nothing is written then. A file whose dialog is cancelled is skipped; a run-time failure
+/// ends its file, which is saved as far as it got. Kept: the check of the port radius compares the
+/// diameter as typed, in inches too, with millimetres; cnc_output_test holds it.
 bool write_cnc_files(program& kavetta, user& person, cnc_form& form);
 
 // The parts of okbutton, shared with the batch program.
 
-/// Decimals for a resolution text: 2 for "0.01" or "0,01" to 6 for "0.000001"; the last choice for any other text.
+/// Decimals for a resolution text: 2 for "0.01" or "0,01" to 6 for "0.000001"; the last choice for
+/// any other text.
 std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice);
 
-/// The first check that fails shows its message and answers false; toolsize and groovetooltext get points for commas.
+/// The first check that fails shows its message and answers false; toolsize and groovetooltext get
+/// points for commas.
 bool check_cnc_form(program& kavetta, user& person, cnc_form& form);
 
 /// The source of the writers: the program's records and choices.

@@ -45,8 +45,9 @@ void append_dxf_file(text_lines& out, dxf_file file, const program& kavetta) {
 }
 
 void save_dxf_file(const program& kavetta, user& person, dxf_file file) {
-    ask_and_save_text(kavetta, person, dxf_dialog(kavetta, file),
-                      [&](text_lines& text, const std::string&) { append_dxf_file(text, file, kavetta); });
+    ask_and_save_text(
+        kavetta, person, dxf_dialog(kavetta, file),
+        [&](text_lines& text, const std::string&) { append_dxf_file(text, file, kavetta); });
 }
 
 void open_dxf_menu(program& kavetta) {

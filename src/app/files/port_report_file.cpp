@@ -10,7 +10,8 @@ namespace kvt {
 
 std::filesystem::path port_report_folder(const program& kavetta) {
     const app_state& state = kavetta.app_state;
-    return state.projects_folder.empty() ? existing_folder_of(kavetta, state.project_path) : state.projects_folder;
+    return state.projects_folder.empty() ? existing_folder_of(kavetta, state.project_path)
+                                         : state.projects_folder;
 }
 
 std::vector<std::string> port_report(const program& kavetta) {

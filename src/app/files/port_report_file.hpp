@@ -9,10 +9,12 @@
 
 namespace kvt {
 
-/// projects_folder; when it is empty the folder of the project's path, else the program's folder with "projects".
+/// projects_folder; when it is empty the folder of the project's path, else the program's folder
+/// with "projects".
 std::filesystem::path port_report_folder(const program& kavetta);
 
-/// The 24 lines for the ports as they stand, dated with program::date or, when that is empty, with today's date.
+/// The 24 lines for the ports as they stand, dated with program::date or, when that is empty, with
+/// today's date.
 std::vector<std::string> port_report(const program& kavetta);
 
 /// The lines as the bytes of the file.

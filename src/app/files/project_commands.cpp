@@ -33,13 +33,15 @@ file_dialog project_dialog(const program& kavetta, message title_end) {
     return dialog;
 }
 
-void show_failure_status(const program& kavetta, user& person, message id, const run_time_error& error) {
+void show_failure_status(const program& kavetta, user& person, message id,
+                         const run_time_error& error) {
     person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
                        std::string(failure_text(error.kind(), kavetta.app_state.language)));
 }
 
 void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {
-    person.show_status(std::string(message_text(id, kavetta.app_state.language)) + std::string(path));
+    person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
+                       std::string(path));
 }
 
 void bind_to_file(program& kavetta) {
@@ -51,7 +53,8 @@ void remember_projects_folder(program& kavetta) {
     kavetta.app_state.projects_folder = existing_folder_of(kavetta, kavetta.app_state.project_path);
 }
 
-/// Open from step 4 on: load, settings at once so that the list survives a crash, folder of the next dialog.
+/// Open from step 4 on: load, settings at once so that the list survives a crash, folder of the
+/// next dialog.
 void load_and_remember(program& kavetta, user& person, std::string_view path) {
     load_project(kavetta, person, path);
     save_settings(kavetta);
@@ -59,7 +62,8 @@ void load_and_remember(program& kavetta, user& person, std::string_view path) {
     show_done_status(kavetta, person, message::project_opened, path);
 }
 
-/// The name without its last four characters, whatever they are; empty for four characters or fewer.
+/// The name without its last four characters, whatever they are; empty for four characters or
+/// fewer.
 std::string without_last_four(const std::string& name) {
     std::size_t end = name.size();
     for (int cut = 0; cut < 4 && end > 0; ++cut) {
@@ -117,7 +121,8 @@ void open_project(program& kavetta, user& person) {
         const bool first_time = kavetta.app_state.projects_folder.empty();
         find_projects_folder(kavetta);
         file_dialog dialog = project_dialog(kavetta, message::open_project_title);
-        // Kept: once the folder is known, Open leaves the start folder to the platform's own memory; Save As doesn't.
+        // Kept: once the folder is known, Open leaves the start folder to the platform's own
+        // memory; Save As doesn't.
         dialog.folder = first_time ? kavetta.app_state.projects_folder : "";
         dialog.flags = HIDE_READ_ONLY;
         const std::optional<std::string> path = person.choose_file(dialog);

@@ -8,31 +8,36 @@
 
 namespace kvt {
 
-/// New Project: name dialog (Cancel goes on with the name that stood before), Clear Design, project reset.
+/// New Project: name dialog (Cancel goes on with the name that stood before), Clear Design, project
+/// reset.
 void new_project(program& kavetta, user& person);
 
-/// Open: dialog, then load. Any run-time failure ends the command with a line in the status bar and no message;
-/// what was assigned before it stays.
+/// Open: dialog, then load. Any run-time failure ends the command with a line in the status bar and
+/// no message; what was assigned before it stays.
 void open_project(program& kavetta, user& person);
 
-/// Open from its fourth step on, without the dialog (a path given at the start, a dropped file). The same handler.
+/// Open from its fourth step on, without the dialog (a path given at the start, a dropped file).
+/// The same handler.
 void open_project_file(program& kavetta, user& person, std::string_view path);
 
 /// Previous design: loads recent entry 0 .. 3. Has no handler: throws run_time_error.
 void previous_design(program& kavetta, user& person, int index);
 
-/// What Open and Previous design share: read the file, assign everything, set the title, reset the project, update
-/// the recent list, switch the assist off. Throws run_time_error; what was assigned before it stays.
+/// What Open and Previous design share: read the file, assign everything, set the title, reset the
+/// project, update the recent list, switch the assist off. Throws run_time_error; what was assigned
+/// before it stays.
 void load_project(program& kavetta, user& person, std::string_view path);
 
-/// The part of load_project that takes entries and items over and resets the results: the project gets neither a path
-/// nor a file nor a title. Throws like load_project.
+/// The part of load_project that takes entries and items over and resets the results: the project
+/// gets neither a path nor a file nor a title. Throws like load_project.
 void load_entries(program& kavetta, user& person, const std::string& path);
 
-/// Save: to project_path when the project has a file, else Save As. Throws run_time_error when it can't be written.
+/// Save: to project_path when the project has a file, else Save As. Throws run_time_error when it
+/// can't be written.
 void save_project(program& kavetta, user& person);
 
-/// Save As. Any run-time failure ends the command with a line in the status bar. True when the file was written.
+/// Save As. Any run-time failure ends the command with a line in the status bar. True when the file
+/// was written.
 bool save_project_as(program& kavetta, user& person);
 
 /// Clear Design: boxes to their defaults; asks whether fluid and material values are kept.

@@ -16,15 +16,17 @@ namespace {
 
 using box = std::string entries::*;
 
-/// The rotor boxes in the order of the file. coarseness is not among them: it is "1" after every load.
-constexpr std::array<box, 11> ROTOR_BOXES = {&entries::volumereqd,  &entries::shaftdiameter, &entries::thick,
-                                             &entries::maxdiameter, &entries::numlobes,      &entries::clearn,
-                                             &entries::minmaterial, &entries::ecc,           &entries::radinnroot,
-                                             &entries::radouter,    &entries::fillet};
+/// The rotor boxes in the order of the file. coarseness is not among them: it is "1" after every
+/// load.
+constexpr std::array<box, 11> ROTOR_BOXES = {
+    &entries::volumereqd, &entries::shaftdiameter, &entries::thick,       &entries::maxdiameter,
+    &entries::numlobes,   &entries::clearn,        &entries::minmaterial, &entries::ecc,
+    &entries::radinnroot, &entries::radouter,      &entries::fillet};
 
 /// Entries that no project file holds.
 bool is_stored(const entry_field& field) {
-    return field.name != "Face_area_value" && field.name != "OD_area_value" && field.name != "UTS_value";
+    return field.name != "Face_area_value" && field.name != "OD_area_value" &&
+           field.name != "UTS_value";
 }
 
 void assign_rotor_boxes(program& kavetta, const project_record& record) {
@@ -44,24 +46,28 @@ void assign_units(program& kavetta, const project_record& record) {
     } else {
         set_inch_labels(kavetta);
     }
-    // The selection in the list is one like the user's: it runs the conversion, with factor 1. An unknown code
-    // leaves list, caption and required capacity alone.
-    if (state.capacity_unit >= 1 && state.capacity_unit <= static_cast<int>(CAPACITY_UNIT_TEXTS.size())) {
-        select_capacity_unit(kavetta, CAPACITY_UNIT_TEXTS[static_cast<std::size_t>(state.capacity_unit - 1)]);
+    // The selection in the list is one like the user's: it runs the conversion, with factor 1. An
+    // unknown code leaves list, caption and required capacity alone.
+    if (state.capacity_unit >= 1 &&
+        state.capacity_unit <= static_cast<int>(CAPACITY_UNIT_TEXTS.size())) {
+        select_capacity_unit(
+            kavetta, CAPACITY_UNIT_TEXTS[static_cast<std::size_t>(state.capacity_unit - 1)]);
     }
 }
 
 void assign_dimensions(program& kavetta, const project_record& record) {
     kavetta.entries.axial_clear = record.boxes.axial_clear;
     kavetta.entries.radial_clear = record.boxes.radial_clear;
-    // Kept: as typed, also in inches, so the first Calculate Profiles finds both unchanged and keeps the root radius.
+    // Kept: as typed, also in inches, so the first Calculate Profiles finds both unchanged and
+    // keeps the root radius.
     kavetta.design_params.ecc = number_of_text(commas_to_points(record.boxes.ecc));
     kavetta.design_params.radinnroot = number_of_text(commas_to_points(record.boxes.radinnroot));
 }
 
 void assign_check_box(program& kavetta, const entry_field& field, const std::string& state) {
     if (state != "0" && state != "1") {
-        throw run_time_error(failure::invalid_property_value, std::string(field.name) + " = " + state);
+        throw run_time_error(failure::invalid_property_value,
+                             std::string(field.name) + " = " + state);
     }
     set_porting_check(kavetta, field.member, state);
 }

@@ -11,9 +11,10 @@ namespace kvt {
 /// The record that Save writes: the boxes as typed and the items of state. path is line 1.
 project_record project_record_of(const program& kavetta, std::string_view path);
 
-/// Puts the boxes and items of a record into the program, in the order of Open: the rotor boxes, the units, the
-/// clearances, eccentricity and inner root as numbers, then ports and performance. Throws run_time_error when line
-/// 11 or 12 is no number or a check line holds something else than 0 or 1; what was assigned before stays.
+/// Puts the boxes and items of a record into the program, in the order of Open: the rotor boxes,
+/// the units, the clearances, eccentricity and inner root as numbers, then ports and performance.
+/// Throws run_time_error when line 11 or 12 is no number or a check line holds something else than
+/// 0 or 1; what was assigned before stays.
 void assign_project_record(program& kavetta, const project_record& record);
 
 /// Writes the entries to a file as Save does, without any other effect. Throws run_time_error.

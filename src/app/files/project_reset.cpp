@@ -8,12 +8,14 @@ namespace kvt {
 
 namespace {
 
-// Kept: New leaves RIPPLE_graphview2 loaded and Open leaves PRESS_RIP_graphview2; project_reset_test holds it.
+// Kept: New leaves RIPPLE_graphview2 loaded and Open leaves PRESS_RIP_graphview2;
+// project_reset_test holds it.
 constexpr std::array NEW_UNLOADS = {"perf_res",         "FLOW_graphview2",      "LOAD_graphview2",
                                     "HERTZ_graphview2", "PRESS_RIP_graphview2", "VE_graphview2",
                                     "EFFIC_graphview2", "OVREFF_graphview2"};
-constexpr std::array OPEN_UNLOADS = {"perf_res",          "FLOW_graphview2", "LOAD_graphview2",  "HERTZ_graphview2",
-                                     "RIPPLE_graphview2", "VE_graphview2",   "EFFIC_graphview2", "OVREFF_graphview2"};
+constexpr std::array OPEN_UNLOADS = {"perf_res",         "FLOW_graphview2",   "LOAD_graphview2",
+                                     "HERTZ_graphview2", "RIPPLE_graphview2", "VE_graphview2",
+                                     "EFFIC_graphview2", "OVREFF_graphview2"};
 
 void clear_chart_choice(entries& boxes) {
     for (const entry_field& field : entry_fields()) {

@@ -28,7 +28,8 @@ std::optional<run_time_error> save_text(const std::string& path, const text_writ
     return failed;
 }
 
-file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter, std::string_view extension) {
+file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter,
+                             std::string_view extension) {
     file_dialog dialog;
     dialog.saving = true;
     dialog.title = program_title() + std::string(title_suffix);
@@ -48,7 +49,8 @@ void ask_and_save_text(const program& kavetta, user& person, const file_dialog& 
     const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
     if (failed) {
         const std::int16_t language = kavetta.app_state.language;
-        person.show_status(std::string(message_text(message::save_failed, language)) + failed->text(language));
+        person.show_status(std::string(message_text(message::save_failed, language)) +
+                           failed->text(language));
     }
 }
 

@@ -14,15 +14,17 @@ namespace kvt {
 
 using text_writer = std::function<void(text_lines&)>;
 
-/// Runs the writer and saves what it appended, also when it failed. Answers the failure of the writer or of saving.
+/// Runs the writer and saves what it appended, also when it failed. Answers the failure of the
+/// writer or of saving.
 std::optional<run_time_error> save_text(const std::string& path, const text_writer& write);
 
-/// The dialog of every written file: the program's title with the suffix, the second row of the filter chosen, and a
-/// question before a file is overwritten.
-file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter, std::string_view extension);
+/// The dialog of every written file: the program's title with the suffix, the second row of the
+/// filter chosen, and a question before a file is overwritten.
+file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter,
+                             std::string_view extension);
 
-/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing; a failure ends the command
-/// with a line in the status bar and no message.
+/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing; a
+/// failure ends the command with a line in the status bar and no message.
 void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,
                        const std::function<void(text_lines&, const std::string& path)>& write);
 

@@ -28,12 +28,14 @@ step_header header_of(const program& kavetta, const std::string& path) {
 }  // namespace
 
 std::string_view step_file_name(step_file file) {
-    constexpr std::string_view NAMES[] = {"inner",          "outer",          "assembly",   "ports",
-                                          "inner_rotor_GT", "outer_rotor_GT", "in_port_GT", "out_port_GT"};
+    constexpr std::string_view NAMES[] = {"inner",      "outer",          "assembly",
+                                          "ports",      "inner_rotor_GT", "outer_rotor_GT",
+                                          "in_port_GT", "out_port_GT"};
     return NAMES[static_cast<std::size_t>(file)];
 }
 
-void append_step_file(text_lines& out, step_file file, const program& kavetta, const std::string& path) {
+void append_step_file(text_lines& out, step_file file, const program& kavetta,
+                      const std::string& path) {
     const step_header header = header_of(kavetta, path);
     const design_params& design = kavetta.design_params;
     switch (file) {
@@ -57,14 +59,17 @@ void append_step_file(text_lines& out, step_file file, const program& kavetta, c
 
 void save_step_file(const program& kavetta, user& person, step_file file) {
     ask_and_save_text(kavetta, person, step_dialog(kavetta),
-                      [&](text_lines& text, const std::string& path) { append_step_file(text, file, kavetta, path); });
+                      [&](text_lines& text, const std::string& path) {
+                          append_step_file(text, file, kavetta, path);
+                      });
 }
 
 void write_gt_step_files(const program& kavetta, const std::string& folder) {
     for (const step_file file : GT_STEP_FILES) {
         const std::string path =
             (std::filesystem::path(folder) / (std::string(step_file_name(file)) + ".stp")).string();
-        const auto failed = save_text(path, [&](text_lines& text) { append_step_file(text, file, kavetta, path); });
+        const auto failed =
+            save_text(path, [&](text_lines& text) { append_step_file(text, file, kavetta, path); });
         if (failed) {
             throw *failed;
         }

@@ -29,8 +29,8 @@ void tell(const program& kavetta, user& person, message text) {
     person.show_message(message_text(text, kavetta.app_state.language));
 }
 
-/// Before any check, so a run that a message stops leaves the enablings as they are now. A repeat asked for by the
-/// zoom-all button keeps the results.
+/// Before any check, so a run that a message stops leaves the enablings as they are now. A repeat
+/// asked for by the zoom-all button keeps the results.
 void reset_results(program& kavetta, user& person) {
     if (kavetta.app_state.zoom_all_requested == -1) {
         return;
@@ -60,7 +60,8 @@ bool has_refused_entry(const program& kavetta, user& person) {
 
 void start_view_anew(program& kavetta) {
     kavetta.app_state.rotation_angle = 0.0;
-    kavetta.entries.rotated_angle = number_text(floor_to_int(kavetta.app_state.rotation_angle * 10.0) / 10.0);
+    kavetta.entries.rotated_angle =
+        number_text(floor_to_int(kavetta.app_state.rotation_angle * 10.0) / 10.0);
     clear_rotors(kavetta.design_view);
 }
 
@@ -97,14 +98,16 @@ void check_interference(const program& kavetta, user& person) {
     const auto found = find_interference(kavetta.design_params, kavetta.rotor_profiles);
     if (found) {
         const std::int16_t language = kavetta.app_state.language;
-        person.show_message(
-            std::string(message_text(message::interference_between, language)) + number_text(found->gap_min) +
-            std::string(message_text(message::interference_and, language)) + number_text(found->gap_max) +
-            std::string(message_text(message::interference_end, language)));
+        person.show_message(std::string(message_text(message::interference_between, language)) +
+                            number_text(found->gap_min) +
+                            std::string(message_text(message::interference_and, language)) +
+                            number_text(found->gap_max) +
+                            std::string(message_text(message::interference_end, language)));
     }
 }
 
-/// From the fillet check to the interference check; every run-time failure in here has the caller's handler.
+/// From the fillet check to the interference check; every run-time failure in here has the caller's
+/// handler.
 run_end outer_rotor_steps(program& kavetta, user& person) {
     const design_params& design = kavetta.design_params;
     rotor_profiles& rotors = kavetta.rotor_profiles;
@@ -123,8 +126,8 @@ run_end outer_rotor_steps(program& kavetta, user& person) {
     return run_end::ok;
 }
 
-/// The Error exit after a failure from the fillet check on: its message, then the closing steps. These design the ports
-/// again, and when that fails too, its message ends the run.
+/// The Error exit after a failure from the fillet check on: its message, then the closing steps.
+/// These design the ports again, and when that fails too, its message ends the run.
 run_end error_exit(program& kavetta, user& person) {
     tell(kavetta, person, message::radouter_too_small);
     try {
@@ -167,7 +170,8 @@ run_end calculate_profiles(program& kavetta, user& person) {
     }
     person.set_busy(true);
     start_view_anew(kavetta);
-    keep_or_drop_outer_root(boxes, design);  // compares with the stored design, so before it is read anew
+    keep_or_drop_outer_root(boxes,
+                            design);  // compares with the stored design, so before it is read anew
     read_entries(boxes, inches, design, rotors);
     size_inner_plot(rotors);
     if (shaft_material_too_thin(design)) {

@@ -29,11 +29,12 @@ constexpr std::array ROTOR_DEFAULTS = {
     default_text{&entries::numlobes, "3"},     default_text{&entries::fillet, ""},
     default_text{&entries::outer_root, ""}};
 
-constexpr std::array<box, 4> PORTING_CHECKS = {&entries::outlet_double_sided, &entries::inlet_double_sided,
-                                               &entries::shadow_ports, &entries::metering_groove};
+constexpr std::array<box, 4> PORTING_CHECKS = {&entries::outlet_double_sided,
+                                               &entries::inlet_double_sided, &entries::shadow_ports,
+                                               &entries::metering_groove};
 
-constexpr std::array<box, 4> RANGE_BOXES = {&entries::speed_hi, &entries::speed_lo, &entries::pressure_hi,
-                                            &entries::pressure_lo};
+constexpr std::array<box, 4> RANGE_BOXES = {&entries::speed_hi, &entries::speed_lo,
+                                            &entries::pressure_hi, &entries::pressure_lo};
 
 constexpr std::array<box, 9> FLUID_AND_MATERIAL_BOXES = {
     &entries::fluid_density,  &entries::kin_visc,       &entries::vap_press,
@@ -51,12 +52,14 @@ void clear_port_entries(program& kavetta) {
     }
 }
 
-/// True when fluid and material values go too: asked, unless the user chose New at the start prompt.
+/// True when fluid and material values go too: asked, unless the user chose New at the start
+/// prompt.
 bool drops_fluid_and_material(program& kavetta, user& person) {
     if (kavetta.app_state.new_pressed) {
         return true;
     }
-    const std::string_view question = message_text(message::keep_existing_values, kavetta.app_state.language);
+    const std::string_view question =
+        message_text(message::keep_existing_values, kavetta.app_state.language);
     return person.ask(question, question_buttons::yes_no) == answer::no;
 }
 

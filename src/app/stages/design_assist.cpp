@@ -87,8 +87,8 @@ void hide_assist(program& kavetta) {
 }
 
 assist_look look_of_assist(const app_state& state) {
-    const text_row* row =
-        find_text(text_kind::fixed_caption, "Form1", state.assist_on ? "Des_assist_check_on" : "Des_assist_check");
+    const text_row* row = find_text(text_kind::fixed_caption, "Form1",
+                                    state.assist_on ? "Des_assist_check_on" : "Des_assist_check");
     assist_look look;
     look.caption = row_text(*row, state.language);
     look.designer_enabled = state.assist_on;

@@ -73,11 +73,17 @@ bool misses_groove_entry(program& kavetta, user& person) {
 }
 
 port_work work_of(program& kavetta, user& person) {
-    return {kavetta.port_params,        kavetta.design_params, kavetta.rotor_profiles, kavetta.entries, person,
-            kavetta.app_state.language, inches(kavetta)};
+    return {kavetta.port_params,
+            kavetta.design_params,
+            kavetta.rotor_profiles,
+            kavetta.entries,
+            person,
+            kavetta.app_state.language,
+            inches(kavetta)};
 }
 
-/// A port that was refused is drawn again only where it is on display, so that it has the scale of the rotors.
+/// A port that was refused is drawn again only where it is on display, so that it has the scale of
+/// the rotors.
 void draw_ports(program& kavetta, const ports_designed& done) {
     design_view& view = kavetta.design_view;
     if (done.inlet || shows_outline(view.inlet_portline)) {
@@ -120,7 +126,9 @@ ports_designed build_and_draw(program& kavetta, user& person) {
 /// Sets recalc_quiet for a run of Design Ports, and clears it however that ends.
 class quiet_run {
   public:
-    quiet_run(app_state& state, bool quiet) : state_(state) { state_.recalc_quiet = quiet ? -1 : 0; }
+    quiet_run(app_state& state, bool quiet) : state_(state) {
+        state_.recalc_quiet = quiet ? -1 : 0;
+    }
     ~quiet_run() { state_.recalc_quiet = 0; }
     quiet_run(const quiet_run&) = delete;
     quiet_run& operator=(const quiet_run&) = delete;
@@ -162,8 +170,8 @@ void clear_ports(program& kavetta, user&) {
     for (const box entry : TEXT_ENTRIES) {
         (kavetta.entries.*entry).clear();
     }
-    for (const box check : {&entries::inlet_double_sided, &entries::outlet_double_sided, &entries::shadow_ports,
-                            &entries::metering_groove}) {
+    for (const box check : {&entries::inlet_double_sided, &entries::outlet_double_sided,
+                            &entries::shadow_ports, &entries::metering_groove}) {
         set_porting_check(kavetta, check, "0");
     }
     apply_chain(kavetta.enabling, chain_event::ports_cleared);

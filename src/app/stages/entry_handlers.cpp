@@ -30,7 +30,8 @@ void leave_numlobes(program& kavetta, user& person) {
 
 void leave_maxdiameter(program& kavetta, user& person) {
     if (!(val(kavetta.entries.maxdiameter) > 0.0)) {
-        person.show_message(message_text(message::must_be_greater_than_zero, kavetta.app_state.language));
+        person.show_message(
+            message_text(message::must_be_greater_than_zero, kavetta.app_state.language));
         kavetta.entries.maxdiameter = "1";
     }
 }

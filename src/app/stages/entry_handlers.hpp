@@ -1,5 +1,5 @@
-// What happens when the user leaves an entry: the lobe number, the maximum diameter and the drawing resolution are
-// checked at once.
+// What happens when the user leaves an entry: the lobe number, the maximum diameter and the drawing
+// resolution are checked at once.
 #pragma once
 
 #include "app/program.hpp"

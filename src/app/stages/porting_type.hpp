@@ -13,12 +13,13 @@ inline bool has_metering_groove(const program& kavetta) {
     return kavetta.entries.metering_groove == "1";
 }
 
-/// Both double-sided boxes together untick and disable shadow_ports; any other combination enables it.
+/// Both double-sided boxes together untick and disable shadow_ports; any other combination enables
+/// it.
 void apply_shadow_rule(program& kavetta);
 
-/// The click on inlet_double_sided, outlet_double_sided, shadow_ports or metering_groove, after the box changed:
-/// performance must be calculated anew; both double-sided boxes together untick and disable shadow_ports;
-/// metering_groove decides whether the groove entries can be used.
+/// The click on inlet_double_sided, outlet_double_sided, shadow_ports or metering_groove, after the
+/// box changed: performance must be calculated anew; both double-sided boxes together untick and
+/// disable shadow_ports; metering_groove decides whether the groove entries can be used.
 void porting_type_clicked(program& kavetta);
 
 /// Sets a check box from the program. A box whose state changes acts as if it had been clicked.

@@ -46,7 +46,8 @@ bool has_changed(const program& kavetta, stage which, const std::optional<noted_
 }  // namespace
 
 void note_stage(program& kavetta, stage ran) {
-    note_of(kavetta.stage_entries, ran) = noted_entries{kavetta.entries, kavetta.app_state.drawing_units};
+    note_of(kavetta.stage_entries, ran) =
+        noted_entries{kavetta.entries, kavetta.app_state.drawing_units};
 }
 
 stale_stages find_stale_stages(const program& kavetta) {
@@ -56,7 +57,8 @@ stale_stages find_stale_stages(const program& kavetta) {
     stale.profiles = has_rotors(view) && has_changed(kavetta, stage::profiles, notes.profiles);
     stale.ports = (shows_outline(view.inlet_portline) || shows_outline(view.outlet_portline)) &&
                   has_changed(kavetta, stage::ports, notes.ports);
-    stale.performance = kavetta.enabling.create_charts && has_changed(kavetta, stage::performance, notes.performance);
+    stale.performance = kavetta.enabling.create_charts &&
+                        has_changed(kavetta, stage::performance, notes.performance);
     return stale;
 }
 
@@ -69,7 +71,8 @@ std::string_view stale_hint(const program& kavetta) {
     if (stale.ports) {
         return message_text(message::stale_ports, language);
     }
-    return stale.performance ? message_text(message::stale_performance, language) : std::string_view();
+    return stale.performance ? message_text(message::stale_performance, language)
+                             : std::string_view();
 }
 
 }  // namespace kvt

@@ -1,5 +1,5 @@
-// stale_results: which results on display don't belong to the present entries any more. A hint only: typing disables
-// nothing.
+// stale_results: which results on display don't belong to the present entries any more. A hint
+// only: typing disables nothing.
 #pragma once
 
 #include "app/program.hpp"
@@ -10,12 +10,13 @@ namespace kvt {
 
 enum class stage { profiles, ports, performance };
 
-/// Notes the entries that a stage has just read, after it has cleaned them and filled in its defaults.
+/// Notes the entries that a stage has just read, after it has cleaned them and filled in its
+/// defaults.
 void note_stage(program& kavetta, stage ran);
 
-/// A stage is stale when its results are on display and an entry that it reads, or the unit of length, has changed
-/// since it ran. Calculate Profiles reads the entries of Form1 but volumereqd, Design Ports those and portdes,
-/// Calculate Performance those and Perffrm.
+/// A stage is stale when its results are on display and an entry that it reads, or the unit of
+/// length, has changed since it ran. Calculate Profiles reads the entries of Form1 but volumereqd,
+/// Design Ports those and portdes, Calculate Performance those and Perffrm.
 struct stale_stages {
     bool profiles = false;     ///< rotors are drawn
     bool ports = false;        ///< ports are drawn
@@ -26,7 +27,8 @@ struct stale_stages {
 
 stale_stages find_stale_stages(const program& kavetta);
 
-/// The hint for the status bar in the current language: the first stage to run again; empty when nothing is stale.
+/// The hint for the status bar in the current language: the first stage to run again; empty when
+/// nothing is stale.
 std::string_view stale_hint(const program& kavetta);
 
 }  // namespace kvt

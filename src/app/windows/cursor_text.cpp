@@ -15,8 +15,10 @@ std::string text_of(const point2& place, const app_state& state) {
     const bool inches = state.drawing_units == INCHES;
     const double unit = inches ? MM_PER_INCH : 1.0;
     const int decimals = inches ? 4 : 2;
-    return fixed_number(place.x / unit, decimals) + ", " + fixed_number(place.y / unit, decimals) + " " +
-           std::string(message_text(inches ? message::unit_inches : message::unit_mm, state.language));
+    return fixed_number(place.x / unit, decimals) + ", " + fixed_number(place.y / unit, decimals) +
+           " " +
+           std::string(
+               message_text(inches ? message::unit_inches : message::unit_mm, state.language));
 }
 
 }  // namespace

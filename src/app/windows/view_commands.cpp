@@ -8,7 +8,8 @@ namespace kvt {
 namespace {
 
 void redraw_at_angle(program& kavetta) {
-    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.app_state, kavetta.design_view);
+    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.app_state,
+                   kavetta.design_view);
 }
 
 void show_angle(program& kavetta) {
@@ -19,8 +20,8 @@ void show_angle(program& kavetta) {
 void zoom_to_present_band(program& kavetta, user& person) {
     person.set_busy(true);
     zoom_to_band(kavetta.design_params, kavetta.app_state);
-    redraw_zoomed(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params, kavetta.app_state,
-                  kavetta.design_view);
+    redraw_zoomed(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params,
+                  kavetta.app_state, kavetta.design_view);
 }
 
 }  // namespace

@@ -100,14 +100,16 @@ class clearing_circle {
 
 }  // namespace
 
-std::vector<std::vector<point2>> clearing_arcs(const pocket_shape& pocket, const pocket_region& region) {
+std::vector<std::vector<point2>> clearing_arcs(const pocket_shape& pocket,
+                                               const pocket_region& region) {
     const double t = pocket.tool_radius;
     const double f = pocket.fillet_r;
     const double width = pocket.outer_r - f - (f + pocket.inner_r);
     const int count = to_int16(floor_to_int(checked_divide(width, t)));
     std::vector<std::vector<point2>> arcs;
     for (std::int64_t i = 1; i <= INT16_MAX; ++i) {
-        const clearing_circle circle(region, pocket.centre, pocket.inner_r + f + static_cast<double>(i) * t, t);
+        const clearing_circle circle(region, pocket.centre,
+                                     pocket.inner_r + f + static_cast<double>(i) * t, t);
         if (i > count && !circle.reaches_uncut()) {
             break;
         }

@@ -8,14 +8,16 @@
 
 namespace kvt {
 
-/// How much nearer to the outline than asked for a point of a moved outline may come, mm: the corners of the half
-/// degree steps.
+/// How much nearer to the outline than asked for a point of a moved outline may come, mm: the
+/// corners of the half degree steps.
 inline constexpr double POCKET_TOLERANCE_MM = 0.002;
 
-/// Arcs about the pocket's centre at inner_r + f + i t, i = 1 .. Int((outer_r - inner_r - 2 f) / t), and on while the
-/// last arc and the last contour leave a part of the pocket uncut. Each one counterclockwise: its points stand at the
-/// half degrees and at the ends, where the room for the cutter ends. Arcs without room are missing.
-/// Throws overflow for more arcs than a 16-bit counter holds.
-std::vector<std::vector<point2>> clearing_arcs(const pocket_shape& pocket, const pocket_region& region);
+/// Arcs about the pocket's centre at inner_r + f + i t, i = 1 .. Int((outer_r - inner_r - 2 f) /
+/// t), and on while the last arc and the last contour leave a part of the pocket uncut. Each one
+/// counterclockwise: its points stand at the half degrees and at the ends, where the room for the
+/// cutter ends. Arcs without room are missing. Throws overflow for more arcs than a 16-bit counter
+/// holds.
+std::vector<std::vector<point2>> clearing_arcs(const pocket_shape& pocket,
+                                               const pocket_region& region);
 
 }  // namespace kvt

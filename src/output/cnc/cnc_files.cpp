@@ -28,16 +28,21 @@ constexpr std::array<cnc_file, CNC_FILE_COUNT> FILES = {{
     {"outer_gcode", "outer_rot_gcodes_checkbox", write_outer_gcode, false, {}},
     {"outer_lathe", "outer_rot_xc_lathe", write_outer_lathe, false, {}},
     {"inlet_xy", "inlet_port_xy_checkbox", write_port<write_port_xy, INLET>, false, INLET},
-    {"inlet_pocket", "inlet_port_xy_tool_checkbox", write_port<write_port_pocket, INLET>, true, INLET},
-    {"inlet_gcode", "inlet_port_gcodes_checkbox", write_port<write_port_gcode, INLET>, false, INLET},
+    {"inlet_pocket", "inlet_port_xy_tool_checkbox", write_port<write_port_pocket, INLET>, true,
+     INLET},
+    {"inlet_gcode", "inlet_port_gcodes_checkbox", write_port<write_port_gcode, INLET>, false,
+     INLET},
     {"outlet_xy", "outlet_port_xy_checkbox", write_port<write_port_xy, OUTLET>, false, OUTLET},
-    {"outlet_pocket", "outlet_port_xy_tool_checkbox", write_port<write_port_pocket, OUTLET>, true, OUTLET},
-    {"outlet_gcode", "outlet_port_gcode_checkbox", write_port<write_port_gcode, OUTLET>, false, OUTLET},
+    {"outlet_pocket", "outlet_port_xy_tool_checkbox", write_port<write_port_pocket, OUTLET>, true,
+     OUTLET},
+    {"outlet_gcode", "outlet_port_gcode_checkbox", write_port<write_port_gcode, OUTLET>, false,
+     OUTLET},
 }};
 
 static_assert(FILES[INNER_OFFSET].name == "inner_offset" &&
               FILES[INNER_OFFSET_CHECKED].name == "inner_offset_checked" &&
-              FILES[OUTER_OFFSET].name == "outer_offset" && FILES[INLET_POCKET].name == "inlet_pocket" &&
+              FILES[OUTER_OFFSET].name == "outer_offset" &&
+              FILES[INLET_POCKET].name == "inlet_pocket" &&
               FILES[OUTLET_POCKET].name == "outlet_pocket");
 
 }  // namespace

@@ -26,7 +26,7 @@ std::span<const cnc_file> cnc_files();
 const cnc_file* find_cnc_file(std::string_view name);
 
 /// Indexes of cnc_files that rules name.
-inline constexpr std::size_t INNER_OFFSET = 1, INNER_OFFSET_CHECKED = 2, OUTER_OFFSET = 5, INLET_POCKET = 9,
-                             OUTLET_POCKET = 12, CNC_FILE_COUNT = 14;
+inline constexpr std::size_t INNER_OFFSET = 1, INNER_OFFSET_CHECKED = 2, OUTER_OFFSET = 5,
+                             INLET_POCKET = 9, OUTLET_POCKET = 12, CNC_FILE_COUNT = 14;
 
 }  // namespace kvt

@@ -21,7 +21,10 @@ double cutter_radius_mm(double diameter, bool inches) {
 }
 
 cnc_lines::cnc_lines(text_lines& text, const cnc_source& source)
-    : text_(text), decimals_(source.choices.cnc_res_digits), inches_(source.inches), language_(source.language) {}
+    : text_(text),
+      decimals_(source.choices.cnc_res_digits),
+      inches_(source.inches),
+      language_(source.language) {}
 
 void cnc_lines::comment(std::string_view row, std::string_view rest) {
     text_.line(std::string(cnc_text(row, language_)) + std::string(rest));

@@ -14,8 +14,9 @@ namespace kvt {
 /// The text of a row of the CNC texts in a language.
 std::string_view cnc_text(std::string_view line, std::int16_t language);
 
-/// Appends lines to a text. Lengths come in mm and are divided by 25.4 in files in inches; every number has
-/// cnc_res_digits decimals. Nothing is ever taken back, so a writer that fails leaves what it wrote.
+/// Appends lines to a text. Lengths come in mm and are divided by 25.4 in files in inches; every
+/// number has cnc_res_digits decimals. Nothing is ever taken back, so a writer that fails leaves
+/// what it wrote.
 class cnc_lines {
   public:
     cnc_lines(text_lines& text, const cnc_source& source);
@@ -27,7 +28,8 @@ class cnc_lines {
     /// "X...Y..."
     void xy(point2 point);
     void xy(const std::vector<point2>& points);
-    /// "G01X...C...": a radius in mm and an angle in degrees, which has the same decimals and is never divided.
+    /// "G01X...C...": a radius in mm and an angle in degrees, which has the same decimals and is
+    /// never divided.
     void lathe_feed_g01(double radius, double degrees);
     /// "G01X...Y..."
     void feed_g01(point2 end);
@@ -50,8 +52,9 @@ class cnc_lines {
     std::int16_t language_;
 };
 
-/// The lathe line of a point: its radius, and its angle from the x axis by arctan(y / x) * 180 / PI_D with 180 or 360
-/// added by the quadrant. Kept: a point with x < 0 and y = 0 reads C0. Throws division_by_zero when x is 0.
+/// The lathe line of a point: its radius, and its angle from the x axis by arctan(y / x) * 180 /
+/// PI_D with 180 or 360 added by the quadrant. Kept: a point with x < 0 and y = 0 reads C0. Throws
+/// division_by_zero when x is 0.
 void add_lathe_line(cnc_lines& lines, point2 point);
 
 }  // namespace kvt

@@ -47,7 +47,8 @@ void add_port_preamble(cnc_lines& lines, const cnc_source& source, const port_pr
     lines.comment(head.pocket ? "origin_pocket_end" : "origin_inner_end", "");
     add_units(lines, source);
     lines.comment("file_contains", number_text(head.section_count) +
-                                       std::string(cnc_text("sections", source.language)) + (head.gcode ? "" : "//"));
+                                       std::string(cnc_text("sections", source.language)) +
+                                       (head.gcode ? "" : "//"));
 }
 
 }  // namespace kvt

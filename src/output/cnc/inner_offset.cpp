@@ -46,7 +46,8 @@ double angle_by_quadrant(std::int64_t i, const normal_angles& normal) {
     return takes_b ? normal.b : normal.a;
 }
 
-double literal_angle(const rotor_profiles& rotors, std::int64_t i, const normal_angles& normal, double distance) {
+double literal_angle(const rotor_profiles& rotors, std::int64_t i, const normal_angles& normal,
+                     double distance) {
     const point2 here = trochoid_at(rotors, i);
     double angle = angle_by_quadrant(i, normal);
     if (axis_distance(moved(here, angle, distance)) > axis_distance(here)) {
@@ -62,7 +63,8 @@ double literal_angle(const rotor_profiles& rotors, std::int64_t i, const normal_
 }
 
 /// The direction that leads towards the axis; a negative distance then leads away from it.
-double inward_angle(const rotor_profiles& rotors, std::int64_t i, const normal_angles& normal, double distance) {
+double inward_angle(const rotor_profiles& rotors, std::int64_t i, const normal_angles& normal,
+                    double distance) {
     const point2 here = trochoid_at(rotors, i);
     const double by_a = axis_distance(moved(here, normal.a, std::abs(distance)));
     const double by_b = axis_distance(moved(here, normal.b, std::abs(distance)));
@@ -71,26 +73,30 @@ double inward_angle(const rotor_profiles& rotors, std::int64_t i, const normal_a
 
 }  // namespace
 
-std::vector<point2> inner_offset_points(const design_params& design, const rotor_profiles& rotors, double tool_radius) {
+std::vector<point2> inner_offset_points(const design_params& design, const rotor_profiles& rotors,
+                                        double tool_radius) {
     const double D = offset_distance(design, tool_radius);
     std::vector<point2> points;
     for (std::int64_t i = 0; i < POINTS; ++i) {
-        points.push_back(moved(trochoid_at(rotors, i), literal_angle(rotors, i, normal_at(rotors, i), D), D));
+        points.push_back(
+            moved(trochoid_at(rotors, i), literal_angle(rotors, i, normal_at(rotors, i), D), D));
     }
     return points;
 }
 
-std::vector<point2> checked_inner_offset_points(const design_params& design, const rotor_profiles& rotors,
-                                                double tool_radius) {
+std::vector<point2> checked_inner_offset_points(const design_params& design,
+                                                const rotor_profiles& rotors, double tool_radius) {
     const double D = offset_distance(design, tool_radius);
     std::vector<point2> points;
     for (std::int64_t i = 0; i < POINTS; ++i) {
-        points.push_back(moved(trochoid_at(rotors, i), inward_angle(rotors, i, normal_at(rotors, i), D), D));
+        points.push_back(
+            moved(trochoid_at(rotors, i), inward_angle(rotors, i, normal_at(rotors, i), D), D));
     }
     return points;
 }
 
-int wrong_side_count(const design_params& design, const rotor_profiles& rotors, double tool_radius) {
+int wrong_side_count(const design_params& design, const rotor_profiles& rotors,
+                     double tool_radius) {
     const double D = offset_distance(design, tool_radius);
     int count = 0;
     for (std::int64_t i = 0; i < POINTS; ++i) {

@@ -13,7 +13,8 @@ namespace kvt {
 
 namespace {
 
-/// The outline moved inward by d along the normals of its sides; points nearer than d to any side are left out.
+/// The outline moved inward by d along the normals of its sides; points nearer than d to any side
+/// are left out.
 std::vector<point2> moved_inward(const pocket_region& region, double d) {
     const std::vector<point2>& outline = region.outline();
     const double side = region.counterclockwise() ? 1.0 : -1.0;
@@ -25,7 +26,8 @@ std::vector<point2> moved_inward(const pocket_region& region, double d) {
         if (length == 0.0) {
             continue;
         }
-        const point2 moved = {outline[i].x - side * d * along.y / length, outline[i].y + side * d * along.x / length};
+        const point2 moved = {outline[i].x - side * d * along.y / length,
+                              outline[i].y + side * d * along.x / length};
         if (region.is_clear(moved, d - POCKET_TOLERANCE_MM) && region.contains(moved)) {
             contour.push_back(moved);
         }
@@ -39,7 +41,8 @@ std::vector<point2> moved_inward(const pocket_region& region, double d) {
 /// Grows a path move by move, always with room for the cutter.
 class path_joiner {
   public:
-    path_joiner(const pocket_region& region, double clearance, const std::vector<point2>& last_contour)
+    path_joiner(const pocket_region& region, double clearance,
+                const std::vector<point2>& last_contour)
         : region_(region), clearance_(clearance), last_contour_(last_contour) {}
 
     /// Appends a run of points, with the moves that lead to its first one.
@@ -57,7 +60,9 @@ class path_joiner {
     const std::vector<point2>& path() const { return path_; }
 
   private:
-    bool has_room(point2 start, point2 end) const { return region_.is_clear_move(start, end, clearance_); }
+    bool has_room(point2 start, point2 end) const {
+        return region_.is_clear_move(start, end, clearance_);
+    }
 
     /// The nearest point of the last contour to which a straight move has room, as an index.
     std::optional<std::size_t> way_on(point2 from) const {
@@ -67,8 +72,8 @@ class path_joiner {
             return std::hypot(last_contour_[i].x - from.x, last_contour_[i].y - from.y);
         };
         std::ranges::sort(indexes, {}, distance);
-        const auto found =
-            std::ranges::find_if(indexes, [&](std::size_t i) { return has_room(from, last_contour_[i]); });
+        const auto found = std::ranges::find_if(
+            indexes, [&](std::size_t i) { return has_room(from, last_contour_[i]); });
         return found == indexes.end() ? std::nullopt : std::optional(*found);
     }
 
@@ -94,10 +99,12 @@ class path_joiner {
     }
 
     void go_along_contour(point2 target) {
-        const std::optional<std::size_t> from = last_contour_.size() < 2 ? std::nullopt : way_on(path_.back());
+        const std::optional<std::size_t> from =
+            last_contour_.size() < 2 ? std::nullopt : way_on(path_.back());
         const std::optional<std::size_t> to = from ? way_on(target) : std::nullopt;
         if (!to) {
-            throw run_time_error(failure::invalid_procedure_call, "the cutter cannot reach the next pass");
+            throw run_time_error(failure::invalid_procedure_call,
+                                 "the cutter cannot reach the next pass");
         }
         const std::vector<point2> up = stretch(*from, *to, true);
         const std::vector<point2> down = stretch(*from, *to, false);
@@ -112,7 +119,8 @@ class path_joiner {
 };
 
 bool is_nearer(point2 from, point2 first, point2 second) {
-    return std::hypot(first.x - from.x, first.y - from.y) <= std::hypot(second.x - from.x, second.y - from.y);
+    return std::hypot(first.x - from.x, first.y - from.y) <=
+           std::hypot(second.x - from.x, second.y - from.y);
 }
 
 /// Int((f - t) / (0.5 t)).
@@ -136,7 +144,8 @@ std::vector<point2> pocket_path(const pocket_shape& pocket) {
         joined.add(moved_inward(region, pocket.fillet_r - k * 0.5 * t));
     }
     std::vector<std::vector<point2>> arcs = clearing_arcs(pocket, region);
-    bool forward = joined.empty() || arcs.empty() || is_nearer(joined.end(), arcs.front().front(), arcs.front().back());
+    bool forward = joined.empty() || arcs.empty() ||
+                   is_nearer(joined.end(), arcs.front().front(), arcs.front().back());
     for (std::vector<point2>& arc : arcs) {
         if (!forward) {
             std::ranges::reverse(arc);

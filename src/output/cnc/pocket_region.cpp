@@ -41,8 +41,8 @@ double segments_distance(point2 a, point2 b, point2 c, point2 d) {
     if (segments_cross(a, b, c, d)) {
         return 0.0;
     }
-    return std::min(
-        {segment_distance(a, c, d), segment_distance(b, c, d), segment_distance(c, a, b), segment_distance(d, a, b)});
+    return std::min({segment_distance(a, c, d), segment_distance(b, c, d),
+                     segment_distance(c, a, b), segment_distance(d, a, b)});
 }
 
 point2 lowest(point2 a, point2 b) {
@@ -89,7 +89,8 @@ void pocket_region::fill_cells() {
     cells_.resize(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_));
     row_segments_.resize(static_cast<std::size_t>(rows_));
     for (std::size_t i = 0; i < outline_.size(); ++i) {
-        const cell_range near = cells_near(lowest(outline_[i], end_of(i)), highest(outline_[i], end_of(i)), 0.0);
+        const cell_range near =
+            cells_near(lowest(outline_[i], end_of(i)), highest(outline_[i], end_of(i)), 0.0);
         for (int row = near.first_row; row <= near.last_row; ++row) {
             row_segments_[static_cast<std::size_t>(row)].push_back(i);
             for (int column = near.first_column; column <= near.last_column; ++column) {
@@ -99,7 +100,8 @@ void pocket_region::fill_cells() {
     }
 }
 
-pocket_region::cell_range pocket_region::cells_near(point2 low, point2 high, double distance) const {
+pocket_region::cell_range pocket_region::cells_near(point2 low, point2 high,
+                                                    double distance) const {
     const auto index = [this](double offset, int count) {
         return static_cast<int>(std::clamp(std::floor(offset / cell_size_), 0.0, count - 1.0));
     };
@@ -120,7 +122,8 @@ bool pocket_region::contains(point2 point) const {
     for (const std::size_t i : row_segments_[static_cast<std::size_t>(row)]) {
         const point2 a = outline_[i];
         const point2 b = end_of(i);
-        if ((a.y > point.y) != (b.y > point.y) && point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x) {
+        if ((a.y > point.y) != (b.y > point.y) &&
+            point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x) {
             inside = !inside;
         }
     }

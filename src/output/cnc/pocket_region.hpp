@@ -13,8 +13,8 @@ double segment_distance(point2 point, point2 start, point2 end);
 /// A closed outline and the distances from it, mm. A grid of cells keeps the queries short.
 class pocket_region {
   public:
-    /// The outline's points; a last point that repeats the first one is left out. Needs three points or more:
-    /// throws subscript_out_of_range otherwise.
+    /// The outline's points; a last point that repeats the first one is left out. Needs three
+    /// points or more: throws subscript_out_of_range otherwise.
     explicit pocket_region(std::vector<point2> outline);
 
     const std::vector<point2>& outline() const { return outline_; }

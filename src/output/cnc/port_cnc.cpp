@@ -70,7 +70,8 @@ void add_move(cnc_lines& lines, const tool_move& move) {
     lines.feed_g01(move.end);
 }
 
-void add_gcode_section(const cnc_source& source, port_side side, section_kind kind, cnc_lines& lines) {
+void add_gcode_section(const cnc_source& source, port_side side, section_kind kind,
+                       cnc_lines& lines) {
     lines.xy(point2{});
     const tool_contour contour = kind == section_kind::groove
                                      ? groove_moves(source.ports, source.design)
@@ -88,8 +89,9 @@ void add_gcode_section(const cnc_source& source, port_side side, section_kind ki
 void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = port_sections(source.boxes, side);
-    add_port_preamble(lines, source,
-                      {.content = content_row(side, "xy"), .section_count = static_cast<int>(sections.size())});
+    add_port_preamble(
+        lines, source,
+        {.content = content_row(side, "xy"), .section_count = static_cast<int>(sections.size())});
     for (const port_section& section : sections) {
         add_section_head(lines, source, side, section, section_file::xy);
         const std::vector<point2> contour = contour_of(source.ports, side, section.kind);
@@ -101,9 +103,10 @@ void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
 void write_port_pocket(const cnc_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = pocket_sections(source, side);
-    add_port_preamble(
-        lines, source,
-        {.content = content_row(side, "pocket"), .section_count = static_cast<int>(sections.size()), .pocket = true});
+    add_port_preamble(lines, source,
+                      {.content = content_row(side, "pocket"),
+                       .section_count = static_cast<int>(sections.size()),
+                       .pocket = true});
     for (const port_section& section : sections) {
         add_section_head(lines, source, side, section, section_file::pocket);
         lines.xy(pocket_path(pocket_of(source, side, section.kind)));
@@ -113,9 +116,10 @@ void write_port_pocket(const cnc_source& source, port_side side, text_lines& tex
 void write_port_gcode(const cnc_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = port_sections(source.boxes, side);
-    add_port_preamble(
-        lines, source,
-        {.content = content_row(side, "gcode"), .section_count = static_cast<int>(sections.size()), .gcode = true});
+    add_port_preamble(lines, source,
+                      {.content = content_row(side, "gcode"),
+                       .section_count = static_cast<int>(sections.size()),
+                       .gcode = true});
     for (const port_section& section : sections) {
         add_section_head(lines, source, side, section, section_file::gcode);
         add_gcode_section(source, side, section.kind, lines);

@@ -7,14 +7,15 @@
 
 namespace kvt {
 
-// Each writer appends its preamble and its sections to the text. A run-time failure leaves what was written until then.
+// Each writer appends its preamble and its sections to the text. A run-time failure leaves what was
+// written until then.
 
-/// The outlines as X/Y lines, each with its point 0 once more behind it. Kept: an outline repeats point 0 itself, so
-/// it stands there twice.
+/// The outlines as X/Y lines, each with its point 0 once more behind it. Kept: an outline repeats
+/// point 0 itself, so it stands there twice.
 void write_port_xy(const cnc_source& source, port_side side, text_lines& text);
 
-/// The path of a cutter that clears the pockets (pocket_path). The groove has its own cutter. Throws division_by_zero
-/// for a cutter without a diameter.
+/// The path of a cutter that clears the pockets (pocket_path). The groove has its own cutter.
+/// Throws division_by_zero for a cutter without a diameter.
 void write_port_pocket(const cnc_source& source, port_side side, text_lines& text);
 
 /// The outlines as arcs and lines, with the places where the tool goes down and up.

@@ -17,8 +17,8 @@ double distance(point2 a, point2 b) {
     return std::hypot(a.x - b.x, a.y - b.y);
 }
 
-/// The points of a port as its outline has them: the inlet below the x axis, the shadow on the other side of the y
-/// axis.
+/// The points of a port as its outline has them: the inlet below the x axis, the shadow on the
+/// other side of the y axis.
 class port_points {
   public:
     port_points(const port_params& ports, port_side side, bool shadow)
@@ -27,8 +27,12 @@ class port_points {
           x_sign_(shadow ? -1.0 : 1.0),
           y_sign_(fields_.mirrored ? -1.0 : 1.0) {}
 
-    point2 on_side(std::size_t corner) const { return placed(fields_.corners[corner].s.get(ports_)); }
-    point2 on_arc(std::size_t corner) const { return placed(fields_.corners[corner].r.get(ports_)); }
+    point2 on_side(std::size_t corner) const {
+        return placed(fields_.corners[corner].s.get(ports_));
+    }
+    point2 on_arc(std::size_t corner) const {
+        return placed(fields_.corners[corner].r.get(ports_));
+    }
     double inner_r() const { return ports_.*fields_.inner_r; }
     double outer_r() const { return ports_.*fields_.outer_r; }
     /// One mirror turns the sense of the outline round, the second one turns it back.
@@ -55,31 +59,35 @@ point2 groove_point(const port_params& ports, std::int64_t index) {
 }
 
 /// The index nearest to a point, between two ends of the list.
-std::int64_t nearest_index(const port_params& ports, point2 point, std::int64_t first, std::int64_t last) {
+std::int64_t nearest_index(const port_params& ports, point2 point, std::int64_t first,
+                           std::int64_t last) {
     std::int64_t nearest = first;
     for (std::int64_t i = first; i <= last; ++i) {
-        if (distance(groove_point(ports, i), point) < distance(groove_point(ports, nearest), point)) {
+        if (distance(groove_point(ports, i), point) <
+            distance(groove_point(ports, nearest), point)) {
             nearest = i;
         }
     }
     return nearest;
 }
 
-/// Where the inner fillet touches the nose: (Cx + f cos gamma, Cy - f sin gamma), C its centre outside the inner path.
+/// Where the inner fillet touches the nose: (Cx + f cos gamma, Cy - f sin gamma), C its centre
+/// outside the inner path.
 point2 inner_line_tangent(const port_params& ports, point2 centre, std::int64_t inner_end) {
     const point2 end = groove_point(ports, inner_end);
     const double f = ports.groove_corner_r;
     const double scale = checked_divide(ports.groove_inner_r + f, ports.groove_inner_r);
     const point2 c = {centre.x + (end.x - centre.x) * scale, centre.y + (end.y - centre.y) * scale};
-    const double gamma = nose_angle({ports.groove_n1_x, ports.groove_n1_y}, {ports.groove_n2_x, ports.groove_n2_y});
+    const double gamma =
+        nose_angle({ports.groove_n1_x, ports.groove_n1_y}, {ports.groove_n2_x, ports.groove_n2_y});
     return {c.x + f * std::cos(gamma), c.y - f * std::sin(gamma)};
 }
 
 /// The first point behind `from` on the outer path.
 std::int64_t outer_path_start(const port_params& ports, point2 centre, std::int64_t from) {
     std::int64_t i = from;
-    while (i < ports.groove_main_last &&
-           std::abs(distance(groove_point(ports, i), centre) - ports.groove_outer_r) > ON_CIRCLE_MM) {
+    while (i < ports.groove_main_last && std::abs(distance(groove_point(ports, i), centre) -
+                                                  ports.groove_outer_r) > ON_CIRCLE_MM) {
         ++i;
     }
     return i;
@@ -93,8 +101,8 @@ groove_indexes indexes_of_groove(const port_params& ports, point2 centre) {
         at.inner_line = ports.groove_mark_c - 1;
         at.outer_line = ports.groove_mark_c;
     } else {
-        at.inner_line =
-            nearest_index(ports, inner_line_tangent(ports, centre, at.inner_end), at.inner_end, ports.groove_main_last);
+        at.inner_line = nearest_index(ports, inner_line_tangent(ports, centre, at.inner_end),
+                                      at.inner_end, ports.groove_main_last);
         at.outer_line = at.inner_line;
     }
     const bool filleted = ports.groove_corner_r != 0.0;
@@ -106,8 +114,10 @@ groove_indexes indexes_of_groove(const port_params& ports, point2 centre) {
 
 tool_contour port_moves(const port_params& ports, port_side side, bool shadow) {
     const port_points port(ports, side, shadow);
-    const move_kind convex = port.clockwise() ? move_kind::clockwise_g02 : move_kind::counterclockwise_g03;
-    const move_kind inner = port.clockwise() ? move_kind::counterclockwise_g03 : move_kind::clockwise_g02;
+    const move_kind convex =
+        port.clockwise() ? move_kind::clockwise_g02 : move_kind::counterclockwise_g03;
+    const move_kind inner =
+        port.clockwise() ? move_kind::counterclockwise_g03 : move_kind::clockwise_g02;
     tool_contour contour{port.on_side(START_INNER), {}};
     const auto line = [&](point2 end) { contour.moves.push_back({move_kind::line_g01, end}); };
     const auto fillet = [&](point2 end) {

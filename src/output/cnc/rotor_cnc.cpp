@@ -15,7 +15,8 @@ constexpr std::int64_t POINTS = 3600;
 std::vector<point2> closed_inner_profile(const rotor_profiles& rotors) {
     std::vector<point2> points;
     for (std::int64_t i = 0; i <= POINTS; ++i) {
-        points.push_back({checked_at(rotors.inner_x, i % POINTS), checked_at(rotors.inner_y, i % POINTS)});
+        points.push_back(
+            {checked_at(rotors.inner_x, i % POINTS), checked_at(rotors.inner_y, i % POINTS)});
     }
     return points;
 }
@@ -80,13 +81,17 @@ void write_inner_xy(const cnc_source& source, text_lines& text) {
 void write_inner_offset(const cnc_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "inner_offset", .has_cutter = true});
-    add_cutter_path(source, lines, inner_offset_points(source.design, source.rotors, tool_radius(source)));
+    add_cutter_path(source, lines,
+                    inner_offset_points(source.design, source.rotors, tool_radius(source)));
 }
 
 void write_inner_offset_checked(const cnc_source& source, text_lines& text) {
     cnc_lines lines(text, source);
-    add_rotor_preamble(lines, source, {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true});
-    add_cutter_path(source, lines, checked_inner_offset_points(source.design, source.rotors, tool_radius(source)));
+    add_rotor_preamble(
+        lines, source,
+        {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true});
+    add_cutter_path(source, lines,
+                    checked_inner_offset_points(source.design, source.rotors, tool_radius(source)));
 }
 
 void write_inner_lathe(const cnc_source& source, text_lines& text) {
@@ -103,7 +108,8 @@ void write_outer_xy(const cnc_source& source, text_lines& text) {
 
 void write_outer_offset(const cnc_source& source, text_lines& text) {
     cnc_lines lines(text, source);
-    add_rotor_preamble(lines, source, {.content = "outer_offset", .outer = true, .has_cutter = true});
+    add_rotor_preamble(lines, source,
+                       {.content = "outer_offset", .outer = true, .has_cutter = true});
     add_points_of_path(lines, outer_rotor_offset_path(outer_design(source), tool_radius(source)));
 }
 

@@ -6,8 +6,8 @@
 
 namespace kvt {
 
-// Each writer appends its preamble and its body to the text, 3601 body lines for the inner rotor. A run-time failure
-// leaves what was written until then.
+// Each writer appends its preamble and its body to the text, 3601 body lines for the inner rotor. A
+// run-time failure leaves what was written until then.
 
 /// The inner profile 0 .. 3599 and point 0 again, as X/Y lines; clockwise with Opp_Plot.
 void write_inner_xy(const cnc_source& source, text_lines& text);
@@ -24,7 +24,8 @@ void write_inner_lathe(const cnc_source& source, text_lines& text);
 void write_outer_xy(const cnc_source& source, text_lines& text);
 /// The points of the cutter's path.
 void write_outer_offset(const cnc_source& source, text_lines& text);
-/// The arcs of the path as G02 and G03. Kept: the last line has four decimals whatever the resolution.
+/// The arcs of the path as G02 and G03. Kept: the last line has four decimals whatever the
+/// resolution.
 void write_outer_gcode(const cnc_source& source, text_lines& text);
 /// The points as lathe lines.
 void write_outer_lathe(const cnc_source& source, text_lines& text);

@@ -27,11 +27,12 @@ std::string port_number(double mm, bool inches) {
 }
 
 /// The first `count` points of an outline, then point 0.
-void write_port_outline(text_lines& out, const std::vector<double>& x, const std::vector<double>& y, std::int64_t count,
-                        bool inches) {
+void write_port_outline(text_lines& out, const std::vector<double>& x, const std::vector<double>& y,
+                        std::int64_t count, bool inches) {
     dxf_polyline polyline(out, static_cast<std::size_t>(count) + 1);
     const auto vertex = [&](std::int64_t i) {
-        polyline.vertex(port_number(checked_at(x, i), inches), port_number(checked_at(y, i), inches));
+        polyline.vertex(port_number(checked_at(x, i), inches),
+                        port_number(checked_at(y, i), inches));
     };
     for (std::int64_t i = 0; i < count; ++i) {
         vertex(i);
@@ -68,7 +69,8 @@ void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool i
 void write_dxf_outer_rotor(text_lines& out, const entries& boxes) {
     constexpr std::size_t POINTS_PER_LOBE = 320;
     const design_params typed = outer_rotor_entries(boxes, false);
-    dxf_polyline polyline(out, POINTS_PER_LOBE * static_cast<std::size_t>(std::clamp(typed.numlobes, 0, 100)));
+    dxf_polyline polyline(
+        out, POINTS_PER_LOBE * static_cast<std::size_t>(std::clamp(typed.numlobes, 0, 100)));
     for (const point2& point : outer_path_points(outer_rotor_path(typed))) {
         polyline.vertex(fixed_number(point.x, DECIMALS), fixed_number(point.y, DECIMALS));
     }
@@ -86,7 +88,8 @@ void write_dxf_outlet_port(text_lines& out, const port_params& ports, bool inche
 }
 
 void write_dxf_metering_groove(text_lines& out, const port_params& ports, bool inches) {
-    write_port_outline(out, ports.groove_x, ports.groove_y, std::int64_t{ports.groove_last} + 1, inches);
+    write_port_outline(out, ports.groove_x, ports.groove_y, std::int64_t{ports.groove_last} + 1,
+                       inches);
 }
 
 }  // namespace kvt

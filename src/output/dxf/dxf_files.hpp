@@ -8,23 +8,27 @@
 
 namespace kvt {
 
-/// Each appends a whole file to the text; a run-time failure leaves the lines before it. Nothing in a file tells its
-/// unit: inches in imperial projects, else millimetres. Numbers have six decimals but those of imperial ports.
+/// Each appends a whole file to the text; a run-time failure leaves the lines before it. Nothing in
+/// a file tells its unit: inches in imperial projects, else millimetres. Numbers have six decimals
+/// but those of imperial ports.
 
-/// Inner rotor profile, points 0 .. P-1 and point 0 again; in inches each value is divided by 25.4 and then written.
+/// Inner rotor profile, points 0 .. P-1 and point 0 again; in inches each value is divided by 25.4
+/// and then written.
 void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool inches);
 
-/// The outer rotor's path about its own centre, from the boxes of the Design form as they stand, without conversion.
-/// Throws run_time_error for entries that make no rotor.
+/// The outer rotor's path about its own centre, from the boxes of the Design form as they stand,
+/// without conversion. Throws run_time_error for entries that make no rotor.
 void write_dxf_outer_rotor(text_lines& out, const entries& boxes);
 
-/// A port's outline: point 0 .. last, but none from the first x of exactly 0 on, then point 0. Kept: in inches the text
-/// in millimetres is read back, divided by 25.4 and written with up to fifteen digits, so that the last ones say
-/// nothing. A port that was never designed has the closing vertex only.
+/// A port's outline: point 0 .. last, but none from the first x of exactly 0 on, then point 0.
+/// Kept: in inches the text in millimetres is read back, divided by 25.4 and written with up to
+/// fifteen digits, so that the last ones say nothing. A port that was never designed has the
+/// closing vertex only.
 void write_dxf_inlet_port(text_lines& out, const port_params& ports, bool inches);
 void write_dxf_outlet_port(text_lines& out, const port_params& ports, bool inches);
 
-/// The metering groove's outline, points 0 .. groove_last, then point 0; numbers like those of a port.
+/// The metering groove's outline, points 0 .. groove_last, then point 0; numbers like those of a
+/// port.
 void write_dxf_metering_groove(text_lines& out, const port_params& ports, bool inches);
 
 }  // namespace kvt

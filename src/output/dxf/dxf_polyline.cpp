@@ -36,7 +36,8 @@ void write_lines(text_lines& out, std::initializer_list<std::string_view> lines)
 void write_layer_table(text_lines& out) {
     write_lines(out, {" 0", "SECTION", " 2", "TABLES", " 0", "TABLE", " 2", "LAYER", " 70", "6"});
     for (const dxf_layer& layer : LAYERS) {
-        write_lines(out, {" 0", "LAYER", " 2", layer.name, " 70", "64", " 62", layer.colour, " 6", "CONTINUOUS"});
+        write_lines(out, {" 0", "LAYER", " 2", layer.name, " 70", "64", " 62", layer.colour, " 6",
+                          "CONTINUOUS"});
     }
     write_lines(out, {" 0", "ENDTAB", " 0", "ENDSEC"});
 }

@@ -8,7 +8,8 @@
 
 namespace kvt {
 
-/// Writes the file's lines as its vertices come: the head at once, a vertex a call, the end when told.
+/// Writes the file's lines as its vertices come: the head at once, a vertex a call, the end when
+/// told.
 class dxf_polyline {
   public:
     /// vertex_count is a hint of how much text will come.

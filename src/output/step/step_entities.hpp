@@ -9,8 +9,8 @@
 
 namespace kvt {
 
-/// One entity of a template: "#", number, text is its line. Inside the text "#n" refers to entity n of the same body
-/// and "{name}" stands for a value.
+/// One entity of a template: "#", number, text is its line. Inside the text "#n" refers to entity n
+/// of the same body and "{name}" stands for a value.
 struct step_row {
     int number = 0;
     std::string_view text;
@@ -24,7 +24,8 @@ struct step_value {
 
 /// Appends rows to a text, every entity number raised by the offset of the body.
 /// A text may hold a name only that `values` has.
-void write_step_rows(text_lines& out, std::span<const step_row> rows, std::span<const step_value> values, int offset);
+void write_step_rows(text_lines& out, std::span<const step_row> rows,
+                     std::span<const step_value> values, int offset);
 
 /// Appends "#" and the number to the open line.
 void write_reference(text_lines& out, int number);

@@ -39,8 +39,8 @@ void write_end(text_lines& out) {
     out.line("END-ISO-10303-21;");
 }
 
-void write_one_port(text_lines& out, const step_header& header, step_port port, const design_params& design,
-                    const port_params& ports, const entries& boxes) {
+void write_one_port(text_lines& out, const step_header& header, step_port port,
+                    const design_params& design, const port_params& ports, const entries& boxes) {
     write_header(out, header);
     write_step_port(out, port, design, ports, boxes);
     write_end(out);
@@ -70,8 +70,8 @@ void write_step_assembly(text_lines& out, const step_header& header, const desig
     write_end(out);
 }
 
-void write_step_ports(text_lines& out, const step_header& header, const design_params& design, const port_params& ports,
-                      const entries& boxes) {
+void write_step_ports(text_lines& out, const step_header& header, const design_params& design,
+                      const port_params& ports, const entries& boxes) {
     write_header(out, header);
     for (const step_port port : STEP_PORTS) {
         write_step_port(out, port, design, ports, boxes);

@@ -1,4 +1,5 @@
-// The STEP files (ISO 10303-21, AP203): header, bodies, end. All lengths are millimetres, in imperial projects too.
+// The STEP files (ISO 10303-21, AP203): header, bodies, end. All lengths are millimetres, in
+// imperial projects too.
 #pragma once
 
 #include "base/text_file.hpp"
@@ -18,7 +19,8 @@ struct step_header {
     std::string version;    ///< "2021.1.1"
 };
 
-/// One rotor. Each of these appends a whole file to the text; a run-time failure leaves the lines before it.
+/// One rotor. Each of these appends a whole file to the text; a run-time failure leaves the lines
+/// before it.
 void write_step_inner_rotor(text_lines& out, const step_header& header, const design_params& design,
                             const rotor_profiles& rotors);
 void write_step_outer_rotor(text_lines& out, const step_header& header, const design_params& design,
@@ -27,8 +29,8 @@ void write_step_outer_rotor(text_lines& out, const step_header& header, const de
 void write_step_assembly(text_lines& out, const step_header& header, const design_params& design,
                          const rotor_profiles& rotors);
 /// Every body that the ports have; none leaves a file without bodies.
-void write_step_ports(text_lines& out, const step_header& header, const design_params& design, const port_params& ports,
-                      const entries& boxes);
+void write_step_ports(text_lines& out, const step_header& header, const design_params& design,
+                      const port_params& ports, const entries& boxes);
 /// The lower body of one port for the simulation exchange; that of the outlet keeps its offset.
 void write_step_inlet_port(text_lines& out, const step_header& header, const design_params& design,
                            const port_params& ports, const entries& boxes);

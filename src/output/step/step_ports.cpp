@@ -32,14 +32,15 @@ std::vector<point2> outlet_contour(const port_params& ports) {
     return port_contour(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last);
 }
 
-std::optional<step_prism> lower_body(const char* product, std::vector<point2> contour, const design_params& design,
-                                     bool double_sided) {
+std::optional<step_prism> lower_body(const char* product, std::vector<point2> contour,
+                                     const design_params& design, bool double_sided) {
     const double depth = double_sided ? 0.5 * design.thick : design.thick;
     return step_prism{"PORTING", product, std::move(contour), -depth, depth};
 }
 
-std::optional<step_prism> upper_body(const char* solid, const char* product, std::vector<point2> contour,
-                                     const design_params& design, bool double_sided, const entries& boxes) {
+std::optional<step_prism> upper_body(const char* solid, const char* product,
+                                     std::vector<point2> contour, const design_params& design,
+                                     bool double_sided, const entries& boxes) {
     if (!double_sided && !is_ticked(boxes.shadow_ports)) {
         return std::nullopt;
     }
@@ -53,11 +54,12 @@ std::optional<step_prism> groove_body(const port_params& ports, const entries& b
     }
     const double depth = ports.groove_depth_mm;
     return step_prism{"Metering Groove PORTING", "Metering Groove",
-                      port_contour(ports.groove_x, ports.groove_y, ports.groove_last), -depth, depth};
+                      port_contour(ports.groove_x, ports.groove_y, ports.groove_last), -depth,
+                      depth};
 }
 
-std::optional<step_prism> body_of(step_port port, const design_params& design, const port_params& ports,
-                                  const entries& boxes) {
+std::optional<step_prism> body_of(step_port port, const design_params& design,
+                                  const port_params& ports, const entries& boxes) {
     const bool inlet_double = is_ticked(boxes.inlet_double_sided);
     const bool outlet_double = is_ticked(boxes.outlet_double_sided);
     switch (port) {
@@ -66,11 +68,11 @@ std::optional<step_prism> body_of(step_port port, const design_params& design, c
         case step_port::outlet_lower:
             return lower_body("Outlet Port Lower", outlet_contour(ports), design, outlet_double);
         case step_port::outlet_upper:
-            return upper_body("OUTLET UPPER PORTING", "Outlet Port Upper", outlet_contour(ports), design, outlet_double,
-                              boxes);
+            return upper_body("OUTLET UPPER PORTING", "Outlet Port Upper", outlet_contour(ports),
+                              design, outlet_double, boxes);
         case step_port::inlet_upper:
-            return upper_body("INLET UPPER PORTING", "Inlet Port Upper", inlet_contour(ports), design, inlet_double,
-                              boxes);
+            return upper_body("INLET UPPER PORTING", "Inlet Port Upper", inlet_contour(ports),
+                              design, inlet_double, boxes);
         case step_port::groove:
             break;
     }
@@ -79,7 +81,8 @@ std::optional<step_prism> body_of(step_port port, const design_params& design, c
 
 }  // namespace
 
-std::vector<point2> port_contour(const std::vector<double>& x, const std::vector<double>& y, std::int16_t last) {
+std::vector<point2> port_contour(const std::vector<double>& x, const std::vector<double>& y,
+                                 std::int16_t last) {
     std::vector<point2> points;
     for (std::int64_t i = 0; i < last; ++i) {
         points.push_back({checked_at(x, i), checked_at(y, i)});
@@ -90,8 +93,8 @@ std::vector<point2> port_contour(const std::vector<double>& x, const std::vector
     return points;
 }
 
-std::optional<step_prism> port_body(step_port port, const design_params& design, const port_params& ports,
-                                    const entries& boxes) {
+std::optional<step_prism> port_body(step_port port, const design_params& design,
+                                    const port_params& ports, const entries& boxes) {
     std::optional<step_prism> body = body_of(port, design, ports, boxes);
     if (body && body->contour.size() < SMALLEST_CONTOUR) {
         body.reset();
@@ -99,8 +102,8 @@ std::optional<step_prism> port_body(step_port port, const design_params& design,
     return body;
 }
 
-void write_step_port(text_lines& out, step_port port, const design_params& design, const port_params& ports,
-                     const entries& boxes) {
+void write_step_port(text_lines& out, step_port port, const design_params& design,
+                     const port_params& ports, const entries& boxes) {
     if (const std::optional<step_prism> body = port_body(port, design, ports, boxes)) {
         write_step_prism(out, *body, static_cast<int>(port) * STEP_BODY_OFFSET);
     }

@@ -25,13 +25,14 @@ std::string bottom_text(double z) {
 
 void write_step_prism(text_lines& out, const step_prism& prism, int offset) {
     step_wall wall(out, prism.contour, prism.bottom, prism.depth, FIRST_POINT, offset);
-    const std::array<step_value, 7> values = {{{"solid", prism.solid},
-                                               {"product", prism.product},
-                                               {"start", wall.start()},
-                                               {"middle", wall.middle()},
-                                               {"top", plain_number_text(prism.bottom + prism.depth)},
-                                               {"bottom", bottom_text(prism.bottom)},
-                                               {"depth", plain_number_text(prism.depth)}}};
+    const std::array<step_value, 7> values = {
+        {{"solid", prism.solid},
+         {"product", prism.product},
+         {"start", wall.start()},
+         {"middle", wall.middle()},
+         {"top", plain_number_text(prism.bottom + prism.depth)},
+         {"bottom", bottom_text(prism.bottom)},
+         {"depth", plain_number_text(prism.depth)}}};
     write_step_rows(out, ROWS, values, offset);
     wall.write({.first_top = 29,
                 .first_bottom = 33,

@@ -20,7 +20,8 @@ constexpr auto OUTER_ROWS = std::to_array<step_row>({
 constexpr int FIRST_OUTER_POINT = 158;
 
 /// The points 0 .. last of two lists; none before anything was calculated.
-std::vector<point2> points_of(const std::vector<double>& x, const std::vector<double>& y, std::int64_t last) {
+std::vector<point2> points_of(const std::vector<double>& x, const std::vector<double>& y,
+                              std::int64_t last) {
     std::vector<point2> points;
     for (std::int64_t i = 0; i <= last; ++i) {
         points.push_back({checked_at(x, i), checked_at(y, i)});
@@ -34,7 +35,8 @@ double distance(const point2& a, const point2& b) {
 
 /// Whether the last point is the first one up to rounding, and not a step of the profile before it.
 bool repeats_first(const std::vector<point2>& points) {
-    return points.size() > 1 && distance(points.back(), points.front()) < 0.5 * distance(points[0], points[1]);
+    return points.size() > 1 &&
+           distance(points.back(), points.front()) < 0.5 * distance(points[0], points[1]);
 }
 
 std::vector<step_value> outer_values(const design_params& design, const step_wall& bore) {
@@ -63,11 +65,15 @@ std::vector<point2> outer_rotor_contour(const rotor_profiles& rotors) {
     return points;
 }
 
-void write_step_inner_body(text_lines& out, const design_params& design, const rotor_profiles& rotors, int offset) {
-    write_step_prism(out, {"INNER ROTOR", "INNER ROTOR", inner_rotor_contour(rotors), 0.0, design.thick}, offset);
+void write_step_inner_body(text_lines& out, const design_params& design,
+                           const rotor_profiles& rotors, int offset) {
+    write_step_prism(out,
+                     {"INNER ROTOR", "INNER ROTOR", inner_rotor_contour(rotors), 0.0, design.thick},
+                     offset);
 }
 
-void write_step_outer_body(text_lines& out, const design_params& design, const rotor_profiles& rotors, int offset) {
+void write_step_outer_body(text_lines& out, const design_params& design,
+                           const rotor_profiles& rotors, int offset) {
     const std::vector<point2> contour = outer_rotor_contour(rotors);
     step_wall bore(out, contour, 0.0, design.thick, FIRST_OUTER_POINT, offset);
     write_step_rows(out, OUTER_ROWS, outer_values(design, bore), offset);

@@ -8,11 +8,12 @@ namespace kvt {
 
 namespace {
 
-/// About so many bytes of text come from one point of the contour: four control points, their references, its knots.
+/// About so many bytes of text come from one point of the contour: four control points, their
+/// references, its knots.
 constexpr std::size_t BYTES_PER_POINT = 520;
 
-/// Knot k = 0 .. m - 3 of a half with m control points: c + k 0.5/(F/2), c being 0.5 on the first half, 0 on the
-/// second. Kept: the last knot ends before the other half's first one.
+/// Knot k = 0 .. m - 3 of a half with m control points: c + k 0.5/(F/2), c being 0.5 on the first
+/// half, 0 on the second. Kept: the last knot ends before the other half's first one.
 std::string knots_text(std::size_t control_count, double c, double point_count) {
     std::string text;
     for (std::size_t k = 0; k + 2 < control_count; ++k) {
@@ -24,8 +25,8 @@ std::string knots_text(std::size_t control_count, double c, double point_count) 
 
 }  // namespace
 
-step_wall::step_wall(text_lines& out, const std::vector<point2>& contour, double bottom, double depth, int first_point,
-                     int offset)
+step_wall::step_wall(text_lines& out, const std::vector<point2>& contour, double bottom,
+                     double depth, int first_point, int offset)
     : out_(out),
       middle_(contour.size() / 2),
       bottom_(bottom),
@@ -33,7 +34,8 @@ step_wall::step_wall(text_lines& out, const std::vector<point2>& contour, double
       first_point_(first_point),
       offset_(offset) {
     if (contour.size() < SMALLEST_CONTOUR) {
-        throw run_time_error(failure::subscript_out_of_range, "contour of " + std::to_string(contour.size()));
+        throw run_time_error(failure::subscript_out_of_range,
+                             "contour of " + std::to_string(contour.size()));
     }
     out.reserve(out.bytes().size() + BYTES_PER_POINT * contour.size());
     places_.reserve(contour.size());
@@ -58,8 +60,8 @@ void step_wall::write(const wall_numbers& numbers) {
 
 void step_wall::write_control_point(std::size_t index, int layer) {
     const std::size_t wrapped = index == places_.size() ? 0 : index;
-    write_reference(out_,
-                    first_point_ + offset_ + layer * static_cast<int>(places_.size()) + static_cast<int>(wrapped));
+    write_reference(out_, first_point_ + offset_ + layer * static_cast<int>(places_.size()) +
+                              static_cast<int>(wrapped));
 }
 
 void step_wall::write_multiplicities(wall_half half) {
@@ -80,7 +82,8 @@ void step_wall::write_knots(wall_half half) {
 void step_wall::write_points() {
     int number = first_point_ + offset_;
     for (int layer = 0; layer < WALL_LAYER_COUNT; ++layer) {
-        const std::string tail = ", " + plain_number_text(bottom_ + layer * depth_ / 3.0) + " ) ) ;";
+        const std::string tail =
+            ", " + plain_number_text(bottom_ + layer * depth_ / 3.0) + " ) ) ;";
         for (const std::string& place : places_) {
             write_reference(out_, number++);
             out_.raw_part(" = CARTESIAN_POINT ( 'NONE',  ( ");

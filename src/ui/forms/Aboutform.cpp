@@ -11,7 +11,8 @@
 
 namespace kvt {
 
-Aboutform::Aboutform(const program& kavetta, QWidget* parent) : dialog_form("Aboutform", kavetta, parent) {
+Aboutform::Aboutform(const program& kavetta, QWidget* parent)
+    : dialog_form("Aboutform", kavetta, parent) {
     auto* picture = new QLabel;
     auto* name = new QLabel;
     QFont heading = name->font();

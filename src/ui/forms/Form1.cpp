@@ -42,16 +42,21 @@ const std::vector<std::vector<entry_row>>& entry_groups() {
          {"Label6", "fillet", true},
          {"Label8", "thick", true}},
         // Limits that the pair must keep.
-        {{"Label2", "shaftdiameter", true}, {"Label12", "minmaterial", true}, {"Label9", "maxdiameter", true}},
+        {{"Label2", "shaftdiameter", true},
+         {"Label12", "minmaterial", true},
+         {"Label9", "maxdiameter", true}},
         // Clearances.
-        {{"Label4", "clearn", true}, {"Label15", "axial_clear", true}, {"Label21", "radial_clear", true}},
+        {{"Label4", "clearn", true},
+         {"Label15", "axial_clear", true},
+         {"Label21", "radial_clear", true}},
         // The drawing.
         {{"Label1", "coarseness", false}},
     };
     return groups;
 }
 
-/// Room between the controls, pixels: close enough that the form fits its place in the default layout.
+/// Room between the controls, pixels: close enough that the form fits its place in the default
+/// layout.
 constexpr int ROW_SPACING = 1;
 constexpr int GROUP_SPACING = 4;
 constexpr int MARGIN = 6;
@@ -195,10 +200,12 @@ void Form1::connect_commands() {
         runner.act([&unit](program& kavetta, user&) { select_capacity_unit(kavetta, unit); });
     });
     connect(image1_, &language_flag::clicked, this, [&runner] {
-        runner.act([](program& kavetta, user& person) { choose_language(kavetta, person, ENGLISH); });
+        runner.act(
+            [](program& kavetta, user& person) { choose_language(kavetta, person, ENGLISH); });
     });
     connect(image2_, &language_flag::clicked, this, [&runner] {
-        runner.act([](program& kavetta, user& person) { choose_language(kavetta, person, GERMAN); });
+        runner.act(
+            [](program& kavetta, user& person) { choose_language(kavetta, person, GERMAN); });
     });
 }
 
@@ -226,7 +233,8 @@ void Form1::show_units() {
     (inches ? dimens2_ : dimens1_)->setChecked(true);
     unittype_->setCurrentText(qt_text(context_.kavetta.labels.unittype));
     show_length_unit(state, length_units_);
-    findChild<QLabel*>("hiddenprojnamelabel")->setText(qt_text(context_.kavetta.labels.hiddenprojnamelabel));
+    findChild<QLabel*>("hiddenprojnamelabel")
+        ->setText(qt_text(context_.kavetta.labels.hiddenprojnamelabel));
 }
 
 void Form1::changeEvent(QEvent* event) {

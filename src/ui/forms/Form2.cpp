@@ -30,7 +30,8 @@ Form2::Form2(const program& kavetta, QWidget* parent) : dialog_form("Form2", kav
     open_button->setObjectName("open");
     new_button->setDefault(true);
     connect(new_button, &QPushButton::clicked, this, [this] { choose(start_choice::new_project); });
-    connect(open_button, &QPushButton::clicked, this, [this] { choose(start_choice::open_project); });
+    connect(open_button, &QPushButton::clicked, this,
+            [this] { choose(start_choice::open_project); });
 
     auto* top = new QHBoxLayout;
     top->setSpacing(16);

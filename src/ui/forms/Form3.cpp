@@ -26,8 +26,8 @@ constexpr int BOX_WIDTH = 110;
 constexpr int BUTTON_WIDTH = 90;
 constexpr int ROW_SPACING = 5;
 
-/// The column of the rotors as the form shows it: the checked file stands last. Those of the ports follow in their
-/// order.
+/// The column of the rotors as the form shows it: the checked file stands last. Those of the ports
+/// follow in their order.
 constexpr std::array<std::size_t, 8> ROTOR_FILES = {0, 1, 3, 4, 5, 6, 7, INNER_OFFSET_CHECKED};
 constexpr std::size_t FIRST_PORT_FILE = 8;
 
@@ -111,7 +111,8 @@ QLayout* Form3::lay_out_files() {
 
 QLayout* Form3::lay_out_entries() {
     const auto refused = [this] {
-        context_.person.show_status(message_text(message::character_refused, context_.kavetta.app_state.language));
+        context_.person.show_status(
+            message_text(message::character_refused, context_.kavetta.app_state.language));
     };
     validate_entry(*toolsize_, refused);
     validate_entry(*groovetooltext_, refused);
@@ -170,8 +171,9 @@ void Form3::collect() {
 void Form3::show_form() {
     toolsize_->setText(qt_text(form_.toolsize));
     groovetooltext_->setText(qt_text(form_.groovetooltext));
-    for (QWidget* part : {static_cast<QWidget*>(groove_label_), static_cast<QWidget*>(groovetooltext_),
-                          static_cast<QWidget*>(toolunits_groove_)}) {
+    for (QWidget* part :
+         {static_cast<QWidget*>(groove_label_), static_cast<QWidget*>(groovetooltext_),
+          static_cast<QWidget*>(toolunits_groove_)}) {
         part->setVisible(form_.groove_entry_shown);
     }
 }
@@ -179,7 +181,8 @@ void Form3::show_form() {
 void Form3::press_ok() {
     collect();
     bool closes = false;
-    context_.runner.act([&](program& kavetta, user& person) { closes = write_cnc_files(kavetta, person, form_); });
+    context_.runner.act(
+        [&](program& kavetta, user& person) { closes = write_cnc_files(kavetta, person, form_); });
     show_form();
     if (closes) {
         accept();

@@ -28,7 +28,8 @@ constexpr const char* WIDEST_SINGLE = "0.00012";
 constexpr const char* WIDEST_IN_PAIR = "29000";
 constexpr const char* WIDEST_PERCENTAGE = "99.5";
 
-/// The grid's columns: the caption, the left box of a pair, what stands between, the right or only box.
+/// The grid's columns: the caption, the left box of a pair, what stands between, the right or only
+/// box.
 constexpr int CAPTION = 0;
 constexpr int LEFT_BOX = 1;
 constexpr int BETWEEN = 2;
@@ -48,7 +49,8 @@ void add_heading(QGridLayout& grid, const char* name) {
 }
 
 /// A caption with the box at the end of its row.
-QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry, const char* widest = WIDEST_SINGLE) {
+QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry,
+                     const char* widest = WIDEST_SINGLE) {
     const int row = grid.rowCount();
     QLineEdit* box = compact_box(entry, widest);
     QLabel* text = named_label(label);
@@ -66,7 +68,8 @@ void add_percentage(QGridLayout& grid, const char* label, const char* entry) {
 }
 
 /// A caption with two boxes. between may be nullptr: the boxes are columns then.
-void add_pair(QGridLayout& grid, const char* label, const char* left, const char* between, const char* right) {
+void add_pair(QGridLayout& grid, const char* label, const char* left, const char* between,
+              const char* right) {
     const int row = grid.rowCount();
     QLineEdit* left_box = compact_box(left, WIDEST_IN_PAIR);
     QLabel* text = named_label(label);
@@ -109,8 +112,9 @@ Perffrm::Perffrm(form_context context) : mdi_form("Perffrm", context) {
     bind(content, true);
     set_main_button(calc_perf_);
     command_runner& runner = context_.runner;
-    connect(calc_perf_, &QPushButton::clicked, this,
-            [&runner] { runner.act([](program& kavetta, user& person) { calculate_performance(kavetta, person); }); });
+    connect(calc_perf_, &QPushButton::clicked, this, [&runner] {
+        runner.act([](program& kavetta, user& person) { calculate_performance(kavetta, person); });
+    });
 }
 
 void Perffrm::add_fluid(QGridLayout& grid) {

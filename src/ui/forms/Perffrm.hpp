@@ -1,4 +1,5 @@
-// Perffrm: the Performance form, where fluid, rotor materials and the range of speed and pressure are entered.
+// Perffrm: the Performance form, where fluid, rotor materials and the range of speed and pressure
+// are entered.
 #pragma once
 
 #include "ui/shell/mdi_form.hpp"

@@ -30,7 +30,8 @@ QFrame* frame_line(const char* name) {
     return line;
 }
 
-/// A ground in the assist's colour with black ink, in a dark theme too. What stands on it keeps its own colours.
+/// A ground in the assist's colour with black ink, in a dark theme too. What stands on it keeps its
+/// own colours.
 QPalette green_ground() {
     QPalette palette;
     palette.setColor(QPalette::Window, ASSIST_GREEN);
@@ -92,10 +93,12 @@ void assist_area::add_frame_lines() {
 
 void assist_area::connect_commands() {
     command_runner& runner = context_.runner;
-    connect(check_, &QPushButton::clicked, this,
-            [&runner](bool on) { runner.act([on](program& kavetta, user&) { set_assist(kavetta, on); }); });
-    connect(designer_, &QPushButton::clicked, this,
-            [&runner] { runner.act([](program& kavetta, user& person) { design_assist(kavetta, person); }); });
+    connect(check_, &QPushButton::clicked, this, [&runner](bool on) {
+        runner.act([on](program& kavetta, user&) { set_assist(kavetta, on); });
+    });
+    connect(designer_, &QPushButton::clicked, this, [&runner] {
+        runner.act([](program& kavetta, user& person) { design_assist(kavetta, person); });
+    });
 }
 
 void assist_area::refresh() {

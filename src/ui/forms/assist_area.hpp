@@ -1,5 +1,5 @@
-// assist_area: the part of the Design form that belongs to the Design assist: the required capacity, the switch and the
-// button, on a ground that turns green, between four frame lines.
+// assist_area: the part of the Design form that belongs to the Design assist: the required
+// capacity, the switch and the button, on a ground that turns green, between four frame lines.
 #pragma once
 
 #include "ui/parts/form_binding.hpp"

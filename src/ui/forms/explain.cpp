@@ -16,7 +16,9 @@ constexpr QSize LARGEST_START(900, 640);
 /// Paints a picture as large as fits, its sides in proportion, on the white of its own ground.
 class picture_sheet : public QWidget {
   public:
-    explicit picture_sheet(QPixmap picture) : picture_(std::move(picture)) { setObjectName("Image1"); }
+    explicit picture_sheet(QPixmap picture) : picture_(std::move(picture)) {
+        setObjectName("Image1");
+    }
 
     QSize sizeHint() const override {
         const QSize size = picture_.size();

@@ -6,8 +6,8 @@
 
 namespace kvt {
 
-/// A window with the picture of its language, which follows the size of the window. Throws run_time_error when the
-/// picture can't be loaded.
+/// A window with the picture of its language, which follows the size of the window. Throws
+/// run_time_error when the picture can't be loaded.
 class explanation_form : public loaded_form {
     Q_OBJECT
 
@@ -24,14 +24,16 @@ class explain : public explanation_form {
     Q_OBJECT
 
   public:
-    explicit explain(form_context context) : explanation_form(explanation_window::gerotor, context) {}
+    explicit explain(form_context context)
+        : explanation_form(explanation_window::gerotor, context) {}
 };
 
 class port_explain : public explanation_form {
     Q_OBJECT
 
   public:
-    explicit port_explain(form_context context) : explanation_form(explanation_window::porting, context) {}
+    explicit port_explain(form_context context)
+        : explanation_form(explanation_window::porting, context) {}
 };
 
 }  // namespace kvt

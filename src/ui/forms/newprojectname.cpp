@@ -12,7 +12,8 @@
 
 namespace kvt {
 
-newprojectname::newprojectname(const program& kavetta, QWidget* parent, const std::function<void()>& refused)
+newprojectname::newprojectname(const program& kavetta, QWidget* parent,
+                               const std::function<void()>& refused)
     : dialog_form("newprojectname", kavetta, parent), name_(new QLineEdit) {
     name_->setObjectName("txtprojectname");
     name_->setMinimumWidth(260);

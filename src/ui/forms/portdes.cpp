@@ -129,8 +129,9 @@ QGroupBox* portdes::type_frame() {
     groove->setHorizontalSpacing(COLUMN_SPACING);
     groove->setVerticalSpacing(0);
     int column = 0;
-    for (const auto& [label, entry] : {std::pair{"Label10", "groove_length"}, std::pair{"Label11", "groove_width"},
-                                       std::pair{"Label12", "groove_depth"}}) {
+    for (const auto& [label, entry] :
+         {std::pair{"Label10", "groove_length"}, std::pair{"Label11", "groove_width"},
+          std::pair{"Label12", "groove_depth"}}) {
         QLabel* text = named_label(label);
         QLineEdit* box = compact_box(entry, WIDEST_NUMBER);
         box->setMaximumWidth(QWIDGETSIZE_MAX);
@@ -171,12 +172,14 @@ QWidget* portdes::button_row() {
 
 void portdes::connect_commands() {
     command_runner& runner = context_.runner;
-    connect(design_ports_, &QPushButton::clicked, this,
-            [&runner] { runner.act([](program& kavetta, user& person) { design_ports(kavetta, person); }); });
+    connect(design_ports_, &QPushButton::clicked, this, [&runner] {
+        runner.act([](program& kavetta, user& person) { design_ports(kavetta, person); });
+    });
     connect(clear_ports_, &QPushButton::clicked, this, [&runner] { runner.act(clear_ports); });
     for (QCheckBox* check : findChildren<QCheckBox*>()) {
-        connect(check, &QCheckBox::clicked, this,
-                [&runner] { runner.act([](program& kavetta, user&) { porting_type_clicked(kavetta); }); });
+        connect(check, &QCheckBox::clicked, this, [&runner] {
+            runner.act([](program& kavetta, user&) { porting_type_clicked(kavetta); });
+        });
     }
 }
 

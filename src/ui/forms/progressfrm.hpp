@@ -10,7 +10,8 @@ class QProgressBar;
 
 namespace kvt {
 
-/// A window of its own that does not wait for the user. Its texts are those of the language at its load.
+/// A window of its own that does not wait for the user. Its texts are those of the language at its
+/// load.
 class progressfrm : public QDialog {
     Q_OBJECT
 

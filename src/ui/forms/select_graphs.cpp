@@ -20,9 +20,10 @@ constexpr int ROW_SPACING = 4;
 constexpr int COLUMN_SPACING = 12;
 
 /// In the order in which the charts open: what the pump does, then its efficiencies.
-constexpr std::array<const char*, 4> RESULTS = {"flow_checkbox", "power_checkbox", "stress_checkbox",
-                                                "ripple_checkbox"};
-constexpr std::array<const char*, 3> EFFICIENCIES = {"ve_checkbox", "effic_checkbox", "ovr_effic_checkbox"};
+constexpr std::array<const char*, 4> RESULTS = {"flow_checkbox", "power_checkbox",
+                                                "stress_checkbox", "ripple_checkbox"};
+constexpr std::array<const char*, 3> EFFICIENCIES = {"ve_checkbox", "effic_checkbox",
+                                                     "ovr_effic_checkbox"};
 
 }  // namespace
 

@@ -57,11 +57,14 @@ QWidget* viewwinfrm::bottom_row() {
     zoom->setObjectName("zoom_all_command");
     zoom->setFocusPolicy(Qt::TabFocus);
     connect(zoom, &QPushButton::clicked, this, [this] { context_.runner.act(zoom_all); });
-    connect(angle_, &QLineEdit::returnPressed, this,
-            [this] { context_.runner.act([](program& kavetta, user&) { take_typed_angle(kavetta); }); });
+    connect(angle_, &QLineEdit::returnPressed, this, [this] {
+        context_.runner.act([](program& kavetta, user&) { take_typed_angle(kavetta); });
+    });
     layout->addWidget(label, 0, 0, 1, 4);
-    layout->addWidget(rotate_button("rotate_rotors_cw", clockwise_icon(palette()), turning::clockwise), 1, 0);
-    layout->addWidget(rotate_button("rotate_rotors_ccw", counter_clockwise_icon(palette()), turning::counter_clockwise),
+    layout->addWidget(
+        rotate_button("rotate_rotors_cw", clockwise_icon(palette()), turning::clockwise), 1, 0);
+    layout->addWidget(rotate_button("rotate_rotors_ccw", counter_clockwise_icon(palette()),
+                                    turning::counter_clockwise),
                       1, 1);
     layout->addWidget(angle_, 1, 2);
     layout->setColumnStretch(3, 1);
@@ -93,7 +96,8 @@ void viewwinfrm::connect_picture() {
     });
     connect(picture_, &design_picture::moved, this, &viewwinfrm::move_band);
     connect(picture_, &design_picture::released, this, [this](double x, double y) {
-        context_.runner.act([x, y](program& kavetta, user& person) { rubber_band_up(kavetta, person, x, y); });
+        context_.runner.act(
+            [x, y](program& kavetta, user& person) { rubber_band_up(kavetta, person, x, y); });
     });
     connect(picture_, &design_picture::left, this, [this] { emit cursor_moved(QString()); });
 }
@@ -111,7 +115,8 @@ void viewwinfrm::move_band(double x, double y) {
 }
 
 void viewwinfrm::turn(turning direction) {
-    if (context_.runner.step([direction](program& kavetta) { rotation_tick(kavetta, direction); })) {
+    if (context_.runner.step(
+            [direction](program& kavetta) { rotation_tick(kavetta, direction); })) {
         angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
         picture_->show_rotors(context_.kavetta.design_view);
     }
@@ -136,7 +141,8 @@ void viewwinfrm::resizeEvent(QResizeEvent* event) {
 }
 
 void viewwinfrm::size_picture() {
-    const std::optional<view_layout> layout = resize_design_view(context_.kavetta, height() * TWIPS_PER_PIXEL);
+    const std::optional<view_layout> layout =
+        resize_design_view(context_.kavetta, height() * TWIPS_PER_PIXEL);
     if (!layout) {
         return;
     }
@@ -146,12 +152,14 @@ void viewwinfrm::size_picture() {
     place_controls(pixels(layout->picture_side));
 }
 
-/// The picture in the middle, the row below it. With a large font, or in a small form, the content scrolls.
+/// The picture in the middle, the row below it. With a large font, or in a small form, the content
+/// scrolls.
 void viewwinfrm::place_controls(int side) {
     const QSize row = bottom_row_->sizeHint();
     content_->setMinimumSize(std::max(side, row.width()), side + row.height());
     const QSize room = widget()->size().expandedTo(content_->minimumSize());
-    picture_->setGeometry((room.width() - side) / 2, (room.height() - row.height() - side) / 2, side, side);
+    picture_->setGeometry((room.width() - side) / 2, (room.height() - row.height() - side) / 2,
+                          side, side);
     bottom_row_->setGeometry(0, room.height() - row.height(), room.width(), row.height());
 }
 

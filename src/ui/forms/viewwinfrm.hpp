@@ -20,8 +20,9 @@ class viewwinfrm : public mdi_form {
 
     void refresh() override;
 
-    /// The resize rule: the side of the picture follows the form's height, and the form's width follows the picture.
-    /// Maximised, the form keeps its size. The drawing stays as it is until the next Calculate Profiles.
+    /// The resize rule: the side of the picture follows the form's height, and the form's width
+    /// follows the picture. Maximised, the form keeps its size. The drawing stays as it is until
+    /// the next Calculate Profiles.
     void size_picture();
 
   signals:

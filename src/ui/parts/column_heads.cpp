@@ -13,7 +13,8 @@ void column_heads::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(QRect(0, 0, box_width_, height()), Qt::AlignCenter, words.front());
-    painter.drawText(QRect(width() - box_width_, 0, box_width_, height()), Qt::AlignCenter, words.back());
+    painter.drawText(QRect(width() - box_width_, 0, box_width_, height()), Qt::AlignCenter,
+                     words.back());
 }
 
 }  // namespace kvt

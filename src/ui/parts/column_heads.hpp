@@ -5,8 +5,8 @@
 
 namespace kvt {
 
-/// The text holds two words set apart by blanks, whose number means nothing here: the first word stands centred over a
-/// box at the left edge, the second over a box at the right edge.
+/// The text holds two words set apart by blanks, whose number means nothing here: the first word
+/// stands centred over a box at the left edge, the second over a box at the right edge.
 class column_heads : public QLabel {
     Q_OBJECT
 

@@ -15,8 +15,8 @@ namespace kvt {
 
 namespace {
 
-/// Two steps of an outline are joined up to this length, pixels, when the point between them is no further off than
-/// INVISIBLE.
+/// Two steps of an outline are joined up to this length, pixels, when the point between them is no
+/// further off than INVISIBLE.
 constexpr double LONGEST_JOINED = 4.0;
 constexpr double INVISIBLE = 0.02;
 
@@ -26,18 +26,20 @@ constexpr qsizetype LONGEST_PIECE = 16;
 /// Line width of both rotors and of the outside circle, pixels.
 constexpr double OUTLINE_WIDTH = 2.0;
 
-/// An arc is drawn with cubic curves; one of a quarter turn is off by 0.00027 of its radius, and a shorter one by the
-/// sixth power of its share of a quarter. After a zoom the radius can be thousands of pixels.
+/// An arc is drawn with cubic curves; one of a quarter turn is off by 0.00027 of its radius, and a
+/// shorter one by the sixth power of its share of a quarter. After a zoom the radius can be
+/// thousands of pixels.
 constexpr double QUARTER_CURVE_ERROR = 0.00027;
 constexpr double LARGEST_CURVE_ERROR = 0.02;  ///< pixels
 constexpr double SMALLEST_CURVE = 0.01;       ///< of a quarter turn
 constexpr double QUARTER_TURN = std::numbers::pi / 2.0;
 
-/// A picture has a side of at most 32767 twips; what lies outside is left out, since after a zoom most of the drawing
-/// does, and painting it takes long.
+/// A picture has a side of at most 32767 twips; what lies outside is left out, since after a zoom
+/// most of the drawing does, and painting it takes long.
 constexpr double MARGIN = 50.0;
 constexpr double LARGEST_SIDE = 32767.0 / TWIPS_PER_PIXEL;
-constexpr QRectF ANY_PICTURE(-MARGIN, -MARGIN, LARGEST_SIDE + 2.0 * MARGIN, LARGEST_SIDE + 2.0 * MARGIN);
+constexpr QRectF ANY_PICTURE(-MARGIN, -MARGIN, LARGEST_SIDE + 2.0 * MARGIN,
+                             LARGEST_SIDE + 2.0 * MARGIN);
 
 struct line_style {
     line_array design_view::*member;
@@ -76,8 +78,8 @@ bool can_be_seen(std::initializer_list<QPointF> points) {
         top = std::min(top, point.y());
         bottom = std::max(bottom, point.y());
     }
-    return left <= ANY_PICTURE.right() && right >= ANY_PICTURE.left() && top <= ANY_PICTURE.bottom() &&
-           bottom >= ANY_PICTURE.top();
+    return left <= ANY_PICTURE.right() && right >= ANY_PICTURE.left() &&
+           top <= ANY_PICTURE.bottom() && bottom >= ANY_PICTURE.top();
 }
 
 /// True when `point` can be left out between `from` and `to` without a visible difference.
@@ -89,13 +91,14 @@ bool is_on_the_way(QPointF from, QPointF point, QPointF to) {
     return length > 0.0 && length < LONGEST_JOINED && off <= INVISIBLE * length;
 }
 
-/// Segments that continue each other become an outline with clean joins: thousands of antialiased segments shorter than
-/// a pixel would blend into a line that is too thick. Points that nobody can see are left out. Long outlines come in
-/// pieces, which are painted in half the time.
+/// Segments that continue each other become an outline with clean joins: thousands of antialiased
+/// segments shorter than a pixel would blend into a line that is too thick. Points that nobody can
+/// see are left out. Long outlines come in pieces, which are painted in half the time.
 std::vector<QPolygonF> outlines_of(const line_array& array) {
     std::vector<QPolygonF> outlines;
     QPointF last;
-    for (std::size_t index = array.element0_visible ? 0 : 1; index < array.elements.size(); ++index) {
+    for (std::size_t index = array.element0_visible ? 0 : 1; index < array.elements.size();
+         ++index) {
         const QPointF start = start_of(array.elements[index]);
         const QPointF end = end_of(array.elements[index]);
         if (!can_be_seen({start, end})) {
@@ -103,7 +106,8 @@ std::vector<QPolygonF> outlines_of(const line_array& array) {
         }
         if (outlines.empty() || start != last || outlines.back().size() > LONGEST_PIECE) {
             outlines.push_back({start, end});
-        } else if (QPolygonF& outline = outlines.back(); is_on_the_way(outline[outline.size() - 2], last, end)) {
+        } else if (QPolygonF& outline = outlines.back();
+                   is_on_the_way(outline[outline.size() - 2], last, end)) {
             outline.back() = end;
         } else {
             outline.append(end);
@@ -124,11 +128,13 @@ QPointF on_circle(QPointF centre, double radius, double angle) {
     return {centre.x() + radius * std::cos(angle), centre.y() - radius * std::sin(angle)};
 }
 
-/// A cubic curve along a circle, counter-clockwise as seen on the screen; its handles are 4/3 tan(turn/4) of the radius
-/// long. It continues the path when that ends at its start.
+/// A cubic curve along a circle, counter-clockwise as seen on the screen; its handles are 4/3
+/// tan(turn/4) of the radius long. It continues the path when that ends at its start.
 void add_curve(QPainterPath& path, QPointF centre, double radius, double from, double to) {
     const double handle = radius * 4.0 / 3.0 * std::tan((to - from) / 4.0);
-    const auto along = [handle](double angle) { return handle * QPointF(-std::sin(angle), -std::cos(angle)); };
+    const auto along = [handle](double angle) {
+        return handle * QPointF(-std::sin(angle), -std::cos(angle));
+    };
     const QPointF start = on_circle(centre, radius, from);
     const QPointF end = on_circle(centre, radius, to);
     const QPointF first = start + along(from);
@@ -203,7 +209,8 @@ void design_painting::take_ports(const design_view& view) {
     for (const line_style& style : PORT_STYLES) {
         std::vector<QPolygonF> outlines = outlines_of(view.*style.member);
         if (!outlines.empty()) {
-            ports_.push_back({QColor(style.red, style.green, style.blue), style.width, std::move(outlines)});
+            ports_.push_back(
+                {QColor(style.red, style.green, style.blue), style.width, std::move(outlines)});
         }
     }
 }
@@ -222,7 +229,8 @@ bool design_painting::take_band(const rubber_band& band) {
 }
 
 bool design_painting::is_empty() const {
-    return arcs_.empty() && ports_.empty() && band_.isEmpty() && inner_rotor_.empty() && circle_.empty();
+    return arcs_.empty() && ports_.empty() && band_.isEmpty() && inner_rotor_.empty() &&
+           circle_.empty();
 }
 
 void design_painting::paint(QPainter& painter) const {

@@ -1,4 +1,5 @@
-// Paints the Design view's data: line elements, arcs and the outside circle in their colours, widths and order.
+// Paints the Design view's data: line elements, arcs and the outside circle in their colours,
+// widths and order.
 #pragma once
 
 #include "views/design_view.hpp"
@@ -15,7 +16,8 @@ class QPainter;
 
 namespace kvt {
 
-/// The drawing in logical pixels, ready to be painted; made once a command, painted as often as the screen asks.
+/// The drawing in logical pixels, ready to be painted; made once a command, painted as often as the
+/// screen asks.
 class design_painting {
   public:
     design_painting() = default;

@@ -12,13 +12,15 @@ namespace kvt {
 
 namespace {
 
-/// The corners of the rubber band are 16-bit integers; a mouse that is further away counts as there.
+/// The corners of the rubber band are 16-bit integers; a mouse that is further away counts as
+/// there.
 constexpr double SMALLEST_TWIPS = -32768.0;
 constexpr double LARGEST_TWIPS = 32767.0;
 
 QPointF twips(const QMouseEvent& event) {
     const QPointF place = event.position() * TWIPS_PER_PIXEL;
-    return {std::clamp(place.x(), SMALLEST_TWIPS, LARGEST_TWIPS), std::clamp(place.y(), SMALLEST_TWIPS, LARGEST_TWIPS)};
+    return {std::clamp(place.x(), SMALLEST_TWIPS, LARGEST_TWIPS),
+            std::clamp(place.y(), SMALLEST_TWIPS, LARGEST_TWIPS)};
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// Picture1: the square sheet of the Design view. It paints what the program has drawn and tells where the mouse is.
+// Picture1: the square sheet of the Design view. It paints what the program has drawn and tells
+// where the mouse is.
 #pragma once
 
 #include "ui/parts/design_painting.hpp"
@@ -19,7 +20,8 @@ class design_picture : public QWidget {
     void show_band(const rubber_band& band);
 
   signals:
-    // Any mouse button; twips from the upper left corner, within 16 bits. During a drag they may lie outside the sheet.
+    // Any mouse button; twips from the upper left corner, within 16 bits. During a drag they may
+    // lie outside the sheet.
     void pressed(double x, double y);
     void moved(double x, double y);  ///< with or without a button held
     void released(double x, double y);

@@ -33,7 +33,8 @@ QPixmap turn_arrow(const QColor& colour, bool clockwise) {
 
 QIcon turn_icon(const QPalette& palette, bool clockwise) {
     QIcon icon(turn_arrow(palette.color(QPalette::Active, QPalette::ButtonText), clockwise));
-    icon.addPixmap(turn_arrow(palette.color(QPalette::Disabled, QPalette::ButtonText), clockwise), QIcon::Disabled);
+    icon.addPixmap(turn_arrow(palette.color(QPalette::Disabled, QPalette::ButtonText), clockwise),
+                   QIcon::Disabled);
     return icon;
 }
 

@@ -21,7 +21,8 @@ std::string entry_name(const QWidget* widget) {
 }
 
 bool is_menu(const QWidget* widget) {
-    return qobject_cast<const QMenuBar*>(widget) != nullptr || qobject_cast<const QMenu*>(widget) != nullptr;
+    return qobject_cast<const QMenuBar*>(widget) != nullptr ||
+           qobject_cast<const QMenu*>(widget) != nullptr;
 }
 
 }  // namespace
@@ -31,7 +32,8 @@ entry_focus::entry_focus(command_runner& runner) : runner_(runner) {
 }
 
 void entry_focus::focus_changed(QWidget*, QWidget* now) {
-    if (now == nullptr || now == entry_ || is_menu(now) || (entry_ != nullptr && now->window() != entry_->window())) {
+    if (now == nullptr || now == entry_ || is_menu(now) ||
+        (entry_ != nullptr && now->window() != entry_->window())) {
         return;
     }
     if (entry_ != nullptr) {

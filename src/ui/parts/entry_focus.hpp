@@ -9,8 +9,8 @@
 
 namespace kvt {
 
-/// Moving to another control of the same window leaves an entry. A window that loses activation, a message box and an
-/// open menu do not: the user comes back to the entry.
+/// Moving to another control of the same window leaves an entry. A window that loses activation, a
+/// message box and an open menu do not: the user comes back to the entry.
 class entry_focus : public QObject {
     Q_OBJECT
 

@@ -17,7 +17,8 @@ class entry_validator : public QValidator {
     State validate(QString& text, int& position) const override;
 };
 
-/// Gives a box its validator; refused is called when the user types or pastes a character that cannot be stored.
+/// Gives a box its validator; refused is called when the user types or pastes a character that
+/// cannot be stored.
 void validate_entry(QLineEdit& box, const std::function<void()>& refused);
 
 }  // namespace kvt

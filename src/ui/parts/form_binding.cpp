@@ -49,10 +49,11 @@ void form_binding::bind_entries() {
         }
         std::string& entry = context_.kavetta.entries.*field.member;
         if (auto* box = root_.findChild<QLineEdit*>(qt_text(field.name))) {
-            QObject::connect(box, &QLineEdit::textEdited, box, [&entry, &runner](const QString& text) {
-                entry = utf8_text(text);
-                runner.note_edit();
-            });
+            QObject::connect(box, &QLineEdit::textEdited, box,
+                             [&entry, &runner](const QString& text) {
+                                 entry = utf8_text(text);
+                                 runner.note_edit();
+                             });
             // A project file dropped on a box is one dropped on the window.
             box->setAcceptDrops(false);
             validate_entry(*box, [context = context_] {
@@ -60,10 +61,11 @@ void form_binding::bind_entries() {
                 context.person.show_status(message_text(message::character_refused, language));
             });
         } else if (auto* check = root_.findChild<QAbstractButton*>(qt_text(field.name))) {
-            QObject::connect(check, &QAbstractButton::clicked, check, [&entry, &runner](bool checked) {
-                entry.assign(1, checked ? '1' : '0');
-                runner.note_edit();
-            });
+            QObject::connect(check, &QAbstractButton::clicked, check,
+                             [&entry, &runner](bool checked) {
+                                 entry.assign(1, checked ? '1' : '0');
+                                 runner.note_edit();
+                             });
         }
     }
 }
@@ -95,7 +97,8 @@ void form_binding::refresh_control(QWidget& control) {
 
 void form_binding::show_text(QWidget& control, std::string_view name) {
     auto* label = qobject_cast<QLabel*>(&control);
-    if (const label_field* output = find_on_form(label_fields(), form_, name); output != nullptr && label != nullptr) {
+    if (const label_field* output = find_on_form(label_fields(), form_, name);
+        output != nullptr && label != nullptr) {
         label->setText(qt_text(context_.kavetta.labels.*output->member));
         return;
     }
@@ -119,11 +122,13 @@ void form_binding::show_enabled(QWidget& control, std::string_view name) {
     const auto* label = qobject_cast<QLabel*>(&control);
     if (label != nullptr && label->buddy() != nullptr) {
         const std::string buddy = utf8_text(label->buddy()->objectName());
-        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, buddy) && !is_not_built_yet(form_, buddy));
+        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, buddy) &&
+                           !is_not_built_yet(form_, buddy));
         return;
     }
     if (find_on_form(enabling_fields(), form_, name) != nullptr || is_not_built_yet(form_, name)) {
-        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, name) && !is_not_built_yet(form_, name));
+        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, name) &&
+                           !is_not_built_yet(form_, name));
     }
 }
 

@@ -1,5 +1,5 @@
-// Binds the controls of a form to the program by their names: the one place that copies boxes to entries and
-// entries, labels, captions, tooltips and enabling to the controls.
+// Binds the controls of a form to the program by their names: the one place that copies boxes to
+// entries and entries, labels, captions, tooltips and enabling to the controls.
 #pragma once
 
 #include "ui/shell/command_runner.hpp"
@@ -19,8 +19,8 @@ struct form_context {
 
 class form_binding {
   public:
-    /// Binds the controls below root whose objectName is that of an entry, label or caption of the form: an edit goes
-    /// to its entry at once. Call it once, when all controls exist.
+    /// Binds the controls below root whose objectName is that of an entry, label or caption of the
+    /// form: an edit goes to its entry at once. Call it once, when all controls exist.
     form_binding(form_context context, std::string form, QWidget& root);
 
     /// Shows the program's state in all controls of the form.
@@ -43,7 +43,8 @@ QString caption_of(const program& kavetta, std::string_view form, std::string_vi
 /// The tooltip of a control in the current language; empty for a control without one.
 QString tooltip_of(const program& kavetta, std::string_view form, std::string_view control);
 
-/// True when the enabling record lets a control be used; a control without a field in it can always be used.
+/// True when the enabling record lets a control be used; a control without a field in it can always
+/// be used.
 bool is_enabled(const enabling& state, std::string_view form, std::string_view control);
 
 }  // namespace kvt

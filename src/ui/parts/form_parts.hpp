@@ -26,18 +26,20 @@ void accent(QPushButton& button);
 /// A box for a number, right-aligned, with a fixed width in pixels.
 QLineEdit* number_box(const char* name, int width);
 
-/// The font of a form with many entries in little room: a ninth smaller than that of the application.
+/// The font of a form with many entries in little room: a ninth smaller than that of the
+/// application.
 QFont compact_font();
 
 /// A box for a number in the compact font, as wide as the widest number needs.
 QLineEdit* compact_box(const char* name, const char* widest);
 int compact_box_width(const char* widest);
 
-/// Widens a compact box by a faint unit behind the number, as wide as its widest text; the label is named as the entry
-/// with "_unit".
+/// Widens a compact box by a faint unit behind the number, as wide as its widest text; the label is
+/// named as the entry with "_unit".
 QLabel* add_unit(QLineEdit& box, const QString& widest);
 
-/// A button and a check box that Tab reaches and a click does not focus, so that Enter stays with the main button.
+/// A button and a check box that Tab reaches and a click does not focus, so that Enter stays with
+/// the main button.
 QPushButton* command_button(const char* name);
 QCheckBox* named_check(const char* name);
 

@@ -6,8 +6,8 @@
 namespace kvt {
 
 /// Says when the left mouse button goes down on it and when it goes up on it.
-/// Kept: a mouse-up elsewhere says nothing, so what was started goes on until the next mouse-up on the button;
-/// viewwinfrm_test holds it.
+/// Kept: a mouse-up elsewhere says nothing, so what was started goes on until the next mouse-up on
+/// the button; viewwinfrm_test holds it.
 class hold_button : public QToolButton {
     Q_OBJECT
 

@@ -22,8 +22,10 @@ void paint_union_flag(QPainter& painter, const QRectF& area) {
             painter.drawLine(area.topLeft(), area.bottomRight());
             painter.drawLine(area.topRight(), area.bottomLeft());
         }
-        painter.fillRect(QRectF(area.left(), centre.y() - straight / 2, area.width(), straight), colour);
-        painter.fillRect(QRectF(centre.x() - straight / 2, area.top(), straight, area.height()), colour);
+        painter.fillRect(QRectF(area.left(), centre.y() - straight / 2, area.width(), straight),
+                         colour);
+        painter.fillRect(QRectF(centre.x() - straight / 2, area.top(), straight, area.height()),
+                         colour);
     };
     cross(Qt::white, area.height() / 5.0, 0.0);
     cross(FLAG_RED, area.height() / 14.0, 0.0);
@@ -35,7 +37,8 @@ void paint_german_flag(QPainter& painter, const QRectF& area) {
     const double stripe = area.height() / 3.0;
     painter.fillRect(area, Qt::black);
     painter.fillRect(QRectF(area.left(), area.top() + stripe, area.width(), stripe), FLAG_RED);
-    painter.fillRect(QRectF(area.left(), area.top() + 2.0 * stripe, area.width(), stripe), FLAG_GOLD);
+    painter.fillRect(QRectF(area.left(), area.top() + 2.0 * stripe, area.width(), stripe),
+                     FLAG_GOLD);
 }
 
 }  // namespace

@@ -147,7 +147,8 @@ void MDIForm1::place_itself() {
 
 /// Shows a child window again, also one that was closed or minimised, and lets the user work in it.
 void MDIForm1::bring_to_front(const QString& form) {
-    context_.runner.act([name = utf8_text(form)](program&, user& person) { person.show_form(name); });
+    context_.runner.act(
+        [name = utf8_text(form)](program&, user& person) { person.show_form(name); });
     if (auto* child = findChild<mdi_form*>(form)) {
         if (child->isMinimized()) {
             child->showNormal();
@@ -157,8 +158,9 @@ void MDIForm1::bring_to_front(const QString& form) {
 }
 
 void MDIForm1::save_layout() {
-    context_.runner.act(
-        [this](program& kavetta, user& person) { kvt::save_layout(kavetta, person, present_layout(*this)); });
+    context_.runner.act([this](program& kavetta, user& person) {
+        kvt::save_layout(kavetta, person, present_layout(*this));
+    });
 }
 
 void MDIForm1::restore_layout() {
@@ -195,7 +197,8 @@ void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
 void MDIForm1::dropEvent(QDropEvent* event) {
     const std::string path = utf8_text(dragged_project(*event->mimeData()));
     event->acceptProposedAction();
-    context_.runner.act([&path](program& kavetta, user& person) { open_project_file(kavetta, person, path); });
+    context_.runner.act(
+        [&path](program& kavetta, user& person) { open_project_file(kavetta, person, path); });
 }
 
 void MDIForm1::ask_exit() {
@@ -209,7 +212,8 @@ void MDIForm1::show_about() {
     });
 }
 
-/// The entry in use is left first, as before a command. The dialog itself is none: its OK button starts one.
+/// The entry in use is left first, as before a command. The dialog itself is none: its OK button
+/// starts one.
 void MDIForm1::show_cnc_output() {
     context_.runner.act([](program&, user&) {});
     if (context_.runner.is_running() || context_.runner.has_ended()) {

@@ -24,10 +24,11 @@ class MDIForm1 : public QMainWindow {
 
     /// Shows the program's state in the menus and in every child window.
     void refresh();
-    /// Shows the windows of the start where the program's window rectangles say, the main window last.
+    /// Shows the windows of the start where the program's window rectangles say, the main window
+    /// last.
     void show_start(const start_layout& start);
-    /// Builds one of the forms that are forgotten when they close, in the middle of the window, not shown yet. Throws
-    /// run_time_error when its load fails.
+    /// Builds one of the forms that are forgotten when they close, in the middle of the window, not
+    /// shown yet. Throws run_time_error when its load fails.
     void load_child(std::string_view form);
 
   protected:

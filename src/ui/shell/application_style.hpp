@@ -8,7 +8,8 @@ namespace kvt {
 
 void set_application_style(QApplication& application);
 
-/// The dark palette that the program is shown in when the system asks for none by itself (screenshots, tests).
+/// The dark palette that the program is shown in when the system asks for none by itself
+/// (screenshots, tests).
 QPalette dark_palette();
 
 }  // namespace kvt

@@ -9,7 +9,8 @@
 
 namespace kvt {
 
-command_runner::command_runner(program& kavetta, user& person) : program_(kavetta), person_(person) {}
+command_runner::command_runner(program& kavetta, user& person)
+    : program_(kavetta), person_(person) {}
 
 void command_runner::run(const command& action) {
     if (!running_ && !ended_) {

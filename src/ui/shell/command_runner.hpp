@@ -1,5 +1,5 @@
-// Runs the commands of the desktop program, one at a time: first the leave handler of the entry in use, then the
-// command, then every form is refreshed.
+// Runs the commands of the desktop program, one at a time: first the leave handler of the entry in
+// use, then the command, then every form is refreshed.
 #pragma once
 
 #include "app/program.hpp"
@@ -25,9 +25,9 @@ class command_runner : public QObject {
     /// The same for a command after which the program goes on.
     void act(const std::function<void(program&, user&)>& action);
 
-    /// Runs a step of the Design view, e.g. a tick of a held button, under the same rule. No entry is left for it and
-    /// no form shown anew: the view takes it over itself. True when it ran and the program goes on; a fatal failure
-    /// ends the program like that of a command.
+    /// Runs a step of the Design view, e.g. a tick of a held button, under the same rule. No entry
+    /// is left for it and no form shown anew: the view takes it over itself. True when it ran and
+    /// the program goes on; a fatal failure ends the program like that of a command.
     bool step(const std::function<void(program&)>& action);
 
     /// An entry was edited: who follows the typing shows its state anew.
@@ -36,13 +36,16 @@ class command_runner : public QObject {
     bool is_running() const { return running_; }
     bool has_ended() const { return ended_; }
 
-    /// The user has entered an entry: its leave handler is due before the next command. Empty: no entry is in use.
+    /// The user has entered an entry: its leave handler is due before the next command. Empty: no
+    /// entry is in use.
     void use_entry(const std::string& name);
-    /// The user has left an entry: its handler runs from the event loop, not inside the change of focus.
+    /// The user has left an entry: its handler runs from the event loop, not inside the change of
+    /// focus.
     void leave(const std::string& name);
 
   signals:
-    /// A command begins: what goes on by itself stops. Not for a step, nor for the handler of an entry that was left.
+    /// A command begins: what goes on by itself stops. Not for a step, nor for the handler of an
+    /// entry that was left.
     void starting();
     void edited();
     /// Forms show the program's state anew.

@@ -13,9 +13,11 @@ desktop::desktop(const std::filesystem::path& folder)
       window_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
     autosave_timer_.setObjectName("autosave_timer");
-    QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_, [this] { save_unsaved(); });
+    QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_,
+                     [this] { save_unsaved(); });
     person_.attach(
-        &window_, [this] { window_.refresh(); }, [this](std::string_view form) { window_.load_child(form); });
+        &window_, [this] { window_.refresh(); },
+        [this](std::string_view form) { window_.load_child(form); });
 }
 
 bool desktop::load() {

@@ -20,13 +20,13 @@ class desktop {
     /// folder is the program's folder, already filled.
     explicit desktop(const std::filesystem::path& folder);
 
-    /// Reads the settings and shows the splash picture; when its time is over the program starts. False when the
-    /// program ended meanwhile.
+    /// Reads the settings and shows the splash picture; when its time is over the program starts.
+    /// False when the program ended meanwhile.
     bool show_splash(const std::string& path = {});
 
-    /// Asks new or open (or opens the project of path in its place), reads the layout, then shows the windows; from
-    /// then on changed entries are saved every 30 s. Reads the settings first when that was not done. False when the
-    /// program ended meanwhile.
+    /// Asks new or open (or opens the project of path in its place), reads the layout, then shows
+    /// the windows; from then on changed entries are saved every 30 s. Reads the settings first
+    /// when that was not done. False when the program ended meanwhile.
     bool start(const std::string& path = {});
 
     kvt::program& program() { return program_; }

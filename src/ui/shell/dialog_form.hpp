@@ -7,7 +7,8 @@
 
 namespace kvt {
 
-/// A dialog named as its form, whose texts are the program's captions at the moment it appears. Esc closes it.
+/// A dialog named as its form, whose texts are the program's captions at the moment it appears. Esc
+/// closes it.
 class dialog_form : public QDialog {
     Q_OBJECT
 

@@ -22,7 +22,8 @@ void set_up(QFileDialog& box, const file_dialog& dialog) {
     box.setWindowTitle(qt_text(dialog.title));
     box.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    box.setOption(QFileDialog::DontConfirmOverwrite, dialog.saving && (dialog.flags & OVERWRITE_PROMPT) == 0);
+    box.setOption(QFileDialog::DontConfirmOverwrite,
+                  dialog.saving && (dialog.flags & OVERWRITE_PROMPT) == 0);
     box.setDefaultSuffix(qt_text(dialog.default_extension));
     const QStringList filters = name_filters(dialog.filter);
     box.setNameFilters(filters);

@@ -9,7 +9,8 @@ class QWidget;
 
 namespace kvt {
 
-/// "All files|*.*|KVT|*.KVT" becomes "All files (*)", "KVT (*.KVT *.kvt)": both ways to write an extension match.
+/// "All files|*.*|KVT|*.KVT" becomes "All files (*)", "KVT (*.KVT *.kvt)": both ways to write an
+/// extension match.
 QStringList name_filters(std::string_view filter);
 
 /// Shows the dialog. The chosen full path, or nothing when it was cancelled.

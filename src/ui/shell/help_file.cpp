@@ -16,7 +16,9 @@ void open_help_file(program& kavetta, user& person) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error) ||
         !QDesktopServices::openUrl(QUrl::fromLocalFile(qt_text(file.string())))) {
-        person.show_status(std::string(message_text(message::open_failed, kavetta.app_state.language)) + file.string());
+        person.show_status(
+            std::string(message_text(message::open_failed, kavetta.app_state.language)) +
+            file.string());
     }
 }
 

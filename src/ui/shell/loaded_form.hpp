@@ -1,4 +1,5 @@
-// loaded_form: what the child windows have in common that are built when they are shown and forgotten when they close.
+// loaded_form: what the child windows have in common that are built when they are shown and
+// forgotten when they close.
 #pragma once
 
 #include "ui/shell/mdi_form.hpp"
@@ -24,8 +25,8 @@ class loaded_form : public mdi_form {
     virtual void unload() {}
 };
 
-/// Builds the child window of a name; nullptr for forms that are not built this way. Throws run_time_error when the
-/// load of the form fails.
+/// Builds the child window of a name; nullptr for forms that are not built this way. Throws
+/// run_time_error when the load of the form fails.
 loaded_form* load_form(std::string_view form, form_context context);
 
 }  // namespace kvt

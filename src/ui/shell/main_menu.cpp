@@ -16,16 +16,19 @@ namespace kvt {
 
 namespace {
 
-/// The design-time captions of the recent entries; one that was never set moves down the list with the others.
+/// The design-time captions of the recent entries; one that was never set moves down the list with
+/// the others.
 constexpr std::array<std::string_view, 4> DESIGN_TIME_CAPTIONS = {"&1", "&2", "&3", "&4"};
 
 bool holds_a_project(const std::string& caption) {
-    return !caption.empty() && std::ranges::find(DESIGN_TIME_CAPTIONS, caption) == DESIGN_TIME_CAPTIONS.end();
+    return !caption.empty() &&
+           std::ranges::find(DESIGN_TIME_CAPTIONS, caption) == DESIGN_TIME_CAPTIONS.end();
 }
 
 }  // namespace
 
-main_menu::main_menu(form_context context, QMainWindow& window) : QObject(&window), context_(context) {
+main_menu::main_menu(form_context context, QMainWindow& window)
+    : QObject(&window), context_(context) {
     for (const menu_row& row : menu_rows()) {
         add_row(row, window);
     }
@@ -65,7 +68,8 @@ void main_menu::add_entry(const menu_row& row, QMenu& menu) {
     action->setChecked(row.is_checkable);
     action->setShortcut(QKeySequence(QString(row.shortcut), QKeySequence::PortableText));
     if (row.command != nullptr) {
-        connect(action, &QAction::triggered, this, [this, command = row.command] { context_.runner.run(command); });
+        connect(action, &QAction::triggered, this,
+                [this, command = row.command] { context_.runner.run(command); });
     }
     actions_[action->objectName()] = action;
 }
@@ -75,8 +79,9 @@ void main_menu::add_recent_entries(const menu_row& row, QMenu& menu) {
         QAction* action = menu.addAction(QString());
         action->setObjectName(qt_text(row.name) + QString::number(index));
         connect(action, &QAction::triggered, this, [this, index] {
-            context_.runner.act(
-                [index](program& kavetta, user& person) { previous_design(kavetta, person, static_cast<int>(index)); });
+            context_.runner.act([index](program& kavetta, user& person) {
+                previous_design(kavetta, person, static_cast<int>(index));
+            });
         });
         recent_.at(index) = action;
     }

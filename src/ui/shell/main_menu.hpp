@@ -1,4 +1,5 @@
-// main_menu: the menus of the main window, built from the menu tree and kept true to the program's state.
+// main_menu: the menus of the main window, built from the menu tree and kept true to the program's
+// state.
 #pragma once
 
 #include "ui/parts/form_binding.hpp"
@@ -19,8 +20,8 @@ class main_menu : public QObject {
     Q_OBJECT
 
   public:
-    /// Builds the whole tree in the window's menu bar. Each menu and entry has its product name as objectName; the
-    /// recent entries are mnufileprev0 .. mnufileprev3.
+    /// Builds the whole tree in the window's menu bar. Each menu and entry has its product name as
+    /// objectName; the recent entries are mnufileprev0 .. mnufileprev3.
     main_menu(form_context context, QMainWindow& window);
 
     /// Shows captions, recent projects and enabling.

@@ -21,8 +21,8 @@ int pixels(float twips) {
 mdi_form::mdi_form(const char* form, form_context context) : context_(context), form_(form) {
     setObjectName(form);
     setAttribute(Qt::WA_DeleteOnClose, false);
-    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint |
-                   Qt::WindowCloseButtonHint);
+    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     setWindowIcon(program_icon());
 }
 
@@ -49,7 +49,8 @@ void mdi_form::place(const window_rectangle& rectangle) {
     if (isMaximized() || isMinimized() || isShaded()) {
         setWindowState(Qt::WindowNoState);
     }
-    setGeometry(pixels(rectangle.left), pixels(rectangle.top), pixels(rectangle.width), pixels(rectangle.height));
+    setGeometry(pixels(rectangle.left), pixels(rectangle.top), pixels(rectangle.width),
+                pixels(rectangle.height));
 }
 
 void mdi_form::moveEvent(QMoveEvent* event) {

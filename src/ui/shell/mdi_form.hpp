@@ -12,8 +12,8 @@ class QPushButton;
 
 namespace kvt {
 
-/// A child window named as its form. A derived class builds its controls below a content widget, names each one, and
-/// calls bind().
+/// A child window named as its form. A derived class builds its controls below a content widget,
+/// names each one, and calls bind().
 class mdi_form : public QMdiSubWindow {
     Q_OBJECT
 
@@ -25,7 +25,8 @@ class mdi_form : public QMdiSubWindow {
 
     /// Places the window, frame included; twips, 15 to a logical pixel.
     void place(const window_rectangle& rectangle);
-    /// The place, frame included, that the window has or goes back to when it is neither maximised nor minimised.
+    /// The place, frame included, that the window has or goes back to when it is neither maximised
+    /// nor minimised.
     QRect normal_place() const { return normal_place_; }
 
   protected:

@@ -92,7 +92,8 @@ const std::array MENU_ROWS = {
 
     menu_row{"mnuhelp", "", MENU},
     menu_row{"mnuhelpexplain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_gerotor_explanation>},
-    menu_row{"mnuhelpport_explain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_porting_explanation>},
+    menu_row{"mnuhelpport_explain", "mnuhelp", ENTRY, false, NO_KEY,
+             going_on<show_porting_explanation>},
     menu_row{"mnuhelpcontents", "mnuhelp", ENTRY, false, "F1", going_on<open_help_file>},
     menu_row{"mnuhelpabout", "mnuhelp"},
 };

@@ -15,8 +15,10 @@ struct menu_row {
     std::string_view menu;  ///< the menu it stands in; empty for a menu of the menu bar
     menu_kind kind = menu_kind::entry;
     bool is_hidden = false;
-    const char* shortcut = "";  ///< portable text of the keys, the same on every desktop; empty for none
-    bool (*command)(program&, user&) = nullptr;  ///< true when the program ends; nullptr for what has no command here
+    const char* shortcut =
+        "";  ///< portable text of the keys, the same on every desktop; empty for none
+    bool (*command)(program&, user&) =
+        nullptr;  ///< true when the program ends; nullptr for what has no command here
     bool is_checkable = false;
     void (*opening)(program&) = nullptr;  ///< run before a menu is shown
 };

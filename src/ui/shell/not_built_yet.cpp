@@ -37,8 +37,9 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
 }  // namespace
 
 bool is_not_built_yet(std::string_view form, std::string_view control) {
-    return std::ranges::any_of(NOT_BUILT_YET,
-                               [&](const control_name& row) { return row.form == form && row.control == control; });
+    return std::ranges::any_of(NOT_BUILT_YET, [&](const control_name& row) {
+        return row.form == form && row.control == control;
+    });
 }
 
 }  // namespace kvt

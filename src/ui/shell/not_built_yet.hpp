@@ -1,4 +1,5 @@
-// The one list of controls and menu entries whose command does not exist yet. They are shown, but can't be used.
+// The one list of controls and menu entries whose command does not exist yet. They are shown, but
+// can't be used.
 #pragma once
 
 #include <string_view>

@@ -7,9 +7,10 @@ class QMainWindow;
 
 namespace kvt {
 
-/// The rectangles of the main window, of its child windows and of the open charts, twips. A child window counts with
-/// the place it has when it is neither maximised nor minimised, shown or hidden; an explanation window and a chart have
-/// one while they are there, the main window while its state is normal.
+/// The rectangles of the main window, of its child windows and of the open charts, twips. A child
+/// window counts with the place it has when it is neither maximised nor minimised, shown or hidden;
+/// an explanation window and a chart have one while they are there, the main window while its state
+/// is normal.
 present_windows present_layout(const QMainWindow& window);
 
 /// Puts the main window where its rectangle says; its frame belongs to the place, not to the size.

@@ -18,17 +18,19 @@ namespace kvt {
 
 namespace {
 
-/// Behind a message box the window becomes active a little later, and the child window then takes back its old focus.
+/// Behind a message box the window becomes active a little later, and the child window then takes
+/// back its old focus.
 void focus_when_active(QWidget* target) {
     auto* once = new QObject(target);
-    QObject::connect(qApp, &QApplication::focusChanged, once, [once, target](QWidget*, const QWidget* now) {
-        if (now == nullptr || now->window() != target->window()) {
-            return;
-        }
-        once->deleteLater();
-        QMetaObject::invokeMethod(
-            target, [target] { target->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
-    });
+    QObject::connect(
+        qApp, &QApplication::focusChanged, once, [once, target](QWidget*, const QWidget* now) {
+            if (now == nullptr || now->window() != target->window()) {
+                return;
+            }
+            once->deleteLater();
+            QMetaObject::invokeMethod(
+                target, [target] { target->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
+        });
 }
 
 /// A carriage return inside a message, with or without a line feed, is one line break.
@@ -40,13 +42,15 @@ QString with_line_breaks(QString text) {
 
 qt_user::qt_user(const program& kavetta) : kavetta_(kavetta) {}
 
-void qt_user::attach(QMainWindow* window, std::function<void()> refresh, std::function<void(std::string_view)> load) {
+void qt_user::attach(QMainWindow* window, std::function<void()> refresh,
+                     std::function<void(std::string_view)> load) {
     window_ = window;
     refresh_ = std::move(refresh);
     load_ = std::move(load);
 }
 
-/// Dialogs before the main window is on the screen stand alone; above another dialog they belong to that.
+/// Dialogs before the main window is on the screen stand alone; above another dialog they belong to
+/// that.
 QWidget* qt_user::parent() const {
     if (QWidget* dialog = QApplication::activeModalWidget()) {
         return dialog;

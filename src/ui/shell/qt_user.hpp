@@ -1,4 +1,5 @@
-// qt_user: the person in front of the screen. Messages, questions and file dialogs are modal windows.
+// qt_user: the person in front of the screen. Messages, questions and file dialogs are modal
+// windows.
 #pragma once
 
 #include "app/program.hpp"
@@ -21,9 +22,10 @@ class qt_user : public user {
   public:
     explicit qt_user(const program& kavetta);
 
-    /// The window that dialogs stand above, how to show the program's state before one appears, and how to load a form
-    /// that is not there.
-    void attach(QMainWindow* window, std::function<void()> refresh, std::function<void(std::string_view)> load);
+    /// The window that dialogs stand above, how to show the program's state before one appears, and
+    /// how to load a form that is not there.
+    void attach(QMainWindow* window, std::function<void()> refresh,
+                std::function<void(std::string_view)> load);
 
     void show_message(std::string_view text) override;
     answer ask(std::string_view question, question_buttons buttons) override;

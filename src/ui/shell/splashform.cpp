@@ -29,7 +29,8 @@ constexpr QColor FAINT(176, 194, 216);
 
 }  // namespace
 
-splashform::splashform() : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), timer_(new QTimer(this)) {
+splashform::splashform()
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), timer_(new QTimer(this)) {
     setObjectName("splashform");
     setWindowTitle(qt_text(PROGRAM_NAME));
     setFixedSize(SIZE);

@@ -1,5 +1,5 @@
-// status_hints: what stands at the right of the status bar, whatever is told beside it: where the mouse is in the
-// design, and which results don't belong to the entries any more.
+// status_hints: what stands at the right of the status bar, whatever is told beside it: where the
+// mouse is in the design, and which results don't belong to the entries any more.
 #pragma once
 
 #include "app/program.hpp"

@@ -8,7 +8,8 @@
 
 namespace kvt {
 
-window_menu::window_menu(form_context context, QMainWindow& window) : QObject(&window), context_(context) {
+window_menu::window_menu(form_context context, QMainWindow& window)
+    : QObject(&window), context_(context) {
     auto* menu = window.findChild<QMenu*>("mnuwindow");
     for (const window_rectangle_field& field : window_rectangle_fields()) {
         const QString form = qt_text(field.name);
@@ -21,7 +22,8 @@ window_menu::window_menu(form_context context, QMainWindow& window) : QObject(&w
 
 void window_menu::refresh() {
     for (qsizetype index = 0; index < entries_.size(); ++index) {
-        const std::string_view form = window_rectangle_fields()[static_cast<std::size_t>(index)].name;
+        const std::string_view form =
+            window_rectangle_fields()[static_cast<std::size_t>(index)].name;
         entries_[index]->setText(caption_of(context_.kavetta, form, "").replace('&', "&&"));
     }
 }

@@ -1,4 +1,5 @@
-// window_menu: the Window menu, which shows the five child windows again and brings one to the front.
+// window_menu: the Window menu, which shows the five child windows again and brings one to the
+// front.
 #pragma once
 
 #include "ui/parts/form_binding.hpp"
@@ -15,7 +16,8 @@ class window_menu : public QObject {
     Q_OBJECT
 
   public:
-    /// Fills the menu mnuwindow of the window; an entry is named as its form with "mnuwindow_" before it.
+    /// Fills the menu mnuwindow of the window; an entry is named as its form with "mnuwindow_"
+    /// before it.
     window_menu(form_context context, QMainWindow& window);
 
     /// Shows the titles of the windows in the current language.

@@ -106,8 +106,8 @@ TEST_F(autosave_test, is_offered_in_both_languages_and_opened_without_a_file) {
         person.questions.clear();
         person.answers = {answer::yes};
         start_project(kavetta, person);
-        EXPECT_EQ(person.questions,
-                  std::vector<std::string>{std::string(message_text(message::open_unsaved_entries, language))});
+        EXPECT_EQ(person.questions, std::vector<std::string>{std::string(
+                                        message_text(message::open_unsaved_entries, language))});
         EXPECT_EQ(kavetta.entries.ecc, "3.25");
         EXPECT_FALSE(kavetta.app_state.project_has_file);
         EXPECT_EQ(kavetta.app_state.project_path, "");

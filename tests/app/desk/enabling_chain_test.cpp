@@ -47,9 +47,11 @@ TEST(porting_type, both_double_sided_boxes_untick_and_disable_the_shadow_ports) 
 TEST(porting_type, the_groove_box_opens_its_entries) {
     program kavetta;
     set_porting_check(kavetta, &entries::metering_groove, "1");
-    EXPECT_TRUE(kavetta.enabling.groove_length && kavetta.enabling.groove_width && kavetta.enabling.groove_depth);
+    EXPECT_TRUE(kavetta.enabling.groove_length && kavetta.enabling.groove_width &&
+                kavetta.enabling.groove_depth);
     set_porting_check(kavetta, &entries::metering_groove, "0");
-    EXPECT_FALSE(kavetta.enabling.groove_length || kavetta.enabling.groove_width || kavetta.enabling.groove_depth);
+    EXPECT_FALSE(kavetta.enabling.groove_length || kavetta.enabling.groove_width ||
+                 kavetta.enabling.groove_depth);
 }
 
 }  // namespace

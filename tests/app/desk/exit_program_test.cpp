@@ -19,7 +19,8 @@ TEST_F(exit_test, writes_the_settings_and_ends_on_no) {
     EXPECT_TRUE(exit_program(kavetta, person));
     EXPECT_EQ(line_of(folder.file("KVT.ini"), 1), "/a/b.KVT");
     EXPECT_EQ(line_of(folder.file("KVT.ini"), 5), "2");
-    EXPECT_EQ(person.questions.at(0), "W\xC3\xBCnschen Sie, irgendeine \xC3\x84nderungen zu sparen, bevor ausgehend?");
+    EXPECT_EQ(person.questions.at(0),
+              "W\xC3\xBCnschen Sie, irgendeine \xC3\x84nderungen zu sparen, bevor ausgehend?");
 }
 
 TEST_F(exit_test, keeps_running_on_cancel_and_never_forgets_it) {
@@ -57,18 +58,21 @@ TEST_F(exit_test, fails_for_good_when_the_settings_cannot_be_written) {
 
 TEST_F(run_command_test, saves_the_entries_tells_the_error_and_ends_the_program) {
     kavetta.entries.thick = "12,5";
-    const bool ends = run_command(kavetta, person, []() -> bool { throw run_time_error(failure::division_by_zero); });
+    const bool ends = run_command(
+        kavetta, person, []() -> bool { throw run_time_error(failure::division_by_zero); });
     EXPECT_TRUE(ends);
     EXPECT_EQ(line_of(folder.file("recovery.KVT"), 6), "12,5");
     ASSERT_EQ(person.messages.size(), 1U);
     EXPECT_NE(person.messages[0].find("11"), std::string::npos) << person.messages[0];
     EXPECT_NE(person.messages[0].find("Division by zero"), std::string::npos) << person.messages[0];
-    EXPECT_NE(person.messages[0].find(folder.file("recovery.KVT")), std::string::npos) << person.messages[0];
+    EXPECT_NE(person.messages[0].find(folder.file("recovery.KVT")), std::string::npos)
+        << person.messages[0];
 }
 
 TEST_F(run_command_test, says_so_when_even_the_recovery_project_cannot_be_written) {
     kavetta.folder = folder.path() / "gone";
-    EXPECT_TRUE(run_command(kavetta, person, []() -> bool { throw run_time_error(failure::type_mismatch); }));
+    EXPECT_TRUE(run_command(kavetta, person,
+                            []() -> bool { throw run_time_error(failure::type_mismatch); }));
     ASSERT_EQ(person.messages.size(), 1U);
     EXPECT_EQ(person.messages[0].find("recovery"), std::string::npos) << person.messages[0];
 }

@@ -28,7 +28,8 @@ TEST_F(layout_commands_test, save_writes_the_present_windows_and_tells_in_both_l
         person.messages.clear();
         save_layout(kavetta, person, some_windows());
         EXPECT_TRUE(written().starts_with("Design\r\n 8000 \r\n 5000 \r\n 10 \r\n 20 \r\n\r\n"));
-        EXPECT_EQ(person.messages, texts{std::string(message_text(message::screen_layout_saved, language))});
+        EXPECT_EQ(person.messages,
+                  texts{std::string(message_text(message::screen_layout_saved, language))});
     }
 }
 
@@ -59,8 +60,8 @@ TEST_F(layout_commands_test, restore_sets_the_built_in_layout_and_writes_its_fiv
     expected.FLOW_graphview2 = {5, 6, 7, 8};
     EXPECT_EQ(windows, expected);
     EXPECT_TRUE(kavetta.app_state.explain_closed);
-    EXPECT_EQ(person.log, (texts{"show Form1", "show portdes", "show viewwinfrm", "show Perffrm", "show select_graphs",
-                                 "unload explain", "unload port_explain"}));
+    EXPECT_EQ(person.log, (texts{"show Form1", "show portdes", "show viewwinfrm", "show Perffrm",
+                                 "show select_graphs", "unload explain", "unload port_explain"}));
     EXPECT_EQ(written(),
               "Design\r\n 8085 \r\n 5430 \r\n 0 \r\n 0 \r\n\r\n"
               "Port Design\r\n 2895 \r\n 10200 \r\n 8100 \r\n 0 \r\n\r\n"
@@ -69,7 +70,8 @@ TEST_F(layout_commands_test, restore_sets_the_built_in_layout_and_writes_its_fiv
               "Charts\r\n 2355 \r\n 4395 \r\n 8100 \r\n 10220 \r\n\r\n");
 }
 
-TEST_F(layout_commands_test, start_without_a_file_shows_the_built_in_layout_with_the_focus_on_Form1) {
+TEST_F(layout_commands_test,
+       start_without_a_file_shows_the_built_in_layout_with_the_focus_on_Form1) {
     kavetta.app_state.explain_closed = false;
     const start_layout start = read_start_layout(kavetta);
     EXPECT_EQ(start.shown, (forms{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}));
@@ -79,7 +81,8 @@ TEST_F(layout_commands_test, start_without_a_file_shows_the_built_in_layout_with
     EXPECT_TRUE(person.messages.empty());
 }
 
-TEST_F(layout_commands_test, start_after_a_restore_shows_the_five_windows_in_the_order_of_the_file) {
+TEST_F(layout_commands_test,
+       start_after_a_restore_shows_the_five_windows_in_the_order_of_the_file) {
     restore_default_layout(kavetta, person);
     const start_layout start = read_start_layout(kavetta);
     EXPECT_EQ(start.shown, (forms{"Form1", "portdes", "viewwinfrm", "Perffrm", "select_graphs"}));
@@ -97,7 +100,8 @@ TEST_F(layout_commands_test, start_after_a_save_with_a_chart_of_all_shows_the_ex
     EXPECT_EQ(start.shown[5], "explain");
     EXPECT_EQ(start.shown[6], "port_explain");
     EXPECT_EQ(kavetta.window_rectangles.Form1, (window_rectangle{8000, 5000, 10, 20}));
-    EXPECT_EQ(kavetta.window_rectangles.OVREFF_graphview2, (chart_rectangle{6630, 8790, 2100, 2100}));
+    EXPECT_EQ(kavetta.window_rectangles.OVREFF_graphview2,
+              (chart_rectangle{6630, 8790, 2100, 2100}));
 }
 
 }  // namespace

@@ -30,7 +30,8 @@ TEST(capacity_unit_change, converts_both_capacities_with_the_factor_of_the_table
     select_capacity_unit(kavetta, "Cu In/Rev");
     EXPECT_EQ(kavetta.labels.capacity, "6.103");  // 26.4201 * 0.231 = 6.10304...
     select_capacity_unit(kavetta, "USGall/Min/1000rpm");
-    EXPECT_EQ(kavetta.labels.capacity, "26.4199") << "there and back can change the last digits";  // 6.103 / 0.231
+    EXPECT_EQ(kavetta.labels.capacity, "26.4199")
+        << "there and back can change the last digits";  // 6.103 / 0.231
 }
 
 TEST(capacity_unit_change, ignores_a_text_that_is_not_in_the_list) {

@@ -27,7 +27,8 @@ class cnc_output : public testing::Test {
         form.groovetooltext = "1";
     }
     void tick(std::string_view name) {
-        tick_cnc_file(kavetta, form, static_cast<std::size_t>(find_cnc_file(name) - cnc_files().data()), true);
+        tick_cnc_file(kavetta, form,
+                      static_cast<std::size_t>(find_cnc_file(name) - cnc_files().data()), true);
     }
     bool write() { return write_cnc_files(kavetta, person, form); }
     /// The message of a refused press, in a language.
@@ -51,7 +52,8 @@ class cnc_output : public testing::Test {
 
 TEST_F(cnc_output, opens_with_the_units_and_five_resolutions) {
     EXPECT_EQ(form.toolunits, "mm");
-    EXPECT_EQ(form.machine_res_items, (std::vector<std::string>{"0.01", "0.001", "0.0001", "0.00001", "0.000001"}));
+    EXPECT_EQ(form.machine_res_items,
+              (std::vector<std::string>{"0.01", "0.001", "0.0001", "0.00001", "0.000001"}));
     EXPECT_FALSE(form.groove_entry_shown);
     kavetta.app_state.drawing_units = INCHES;
     const cnc_form inches = open_cnc_form(kavetta, ',');
@@ -74,19 +76,23 @@ TEST_F(cnc_output, shows_the_groove_tool_for_the_outlet_pocket_of_a_groove) {
 TEST_F(cnc_output, asks_for_a_resolution_first) {
     form.machine_res_combo = form.toolsize = "";
     tick("inner_offset");
-    EXPECT_EQ(refusal(ENGLISH), "Enter a resolution for the CNC machine you will use\r(minimum movement of machine)");
+    EXPECT_EQ(refusal(ENGLISH),
+              "Enter a resolution for the CNC machine you will use\r(minimum movement of machine)");
     EXPECT_EQ(refusal(GERMAN),
-              "Tragen Sie eine Beschlussfassung für die CNC Maschine ein, die Sie benutzen werden (Mindestbewegung der "
+              "Tragen Sie eine Beschlussfassung für die CNC Maschine ein, die Sie benutzen werden "
+              "(Mindestbewegung der "
               "Maschine)");
 }
 
 TEST_F(cnc_output, asks_for_the_tool_of_each_file_that_needs_one) {
     form.toolsize = "";
-    for (const char* name : {"inner_offset", "inner_offset_checked", "outer_offset", "inlet_pocket", "outlet_pocket"}) {
+    for (const char* name : {"inner_offset", "inner_offset_checked", "outer_offset", "inlet_pocket",
+                             "outlet_pocket"}) {
         form.ticked = {};
         tick(name);
         EXPECT_EQ(refusal(ENGLISH), "You must enter a tool size for this option") << name;
-        EXPECT_EQ(refusal(GERMAN), "Sie müssen eine Werkzeuggröße für diese Option eintragen") << name;
+        EXPECT_EQ(refusal(GERMAN), "Sie müssen eine Werkzeuggröße für diese Option eintragen")
+            << name;
     }
 }
 
@@ -94,7 +100,8 @@ TEST_F(cnc_output, asks_for_the_tool_of_the_groove) {
     form.groovetooltext = "";
     tick("outlet_pocket");
     EXPECT_EQ(refusal(ENGLISH), "You must enter a metering groove tool size for this option");
-    EXPECT_EQ(refusal(GERMAN), "Sie müssen eine messende Rillenwerkzeuggröße für diese Option eintragen");
+    EXPECT_EQ(refusal(GERMAN),
+              "Sie müssen eine messende Rillenwerkzeuggröße für diese Option eintragen");
     kavetta.entries.metering_groove = "0";
     person.files = {std::nullopt};
     EXPECT_TRUE(write());
@@ -105,10 +112,12 @@ TEST_F(cnc_output, refuses_a_tool_larger_than_the_lobes_for_the_inner_rotor_only
     for (const char* name : {"inner_offset", "inner_offset_checked"}) {
         form.ticked = {};
         tick(name);
-        EXPECT_EQ(refusal(ENGLISH),
-                  "This tool diameter is too great for this rotor. Maximum tool size allowed is 15 mm");
+        EXPECT_EQ(
+            refusal(ENGLISH),
+            "This tool diameter is too great for this rotor. Maximum tool size allowed is 15 mm");
         EXPECT_EQ(refusal(GERMAN),
-                  "Dieser Werkzeugdurchmesser ist zu groß für diesen Rotor. Maximale Werkzeuggröße, die erlaubt wird, "
+                  "Dieser Werkzeugdurchmesser ist zu groß für diesen Rotor. Maximale "
+                  "Werkzeuggröße, die erlaubt wird, "
                   "ist15 mm");
     }
     form.ticked = {};
@@ -132,10 +141,12 @@ TEST_F(cnc_output, refuses_a_tool_larger_than_the_corners_and_empties_its_entry)
     for (const char* name : {"inlet_pocket", "outlet_pocket"}) {
         form.ticked = {};
         tick(name);
-        EXPECT_EQ(refusal(ENGLISH),
-                  "Max tool size to cut the designed port radius is 3mm.\rSelect a suitable tool size");
+        EXPECT_EQ(
+            refusal(ENGLISH),
+            "Max tool size to cut the designed port radius is 3mm.\rSelect a suitable tool size");
         EXPECT_EQ(refusal(GERMAN),
-                  "Max.werkzeuggröße, den entworfenen Hafenradius zu schneiden, ist 3mm.\rWählen Sie eine passende "
+                  "Max.werkzeuggröße, den entworfenen Hafenradius zu schneiden, ist 3mm.\rWählen "
+                  "Sie eine passende "
                   "Werkzeuggröße aus");
     }
     EXPECT_FALSE(write());
@@ -146,10 +157,12 @@ TEST_F(cnc_output, refuses_a_tool_larger_than_the_corners_and_empties_its_entry)
 TEST_F(cnc_output, refuses_a_tool_wider_than_the_groove_and_empties_its_entry) {
     form.groovetooltext = "1.6";
     tick("outlet_pocket");
-    EXPECT_EQ(refusal(ENGLISH),
-              "Max tool size to cut the designed metering groove is 1.5mm.\rSelect a suitable tool size");
+    EXPECT_EQ(
+        refusal(ENGLISH),
+        "Max tool size to cut the designed metering groove is 1.5mm.\rSelect a suitable tool size");
     EXPECT_EQ(refusal(GERMAN),
-              "Max.werkzeuggröße, die entworfene Messenrille zu schneiden, ist 1.5mm.\rWählen Sie eine passende "
+              "Max.werkzeuggröße, die entworfene Messenrille zu schneiden, ist 1.5mm.\rWählen Sie "
+              "eine passende "
               "Werkzeuggröße aus");
     EXPECT_FALSE(write());
     EXPECT_EQ(form.groovetooltext, "");
@@ -180,7 +193,8 @@ TEST(resolution_digits, knows_ten_texts_and_keeps_the_last_choice_for_others) {
 
 TEST_F(cnc_output, asks_for_a_resolution_that_it_knows_unless_one_was_chosen_before) {
     form.machine_res_combo = "0.5";
-    EXPECT_EQ(refusal(ENGLISH), "Enter a resolution for the CNC machine you will use\r(minimum movement of machine)");
+    EXPECT_EQ(refusal(ENGLISH),
+              "Enter a resolution for the CNC machine you will use\r(minimum movement of machine)");
     form.machine_res_combo = "0.01";
     EXPECT_TRUE(write());
     form.machine_res_combo = "0.5";
@@ -218,8 +232,10 @@ TEST_F(cnc_output, has_german_titles) {
     form.ticked.fill(true);
     person.files.assign(CNC_FILE_COUNT, std::nullopt);
     EXPECT_TRUE(write());
-    EXPECT_EQ(person.dialogs[3].title, "Kavetta V2021 - Sparen Sie Innere RotorG-codes Für Drehmaschine (X und C)");
-    EXPECT_EQ(person.dialogs[12].title, "Kavetta V2021 - Sparen Sie Auslaufhafenprofil - Taschenfräsen");
+    EXPECT_EQ(person.dialogs[3].title,
+              "Kavetta V2021 - Sparen Sie Innere RotorG-codes Für Drehmaschine (X und C)");
+    EXPECT_EQ(person.dialogs[12].title,
+              "Kavetta V2021 - Sparen Sie Auslaufhafenprofil - Taschenfräsen");
 }
 
 TEST_F(cnc_output, saves_the_files_that_get_a_path_and_skips_the_others) {
@@ -240,12 +256,15 @@ TEST_F(cnc_output, tells_how_many_cutter_centres_are_on_the_wrong_side) {
     person.files = {folder.file("offset.cnc"), folder.file("checked.cnc")};
     EXPECT_TRUE(write());
     const std::string notice = wrong_side_notice(kavetta);
-    EXPECT_TRUE(notice.starts_with("Cutter positions of this file on the wrong side of the trochoid: ")) << notice;
+    EXPECT_TRUE(
+        notice.starts_with("Cutter positions of this file on the wrong side of the trochoid: "))
+        << notice;
     EXPECT_EQ(person.messages, std::vector<std::string>{notice});
     // The notice stands behind its file, before the next dialog.
     EXPECT_EQ(person.log[1], "message " + notice);
     kavetta.app_state.language = GERMAN;
-    EXPECT_TRUE(wrong_side_notice(kavetta).starts_with("Schneiderpositionen dieser Datei auf der falschen Seite"));
+    EXPECT_TRUE(wrong_side_notice(kavetta).starts_with(
+        "Schneiderpositionen dieser Datei auf der falschen Seite"));
 }
 
 TEST_F(cnc_output, saves_what_a_failing_writer_got_to_and_goes_on) {
@@ -255,8 +274,10 @@ TEST_F(cnc_output, saves_what_a_failing_writer_got_to_and_goes_on) {
     person.files = {folder.file("lathe.cnc"), folder.file("gcode.cnc")};
     EXPECT_TRUE(write());
     EXPECT_TRUE(person.messages.empty());
-    EXPECT_EQ(person.statuses, std::vector<std::string>{"The file could not be saved: Division by zero"});
-    EXPECT_TRUE(read_file(folder / "lathe.cnc").ends_with("//The coordinates in this file are in MM.//\r\n"));
+    EXPECT_EQ(person.statuses,
+              std::vector<std::string>{"The file could not be saved: Division by zero"});
+    EXPECT_TRUE(read_file(folder / "lathe.cnc")
+                    .ends_with("//The coordinates in this file are in MM.//\r\n"));
     EXPECT_EQ(read_file(folder / "gcode.cnc"), cnc_bytes(kavetta, "outer_gcode"));
 }
 

@@ -36,8 +36,9 @@ struct dxf_output : testing::Test {
 
 TEST_F(dxf_output, asks_for_the_name_of_each_file_in_both_languages) {
     const std::vector<std::string> english = {
-        " - Save Inner Rotor Profile As DXF", " - Save Outer Rotor Profile As DXF", " - Save Inlet Port Profile As DXF",
-        " - Save Outlet Port Profile As DXF", " - Save Metering Groove Profile As DXF"};
+        " - Save Inner Rotor Profile As DXF", " - Save Outer Rotor Profile As DXF",
+        " - Save Inlet Port Profile As DXF", " - Save Outlet Port Profile As DXF",
+        " - Save Metering Groove Profile As DXF"};
     const std::vector<std::string> german = {
         " - Sparen Sie Inneres Rotorprofil Als DXF", " - Sparen Sie Äußeres Rotorprofil Als DXF",
         " - Sparen Sie Einlasshafenprofil Als DXF", " - Sparen Sie Auslaufhafenprofil Als DXF",
@@ -63,9 +64,12 @@ TEST_F(dxf_output, asks_for_the_name_of_each_file_in_both_languages) {
 TEST_F(dxf_output, writes_the_profile_of_each_entry) {
     EXPECT_EQ(vertices(dxf_file::inner), 3601U);
     EXPECT_EQ(vertices(dxf_file::outer), 2U + 7U * 320U);
-    EXPECT_EQ(vertices(dxf_file::inlet), 2U + static_cast<std::size_t>(kavetta.port_params.inlet_port_last));
-    EXPECT_EQ(vertices(dxf_file::outlet), 2U + static_cast<std::size_t>(kavetta.port_params.outlet_port_last));
-    EXPECT_EQ(vertices(dxf_file::groove), 2U + static_cast<std::size_t>(kavetta.port_params.groove_last));
+    EXPECT_EQ(vertices(dxf_file::inlet),
+              2U + static_cast<std::size_t>(kavetta.port_params.inlet_port_last));
+    EXPECT_EQ(vertices(dxf_file::outlet),
+              2U + static_cast<std::size_t>(kavetta.port_params.outlet_port_last));
+    EXPECT_EQ(vertices(dxf_file::groove),
+              2U + static_cast<std::size_t>(kavetta.port_params.groove_last));
 }
 
 TEST_F(dxf_output, takes_the_outer_rotor_from_the_boxes_as_they_stand) {
@@ -81,7 +85,8 @@ TEST_F(dxf_output, saves_what_a_failing_writer_got_to_without_a_message) {
     const std::string bytes = saved(dxf_file::outer);
     EXPECT_TRUE(bytes.ends_with(" 30\r\n0.000000\r\n 0\r\n"));
     EXPECT_TRUE(person.messages.empty());
-    EXPECT_EQ(person.statuses, std::vector<std::string>{"The file could not be saved: Division by zero"});
+    EXPECT_EQ(person.statuses,
+              std::vector<std::string>{"The file could not be saved: Division by zero"});
 }
 
 TEST_F(dxf_output, opens_the_menu_with_the_groove_as_it_is_ticked) {

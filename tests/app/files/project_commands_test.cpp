@@ -93,7 +93,8 @@ TEST_F(open_project_test, sets_name_title_file_and_recent_list) {
     EXPECT_TRUE(person.messages.empty());
 }
 
-TEST_F(open_project_test, keeps_the_drawing_resolution_at_1_and_rewrites_capacity_and_required_capacity) {
+TEST_F(open_project_test,
+       keeps_the_drawing_resolution_at_1_and_rewrites_capacity_and_required_capacity) {
     std::vector<std::string> lines = project_lines();
     lines[3] = "6,5";
     lines[15] = "7.12345";
@@ -261,14 +262,16 @@ TEST_F(open_project_test, drops_results_of_the_design_before_it) {
     kavetta.app_state.assist_on = true;
     person.files = {project_file("pump.KVT", project_lines())};
     open_project(kavetta, person);
-    EXPECT_FALSE(kavetta.enabling.mnudxf || kavetta.enabling.calc_perf || kavetta.enabling.design_ports);
+    EXPECT_FALSE(kavetta.enabling.mnudxf || kavetta.enabling.calc_perf ||
+                 kavetta.enabling.design_ports);
     EXPECT_EQ(kavetta.labels.area_ratio, "");
     EXPECT_EQ(kavetta.app_state.profiles_calculated, 0);
     EXPECT_FALSE(kavetta.app_state.assist_on);
 }
 
 TEST_F(open_project_test, previous_design_fails_for_good_at_a_path_that_is_not_there) {
-    EXPECT_THROW(previous_design(kavetta, person, 0), run_time_error) << "the caption is still \"&1\"";
+    EXPECT_THROW(previous_design(kavetta, person, 0), run_time_error)
+        << "the caption is still \"&1\"";
     kavetta.app_state.mnufileprev[2] = "";
     EXPECT_THROW(previous_design(kavetta, person, 2), run_time_error);
 }

@@ -1,4 +1,5 @@
-// A program with a folder and settings of its own, and a user with a script, for tests of the project commands.
+// A program with a folder and settings of its own, and a user with a script, for tests of the
+// project commands.
 #pragma once
 
 #include "app/program.hpp"

@@ -1,4 +1,5 @@
-// Tests of the STEP entries of the menu: dialog, header, what a failing writer leaves; the simulation exchange's files.
+// Tests of the STEP entries of the menu: dialog, header, what a failing writer leaves; the
+// simulation exchange's files.
 #include "app/files/step_output.hpp"
 
 #include "app/files/saved_text.hpp"
@@ -83,7 +84,8 @@ TEST_F(step_output, writes_a_file_for_every_entry) {
               (names{"#11 'INNER ROTOR', #12 ) ;", "#1000020 'Outer rotor', #1000021 ) ;"}));
     EXPECT_EQ(solids(step_file::ports),
               (names{"#11 'PORTING', #12 ) ;", "#1000011 'PORTING', #1000012 ) ;",
-                     "#2000011 'OUTLET UPPER PORTING', #2000012 ) ;", "#3000011 'INLET UPPER PORTING', #3000012 ) ;",
+                     "#2000011 'OUTLET UPPER PORTING', #2000012 ) ;",
+                     "#3000011 'INLET UPPER PORTING', #3000012 ) ;",
                      "#4000011 'Metering Groove PORTING', #4000012 ) ;"}));
     EXPECT_TRUE(person.statuses.empty());
 }
@@ -108,7 +110,8 @@ TEST_F(step_output, tells_a_file_that_cannot_be_written_in_the_status_bar_only) 
     person.files = {folder.file("none/pump.stp")};
     save_step_file(kavetta, person, step_file::inner);
     EXPECT_TRUE(person.messages.empty());
-    EXPECT_EQ(person.statuses, std::vector<std::string>{"The file could not be saved: Path not found"});
+    EXPECT_EQ(person.statuses,
+              std::vector<std::string>{"The file could not be saved: Path not found"});
 }
 
 TEST_F(step_output, writes_the_files_of_the_simulation_exchange_without_a_dialog) {

@@ -1,4 +1,5 @@
-// Calculate Performance as a command: the whole road from the file, the validation in both languages, what is shown.
+// Calculate Performance as a command: the whole road from the file, the validation in both
+// languages, what is shown.
 #include "app/desk/run_command.hpp"
 #include "base/number_text.hpp"
 #include "performance_fixture.hpp"
@@ -7,7 +8,8 @@
 namespace kvt {
 namespace {
 
-class whole_road_performance_test : public performance_test, public testing::WithParamInterface<const char*> {};
+class whole_road_performance_test : public performance_test,
+                                    public testing::WithParamInterface<const char*> {};
 
 TEST_P(whole_road_performance_test, gives_the_reference_values_and_labels) {
     prepare(GetParam());
@@ -17,7 +19,8 @@ TEST_P(whole_road_performance_test, gives_the_reference_values_and_labels) {
     expect_performance(kavetta.perf_results, expected);
     for (const label_field& field : label_fields()) {
         if (field.form == "perf_res") {
-            EXPECT_EQ(kavetta.labels.*field.member, expected["labels"][std::string(field.name)].get<std::string>());
+            EXPECT_EQ(kavetta.labels.*field.member,
+                      expected["labels"][std::string(field.name)].get<std::string>());
         }
     }
 }
@@ -51,27 +54,33 @@ const refusal REFUSALS[] = {
      "Geschwindigkeit muss größer als für niedrige Geschwindigkeitseinstellung sein"},
     {&entries::speed_hi, "0.5", "Speed must be greater than for low speed setting",
      "Geschwindigkeit muss größer als für niedrige Geschwindigkeitseinstellung sein"},
-    {&entries::pressure_lo, "0", "Enter a pressure range for the pump", "Tragen Sie einen Druckbereich für die Pumpe"},
+    {&entries::pressure_lo, "0", "Enter a pressure range for the pump",
+     "Tragen Sie einen Druckbereich für die Pumpe"},
     {&entries::pressure_hi, "", "Pressure must be greater than for the low pressure setting",
      "Druck muss größer als für die niedrige Druckeinstellung sein"},
     {&entries::pressure_hi, "0.5", "Pressure must be greater than for the low pressure setting",
      "Druck muss größer als für die niedrige Druckeinstellung sein"},
-    {&entries::young_inner, "", "Enter a value for the Youngs Modulus of the Inner Rotor material (MPa)",
+    {&entries::young_inner, "",
+     "Enter a value for the Youngs Modulus of the Inner Rotor material (MPa)",
      "Tragen Sie einen Wert für das Jungemodul des Inneren Rotorsmaterials"},
-    {&entries::young_outer, "", "Enter a value for the Youngs Modulus of the Outer Rotor material (MPa)",
+    {&entries::young_outer, "",
+     "Enter a value for the Youngs Modulus of the Outer Rotor material (MPa)",
      "Tragen Sie einen Wert für das Jungemodul des Äußeren Rotorsmaterials"},
     {&entries::poissons_inner, "", "Enter a value of Poissons ratio for the Inner Rotor material",
      "Tragen Sie einen Wert des Poissons Verhältnisses für das Innere Rotormaterial ein"},
     {&entries::poissons_outer, "", "Enter a value of Poissons ratio for the Outer Rotor material",
      "Tragen Sie einen Wert des Poissons Verhältnisses für das Äußeren Rotormaterial ein"},
     {&entries::friction, "",
-     "Enter a value for the Coefficient of Friction between the rotors\rand housing (assume lubricated with pumped "
+     "Enter a value for the Coefficient of Friction between the rotors\rand housing (assume "
+     "lubricated with pumped "
      "fluid)",
-     "Geben Sie einen Wert für den Reibungskoeffizienten zwischen den Rotoren\rund dem Gehäuse ein (mit der gepumpten "
+     "Geben Sie einen Wert für den Reibungskoeffizienten zwischen den Rotoren\rund dem Gehäuse ein "
+     "(mit der gepumpten "
      "Flüssigkeit geschmiert)"},
 };
 
-TEST_F(calculate_performance_test, tells_each_refusal_in_both_languages_and_empties_that_entry_alone) {
+TEST_F(calculate_performance_test,
+       tells_each_refusal_in_both_languages_and_empties_that_entry_alone) {
     prepare("n07_engine_oil_groove");
     for (const refusal& row : REFUSALS) {
         for (const std::int16_t language : {ENGLISH, GERMAN}) {
@@ -93,9 +102,10 @@ TEST_F(calculate_performance_test, closes_the_charts_and_shows_the_results) {
     prepare("n07_engine_oil_groove");
     ASSERT_TRUE(calculate_performance(kavetta, person));
     EXPECT_EQ(person.log,
-              (std::vector<std::string>{"unload EFFIC_graphview2", "unload FLOW_graphview2", "unload HERTZ_graphview2",
-                                        "unload LOAD_graphview2", "unload OVREFF_graphview2",
-                                        "unload PRESS_RIP_graphview2", "unload VE_graphview2", "show perf_res"}));
+              (std::vector<std::string>{"unload EFFIC_graphview2", "unload FLOW_graphview2",
+                                        "unload HERTZ_graphview2", "unload LOAD_graphview2",
+                                        "unload OVREFF_graphview2", "unload PRESS_RIP_graphview2",
+                                        "unload VE_graphview2", "show perf_res"}));
 }
 
 TEST_F(calculate_performance_test, enables_what_reads_the_results) {
@@ -121,7 +131,8 @@ TEST_F(calculate_performance_test, leaves_results_and_forms_alone_when_it_refuse
     EXPECT_EQ(kavetta.perf_results.flow_m3s, flow);
     EXPECT_EQ(kavetta.labels.Label1, before.Label1);
     EXPECT_TRUE(kavetta.enabling.create_charts);
-    EXPECT_EQ(person.log.size(), 8U) << "seven charts closed, one message; perf_res stays, no focus moves";
+    EXPECT_EQ(person.log.size(), 8U)
+        << "seven charts closed, one message; perf_res stays, no focus moves";
     EXPECT_TRUE(person.log.back().starts_with("message "));
 }
 
@@ -155,8 +166,10 @@ TEST_F(calculate_performance_test, reads_no_calculation_from_the_tensile_strengt
     EXPECT_EQ(kavetta.perf_results.hertz_max, stress);
 }
 
-/// The vapour pressure of 761 mmHg is above the atmosphere's: the root of a negative number has no handler.
-TEST_F(calculate_performance_test, is_fatal_above_the_pressure_of_the_atmosphere_and_saves_the_entries) {
+/// The vapour pressure of 761 mmHg is above the atmosphere's: the root of a negative number has no
+/// handler.
+TEST_F(calculate_performance_test,
+       is_fatal_above_the_pressure_of_the_atmosphere_and_saves_the_entries) {
     prepare("n07_engine_oil_groove");
     kavetta.entries.vap_press = "761";
     EXPECT_FAILURE(calculate_performance(kavetta, person), failure::invalid_procedure_call);
@@ -176,7 +189,8 @@ TEST_F(calculate_performance_test, is_fatal_above_the_pressure_of_the_atmosphere
 }
 
 /// An oil so thick that the chamber never fills.
-TEST_F(calculate_performance_test, is_fatal_when_the_march_never_ends_with_the_results_up_to_there) {
+TEST_F(calculate_performance_test,
+       is_fatal_when_the_march_never_ends_with_the_results_up_to_there) {
     prepare("n04_fuel");
     kavetta.entries.kin_visc = "1E12";
     EXPECT_FAILURE(calculate_performance(kavetta, person), failure::subscript_out_of_range);
@@ -186,11 +200,12 @@ TEST_F(calculate_performance_test, is_fatal_when_the_march_never_ends_with_the_r
     EXPECT_TRUE(kavetta.labels.Label1.empty());
 }
 
-/// Both ports from the entries 180 and 180: the end angles in memory are 0, so the outlet has no arc.
+/// Both ports from the entries 180 and 180: the end angles in memory are 0, so the outlet has no
+/// arc.
 TEST_F(calculate_performance_test, gives_no_flow_for_ports_that_end_at_180) {
     prepare("n09_crank_oil");
-    for (const auto entry : {&entries::inlet_end_inner, &entries::inlet_end_outer, &entries::outlet_end_inner,
-                             &entries::outlet_end_outer}) {
+    for (const auto entry : {&entries::inlet_end_inner, &entries::inlet_end_outer,
+                             &entries::outlet_end_inner, &entries::outlet_end_outer}) {
         kavetta.entries.*entry = "180";
     }
     const ports_designed done = design_ports(kavetta, person);
@@ -207,7 +222,8 @@ TEST_F(calculate_performance_test, is_the_same_pump_in_inches) {
     ASSERT_TRUE(calculate_performance(kavetta, person));
     EXPECT_TRUE(kavetta.labels.max_shaft_side_load.ends_with(" lbsf"));
     EXPECT_TRUE(kavetta.labels.max_cutter_inner.ends_with(" inches"));
-    EXPECT_NEAR(kavetta.perf_results.press_pa[0], val(kavetta.entries.pressure_lo) * 101300.0 / 14.5, 1e-6);
+    EXPECT_NEAR(kavetta.perf_results.press_pa[0],
+                val(kavetta.entries.pressure_lo) * 101300.0 / 14.5, 1e-6);
 }
 
 }  // namespace

@@ -17,7 +17,8 @@ namespace {
 using texts = std::vector<std::string>;
 
 const std::string MINIMUM_22_7 = "Minimum value for Outer Rotor Root Radius is 22.7";
-const std::string SMALL_LOBES = "The value of Radius Outer Lobes is too small, enter a larger value";
+const std::string SMALL_LOBES =
+    "The value of Radius Outer Lobes is too small, enter a larger value";
 
 struct profiles_run : testing::Test {
     program kavetta;
@@ -41,8 +42,8 @@ struct profiles_run : testing::Test {
 
     bool view_is_empty() const {
         const design_view& view = kavetta.design_view;
-        return view.Line1.elements.size() == 1 && !view.Line1.element0_visible && !view.Shape1.visible &&
-               view.Picture1.empty();
+        return view.Line1.elements.size() == 1 && !view.Line1.element0_visible &&
+               !view.Shape1.visible && view.Picture1.empty();
     }
 
     bool logged(const std::string& line) const {
@@ -67,9 +68,14 @@ TEST_F(profiles_run, of_a_sound_design_ends_ok_and_shows_the_pair) {
 
 TEST_F(profiles_run, unloads_the_result_forms_before_anything_else) {
     run();
-    const texts unloaded = {
-        "unload perf_res",        "unload EFFIC_graphview2",  "unload FLOW_graphview2",      "unload HERTZ_graphview2",
-        "unload LOAD_graphview2", "unload OVREFF_graphview2", "unload PRESS_RIP_graphview2", "unload VE_graphview2"};
+    const texts unloaded = {"unload perf_res",
+                            "unload EFFIC_graphview2",
+                            "unload FLOW_graphview2",
+                            "unload HERTZ_graphview2",
+                            "unload LOAD_graphview2",
+                            "unload OVREFF_graphview2",
+                            "unload PRESS_RIP_graphview2",
+                            "unload VE_graphview2"};
     ASSERT_GE(person.log.size(), unloaded.size());
     EXPECT_EQ(texts(person.log.begin(), person.log.begin() + 8), unloaded);
 }
@@ -82,7 +88,8 @@ TEST_F(profiles_run, changes_the_enablings_although_a_message_stops_it) {
     const enabling& state = kavetta.enabling;
     EXPECT_TRUE(state.design_ports && state.rotate_rotors_ccw && state.rotate_rotors_cw);
     EXPECT_TRUE(state.mnudxf && state.mnustep && state.mnumodel && state.mnudata);
-    EXPECT_FALSE(state.calc_perf || state.mnudataperf || state.GT_Sim_Button || state.create_charts);
+    EXPECT_FALSE(state.calc_perf || state.mnudataperf || state.GT_Sim_Button ||
+                 state.create_charts);
     EXPECT_EQ(kavetta.app_state.profiles_calculated, -1);
 }
 
@@ -138,7 +145,8 @@ TEST_F(profiles_run, stops_at_the_shaft_check_with_an_empty_view) {
     boxes().shaftdiameter = "26";  // 2 * 14.15 < 26 + 2.5
     EXPECT_EQ(run(), run_end::failure);
     EXPECT_EQ(person.messages,
-              texts{"The material thickness between the drive shaft and the Radius of Inner Root is less than "
+              texts{"The material thickness between the drive shaft and the Radius of Inner Root "
+                    "is less than "
                     "specified. Reduce the shaft size or increase the Inner Root size."});
     EXPECT_TRUE(view_is_empty());
     EXPECT_EQ(person.log.back(), "not busy");
@@ -150,7 +158,8 @@ TEST_F(profiles_run, ends_at_the_curvature_check_through_the_closing_steps) {
     kavetta.app_state.zoom_all_requested = -1;
     kavetta.app_state.view_zoom = 4.0;
     EXPECT_EQ(run(), run_end::closing);
-    EXPECT_EQ(person.messages, texts{std::string(message_text(message::inner_rotor_errors, ENGLISH))});
+    EXPECT_EQ(person.messages,
+              texts{std::string(message_text(message::inner_rotor_errors, ENGLISH))});
     EXPECT_EQ(kavetta.app_state.zoom_all_requested, 0);
     EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
     EXPECT_EQ(person.log.back(), "not busy");
@@ -159,7 +168,8 @@ TEST_F(profiles_run, ends_at_the_curvature_check_through_the_closing_steps) {
 TEST_F(profiles_run, refuses_a_negative_eccentricity_by_its_curvature) {
     boxes().ecc = "-2.85";
     EXPECT_EQ(run(), run_end::closing);
-    EXPECT_EQ(person.messages, texts{std::string(message_text(message::inner_rotor_errors, ENGLISH))});
+    EXPECT_EQ(person.messages,
+              texts{std::string(message_text(message::inner_rotor_errors, ENGLISH))});
 }
 
 TEST_F(profiles_run, warns_of_lobes_that_do_not_fit_and_goes_on) {
@@ -174,7 +184,8 @@ TEST_F(profiles_run, warns_of_lobes_that_do_not_fit_and_goes_on) {
     run();
     ASSERT_EQ(person.messages.size(), 2U);
     EXPECT_EQ(person.messages[0],
-              "This design creates an inner rotor shape with errors. Try reducing the radius of the outer lobes.");
+              "This design creates an inner rotor shape with errors. Try reducing the radius of "
+              "the outer lobes.");
     EXPECT_EQ(person.messages[1].substr(0, 45), "Minimum value for Outer Rotor Root Radius is ");
     EXPECT_TRUE(kavetta.design_view.Shape1.visible);
 }
@@ -186,7 +197,8 @@ TEST_F(profiles_run, stops_when_the_rotor_does_not_fit_the_maximum_diameter) {
     EXPECT_EQ(person.messages[0], MINIMUM_22_7);
     EXPECT_EQ(
         person.messages[1],
-        "The rotor design to achieve this Volumetric Capacity will not fit in the maximum diameter specified. Try "
+        "The rotor design to achieve this Volumetric Capacity will not fit in the maximum diameter "
+        "specified. Try "
         "altering the number of lobes (up or down) or increasing the Max Outer Rotor Diameter.");
     EXPECT_TRUE(view_is_empty()) << "the inner rotor, drawn already, is cleared again";
     EXPECT_EQ(kavetta.labels.capacity, "6.0137") << "the capacity was computed before";
@@ -198,7 +210,8 @@ TEST_F(profiles_run, stops_when_the_fillets_are_too_large) {
     boxes().fillet = "8";
     kavetta.app_state.zoom_all_requested = -1;
     EXPECT_EQ(run(), run_end::failure);
-    EXPECT_EQ(person.messages, texts{"The Outer Rotor Fillet Radii is too large. Select a smaller value."});
+    EXPECT_EQ(person.messages,
+              texts{"The Outer Rotor Fillet Radii is too large. Select a smaller value."});
     EXPECT_TRUE(view_is_empty());
     EXPECT_EQ(kavetta.app_state.zoom_all_requested, -1) << "only the closing steps reset it";
 }
@@ -220,7 +233,8 @@ TEST_F(profiles_run, reports_a_lobe_that_does_not_reach_the_root_in_english) {
         EXPECT_EQ(kavetta.labels.area_ratio, "12 %") << "an older label stays";
         EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
         EXPECT_EQ(person.log.back(), "not busy");
-        EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U) << "the inner rotor stays on the screen";
+        EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U)
+            << "the inner rotor stays on the screen";
     }
 }
 
@@ -254,9 +268,9 @@ TEST_F(profiles_run, warns_of_interference_and_ends_ok) {
         boxes().outer_root = "";
         keep_root_radius();
         EXPECT_EQ(run(), run_end::ok);
-        EXPECT_EQ(person.messages,
-                  texts{"Interference between 0.0018 and 0.0369mm occurs between Inner Rotor Profile and Outer Rotor "
-                        "Fillet. Choose a smaller value of Fillet Radius."});
+        EXPECT_EQ(person.messages, texts{"Interference between 0.0018 and 0.0369mm occurs between "
+                                         "Inner Rotor Profile and Outer Rotor "
+                                         "Fillet. Choose a smaller value of Fillet Radius."});
     }
     boxes().fillet = "0";
     EXPECT_EQ(run(), run_end::ok);
@@ -416,7 +430,8 @@ TEST_F(profiles_run, of_resolution_9_plots_400_points_and_the_closing_one) {
     EXPECT_EQ(run(), run_end::ok);
     EXPECT_EQ(kavetta.rotor_profiles.inner_plot_xy.size(), 802U);
     EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 401U);
-    EXPECT_EQ(kavetta.rotor_profiles.outer_xy_last, 7001) << "the outer profile doesn't depend on it";
+    EXPECT_EQ(kavetta.rotor_profiles.outer_xy_last, 7001)
+        << "the outer profile doesn't depend on it";
 }
 
 TEST_F(profiles_run, of_a_resolution_of_7_that_was_not_caught_ends_ok) {

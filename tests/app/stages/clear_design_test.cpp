@@ -18,7 +18,8 @@ TEST_F(clear_design_test, sets_the_boxes_to_their_defaults) {
 
     entries expected;
     expected.fillet = "";
-    expected.Face_area_value = expected.OD_area_value = expected.UTS_value = expected.rotated_angle = "9";
+    expected.Face_area_value = expected.OD_area_value = expected.UTS_value =
+        expected.rotated_angle = "9";
     for (const entry_field& field : entry_fields()) {
         if (field.form == "select_graphs") {
             expected.*field.member = "1";
@@ -45,15 +46,17 @@ TEST_F(clear_design_test, keeps_fluid_and_material_on_yes_but_never_the_ranges) 
     EXPECT_EQ(kavetta.entries.speed_lo + kavetta.entries.speed_hi, "");
     EXPECT_EQ(kavetta.entries.pressure_lo + kavetta.entries.pressure_hi, "");
     EXPECT_EQ(person.questions,
-              std::vector<std::string>{"Keep existing Fluid Property and Gerotor Material Property values?"});
+              std::vector<std::string>{
+                  "Keep existing Fluid Property and Gerotor Material Property values?"});
 }
 
 TEST_F(clear_design_test, asks_in_german) {
     kavetta.app_state.language = GERMAN;
     person.answers = {answer::yes};
     clear_design(kavetta, person);
-    EXPECT_EQ(person.questions.at(0),
-              "Behalten Sie, Flüssiges Eigentum zu existieren, und Gerotor Material Eigentum Werte? ");
+    EXPECT_EQ(
+        person.questions.at(0),
+        "Behalten Sie, Flüssiges Eigentum zu existieren, und Gerotor Material Eigentum Werte? ");
 }
 
 TEST_F(clear_design_test, asks_nothing_after_new_at_the_start_prompt) {

@@ -52,7 +52,8 @@ TEST_F(design_assist_test, uses_a_decimal_comma) {
     kavetta.entries.minmaterial = "1";
     EXPECT_EQ(design_assist(kavetta, person), assist_end::found);
     EXPECT_EQ(kavetta.entries.volumereqd, "0.5");
-    // At 3.5: ecc 0.69, (4.82^2 - 3.5^2) * 0.031415927 = 0.345; at 4.25: ecc 0.84, (5.87^2 - 4.25^2) ... = 0.51503
+    // At 3.5: ecc 0.69, (4.82^2 - 3.5^2) * 0.031415927 = 0.345; at 4.25: ecc 0.84, (5.87^2
+    // - 4.25^2) ... = 0.51503
     EXPECT_EQ(kavetta.entries.radinnroot, "4.25");
     EXPECT_EQ(kavetta.labels.capacity, "0.515");
 }
@@ -91,7 +92,8 @@ TEST_F(design_assist_test, tells_a_refused_entry_in_both_languages_and_writes_no
         kavetta.entries.volumereqd = "0";
         kavetta.entries.ecc = "typed";
         EXPECT_EQ(design_assist(kavetta, person), assist_end::refused);
-        EXPECT_EQ(person.messages, texts{std::string(message_text(message::input_volumereqd, language))});
+        EXPECT_EQ(person.messages,
+                  texts{std::string(message_text(message::input_volumereqd, language))});
         EXPECT_EQ(kavetta.entries.ecc, "typed");
         EXPECT_EQ(person.log.size(), 1U);
     }
@@ -105,9 +107,10 @@ TEST_F(design_assist_test, cleans_the_entries_up_first) {
     EXPECT_EQ(kavetta.entries.thick, "1");
     EXPECT_EQ(kavetta.entries.numlobes, "3");
     EXPECT_EQ(kavetta.entries.volumereqd, "0");
-    EXPECT_EQ(person.messages, (texts{std::string(message_text(message::rotors_need_thickness, ENGLISH)),
-                                      std::string(message_text(message::lobe_number_minimum, ENGLISH)),
-                                      std::string(message_text(message::input_volumereqd, ENGLISH))}));
+    EXPECT_EQ(person.messages,
+              (texts{std::string(message_text(message::rotors_need_thickness, ENGLISH)),
+                     std::string(message_text(message::lobe_number_minimum, ENGLISH)),
+                     std::string(message_text(message::input_volumereqd, ENGLISH))}));
 }
 
 TEST_F(design_assist_test, leaves_root_and_eccentricity_when_the_rotors_do_not_fit) {
@@ -121,7 +124,8 @@ TEST_F(design_assist_test, leaves_root_and_eccentricity_when_the_rotors_do_not_f
         kavetta.entries.maxdiameter = "50";  // 50/2 - 2.5 = 22.5, below 22.77
         kavetta.entries.radouter = "9";
         EXPECT_EQ(design_assist(kavetta, person), assist_end::does_not_fit);
-        EXPECT_EQ(person.messages, texts{std::string(message_text(message::does_not_fit_diameter, language))});
+        EXPECT_EQ(person.messages,
+                  texts{std::string(message_text(message::does_not_fit_diameter, language))});
         EXPECT_EQ(kavetta.entries.radinnroot, "14.25");
         EXPECT_EQ(kavetta.entries.ecc, "2.84");
         EXPECT_EQ(kavetta.entries.outer_root, "22.77");
@@ -160,15 +164,18 @@ TEST_F(design_assist_test, fails_without_a_message_of_its_own_when_a_value_is_no
 TEST_F(design_assist_test, ends_for_any_entries) {
     random_values random;
     const std::array<std::string entries::*, 9> boxes = {
-        &entries::volumereqd,  &entries::numlobes,    &entries::shaftdiameter, &entries::clearn,      &entries::thick,
-        &entries::minmaterial, &entries::maxdiameter, &entries::axial_clear,   &entries::radial_clear};
+        &entries::volumereqd,  &entries::numlobes,    &entries::shaftdiameter,
+        &entries::clearn,      &entries::thick,       &entries::minmaterial,
+        &entries::maxdiameter, &entries::axial_clear, &entries::radial_clear};
     int ended_well = 0;
     for (int run = property_count(300); run > 0; --run) {
         for (const auto box : boxes) {
             kavetta.entries.*box = number_text(std::pow(10.0, random.real(-12.0, 14.0)));
         }
-        kavetta.entries.maxdiameter = random.whole(0, 1) == 0 ? "1E200" : kavetta.entries.maxdiameter;
-        kavetta.entries.numlobes = number_text(random.whole(3, random.whole(0, 3) == 0 ? 100000 : 40));
+        kavetta.entries.maxdiameter =
+            random.whole(0, 1) == 0 ? "1E200" : kavetta.entries.maxdiameter;
+        kavetta.entries.numlobes =
+            number_text(random.whole(3, random.whole(0, 3) == 0 ? 100000 : 40));
         try {
             design_assist(kavetta, person);
             ++ended_well;
@@ -201,21 +208,26 @@ TEST_F(design_assist_test, finds_designs_whose_profiles_have_the_required_capaci
 }
 
 TEST_F(design_assist_test, is_off_at_the_start_and_shows_green_when_on) {
-    EXPECT_EQ(look_of_assist(kavetta.app_state), (assist_look{"Assist OFF", false, true, false, true}));
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist OFF", false, true, false, true}));
     set_assist(kavetta, true);
-    EXPECT_EQ(look_of_assist(kavetta.app_state), (assist_look{"Assist ON", true, true, true, true}));
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist ON", true, true, true, true}));
     set_assist(kavetta, false);
-    EXPECT_EQ(look_of_assist(kavetta.app_state), (assist_look{"Assist OFF", false, true, false, true}));
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist OFF", false, true, false, true}));
 }
 
 TEST_F(design_assist_test, is_off_and_hidden_after_open_until_it_is_switched_on) {
     set_assist(kavetta, true);
     open_project_file(kavetta, person, project_file("pump.KVT", project_lines()));
-    EXPECT_EQ(look_of_assist(kavetta.app_state), (assist_look{"Assist OFF", false, false, false, false}));
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist OFF", false, false, false, false}));
     set_assist(kavetta, false);
     EXPECT_FALSE(look_of_assist(kavetta.app_state).designer_visible);
     set_assist(kavetta, true);
-    EXPECT_EQ(look_of_assist(kavetta.app_state), (assist_look{"Assist ON", true, true, true, true}));
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist ON", true, true, true, true}));
 }
 
 TEST_F(design_assist_test, is_off_and_hidden_after_new) {
@@ -223,7 +235,8 @@ TEST_F(design_assist_test, is_off_and_hidden_after_new) {
     person.project_names = {"pump"};
     person.answers = {answer::yes};
     new_project(kavetta, person);
-    EXPECT_EQ(look_of_assist(kavetta.app_state), (assist_look{"Assist OFF", false, false, false, false}));
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist OFF", false, false, false, false}));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// Tests of Design Ports on whole designs against independently computed values: every number, mark, point and line.
+// Tests of Design Ports on whole designs against independently computed values: every number, mark,
+// point and line.
 #include "app/files/port_report_file.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
@@ -13,17 +14,20 @@ namespace kvt {
 
 namespace {
 
-constexpr double TOLERANCE = 1e-9;  // mm, degrees, radians: the search stops at the same step on every machine
+constexpr double TOLERANCE =
+    1e-9;  // mm, degrees, radians: the search stops at the same step on every machine
 
-/// Sharp corners: A and g are then equal but for their last bits, so the C library decides whether a corner lies at its
-/// entered angle or a step of the search beside it.
+/// Sharp corners: A and g are then equal but for their last bits, so the C library decides whether
+/// a corner lies at its entered angle or a step of the search beside it.
 constexpr double SHARP_TOLERANCE_DEG = 0.0021;
-constexpr double SHARP_TOLERANCE = 0.0021 * 3.15 / 180.0 * 40.0;  // mm, radii are below 40 mm; other fields likewise
+constexpr double SHARP_TOLERANCE =
+    0.0021 * 3.15 / 180.0 * 40.0;  // mm, radii are below 40 mm; other fields likewise
 
 class reference_ports : public testing::TestWithParam<const char*> {
   protected:
     reference_ports() : kavetta(opened_design(GetParam())) {
-        std::ifstream(std::string(KVT_TEST_DATA) + "/reference/" + GetParam() + "_ports.json") >> expected;
+        std::ifstream(std::string(KVT_TEST_DATA) + "/reference/" + GetParam() + "_ports.json") >>
+            expected;
         EXPECT_EQ(calculate_profiles(kavetta, person), run_end::ok);
         done = design_ports(kavetta, person);
         sharp = kavetta.port_params.port_radius == 0.0;
@@ -53,7 +57,8 @@ TEST_P(reference_ports, has_the_values_of_the_record) {
     for (const auto& [name, member] : port_values()) {
         const bool is_angle = name.ends_with("_deg");
         const double sharp_tolerance = is_angle ? SHARP_TOLERANCE_DEG : SHARP_TOLERANCE;
-        EXPECT_NEAR(kavetta.port_params.*member, field(name).get<double>(), sharp ? sharp_tolerance : TOLERANCE)
+        EXPECT_NEAR(kavetta.port_params.*member, field(name).get<double>(),
+                    sharp ? sharp_tolerance : TOLERANCE)
             << name;
     }
 }

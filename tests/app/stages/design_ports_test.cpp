@@ -35,15 +35,19 @@ class design_ports_test : public testing::Test {
 constexpr ports_designed ALL = {true, true, true};
 
 TEST_F(design_ports_test, closes_the_results_and_opens_the_performance_step) {
-    kavetta.enabling.GT_Sim_Button = kavetta.enabling.create_charts = kavetta.enabling.mnudataperf = true;
+    kavetta.enabling.GT_Sim_Button = kavetta.enabling.create_charts = kavetta.enabling.mnudataperf =
+        true;
     EXPECT_EQ(design_ports(kavetta, person), ALL);
-    EXPECT_EQ(person.log, (log_lines{"unload perf_res", "unload EFFIC_graphview2", "unload FLOW_graphview2",
-                                     "unload HERTZ_graphview2", "unload LOAD_graphview2", "unload OVREFF_graphview2",
-                                     "unload PRESS_RIP_graphview2", "unload VE_graphview2", "busy", "not busy"}));
+    EXPECT_EQ(
+        person.log,
+        (log_lines{"unload perf_res", "unload EFFIC_graphview2", "unload FLOW_graphview2",
+                   "unload HERTZ_graphview2", "unload LOAD_graphview2", "unload OVREFF_graphview2",
+                   "unload PRESS_RIP_graphview2", "unload VE_graphview2", "busy", "not busy"}));
     EXPECT_TRUE(kavetta.enabling.calc_perf);
     EXPECT_TRUE(kavetta.enabling.mnudxfinletport && kavetta.enabling.mnudxfoutletport);
     EXPECT_TRUE(kavetta.enabling.mnumodelporting);
-    EXPECT_FALSE(kavetta.enabling.GT_Sim_Button || kavetta.enabling.create_charts || kavetta.enabling.mnudataperf);
+    EXPECT_FALSE(kavetta.enabling.GT_Sim_Button || kavetta.enabling.create_charts ||
+                 kavetta.enabling.mnudataperf);
 }
 
 TEST_F(design_ports_test, draws_every_segment_of_the_outlines) {
@@ -54,7 +58,8 @@ TEST_F(design_ports_test, draws_every_segment_of_the_outlines) {
     EXPECT_EQ(view.inlet_portline.elements.size(), segments(ports.inlet_port_last));
     EXPECT_EQ(view.outlet_portline.elements.size(), segments(ports.outlet_port_last));
     EXPECT_EQ(view.metering_groove_portline.elements.size(), segments(ports.groove_main_last));
-    EXPECT_EQ(view.metering_groove_extraline.elements.size(), segments(ports.groove_last - ports.groove_main_last));
+    EXPECT_EQ(view.metering_groove_extraline.elements.size(),
+              segments(ports.groove_last - ports.groove_main_last));
     EXPECT_EQ(view.angleline.elements.size(), 4U);
     EXPECT_EQ(view.anglelineout.elements.size(), 4U);
     EXPECT_TRUE(view.inlet_portline.element0_visible);
@@ -75,13 +80,15 @@ TEST_F(design_ports_test, tells_the_first_groove_entry_that_is_zero_in_both_lang
         std::string entries::*box;
         std::string control, english, german;
     };
-    const row rows[] = {
-        {&entries::groove_depth, "groove_depth", "Enter a value for the depth of the Metering Groove",
-         "Tragen Sie einen Wert für die DEPTH der Messenden Rille ein"},
-        {&entries::groove_width, "groove_width", "Enter a value for the width of the Metering Groove",
-         "Geben Sie einen Wert für die Breite der Messrille ein"},
-        {&entries::groove_length, "groove_length", "Enter a value for the length of the Metering Groove",
-         "Geben Sie einen Wert für die Länge der Messrille ein"}};
+    const row rows[] = {{&entries::groove_depth, "groove_depth",
+                         "Enter a value for the depth of the Metering Groove",
+                         "Tragen Sie einen Wert für die DEPTH der Messenden Rille ein"},
+                        {&entries::groove_width, "groove_width",
+                         "Enter a value for the width of the Metering Groove",
+                         "Geben Sie einen Wert für die Breite der Messrille ein"},
+                        {&entries::groove_length, "groove_length",
+                         "Enter a value for the length of the Metering Groove",
+                         "Geben Sie einen Wert für die Länge der Messrille ein"}};
     design_ports(kavetta, person);
     const port_params old = kavetta.port_params;
     kavetta.entries.port_radii = "1";
@@ -166,7 +173,8 @@ TEST_F(design_ports_test, runs_again_after_calculate_profiles_when_an_inlet_is_o
     EXPECT_LT(kavetta.port_params.inlet_t2_deg, old_end_deg - 0.5) << "the new entry counts";
     const drawn_line& first = kavetta.design_view.inlet_portline.elements.front();
     const double scale = kavetta.app_state.view_scale;
-    EXPECT_FLOAT_EQ(first.x1, float(scale * kavetta.port_params.inlet_port_x[0] + 3000.0 + scale * 2.85))
+    EXPECT_FLOAT_EQ(first.x1,
+                    float(scale * kavetta.port_params.inlet_port_x[0] + 3000.0 + scale * 2.85))
         << "in the new scale";
     EXPECT_TRUE(kavetta.enabling.calc_perf) << "a plain repeat does the whole first step";
     EXPECT_EQ(kavetta.app_state.recalc_quiet, 0);
@@ -228,7 +236,8 @@ TEST_F(design_ports_test, clear_values_empties_the_form_and_the_view_but_not_the
     clear_ports(kavetta, person);
     for (const entry_field& field : entry_fields()) {
         if (field.form == "portdes") {
-            EXPECT_EQ(kavetta.entries.*field.member, field.kind == entry_kind::check ? "0" : "") << field.name;
+            EXPECT_EQ(kavetta.entries.*field.member, field.kind == entry_kind::check ? "0" : "")
+                << field.name;
         }
     }
     EXPECT_FALSE(kavetta.enabling.calc_perf);
@@ -236,8 +245,9 @@ TEST_F(design_ports_test, clear_values_empties_the_form_and_the_view_but_not_the
     EXPECT_TRUE(kavetta.enabling.rotate_rotors_ccw && kavetta.enabling.rotate_rotors_cw);
     EXPECT_TRUE(kavetta.enabling.design_ports);
     const design_view& view = kavetta.design_view;
-    for (const line_array* lines : {&view.inlet_portline, &view.outlet_portline, &view.angleline, &view.anglelineout,
-                                    &view.metering_groove_portline, &view.metering_groove_extraline}) {
+    for (const line_array* lines :
+         {&view.inlet_portline, &view.outlet_portline, &view.angleline, &view.anglelineout,
+          &view.metering_groove_portline, &view.metering_groove_extraline}) {
         EXPECT_EQ(lines->elements.size(), 1U);
         EXPECT_FALSE(lines->element0_visible);
     }

@@ -24,7 +24,8 @@ struct leaving : testing::Test {
     }
 };
 
-const std::vector<std::string> LOBE_MESSAGE = {"The number of Outer Lobes must be an integer, of minimum value = 3"};
+const std::vector<std::string> LOBE_MESSAGE = {
+    "The number of Outer Lobes must be an integer, of minimum value = 3"};
 const std::vector<std::string> ZERO_MESSAGE = {"This value must be greater than zero!"};
 
 }  // namespace
@@ -72,7 +73,8 @@ TEST_F(leaving, coarseness_becomes_1_silently) {
 TEST_F(leaving, speaks_german_for_language_2) {
     kavetta.app_state.language = GERMAN;
     leave("numlobes", "2");
-    EXPECT_EQ(person.messages, std::vector<std::string>{std::string(message_text(message::lobe_number_minimum, 2))});
+    EXPECT_EQ(person.messages,
+              std::vector<std::string>{std::string(message_text(message::lobe_number_minimum, 2))});
     EXPECT_NE(person.messages, LOBE_MESSAGE);
     leave("maxdiameter", "0");
     EXPECT_EQ(person.messages, std::vector<std::string>{"Dieser Wert muss größer als Null sein! "});

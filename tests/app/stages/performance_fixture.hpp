@@ -17,7 +17,8 @@ class performance_test : public project_test {
   protected:
     /// Opens a sample design, calculates its profiles, designs its ports.
     void prepare(const std::string& name) {
-        const std::filesystem::path design = std::filesystem::path(KVT_TEST_DATA) / "designs" / (name + ".KVT");
+        const std::filesystem::path design =
+            std::filesystem::path(KVT_TEST_DATA) / "designs" / (name + ".KVT");
         const std::string path = folder.file("projects/" + name + ".KVT");
         std::filesystem::copy_file(design, path);
         load_project(kavetta, person, path);
@@ -29,8 +30,8 @@ class performance_test : public project_test {
     }
 
     static nlohmann::json reference(const std::string& name) {
-        return nlohmann::json::parse(
-            read_file(std::filesystem::path(KVT_TEST_DATA) / "reference" / (name + "_performance.json")));
+        return nlohmann::json::parse(read_file(std::filesystem::path(KVT_TEST_DATA) / "reference" /
+                                               (name + "_performance.json")));
     }
 };
 

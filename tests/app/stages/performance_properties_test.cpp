@@ -1,4 +1,5 @@
-// What must hold for the performance of every sound design: random rotor pairs with the default ports.
+// What must hold for the performance of every sound design: random rotor pairs with the default
+// ports.
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
@@ -60,7 +61,8 @@ void type_performance(random_values& random, entries& boxes) {
 
 class performance_properties : public testing::Test {
   protected:
-    /// False when the random entries are no sound design: a message, an error, or a port end that went to 180.
+    /// False when the random entries are no sound design: a message, an error, or a port end that
+    /// went to 180.
     bool next_design() {
         kavetta = std::make_unique<program>();
         type_rotors(random, kavetta->entries);
@@ -70,7 +72,8 @@ class performance_properties : public testing::Test {
         type_performance(random, kavetta->entries);
         person.messages.clear();
         try {
-            if (calculate_profiles(*kavetta, person) != run_end::ok || !design_ports(*kavetta, person).outlet) {
+            if (calculate_profiles(*kavetta, person) != run_end::ok ||
+                !design_ports(*kavetta, person).outlet) {
                 return false;
             }
         } catch (const run_time_error&) {
@@ -91,9 +94,9 @@ class performance_properties : public testing::Test {
                 continue;
             }
             ++sound;
-            SCOPED_TRACE("design " + std::to_string(tried) + ": N " + kavetta->entries.numlobes + " ecc " +
-                         kavetta->entries.ecc + " radouter " + kavetta->entries.radouter + " radinnroot " +
-                         kavetta->entries.radinnroot);
+            SCOPED_TRACE("design " + std::to_string(tried) + ": N " + kavetta->entries.numlobes +
+                         " ecc " + kavetta->entries.ecc + " radouter " + kavetta->entries.radouter +
+                         " radinnroot " + kavetta->entries.radinnroot);
             ASSERT_TRUE(calculate_performance(*kavetta, person));
             check();
         }
@@ -110,9 +113,11 @@ TEST_F(performance_properties, hold_efficiencies_between_0_and_1) {
     for_sound_designs([this] {
         for (std::size_t i = 0; i < GRID_SIZE; ++i) {
             for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-                for (const double efficiency : {now().vol_eff[i][j], now().mech_eff[i][j], now().overall_eff[i][j]}) {
+                for (const double efficiency :
+                     {now().vol_eff[i][j], now().mech_eff[i][j], now().overall_eff[i][j]}) {
                     EXPECT_GE(efficiency, 0.0);
-                    EXPECT_LE(efficiency, 1.0 + 1e-6) << "the decimal constants differ in the eighth digit";
+                    EXPECT_LE(efficiency, 1.0 + 1e-6)
+                        << "the decimal constants differ in the eighth digit";
                 }
             }
         }

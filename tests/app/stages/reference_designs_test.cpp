@@ -1,5 +1,5 @@
-// Tests of Calculate Profiles on whole designs against independently computed values: all scalars, labels and entries,
-// every 25th element of the arrays.
+// Tests of Calculate Profiles on whole designs against independently computed values: all scalars,
+// labels and entries, every 25th element of the arrays.
 #include "app/stages/calculate_profiles.hpp"
 #include "support/open_design.hpp"
 
@@ -12,8 +12,8 @@ namespace kvt {
 
 namespace {
 
-// Lengths in mm. The C library's sine and cosine may differ in the last bit between machines; the offset of the inner
-// profile multiplies that by the slope of the trochoid.
+// Lengths in mm. The C library's sine and cosine may differ in the last bit between machines; the
+// offset of the inner profile multiplies that by the slope of the trochoid.
 constexpr double POINT_TOLERANCE = 1e-11;
 constexpr double INNER_TOLERANCE = 1e-9;
 constexpr double SLOPE_TOLERANCE = 1e-9;    // relative
@@ -22,11 +22,13 @@ constexpr double SCALAR_TOLERANCE = 1e-13;  // relative
 class reference_design : public testing::TestWithParam<const char*> {
   protected:
     reference_design() : kavetta(opened_design(GetParam())) {
-        std::ifstream(std::string(KVT_TEST_DATA) + "/reference/" + GetParam() + ".json") >> expected;
+        std::ifstream(std::string(KVT_TEST_DATA) + "/reference/" + GetParam() + ".json") >>
+            expected;
         end = calculate_profiles(kavetta, person);
     }
 
-    void expect_array(const char* name, const std::vector<double>& actual, double tolerance, bool relative = false) {
+    void expect_array(const char* name, const std::vector<double>& actual, double tolerance,
+                      bool relative = false) {
         const auto& array = expected.at("arrays").at(name);
         const std::size_t every = array.at("every");
         const std::size_t count = array.at("count");
@@ -34,11 +36,13 @@ class reference_design : public testing::TestWithParam<const char*> {
         ASSERT_GE(actual.size(), count) << name;
         for (std::size_t sample = 0; sample < values.size(); ++sample) {
             const double allowed = relative ? tolerance * std::fabs(values[sample]) : tolerance;
-            ASSERT_NEAR(actual[sample * every], values[sample], allowed) << name << " " << sample * every;
+            ASSERT_NEAR(actual[sample * every], values[sample], allowed)
+                << name << " " << sample * every;
         }
         if (count > 0) {
             const double last = array.at("last");
-            EXPECT_NEAR(actual[count - 1], last, relative ? tolerance * std::fabs(last) : tolerance) << name;
+            EXPECT_NEAR(actual[count - 1], last, relative ? tolerance * std::fabs(last) : tolerance)
+                << name;
         }
     }
 
@@ -95,7 +99,8 @@ TEST_P(reference_design, has_the_scalars) {
     expect_scalar("rotor_profiles", "max_chamber_outer_angle", rotors.max_chamber_outer_angle);
     expect_scalar("rotor_profiles", "min_chamber_inner_angle", rotors.min_chamber_inner_angle);
     expect_scalar("rotor_profiles", "min_chamber_outer_angle", rotors.min_chamber_outer_angle);
-    EXPECT_EQ(rotors.capacity.text(), expected.at("rotor_profiles").at("capacity").get<std::string>());
+    EXPECT_EQ(rotors.capacity.text(),
+              expected.at("rotor_profiles").at("capacity").get<std::string>());
 }
 
 TEST_P(reference_design, has_the_profiles) {

@@ -1,4 +1,5 @@
-// Properties that hold for every rotor pair: random designs that Calculate Profiles accepts without a message.
+// Properties that hold for every rotor pair: random designs that Calculate Profiles accepts without
+// a message.
 #include "app/stages/calculate_profiles.hpp"
 #include "base/number_text.hpp"
 #include "geometry/area_ratio.hpp"
@@ -26,8 +27,9 @@ std::string typed(double value) {
     return number_text(std::round(value * 10000.0) / 10000.0);
 }
 
-/// Entries of a random design, up to about 75 mm across: the polygon of 3600 points stays within 0.001 mm of the curve
-/// then, with a trochoid ratio not too near 1, where the root is a sharp corner. About three in four are accepted.
+/// Entries of a random design, up to about 75 mm across: the polygon of 3600 points stays within
+/// 0.001 mm of the curve then, with a trochoid ratio not too near 1, where the root is a sharp
+/// corner. About three in four are accepted.
 entries random_entries(random_values& random) {
     const int lobes = random.whole(3, 20);
     const double ratio = random.real(1.12, 2.6);
@@ -73,13 +75,14 @@ double distance_to_segment(const point2& p, const point2& a, const point2& b) {
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
     const double length2 = dx * dx + dy * dy;
-    const double share = length2 > 0.0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / length2, 0.0, 1.0) : 0.0;
+    const double share =
+        length2 > 0.0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / length2, 0.0, 1.0) : 0.0;
     return std::hypot(p.x - a.x - share * dx, p.y - a.y - share * dy);
 }
 
 /// The point i = first, first + stride, .. last of the inner profile that is nearest to p.
-std::int64_t nearest_point(const rotor_profiles& rotors, const point2& p, std::int64_t first, std::int64_t last,
-                           std::int64_t stride) {
+std::int64_t nearest_point(const rotor_profiles& rotors, const point2& p, std::int64_t first,
+                           std::int64_t last, std::int64_t stride) {
     std::int64_t nearest = first;
     double nearest2 = std::numeric_limits<double>::max();
     for (std::int64_t i = first; i <= last; i += stride) {
@@ -100,8 +103,8 @@ double distance_to_profile(const rotor_profiles& rotors, const point2& p, std::i
                     distance_to_segment(p, at, inner_point(rotors, nearest + 1)));
 }
 
-/// The smallest distance of the inner profile from any lobe circle, with the inner rotor turned by turn radians and
-/// the outer one by turn (N-1)/N. Everything is seen from the inner rotor.
+/// The smallest distance of the inner profile from any lobe circle, with the inner rotor turned by
+/// turn radians and the outer one by turn (N-1)/N. Everything is seen from the inner rotor.
 double smallest_gap(const program& kavetta, double turn) {
     const design_params& design = kavetta.design_params;
     const rotor_profiles& rotors = kavetta.rotor_profiles;
@@ -122,11 +125,13 @@ double smallest_gap(const program& kavetta, double turn) {
 void expect_rotors_mesh(const program& kavetta) {
     const double pitch = 2.0 * PI / (kavetta.design_params.numlobes - 1.0);
     for (const double share : {0.0, 0.17, 0.5, 0.81}) {
-        ASSERT_NEAR(smallest_gap(kavetta, share * pitch), kavetta.design_params.clearn_half, 0.001) << share;
+        ASSERT_NEAR(smallest_gap(kavetta, share * pitch), kavetta.design_params.clearn_half, 0.001)
+            << share;
     }
 }
 
-/// Turned by one lobe, the profile covers itself as a curve; the lobes may have different numbers of points.
+/// Turned by one lobe, the profile covers itself as a curve; the lobes may have different numbers
+/// of points.
 void expect_lobe_symmetry(const program& kavetta) {
     const rotor_profiles& rotors = kavetta.rotor_profiles;
     const double inner_lobes = kavetta.design_params.numlobes - 1.0;
@@ -147,11 +152,14 @@ void expect_closed_outlines(const program& kavetta) {
     const auto plot_last = static_cast<std::size_t>(rotors.inner_plot_len);
     ASSERT_EQ(rotors.inner_plot_xy[plot_last - 1], rotors.inner_plot_xy[0]);
     ASSERT_EQ(rotors.inner_plot_xy[plot_last], rotors.inner_plot_xy[1]);
-    // With fillets the last outer point is the first once more; without, the first one lies one lobe step further.
+    // With fillets the last outer point is the first once more; without, the first one lies one
+    // lobe step further.
     const design_params& design = kavetta.design_params;
     const auto last = static_cast<std::size_t>(rotors.outer_last);
-    const double gap = std::hypot(rotors.outer_x[last] - rotors.outer_x[0], rotors.outer_y[last] - rotors.outer_y[0]);
-    const double lobe_step = std::hypot(rotors.outer_x[1] - rotors.outer_x[0], rotors.outer_y[1] - rotors.outer_y[0]);
+    const double gap = std::hypot(rotors.outer_x[last] - rotors.outer_x[0],
+                                  rotors.outer_y[last] - rotors.outer_y[0]);
+    const double lobe_step =
+        std::hypot(rotors.outer_x[1] - rotors.outer_x[0], rotors.outer_y[1] - rotors.outer_y[0]);
     ASSERT_LT(gap, design.fillet > 0.0 ? 1e-4 : lobe_step + 1e-4);
 }
 
@@ -169,8 +177,8 @@ area_sums shoelace(const std::vector<double>& x, const std::vector<double>& y, s
     return sums;
 }
 
-/// Whether the inner axis sees the whole flank of every lobe. It sees a point p of a lobe about c when (p - c) (p - o)
-/// is not above 0; the flank's end is the last one to be hidden.
+/// Whether the inner axis sees the whole flank of every lobe. It sees a point p of a lobe about c
+/// when (p - c) (p - o) is not above 0; the flank's end is the last one to be hidden.
 bool all_flanks_are_seen(const program& kavetta) {
     const design_params& design = kavetta.design_params;
     const rotor_profiles& rotors = kavetta.rotor_profiles;
@@ -179,7 +187,8 @@ bool all_flanks_are_seen(const program& kavetta) {
     for (int lobe = 0; lobe < design.numlobes; ++lobe) {
         const double theta = 2.0 * PI * lobe / design.numlobes;
         for (const double angle : {theta - flank.beta, theta + flank.beta}) {
-            const point2 p = {flank.tangent_radius * std::cos(angle), flank.tangent_radius * std::sin(angle)};
+            const point2 p = {flank.tangent_radius * std::cos(angle),
+                              flank.tangent_radius * std::sin(angle)};
             const double along = (p.x - centre_radius * std::cos(theta)) * (p.x - design.ecc) +
                                  (p.y - centre_radius * std::sin(theta)) * p.y;
             if (along > 0.0) {
@@ -190,18 +199,20 @@ bool all_flanks_are_seen(const program& kavetta) {
     return true;
 }
 
-/// How many designs with lobes of 2.5 eccentricities and more there were, and how many of them hide no flank.
+/// How many designs with lobes of 2.5 eccentricities and more there were, and how many of them hide
+/// no flank.
 struct area_counts {
     int large_lobes = 0, compared = 0;
 };
 
-/// The polar sum is the sum of the triangles' absolute areas. It is the polygon's area where no part of the outline
-/// turns back as seen from the inner axis.
+/// The polar sum is the sum of the triangles' absolute areas. It is the polygon's area where no
+/// part of the outline turns back as seen from the inner axis.
 void expect_polar_areas(program& kavetta, area_counts& counts) {
     rotor_profiles& rotors = kavetta.rotor_profiles;
     const design_params& design = kavetta.design_params;
     const area_sums inner = shoelace(rotors.inner_x, rotors.inner_y, POINTS - 1);
-    const area_sums outer = shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last));
+    const area_sums outer =
+        shoelace(rotors.outer_x, rotors.outer_y, static_cast<std::size_t>(rotors.outer_last));
     const double polar_inner = inner_profile_area(rotors);
     const double polar_outer = outer_profile_area(rotors);
     ASSERT_NEAR(polar_inner, inner.positive_sum, 1e-8 * polar_inner);
@@ -210,7 +221,8 @@ void expect_polar_areas(program& kavetta, area_counts& counts) {
         return;
     }
     ++counts.large_lobes;
-    // The curvature check leaves out the clearance: the offset can exceed the tightest curve by it and turn back there.
+    // The curvature check leaves out the clearance: the offset can exceed the tightest curve by it
+    // and turn back there.
     if (design.radouter + design.clearn_half < smallest_curvature_radius(design, rotors)) {
         ASSERT_NEAR(polar_inner, inner.signed_sum, 1e-8 * polar_inner);
     }
@@ -241,11 +253,13 @@ TEST(rotor_pairs, mesh_close_and_measure_up_for_all_sound_designs) {
         expect_chambers(kavetta);
         const entries& boxes = kavetta.entries;
         ASSERT_FALSE(testing::Test::HasFailure())
-            << "design " << design << ": N " << boxes.numlobes << " ecc " << boxes.ecc << " radouter " << boxes.radouter
-            << " radinnroot " << boxes.radinnroot << " clearn " << boxes.clearn << " fillet " << boxes.fillet << " max "
-            << kavetta.labels.max_chamb_vol << " min " << kavetta.labels.min_chamb_vol;
+            << "design " << design << ": N " << boxes.numlobes << " ecc " << boxes.ecc
+            << " radouter " << boxes.radouter << " radinnroot " << boxes.radinnroot << " clearn "
+            << boxes.clearn << " fillet " << boxes.fillet << " max " << kavetta.labels.max_chamb_vol
+            << " min " << kavetta.labels.min_chamb_vol;
     }
-    std::cout << counts.large_lobes << " designs with large lobes, " << counts.compared << " of them hide no flank\n";
+    std::cout << counts.large_lobes << " designs with large lobes, " << counts.compared
+              << " of them hide no flank\n";
     EXPECT_GE(counts.compared, counts.large_lobes * 3 / 4);
 }
 

@@ -62,7 +62,8 @@ TEST_F(view_commands_test, a_zoom_keeps_the_angle_and_zoom_all_turns_back) {
     take_typed_angle(kavetta);
     drag(500.0, 500.0, 2000.0, 2000.0);
     design_view zoomed = kavetta.design_view;
-    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.app_state, kavetta.design_view);
+    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.app_state,
+                   kavetta.design_view);
     EXPECT_EQ(kavetta.design_view.Line1.elements, zoomed.Line1.elements);
     EXPECT_EQ(kavetta.app_state.rotation_angle, 30.0);
     zoom_all(kavetta, person);
@@ -99,8 +100,10 @@ TEST_F(view_commands_test, zoom_redraws_designed_ports_with_their_counts) {
     drag(500.0, 500.0, 2000.0, 2000.0);
     EXPECT_EQ(kavetta.design_view.inlet_portline.elements.size(), inlet);
     EXPECT_EQ(kavetta.design_view.outlet_portline.elements.size(), outlet);
-    EXPECT_NEAR(kavetta.design_view.inlet_portline.elements[0].x1, (before.x1 - 500.0F) * 2.0F, 1e-2);
-    EXPECT_NEAR(kavetta.design_view.inlet_portline.elements[0].y1, (before.y1 - 500.0F) * 2.0F, 1e-2);
+    EXPECT_NEAR(kavetta.design_view.inlet_portline.elements[0].x1, (before.x1 - 500.0F) * 2.0F,
+                1e-2);
+    EXPECT_NEAR(kavetta.design_view.inlet_portline.elements[0].y1, (before.y1 - 500.0F) * 2.0F,
+                1e-2);
 }
 
 TEST_F(view_commands_test, ticks_and_the_typed_angle_show_the_angle_taken) {

@@ -1,4 +1,5 @@
-// What holds for the CNC files of every design: random designs, every file written into memory and replayed.
+// What holds for the CNC files of every design: random designs, every file written into memory and
+// replayed.
 #include "geometry/outer_flank.hpp"
 #include "output/cnc/pocket_region.hpp"
 #include "support/cnc_design.hpp"
@@ -29,7 +30,8 @@ cnc_reader read_file_of(const program& kavetta, std::string_view name) {
     return {cnc_bytes(kavetta, name), kavetta.cnc_choices.cnc_res_digits};
 }
 
-/// The path of a section in mm; in a G-code file the moves with the tool down, from the move before.
+/// The path of a section in mm; in a G-code file the moves with the tool down, from the move
+/// before.
 std::vector<point2> path_mm(const cnc_section& section, double unit) {
     std::vector<cnc_move> moves = section.moves;
     point2 start = moves.front().end;
@@ -60,8 +62,8 @@ void expect_inner_files(const program& kavetta) {
     }
 }
 
-/// Kept: where a flank leaves its lobe behind the lobe's centre the R word is positive too, so a machine would go the
-/// other way round, and the tangent point of a fillet lies on the wrong side.
+/// Kept: where a flank leaves its lobe behind the lobe's centre the R word is positive too, so a
+/// machine would go the other way round, and the tangent point of a fillet lies on the wrong side.
 bool lobes_stay_below_half_a_turn(const program& kavetta) {
     const design_params& design = kavetta.design_params;
     const double C = design.radouter + design.radinnroot + design.ecc;
@@ -116,17 +118,19 @@ std::vector<point2> fine_points(const std::vector<point2>& path) {
     return points;
 }
 
-void expect_no_gouge(const pocket_region& pocket, const std::vector<point2>& path, double tool_radius) {
+void expect_no_gouge(const pocket_region& pocket, const std::vector<point2>& path,
+                     double tool_radius) {
     for (const point2& point : fine_points(path)) {
         ASSERT_TRUE(pocket.is_clear(point, tool_radius - 0.005)) << point.x << " " << point.y;
         ASSERT_TRUE(pocket.contains(point)) << point.x << " " << point.y;
     }
 }
 
-/// Random points of the pocket lie within the cutter of the path; but for the surroundings of the corners that it
-/// can't reach.
-void expect_cleared(random_values& random, const pocket_region& pocket, const std::vector<point2>& path,
-                    double tool_radius, const std::vector<point2>& sharp_corners) {
+/// Random points of the pocket lie within the cutter of the path; but for the surroundings of the
+/// corners that it can't reach.
+void expect_cleared(random_values& random, const pocket_region& pocket,
+                    const std::vector<point2>& path, double tool_radius,
+                    const std::vector<point2>& sharp_corners) {
     point2 low = pocket.outline()[0];
     point2 high = low;
     for (const point2& point : pocket.outline()) {
@@ -137,10 +141,12 @@ void expect_cleared(random_values& random, const pocket_region& pocket, const st
         const point2 point = {random.real(low.x, high.x), random.real(low.y, high.y)};
         bool excepted = !pocket.contains(point);
         for (const point2& corner : sharp_corners) {
-            excepted = excepted || std::hypot(point.x - corner.x, point.y - corner.y) < 3.0 * tool_radius;
+            excepted =
+                excepted || std::hypot(point.x - corner.x, point.y - corner.y) < 3.0 * tool_radius;
         }
         if (!excepted) {
-            ASSERT_LE(distance_from_path(point, path), tool_radius + 0.005) << point.x << " " << point.y;
+            ASSERT_LE(distance_from_path(point, path), tool_radius + 0.005)
+                << point.x << " " << point.y;
         }
     }
 }
@@ -152,7 +158,8 @@ void expect_pocket_file(random_values& random, const program& kavetta, const std
     ASSERT_EQ(pockets.sections().size(), outlines.sections().size());
     for (std::size_t i = 0; i < pockets.sections().size(); ++i) {
         const bool groove = port == "outlet" && i == 1 && kavetta.entries.metering_groove == "1";
-        const double diameter = groove ? kavetta.cnc_choices.groove_tool_diameter : kavetta.cnc_choices.tool_diameter;
+        const double diameter =
+            groove ? kavetta.cnc_choices.groove_tool_diameter : kavetta.cnc_choices.tool_diameter;
         const pocket_region pocket(path_mm(outlines.sections()[i], unit));
         const std::vector<point2> path = path_mm(pockets.sections()[i], unit);
         const double tool_radius = diameter * unit / 2.0;
@@ -192,8 +199,8 @@ TEST(cnc_designs, have_pockets_that_are_cleared_and_never_gouged) {
         }
         --run;
         const double width = kavetta.port_params.groove_width_mm / unit_of(kavetta);
-        kavetta.cnc_choices = {DECIMALS, tool_for(kavetta, random.real(0.3, 1.0)), width * random.real(0.4, 1.0),
-                               false};
+        kavetta.cnc_choices = {DECIMALS, tool_for(kavetta, random.real(0.3, 1.0)),
+                               width * random.real(0.4, 1.0), false};
         expect_pocket_file(random, kavetta, "inlet");
         expect_pocket_file(random, kavetta, "outlet");
         ASSERT_FALSE(testing::Test::HasFailure()) << run;

@@ -1,4 +1,5 @@
-// The CNC files of whole designs, byte by byte: four decimals, cutters that fit the corners, every file.
+// The CNC files of whole designs, byte by byte: four decimals, cutters that fit the corners, every
+// file.
 #include "base/text_file.hpp"
 #include "support/cnc_design.hpp"
 #include "support/golden_files.hpp"

@@ -21,7 +21,9 @@ struct cnc_records {
     std::int16_t language = ENGLISH;
     bool inches = false;
 
-    cnc_source source() const { return {design, rotors, ports, boxes, choices, "pump", language, inches}; }
+    cnc_source source() const {
+        return {design, rotors, ports, boxes, choices, "pump", language, inches};
+    }
 };
 
 template <typename writing>
@@ -34,16 +36,19 @@ std::string written(const cnc_records& records, const writing& write) {
 }
 
 std::string rotor_head(const cnc_records& records, const rotor_preamble& head) {
-    return written(records,
-                   [&](cnc_lines& lines, const cnc_source& source) { add_rotor_preamble(lines, source, head); });
+    return written(records, [&](cnc_lines& lines, const cnc_source& source) {
+        add_rotor_preamble(lines, source, head);
+    });
 }
 
 std::string port_head(const cnc_records& records, const port_preamble& head) {
-    return written(records,
-                   [&](cnc_lines& lines, const cnc_source& source) { add_port_preamble(lines, source, head); });
+    return written(records, [&](cnc_lines& lines, const cnc_source& source) {
+        add_port_preamble(lines, source, head);
+    });
 }
 
-std::string section_head(const cnc_records& records, port_side side, port_section section, section_file file) {
+std::string section_head(const cnc_records& records, port_side side, port_section section,
+                         section_file file) {
     return written(records, [&](cnc_lines& lines, const cnc_source& source) {
         add_section_head(lines, source, side, section, file);
     });
@@ -105,14 +110,16 @@ TEST(cnc_lines, turn_points_into_lathe_lines_by_their_quadrant) {
 TEST(cnc_preamble, tells_what_a_rotor_file_holds) {
     cnc_records records;
     records.choices.tool_diameter = 2.5;
-    EXPECT_EQ(rotor_head(records, {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true}),
-              "//This file contains the offset profile coordinates for the inner//\r\n"
-              "//rotor of project: pump.//\r\n"
-              "//The coordinates are for a cutter radius of 1.25.//\r\n"
-              "//The origin (datum) for the coordinates is the centre of the//\r\n"
-              "//inner rotor (centre of drive shaft).//\r\n"
-              "//The coordinates in this file are in MM.//\r\n"
-              "//Cutter side checked for every point.//\r\n");
+    EXPECT_EQ(
+        rotor_head(records,
+                   {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true}),
+        "//This file contains the offset profile coordinates for the inner//\r\n"
+        "//rotor of project: pump.//\r\n"
+        "//The coordinates are for a cutter radius of 1.25.//\r\n"
+        "//The origin (datum) for the coordinates is the centre of the//\r\n"
+        "//inner rotor (centre of drive shaft).//\r\n"
+        "//The coordinates in this file are in MM.//\r\n"
+        "//Cutter side checked for every point.//\r\n");
     records.inches = true;
     EXPECT_EQ(rotor_head(records, {.content = "outer_lathe", .outer = true, .lathe = true}),
               "//This file contains the X&C G-Code coordinates for the outer//\r\n"
@@ -165,7 +172,8 @@ TEST(port_sections, are_one_without_any_option) {
 
 TEST(port_sections, count_on_for_the_outlet_and_stay_2_for_the_inlet) {
     entries boxes;
-    boxes.inlet_double_sided = boxes.outlet_double_sided = boxes.shadow_ports = boxes.metering_groove = "1";
+    boxes.inlet_double_sided = boxes.outlet_double_sided = boxes.shadow_ports =
+        boxes.metering_groove = "1";
     const std::vector<port_section> outlet = port_sections(boxes, port_side::outlet);
     ASSERT_EQ(outlet.size(), 4U);
     EXPECT_EQ(outlet[1].kind, section_kind::groove);
@@ -183,24 +191,28 @@ TEST(port_sections, have_heads_by_kind_and_file) {
     cnc_records records;
     records.ports.groove_depth_mm = 12.7;
     records.choices.groove_tool_diameter = 1.0;
-    EXPECT_EQ(section_head(records, port_side::inlet, {section_kind::upper, 2}, section_file::gcode),
-              "//Section 2: Upper housing Inlet port//\r\n");
+    EXPECT_EQ(
+        section_head(records, port_side::inlet, {section_kind::upper, 2}, section_file::gcode),
+        "//Section 2: Upper housing Inlet port//\r\n");
     EXPECT_EQ(section_head(records, port_side::outlet, {section_kind::shadow, 4}, section_file::xy),
               "//Section 4: Upper housing Outlet shadow port//\r\n"
               "//Use a tool depth of 10-20% of the main port depth//\r\n");
-    EXPECT_EQ(section_head(records, port_side::inlet, {section_kind::shadow, 2}, section_file::gcode),
-              "//Section 2: Shadow Inlet port//\r\n"
-              "//Use port depth of 10-20% of main port//\r\n");
+    EXPECT_EQ(
+        section_head(records, port_side::inlet, {section_kind::shadow, 2}, section_file::gcode),
+        "//Section 2: Shadow Inlet port//\r\n"
+        "//Use port depth of 10-20% of main port//\r\n");
     EXPECT_EQ(section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::xy),
               "//Section 2: Metering groove//\r\n"
               "//Ensure to change tool if necessary and to change depth to 12.7//\r\n");
-    EXPECT_EQ(section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::gcode),
-              "//Section 2: Metering groove profile//\r\n");
+    EXPECT_EQ(
+        section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::gcode),
+        "//Section 2: Metering groove profile//\r\n");
     records.inches = true;
-    EXPECT_EQ(section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::pocket),
-              "//Section 2: Metering groove//\r\n"
-              "//These coordinates are for a cutter radius of 0.5//\r\n"
-              "//Ensure to change tool if necessary and to change depth to 0.5//\r\n");
+    EXPECT_EQ(
+        section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::pocket),
+        "//Section 2: Metering groove//\r\n"
+        "//These coordinates are for a cutter radius of 0.5//\r\n"
+        "//Ensure to change tool if necessary and to change depth to 0.5//\r\n");
     records.language = GERMAN;
     EXPECT_EQ(section_head(records, port_side::outlet, {section_kind::lower, 1}, section_file::xy),
               "//Abschnitt 1: Unteres Geh\xE4use Auslaufhafen//\r\n");

@@ -25,8 +25,10 @@ double distance_from_trochoid(const rotor_profiles& rotors, point2 point, std::s
         const point2 b = {rotors.troch_x[(k + 1) % 3600], rotors.troch_y[(k + 1) % 3600]};
         const double dx = b.x - a.x;
         const double dy = b.y - a.y;
-        const double share = std::clamp(((point.x - a.x) * dx + (point.y - a.y) * dy) / (dx * dx + dy * dy), 0.0, 1.0);
-        smallest = std::min(smallest, std::hypot(point.x - a.x - share * dx, point.y - a.y - share * dy));
+        const double share = std::clamp(
+            ((point.x - a.x) * dx + (point.y - a.y) * dy) / (dx * dx + dy * dy), 0.0, 1.0);
+        smallest =
+            std::min(smallest, std::hypot(point.x - a.x - share * dx, point.y - a.y - share * dy));
     }
     return smallest;
 }
@@ -39,7 +41,8 @@ TEST(inner_offset, lies_at_its_distance_from_the_trochoid_point) {
     const std::vector<point2> points = inner_offset_points(design, rotors, TOOL_RADIUS);
     ASSERT_EQ(points.size(), 3600U);
     for (std::size_t i = 0; i < points.size(); i += 7) {
-        EXPECT_NEAR(std::hypot(points[i].x - rotors.troch_x[i], points[i].y - rotors.troch_y[i]), 6.56, 1e-9);
+        EXPECT_NEAR(std::hypot(points[i].x - rotors.troch_x[i], points[i].y - rotors.troch_y[i]),
+                    6.56, 1e-9);
     }
 }
 
@@ -75,7 +78,8 @@ TEST(inner_offset, lies_inside_the_trochoid_at_every_checked_point) {
 TEST(inner_offset, leads_away_from_the_axis_for_a_cutter_larger_than_the_lobes) {
     const design_params design = sample_design();
     const rotor_profiles rotors = inner_rotor_of(design);
-    const std::vector<point2> points = checked_inner_offset_points(design, rotors, 8.0);  // D = -0.44
+    const std::vector<point2> points =
+        checked_inner_offset_points(design, rotors, 8.0);  // D = -0.44
     for (std::size_t i = 0; i < points.size(); i += 13) {
         ASSERT_GT(to_axis(points[i]), to_axis({rotors.troch_x[i], rotors.troch_y[i]})) << i;
     }
@@ -88,7 +92,8 @@ TEST(inner_offset, divides_by_zero_for_a_chord_along_an_axis) {
     EXPECT_FAILURE(inner_offset_points(design, rotors, TOOL_RADIUS), failure::division_by_zero);
     rotors = inner_rotor_of(design);
     rotors.troch_y[100] = rotors.troch_y[101];
-    EXPECT_FAILURE(checked_inner_offset_points(design, rotors, TOOL_RADIUS), failure::division_by_zero);
+    EXPECT_FAILURE(checked_inner_offset_points(design, rotors, TOOL_RADIUS),
+                   failure::division_by_zero);
 }
 
 }  // namespace kvt

@@ -1,4 +1,5 @@
-// The path that clears a pocket: its parts in their order, and what it does for cutters that fit badly or not at all.
+// The path that clears a pocket: its parts in their order, and what it does for cutters that fit
+// badly or not at all.
 #include "output/cnc/pocket_path.hpp"
 
 #include "output/cnc/clearing_arcs.hpp"
@@ -17,16 +18,19 @@ namespace {
 
 const double PI = std::acos(-1.0);
 
-void add_arc(std::vector<point2>& points, point2 centre, double radius, double from_deg, double to_deg) {
+void add_arc(std::vector<point2>& points, point2 centre, double radius, double from_deg,
+             double to_deg) {
     const int steps = static_cast<int>(std::abs(to_deg - from_deg) / 0.5) + 1;
     for (int k = 0; k <= steps; ++k) {
         const double angle = (from_deg + (to_deg - from_deg) * k / steps) * PI / 180.0;
-        points.push_back({centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)});
+        points.push_back(
+            {centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)});
     }
 }
 
-/// A kidney from 20 to 160 degrees between the radii 10 and 18, with corners of radius f at the ends of its arcs.
-/// Counterclockwise about its inside: out along the outer arc, back along the inner one.
+/// A kidney from 20 to 160 degrees between the radii 10 and 18, with corners of radius f at the
+/// ends of its arcs. Counterclockwise about its inside: out along the outer arc, back along the
+/// inner one.
 pocket_shape kidney(double f, double tool_radius) {
     pocket_shape pocket;
     pocket.inner_r = 10.0;
@@ -34,7 +38,8 @@ pocket_shape kidney(double f, double tool_radius) {
     pocket.fillet_r = f;
     pocket.tool_radius = tool_radius;
     const auto corner = [](double radius, double degrees) {
-        return point2{radius * std::cos(degrees * PI / 180.0), radius * std::sin(degrees * PI / 180.0)};
+        return point2{radius * std::cos(degrees * PI / 180.0),
+                      radius * std::sin(degrees * PI / 180.0)};
     };
     const double outer = std::asin(f / (18.0 - f)) * 180.0 / PI;
     const double inner = std::asin(f / (10.0 + f)) * 180.0 / PI;
@@ -82,13 +87,17 @@ TEST(pocket_path, keeps_its_distance_and_leaves_nothing) {
 }
 
 TEST(pocket_path, takes_passes_then_arcs_then_the_last_contour) {
-    // f = 2, t = 0.8: Int(1.2 / 0.4) = 3 passes at 1.6, 1.2, 0.8; Int(4 / 0.8) = 5 arcs from 12.8 on; the contour.
+    // f = 2, t = 0.8: Int(1.2 / 0.4) = 3 passes at 1.6, 1.2, 0.8; Int(4 / 0.8) = 5 arcs from 12.8
+    // on; the contour.
     const pocket_shape pocket = kidney(2.0, 0.8);
     const std::vector<point2> path = pocket_path(pocket);
-    const auto near_outline = [&](std::size_t i) { return distance_from_path(path[i], pocket.outline); };
+    const auto near_outline = [&](std::size_t i) {
+        return distance_from_path(path[i], pocket.outline);
+    };
     EXPECT_NEAR(near_outline(0), 1.6, 0.002);
     EXPECT_NEAR(near_outline(path.size() - 1), 0.8, 0.002);
-    const std::vector<std::vector<point2>> arcs = clearing_arcs(pocket, pocket_region(pocket.outline));
+    const std::vector<std::vector<point2>> arcs =
+        clearing_arcs(pocket, pocket_region(pocket.outline));
     ASSERT_GE(arcs.size(), 5U);
     for (std::size_t i = 0; i < 5; ++i) {
         const double radius = 12.0 + 0.8 * static_cast<double>(i + 1);
@@ -144,7 +153,8 @@ TEST(pocket_region, finds_the_same_distances_as_a_look_at_every_side) {
         const double radius = std::hypot(point.x, point.y);
         const double angle = std::atan2(point.y, point.x) * 180.0 / PI;
         if (distance > 2.0) {
-            EXPECT_EQ(region.contains(point), radius > 10.0 && radius < 18.0 && angle > 20.0 && angle < 160.0);
+            EXPECT_EQ(region.contains(point),
+                      radius > 10.0 && radius < 18.0 && angle > 20.0 && angle < 160.0);
         }
     }
 }

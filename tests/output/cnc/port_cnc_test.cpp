@@ -27,9 +27,12 @@ struct port_files {
         build_metering_groove(work);
     }
 
-    std::vector<cnc_section> sections(void (*write)(const cnc_source&, port_side, text_lines&), port_side side) const {
+    std::vector<cnc_section> sections(void (*write)(const cnc_source&, port_side, text_lines&),
+                                      port_side side) const {
         text_lines text;
-        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump", ENGLISH, false}, side, text);
+        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump", ENGLISH,
+               false},
+              side, text);
         return cnc_reader(text.bytes(), choices.cnc_res_digits).sections();
     }
 };
@@ -105,7 +108,8 @@ TEST(port_cnc, repeats_the_same_outline_for_the_upper_housing) {
     files.tested.boxes.outlet_double_sided = "1";
     const std::vector<cnc_section> sections = files.sections(write_port_gcode, port_side::outlet);
     ASSERT_EQ(sections.size(), 3U);  // lower, groove, upper
-    EXPECT_EQ(sections[2].comments, std::vector<std::string>{"//Section 3: Upper housing Outlet port//"});
+    EXPECT_EQ(sections[2].comments,
+              std::vector<std::string>{"//Section 3: Upper housing Outlet port//"});
     EXPECT_EQ(ends_of(sections[2]), ends_of(sections[0]));
 }
 
@@ -123,7 +127,9 @@ TEST(port_gcode, has_arcs_by_the_sense_of_the_outline) {
     const auto kinds = [&](port_side side, bool shadow) {
         std::string codes;
         for (const tool_move& move : port_moves(files.tested.ports, side, shadow).moves) {
-            codes += move.kind == move_kind::line_g01 ? '1' : (move.kind == move_kind::clockwise_g02 ? '2' : '3');
+            codes += move.kind == move_kind::line_g01
+                         ? '1'
+                         : (move.kind == move_kind::clockwise_g02 ? '2' : '3');
         }
         return codes;
     };

@@ -33,7 +33,8 @@ struct rotor_files {
 
 TEST(rotor_cnc, has_3601_lines_for_the_inner_rotor) {
     const rotor_files files;
-    for (const auto write : {write_inner_xy, write_inner_offset, write_inner_offset_checked, write_inner_lathe}) {
+    for (const auto write :
+         {write_inner_xy, write_inner_offset, write_inner_offset_checked, write_inner_lathe}) {
         const std::vector<cnc_move> moves = files.moves(write);
         ASSERT_EQ(moves.size(), 3601U);
         EXPECT_EQ(moves.front().end, moves.back().end);
@@ -58,8 +59,8 @@ TEST(rotor_cnc, turns_the_points_of_the_inner_rotor_clockwise) {
 
 TEST(rotor_cnc, turns_no_other_file) {
     rotor_files files;
-    for (const auto write :
-         {write_inner_lathe, write_outer_xy, write_outer_offset, write_outer_gcode, write_outer_lathe}) {
+    for (const auto write : {write_inner_lathe, write_outer_xy, write_outer_offset,
+                             write_outer_gcode, write_outer_lathe}) {
         files.choices.Opp_Plot = false;
         const std::string bytes = files.bytes(write);
         files.choices.Opp_Plot = true;
@@ -86,7 +87,8 @@ TEST(rotor_cnc, walks_the_same_way_in_codes_and_in_points) {
     for (const cnc_move& move : files.moves(write_outer_xy)) {
         points.push_back(move.end);
     }
-    EXPECT_LT(largest_distance(points, path, 9), 0.0015);  // half a unit of the last decimal in both files
+    EXPECT_LT(largest_distance(points, path, 9),
+              0.0015);  // half a unit of the last decimal in both files
 }
 
 TEST(rotor_cnc, ends_the_codes_with_four_decimals_always) {

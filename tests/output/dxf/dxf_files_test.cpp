@@ -19,15 +19,16 @@ TEST(dxf, is_written_line_by_line) {
     write_dxf_inlet_port(out, ports, false);
     const std::string layer_end = "\r\n 70\r\n64\r\n 62\r\n30\r\n 6\r\nCONTINUOUS\r\n";
     const std::string vertex =
-        "VERTEX\r\n 8\r\nLINELAYER\r\n 10\r\n1.500000\r\n 20\r\n-2.250000\r\n 30\r\n0.000000\r\n 0\r\n";
+        "VERTEX\r\n 8\r\nLINELAYER\r\n 10\r\n1.500000\r\n 20\r\n-2.250000\r\n 30\r\n0.000000\r\n "
+        "0\r\n";
     EXPECT_EQ(out.bytes(),
               " 0\r\nSECTION\r\n 2\r\nHEADER\r\n 0\r\nENDSEC\r\n"
               " 0\r\nSECTION\r\n 2\r\nTABLES\r\n 0\r\nTABLE\r\n 2\r\nLAYER\r\n 70\r\n6\r\n"
               " 0\r\nLAYER\r\n 2\r\n0\r\n 70\r\n64\r\n 62\r\n7\r\n 6\r\nCONTINUOUS\r\n"
               " 0\r\nLAYER\r\n 2\r\nPOINTLAYER" +
-                  layer_end + " 0\r\nLAYER\r\n 2\r\nLINELAYER" + layer_end + " 0\r\nLAYER\r\n 2\r\nCODELAYER" +
-                  layer_end + " 0\r\nLAYER\r\n 2\r\nDESCSLAYER" + layer_end + " 0\r\nLAYER\r\n 2\r\nCOORDSLAYER" +
-                  layer_end +
+                  layer_end + " 0\r\nLAYER\r\n 2\r\nLINELAYER" + layer_end +
+                  " 0\r\nLAYER\r\n 2\r\nCODELAYER" + layer_end + " 0\r\nLAYER\r\n 2\r\nDESCSLAYER" +
+                  layer_end + " 0\r\nLAYER\r\n 2\r\nCOORDSLAYER" + layer_end +
                   " 0\r\nENDTAB\r\n 0\r\nENDSEC\r\n"
                   " 0\r\nSECTION\r\n 2\r\nBLOCKS\r\n 0\r\nENDSEC\r\n"
                   " 0\r\nSECTION\r\n 2\r\nENTITIES\r\n"

@@ -1,4 +1,5 @@
-// DXF files through an independent reader: no errors, nothing to fix, one polyline with the right vertices.
+// DXF files through an independent reader: no errors, nothing to fix, one polyline with the right
+// vertices.
 #include "app/files/dxf_output.hpp"
 #include "base/constants.hpp"
 #include "support/cnc_design.hpp"
@@ -22,7 +23,8 @@ struct recovered_file {
     double area = 0.0;
 };
 
-std::vector<recovered_file> recovered(const std::vector<std::string>& paths, const temporary_folder& folder) {
+std::vector<recovered_file> recovered(const std::vector<std::string>& paths,
+                                      const temporary_folder& folder) {
     std::string command = std::string(KVT_PYTHON) + " " + KVT_DXF_SCRIPT;
     for (const std::string& path : paths) {
         command += " '" + path + "'";
@@ -32,8 +34,8 @@ std::vector<recovered_file> recovered(const std::vector<std::string>& paths, con
     std::istringstream lines(read_file(printed));
     std::vector<recovered_file> files;
     recovered_file file;
-    while (lines >> file.errors >> file.fixes >> file.polylines >> file.vertices >> file.first.x >> file.first.y >>
-           file.last.x >> file.last.y >> file.area) {
+    while (lines >> file.errors >> file.fixes >> file.polylines >> file.vertices >> file.first.x >>
+           file.first.y >> file.last.x >> file.last.y >> file.area) {
         files.push_back(file);
     }
     return files;

@@ -73,13 +73,16 @@ TEST_F(rotor_files, hold_the_inner_rotor_as_one_solid) {
     EXPECT_EQ(solids[0].contours[0].z, 0.0);
     EXPECT_EQ(solids[0].contours[1].z, 10.0);
     EXPECT_EQ(solids[0].contours[0].points.size(), 3600U);
-    EXPECT_NEAR(signed_area(solids[0].contours[1].points), signed_area(inner_rotor_contour(rotors)), 1e-9);
+    EXPECT_NEAR(signed_area(solids[0].contours[1].points), signed_area(inner_rotor_contour(rotors)),
+                1e-9);
 }
 
 TEST_F(rotor_files, write_the_corners_of_the_bottom_with_a_long_zero) {
     write_step_inner_rotor(out, HEADER, design, rotors);
-    const std::string start = plain_number_text(rotors.inner_x[0]) + ", " + plain_number_text(rotors.inner_y[0]);
-    EXPECT_EQ(lines()[49], "#37 = CARTESIAN_POINT ( 'NONE',  ( " + start + ", 0.0000000000000000000 ) ) ;");
+    const std::string start =
+        plain_number_text(rotors.inner_x[0]) + ", " + plain_number_text(rotors.inner_y[0]);
+    EXPECT_EQ(lines()[49],
+              "#37 = CARTESIAN_POINT ( 'NONE',  ( " + start + ", 0.0000000000000000000 ) ) ;");
     EXPECT_EQ(lines()[51], "#39 = CARTESIAN_POINT ( 'NONE',  ( " + start + ", 10 ) ) ;");
     EXPECT_EQ(lines()[98], "#91 = CARTESIAN_POINT ( 'NONE',  ( " + start + ", 0 ) ) ;");
 }
@@ -95,8 +98,10 @@ TEST_F(rotor_files, hold_the_outer_rotor_about_its_own_centre) {
     EXPECT_EQ(solids[0].name, "Outer rotor");
     EXPECT_EQ(solids[0].circle_radii, std::vector<double>(4, 26.0));
     EXPECT_EQ(solids[0].contours[0].points.size(), 3500U);
-    EXPECT_NE(out.bytes().find("#49 = CARTESIAN_POINT ( 'NONE',  ( -2.85, 0, 10 ) ) ;"), std::string::npos);
-    EXPECT_NEAR(signed_area(solids[0].contours[0].points), signed_area(outer_rotor_contour(rotors)), 1e-9);
+    EXPECT_NE(out.bytes().find("#49 = CARTESIAN_POINT ( 'NONE',  ( -2.85, 0, 10 ) ) ;"),
+              std::string::npos);
+    EXPECT_NEAR(signed_area(solids[0].contours[0].points), signed_area(outer_rotor_contour(rotors)),
+                1e-9);
 }
 
 TEST_F(rotor_files, have_all_points_of_an_outer_rotor_without_fillets) {
@@ -111,10 +116,11 @@ TEST_F(rotor_files, have_all_points_of_an_outer_rotor_without_fillets) {
 TEST_F(rotor_files, turn_their_walls_away_from_the_material) {
     write_step_assembly(out, HEADER, design, rotors);
     const step_reader read(out.bytes());
-    EXPECT_EQ(read.wall_sides(),
-              (std::vector<std::string>{"#13 right", "#14 right", "#1000026 left", "#1000027 left"}));
+    EXPECT_EQ(read.wall_sides(), (std::vector<std::string>{"#13 right", "#14 right",
+                                                           "#1000026 left", "#1000027 left"}));
     for (const step_solid& solid : read.solids()) {
-        EXPECT_GT(signed_area(solid.contours.at(1).points), 0.0);  // counter-clockwise: the inside lies to the left
+        EXPECT_GT(signed_area(solid.contours.at(1).points),
+                  0.0);  // counter-clockwise: the inside lies to the left
     }
 }
 
@@ -126,9 +132,11 @@ TEST_F(rotor_files, hold_two_separate_solids_in_the_assembly) {
     ASSERT_EQ(solids.size(), 2U);
     EXPECT_EQ(solids[0].name, "INNER ROTOR");
     EXPECT_EQ(solids[1].name, "Outer rotor");
-    EXPECT_NE(out.bytes().find("#1000021 = CLOSED_SHELL ( 'NONE', ( #1000022, #1000023, #1000024, #1000025, #1000026, "
-                               "#1000027 ) ) ;\r\n"),
-              std::string::npos);
+    EXPECT_NE(
+        out.bytes().find(
+            "#1000021 = CLOSED_SHELL ( 'NONE', ( #1000022, #1000023, #1000024, #1000025, #1000026, "
+            "#1000027 ) ) ;\r\n"),
+        std::string::npos);
     EXPECT_NE(out.bytes().find("\r\n#1000158 = CARTESIAN_POINT"), std::string::npos);
     EXPECT_EQ(read.entity_count(), 89U + 4U * 3600U + 157U + 4U * 3500U);
 }
@@ -138,7 +146,8 @@ TEST_F(rotor_files, never_write_an_exponent) {
     write_step_inner_rotor(out, HEADER, design, rotors);
     EXPECT_NE(out.bytes().find("#38 = VECTOR ( 'NONE', #44, 0.00001 ) ;"), std::string::npos);
     std::size_t exponents = 0;
-    for (std::size_t at = out.bytes().find("E-"); at != std::string::npos; at = out.bytes().find("E-", at + 1)) {
+    for (std::size_t at = out.bytes().find("E-"); at != std::string::npos;
+         at = out.bytes().find("E-", at + 1)) {
         ++exponents;
     }
     EXPECT_EQ(exponents, 1U);  // the template's own uncertainty
@@ -146,7 +155,8 @@ TEST_F(rotor_files, never_write_an_exponent) {
 
 TEST_F(rotor_files, end_where_a_profile_is_missing_and_keep_the_lines_before_it) {
     rotors = prepared_rotors(design);
-    EXPECT_FAILURE(write_step_outer_rotor(out, HEADER, design, rotors), failure::subscript_out_of_range);
+    EXPECT_FAILURE(write_step_outer_rotor(out, HEADER, design, rotors),
+                   failure::subscript_out_of_range);
     EXPECT_EQ(lines().back(), "DATA;");
 }
 

@@ -1,5 +1,6 @@
-// STEP files through an independent reader, a solid-modelling kernel, with its repair switched off: every body is one
-// valid closed solid, right side out, of the right size. One file only: the kernel's headers compile slowly.
+// STEP files through an independent reader, a solid-modelling kernel, with its repair switched off:
+// every body is one valid closed solid, right side out, of the right size. One file only: the
+// kernel's headers compile slowly.
 #include "app/files/step_output.hpp"
 #include "output/step/step_files.hpp"
 #include "output/step/step_ports.hpp"
@@ -39,7 +40,8 @@ constexpr double SPLINE_TOLERANCE = 1e-5;
 constexpr double PI = 3.14159265358979323846;
 
 struct extents {
-    double low_x = std::numeric_limits<double>::max(), high_x = -low_x, low_y = low_x, high_y = -low_x;
+    double low_x = std::numeric_limits<double>::max(), high_x = -low_x, low_y = low_x,
+           high_y = -low_x;
 
     void take(double x, double y) {
         low_x = std::min(low_x, x);
@@ -58,8 +60,8 @@ double signed_area_of(const std::vector<point2>& points) {
     return 0.5 * sum;
 }
 
-/// The reader runs a sequence of repairs over what it read, a default one where the settings name none. So they name
-/// one whose only step is unknown.
+/// The reader runs a sequence of repairs over what it read, a default one where the settings name
+/// none. So they name one whose only step is unknown.
 void switch_repair_off() {
     Interface_Static::SetCVal("read.step.resource.name", "");  // take the settings, not a file
     Interface_Static::Init("XSTEP", "norepair.exec.op", 't', "nothing");
@@ -84,7 +86,8 @@ std::vector<TopoDS_Solid> solids_of(const std::string& bytes) {
 }
 
 /// Points along the edges of one height, circles or splines, as they lie in the file.
-std::vector<std::vector<point2>> polygons_at(const TopoDS_Solid& solid, double z, GeomAbs_CurveType type) {
+std::vector<std::vector<point2>> polygons_at(const TopoDS_Solid& solid, double z,
+                                             GeomAbs_CurveType type) {
     constexpr int STEPS = 20000;
     std::vector<std::vector<point2>> pieces;
     TopTools_IndexedMapOfShape edges;
@@ -135,27 +138,30 @@ void expect_closed(const TopoDS_Solid& solid, int faces) {
     EXPECT_EQ(found.Extent(), faces);
 }
 
-/// Volume by adaptive integration; the ordinary one is wrong by percents on splines of thousands of spans.
+/// Volume by adaptive integration; the ordinary one is wrong by percents on splines of thousands of
+/// spans.
 double volume_of(const TopoDS_Solid& solid) {
     GProp_GProps properties;
     BRepGProp::VolumePropertiesGK(solid, properties, 1e-4);
     return properties.Mass();
 }
 
-/// A spline passes its control point P at (A + 4 P + B)/6, A and B being the points beside it: next to nothing on a
-/// smooth profile, part of a step at a sharp corner.
+/// A spline passes its control point P at (A + 4 P + B)/6, A and B being the points beside it: next
+/// to nothing on a smooth profile, part of a step at a sharp corner.
 double largest_cut(const std::vector<point2>& profile) {
     double largest = 0.0;
     for (std::size_t i = 0; i < profile.size(); ++i) {
         const point2& before = profile[(i + profile.size() - 1) % profile.size()];
         const point2& after = profile[(i + 1) % profile.size()];
-        const double cut = std::hypot(before.x - 2.0 * profile[i].x + after.x, before.y - 2.0 * profile[i].y + after.y);
+        const double cut = std::hypot(before.x - 2.0 * profile[i].x + after.x,
+                                      before.y - 2.0 * profile[i].y + after.y);
         largest = std::max(largest, cut / 6.0);
     }
     return largest;
 }
 
-/// Point at parameter t of the clamped uniform cubic spline over points first .. last, each span one long (de Boor).
+/// Point at parameter t of the clamped uniform cubic spline over points first .. last, each span
+/// one long (de Boor).
 point2 spline_point(const std::vector<point2>& controls, double t) {
     const int count = static_cast<int>(controls.size());
     const auto knot = [count](int i) { return std::clamp(i - 3, 0, count - 3); };
@@ -185,7 +191,8 @@ double spline_area(const std::vector<point2>& profile) {
     std::vector<point2> polygon;
     for (const std::vector<point2>& half : {first, second}) {
         for (int step = 0; step < STEPS; ++step) {
-            polygon.push_back(spline_point(half, (static_cast<double>(half.size()) - 3.0) * step / STEPS));
+            polygon.push_back(
+                spline_point(half, (static_cast<double>(half.size()) - 3.0) * step / STEPS));
         }
     }
     return signed_area_of(polygon);
@@ -196,18 +203,21 @@ bool is_within(const std::vector<point2>& polygon, const point2& point) {
     for (std::size_t i = 0; i < polygon.size(); ++i) {
         const point2& a = polygon[i];
         const point2& b = polygon[(i + 1) % polygon.size()];
-        if ((a.y > point.y) != (b.y > point.y) && point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y)) {
+        if ((a.y > point.y) != (b.y > point.y) &&
+            point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y)) {
             within = !within;
         }
     }
     return within;
 }
 
-/// The outward normals of the spline faces, taken with the faces' orientation, lead to where there is no material. The
-/// kernel turns the faces of a closed shell to fit each other even without repairs: step_reader checks what the file
-/// says.
-bool walls_face_outwards(const TopoDS_Solid& solid, const std::vector<point2>& profile, bool is_bore) {
-    const double step = 0.001 + 2.0 * largest_cut(profile);  // mm, beyond what the spline leaves of a corner
+/// The outward normals of the spline faces, taken with the faces' orientation, lead to where there
+/// is no material. The kernel turns the faces of a closed shell to fit each other even without
+/// repairs: step_reader checks what the file says.
+bool walls_face_outwards(const TopoDS_Solid& solid, const std::vector<point2>& profile,
+                         bool is_bore) {
+    const double step =
+        0.001 + 2.0 * largest_cut(profile);  // mm, beyond what the spline leaves of a corner
     for (TopExp_Explorer at(solid, TopAbs_FACE); at.More(); at.Next()) {
         const TopoDS_Face face = TopoDS::Face(at.Current());
         const BRepAdaptor_Surface surface(face);
@@ -215,10 +225,12 @@ bool walls_face_outwards(const TopoDS_Solid& solid, const std::vector<point2>& p
             continue;
         }
         for (const double share : {0.11, 0.37, 0.52, 0.73, 0.91}) {
-            const double u = surface.FirstUParameter() + share * (surface.LastUParameter() - surface.FirstUParameter());
+            const double u = surface.FirstUParameter() +
+                             share * (surface.LastUParameter() - surface.FirstUParameter());
             gp_Pnt point;
             gp_Vec along_u, along_v;
-            surface.D1(u, 0.5 * (surface.FirstVParameter() + surface.LastVParameter()), point, along_u, along_v);
+            surface.D1(u, 0.5 * (surface.FirstVParameter() + surface.LastVParameter()), point,
+                       along_u, along_v);
             gp_Vec normal = along_u.Crossed(along_v).Normalized();
             if (face.Orientation() == TopAbs_REVERSED) {
                 normal.Reverse();
@@ -251,7 +263,8 @@ void expect_contour(const TopoDS_Solid& solid, const std::vector<point2>& profil
     EXPECT_NEAR(read.high_y, wanted.high_y, tolerance);
 }
 
-void expect_prism(const TopoDS_Solid& solid, const std::vector<point2>& profile, double bottom, double depth) {
+void expect_prism(const TopoDS_Solid& solid, const std::vector<point2>& profile, double bottom,
+                  double depth) {
     expect_closed(solid, 4);
     expect_contour(solid, profile, bottom);
     expect_contour(solid, profile, bottom + depth);
@@ -320,7 +333,8 @@ TEST_P(kernel_reads, every_port_body_as_a_closed_solid) {
     const auto solids = solids_of(bytes_of(kavetta, step_file::ports));
     std::size_t at = 0;
     for (const step_port port : STEP_PORTS) {
-        const auto body = port_body(port, kavetta.design_params, kavetta.port_params, kavetta.entries);
+        const auto body =
+            port_body(port, kavetta.design_params, kavetta.port_params, kavetta.entries);
         if (body) {
             SCOPED_TRACE(body->product);
             ASSERT_LT(at, solids.size());
@@ -340,7 +354,8 @@ TEST(kernel_reads_assembly, as_two_solids_that_mesh) {
     const program kavetta = design_with_ports("n07_engine_oil_groove");
     const auto solids = solids_of(bytes_of(kavetta, step_file::assembly));
     ASSERT_EQ(solids.size(), 2U);
-    expect_prism(solids[0], inner_rotor_contour(kavetta.rotor_profiles), 0.0, kavetta.design_params.thick);
+    expect_prism(solids[0], inner_rotor_contour(kavetta.rotor_profiles), 0.0,
+                 kavetta.design_params.thick);
     expect_outer(kavetta, solids[1]);
 }
 

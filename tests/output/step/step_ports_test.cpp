@@ -13,11 +13,12 @@ namespace kvt {
 namespace {
 
 /// A closed outline of 40 points about (cx, cy): point 40 repeats point 0.
-void set_outline(std::vector<double>& x, std::vector<double>& y, std::int16_t& last, point2 centre, double radius,
-                 bool clockwise) {
+void set_outline(std::vector<double>& x, std::vector<double>& y, std::int16_t& last, point2 centre,
+                 double radius, bool clockwise) {
     last = 40;
     for (std::size_t i = 0; i <= 40; ++i) {
-        const double angle = (clockwise ? -1.0 : 1.0) * std::acos(-1.0) * static_cast<double>(i % 40) / 20.0;
+        const double angle =
+            (clockwise ? -1.0 : 1.0) * std::acos(-1.0) * static_cast<double>(i % 40) / 20.0;
         x[i] = centre.x + radius * std::cos(angle);
         y[i] = centre.y + radius * std::sin(angle);
     }
@@ -29,14 +30,18 @@ struct port_bodies : testing::Test {
     entries boxes;
 
     port_bodies() {
-        set_outline(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last, {3.0, -8.0}, 4.0, false);
-        set_outline(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last, {3.0, 8.0}, 5.0, true);
+        set_outline(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last, {3.0, -8.0}, 4.0,
+                    false);
+        set_outline(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last, {3.0, 8.0},
+                    5.0, true);
         set_outline(ports.groove_x, ports.groove_y, ports.groove_last, {-9.0, 8.0}, 2.0, true);
         ports.groove_depth_mm = 1.5;
         boxes.metering_groove = "1";
     }
 
-    std::optional<step_prism> body(step_port port) const { return port_body(port, design, ports, boxes); }
+    std::optional<step_prism> body(step_port port) const {
+        return port_body(port, design, ports, boxes);
+    }
 };
 
 TEST_F(port_bodies, stand_below_the_rotors_with_the_whole_thickness) {
@@ -87,8 +92,10 @@ TEST_F(port_bodies, walk_clockwise_outlines_backwards_from_point_0) {
     EXPECT_EQ(contour[0], (point2{ports.outlet_port_x[0], ports.outlet_port_y[0]}));
     EXPECT_EQ(contour[1], (point2{ports.outlet_port_x[39], ports.outlet_port_y[39]}));
     EXPECT_EQ(contour[39], (point2{ports.outlet_port_x[1], ports.outlet_port_y[1]}));
-    EXPECT_EQ(body(step_port::inlet_lower)->contour[1], (point2{ports.inlet_port_x[1], ports.inlet_port_y[1]}));
-    for (const step_port port : {step_port::inlet_lower, step_port::outlet_lower, step_port::groove}) {
+    EXPECT_EQ(body(step_port::inlet_lower)->contour[1],
+              (point2{ports.inlet_port_x[1], ports.inlet_port_y[1]}));
+    for (const step_port port :
+         {step_port::inlet_lower, step_port::outlet_lower, step_port::groove}) {
         EXPECT_GT(signed_area(body(port)->contour), 0.0);
     }
 }
@@ -110,15 +117,19 @@ TEST_F(port_bodies, keep_the_offset_of_their_kind_in_a_file_of_some) {
     EXPECT_TRUE(read.unresolved().empty());
     EXPECT_TRUE(read.edges_not_used_twice().empty());
     EXPECT_TRUE(read.spline_problems().empty());
-    EXPECT_EQ(read.numbers_of("MANIFOLD_SOLID_BREP"), (std::vector<int>{1000011, 2000011, 4000011}));
+    EXPECT_EQ(read.numbers_of("MANIFOLD_SOLID_BREP"),
+              (std::vector<int>{1000011, 2000011, 4000011}));
     const std::vector<step_solid> solids = read.solids();
     EXPECT_EQ(solids[0].contours[0].z, -10.0);
     EXPECT_EQ(solids[0].contours[1].z, 0.0);
     EXPECT_EQ(solids[1].contours[0].z, 10.06);
     EXPECT_EQ(solids[1].contours[1].z, 12.06);
-    EXPECT_NE(out.bytes().find("#1000037 = CARTESIAN_POINT ( 'NONE',  ( 8, 8, -10 ) ) ;"), std::string::npos);
-    EXPECT_NE(out.bytes().find("#4000089 = PRODUCT('Metering Groove','Metering Groove','STEP AP203',(#4000088));"),
+    EXPECT_NE(out.bytes().find("#1000037 = CARTESIAN_POINT ( 'NONE',  ( 8, 8, -10 ) ) ;"),
               std::string::npos);
+    EXPECT_NE(
+        out.bytes().find(
+            "#4000089 = PRODUCT('Metering Groove','Metering Groove','STEP AP203',(#4000088));"),
+        std::string::npos);
 }
 
 TEST_F(port_bodies, are_single_in_the_files_of_the_simulation_exchange) {
@@ -126,7 +137,8 @@ TEST_F(port_bodies, are_single_in_the_files_of_the_simulation_exchange) {
     write_step_inlet_port(inlet, {"in_port_GT.stp", "", "2021.1.1"}, design, ports, boxes);
     write_step_outlet_port(outlet, {"out_port_GT.stp", "", "2021.1.1"}, design, ports, boxes);
     EXPECT_EQ(step_reader(inlet.bytes()).numbers_of("MANIFOLD_SOLID_BREP"), std::vector<int>{11});
-    EXPECT_EQ(step_reader(outlet.bytes()).numbers_of("MANIFOLD_SOLID_BREP"), std::vector<int>{1000011});
+    EXPECT_EQ(step_reader(outlet.bytes()).numbers_of("MANIFOLD_SOLID_BREP"),
+              std::vector<int>{1000011});
 }
 
 TEST_F(port_bodies, leave_a_file_without_bodies_before_the_ports_are_designed) {

@@ -1,4 +1,5 @@
-// Tests of the side wall of a STEP body: control points, curves, surfaces, knots of a small contour.
+// Tests of the side wall of a STEP body: control points, curves, surfaces, knots of a small
+// contour.
 #include "output/step/step_wall.hpp"
 
 #include "base/text_file.hpp"
@@ -11,7 +12,8 @@ namespace {
 
 /// Seven corners; the numbers tell them apart.
 std::vector<point2> seven_points() {
-    return {{10.0, 0.0}, {6.0, 8.0}, {0.5, 9.0}, {-7.0, 5.0}, {-9.0, -1.0}, {-3.0, -8.0}, {5.0, -0.00001}};
+    return {{10.0, 0.0},  {6.0, 8.0},   {0.5, 9.0},     {-7.0, 5.0},
+            {-9.0, -1.0}, {-3.0, -8.0}, {5.0, -0.00001}};
 }
 
 std::vector<std::string> lines_of(const text_lines& text) {
@@ -54,13 +56,16 @@ TEST(step_wall, cuts_an_odd_contour_at_the_lower_middle) {
     EXPECT_EQ(wall.middle(), "-7, 5");
     // Points 0 to 3: four control points, no inner knot, knots 0.5 and 0.5 + 1/7.
     wall.write_curve(33, wall_half::first, 0);
-    // Points 3 to 7, which is 0: five control points, knots 0, 1/7, 2/7; layer 3 begins at 91 + 3 * 7.
+    // Points 3 to 7, which is 0: five control points, knots 0, 1/7, 2/7; layer 3 begins at 91 + 3
+    // * 7.
     wall.write_curve(55, wall_half::second, 3);
     EXPECT_EQ(lines_of(out)[0],
-              "#33 = B_SPLINE_CURVE_WITH_KNOTS ( 'NONE', 3, ( #91, #92, #93, #94 ), .UNSPECIFIED., .F., .F., ( 4, 4 ), "
+              "#33 = B_SPLINE_CURVE_WITH_KNOTS ( 'NONE', 3, ( #91, #92, #93, #94 ), .UNSPECIFIED., "
+              ".F., .F., ( 4, 4 ), "
               "( 0.5, 0.642857142857143), .UNSPECIFIED. ) ;");
     EXPECT_EQ(lines_of(out)[1],
-              "#55 = B_SPLINE_CURVE_WITH_KNOTS ( 'NONE', 3, ( #115, #116, #117, #118, #112 ), .UNSPECIFIED., .F., .F., "
+              "#55 = B_SPLINE_CURVE_WITH_KNOTS ( 'NONE', 3, ( #115, #116, #117, #118, #112 ), "
+              ".UNSPECIFIED., .F., .F., "
               "( 4, 1, 4 ), ( 0, 0.142857142857143, 0.285714285714286), .UNSPECIFIED. ) ;");
 }
 

@@ -15,10 +15,10 @@ namespace {
 
 using typed_design = std::vector<std::pair<const char*, const char*>>;
 
-const typed_design METRIC_DESIGN = {{"numlobes", "7"},       {"ecc", "2.85"},         {"radinnroot", "14.15"},
-                                    {"radouter", "7.5"},     {"fillet", "1.5"},       {"thick", "10"},
-                                    {"shaftdiameter", "18"}, {"minmaterial", "2.5"},  {"maxdiameter", "60"},
-                                    {"clearn", "0.12"},      {"axial_clear", "0.06"}, {"radial_clear", "0.1"}};
+const typed_design METRIC_DESIGN = {
+    {"numlobes", "7"},     {"ecc", "2.85"},    {"radinnroot", "14.15"}, {"radouter", "7.5"},
+    {"fillet", "1.5"},     {"thick", "10"},    {"shaftdiameter", "18"}, {"minmaterial", "2.5"},
+    {"maxdiameter", "60"}, {"clearn", "0.12"}, {"axial_clear", "0.06"}, {"radial_clear", "0.1"}};
 
 class Form1_test : public desktop_test {
   protected:
@@ -38,11 +38,13 @@ QJsonObject reference(const std::string& name) {
 }  // namespace
 
 TEST_F(Form1_test, calculates_the_opened_designs_with_their_known_results) {
-    for (const char* name : {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n09_crank_oil"}) {
+    for (const char* name :
+         {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n09_crank_oil"}) {
         start(design_file(name));
         press("Calc");
         const QJsonObject labels = reference(name)["labels"].toObject();
-        for (const char* output : {"capacity", "area_ratio", "max_chamb_vol", "min_chamb_vol", "units_label"}) {
+        for (const char* output :
+             {"capacity", "area_ratio", "max_chamb_vol", "min_chamb_vol", "units_label"}) {
             EXPECT_EQ(label(output), utf8_text(labels[output].toString())) << name << " " << output;
         }
         EXPECT_EQ(robot.messages, std::vector<std::string>()) << name;
@@ -53,7 +55,8 @@ TEST_F(Form1_test, tells_the_root_radius_of_a_typed_design_and_writes_it_into_it
     start();
     type_design(METRIC_DESIGN);
     press("Calc");
-    EXPECT_EQ(robot.messages, std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
     EXPECT_EQ(shown("outer_root"), "22.7");
     EXPECT_NE(label("capacity"), "0.0");
     EXPECT_FALSE(label("area_ratio").empty());
@@ -71,7 +74,8 @@ TEST_F(Form1_test, enter_in_an_entry_calculates) {
 TEST_F(Form1_test, shows_the_first_refusal_and_computes_nothing) {
     start();
     press("Calc");
-    EXPECT_EQ(robot.messages, std::vector<std::string>{"Input a value for the diameter of the shaft"});
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"Input a value for the diameter of the shaft"});
     EXPECT_TRUE(kavetta().design_view.Picture1.empty());
     EXPECT_EQ(label("capacity"), "0.0");
 }
@@ -82,7 +86,8 @@ TEST_F(Form1_test, moves_the_focus_to_the_eccentricity_that_is_missing) {
     type("ecc", "0");
     type("clearn", "0.1");
     press("Calc");
-    EXPECT_EQ(robot.messages, std::vector<std::string>{"The Eccentricity cannot be equal to zero!!"});
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"The Eccentricity cannot be equal to zero!!"});
     EXPECT_TRUE(QTest::qWaitFor([this] { return box("ecc")->hasFocus(); }, 2000));
 }
 
@@ -95,7 +100,8 @@ TEST_F(Form1_test, shows_the_boxes_that_a_run_cleaned_up_while_its_message_is_op
     std::string comma;
     press("Calc");
     EXPECT_EQ(robot.messages.front(),
-              "The rotors must have a thickness to calculate the volumetric capacity! Use a thickness value = 1 if a "
+              "The rotors must have a thickness to calculate the volumetric capacity! Use a "
+              "thickness value = 1 if a "
               "volume per unit thickness is required.");
     EXPECT_EQ(shown("thick"), "1");
     EXPECT_EQ(shown("axial_clear"), "0.5");
@@ -172,16 +178,20 @@ TEST_F(Form1_test, tab_reaches_every_entry_in_reading_order) {
     start();
     QTest::mouseClick(box("volumereqd"), Qt::LeftButton);
     std::vector<std::string> reached;
-    for (int step = 0; step < 40 && (reached.empty() || QApplication::focusWidget() != box("volumereqd")); ++step) {
+    for (int step = 0;
+         step < 40 && (reached.empty() || QApplication::focusWidget() != box("volumereqd"));
+         ++step) {
         reached.push_back(utf8_text(QApplication::focusWidget()->objectName()));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         settle();
     }
     const std::vector<std::string> expected = {
-        "volumereqd",  "unittype",   "Des_assist_check", "numlobes",     "ecc",           "radinnroot",
-        "radouter",    "outer_root", "fillet",           "thick",        "shaftdiameter", "minmaterial",
-        "maxdiameter", "clearn",     "axial_clear",      "radial_clear", "coarseness",    "Calc",
-        "cleardesign", "dimens1",    "Image1",           "Image2"};
+        "volumereqd",  "unittype",   "Des_assist_check", "numlobes",
+        "ecc",         "radinnroot", "radouter",         "outer_root",
+        "fillet",      "thick",      "shaftdiameter",    "minmaterial",
+        "maxdiameter", "clearn",     "axial_clear",      "radial_clear",
+        "coarseness",  "Calc",       "cleardesign",      "dimens1",
+        "Image1",      "Image2"};
     EXPECT_EQ(reached, expected);
 }
 

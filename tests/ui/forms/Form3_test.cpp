@@ -24,7 +24,8 @@ class Form3_test : public desktop_test {
     /// The dialog, open above the main window without a loop of its own.
     Form3& dialog() {
         if (dialog_ == nullptr) {
-            dialog_ = std::make_unique<Form3>(form_context{kavetta(), desk().runner(), person_}, &window());
+            dialog_ = std::make_unique<Form3>(form_context{kavetta(), desk().runner(), person_},
+                                              &window());
             dialog_->show();
         }
         return *dialog_;
@@ -40,10 +41,13 @@ class Form3_test : public desktop_test {
         return *found;
     }
     void click(const char* name) { part<QAbstractButton>(name).click(); }
-    void choose_resolution(const char* text) { part<QComboBox>("machine_res_combo").setCurrentText(text); }
+    void choose_resolution(const char* text) {
+        part<QComboBox>("machine_res_combo").setCurrentText(text);
+    }
 
   private:
-    scripted_user person_;  // the status bar of the dialog's boxes; messages go the way of every command
+    scripted_user
+        person_;  // the status bar of the dialog's boxes; messages go the way of every command
     std::unique_ptr<Form3> dialog_;
 };
 
@@ -51,13 +55,15 @@ class Form3_test : public desktop_test {
 
 TEST_F(Form3_test, shows_the_files_of_rotors_and_ports) {
     EXPECT_EQ(utf8_text(dialog().windowTitle()), "CNC Output File Type");
-    EXPECT_EQ(utf8_text(part<QCheckBox>("inner_rot_xy_checkbox").text()), "Inner Rotor, X/Y Co-ords");
+    EXPECT_EQ(utf8_text(part<QCheckBox>("inner_rot_xy_checkbox").text()),
+              "Inner Rotor, X/Y Co-ords");
     EXPECT_EQ(utf8_text(part<QCheckBox>("inner_rot_xy_checked_checkbox").text()),
               "Inner Rotor, X/Y Co-ords - for specified tool size, side checked");
     EXPECT_EQ(utf8_text(part<QPushButton>("okbutton").text()), "OK");
     EXPECT_EQ(utf8_text(part<QLabel>("toolunits").text()), "mm");
     for (const cnc_file& file : cnc_files()) {
-        EXPECT_FALSE(part<QCheckBox>(std::string(file.checkbox).c_str()).isChecked()) << file.checkbox;
+        EXPECT_FALSE(part<QCheckBox>(std::string(file.checkbox).c_str()).isChecked())
+            << file.checkbox;
     }
     EXPECT_EQ(part<QComboBox>("machine_res_combo").count(), 5);
     EXPECT_EQ(part<QComboBox>("machine_res_combo").currentText(), "");
@@ -81,8 +87,9 @@ TEST_F(Form3_test, stays_open_behind_a_message_and_shows_what_the_check_changed)
     part<QLineEdit>("toolsize").setText("3,5");
     click("okbutton");
     EXPECT_EQ(robot.messages,
-              std::vector<std::string>{"Max tool size to cut the designed port radius is 3mm.\nSelect a suitable tool "
-                                       "size"});
+              std::vector<std::string>{
+                  "Max tool size to cut the designed port radius is 3mm.\nSelect a suitable tool "
+                  "size"});
     EXPECT_TRUE(dialog().isVisible());
     EXPECT_EQ(part<QLineEdit>("toolsize").text(), "");
 }
@@ -93,7 +100,8 @@ TEST_F(Form3_test, writes_the_ticked_file_and_closes) {
     robot.files = {folder.file("outer.cnc")};
     click("okbutton");
     EXPECT_FALSE(dialog().isVisible());
-    EXPECT_EQ(robot.titles, std::vector<std::string>{"Kavetta V2021 - Save Outer Rotor Profile - G Codes"});
+    EXPECT_EQ(robot.titles,
+              std::vector<std::string>{"Kavetta V2021 - Save Outer Rotor Profile - G Codes"});
     EXPECT_TRUE(read_file(folder.file("outer.cnc")).ends_with("G01X0.0000Y0.0000\r\n"));
 }
 

@@ -50,7 +50,8 @@ TEST_F(Perffrm_test, tells_the_first_entry_that_is_refused_and_empties_it) {
     start_with_ports();
     type("speed_hi", "500");
     press("calc_perf");
-    EXPECT_EQ(robot.messages, std::vector<std::string>{"Speed must be greater than for low speed setting"});
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"Speed must be greater than for low speed setting"});
     EXPECT_EQ(shown("speed_hi"), "");
     EXPECT_EQ(shown("speed_lo"), "600");
     EXPECT_EQ(loaded("perf_res"), nullptr);
@@ -63,10 +64,11 @@ TEST_F(Perffrm_test, breaks_the_line_of_the_friction_message_in_both_languages) 
     press("Image2");
     press("calc_perf");
     EXPECT_EQ(robot.messages,
-              (std::vector<std::string>{"Enter a value for the Coefficient of Friction between the rotors\nand housing "
-                                        "(assume lubricated with pumped fluid)",
-                                        "Geben Sie einen Wert für den Reibungskoeffizienten zwischen den Rotoren\nund "
-                                        "dem Gehäuse ein (mit der gepumpten Flüssigkeit geschmiert)"}));
+              (std::vector<std::string>{
+                  "Enter a value for the Coefficient of Friction between the rotors\nand housing "
+                  "(assume lubricated with pumped fluid)",
+                  "Geben Sie einen Wert für den Reibungskoeffizienten zwischen den Rotoren\nund "
+                  "dem Gehäuse ein (mit der gepumpten Flüssigkeit geschmiert)"}));
 }
 
 TEST_F(Perffrm_test, keeps_the_results_of_the_run_before_a_refusal) {
@@ -124,7 +126,8 @@ TEST_F(Perffrm_test, the_column_heads_stand_over_their_columns) {
     EXPECT_TRUE(has_ink(0, width));
     EXPECT_FALSE(has_ink(width, heads->width() - width));
     EXPECT_TRUE(has_ink(heads->width() - width, heads->width()));
-    EXPECT_EQ(heads->mapToGlobal(QPoint(0, 0)).x(), box("young_inner")->mapToGlobal(QPoint(0, 0)).x());
+    EXPECT_EQ(heads->mapToGlobal(QPoint(0, 0)).x(),
+              box("young_inner")->mapToGlobal(QPoint(0, 0)).x());
     EXPECT_EQ(heads->mapToGlobal(QPoint(heads->width(), 0)).x(),
               box("young_outer")->mapToGlobal(QPoint(box("young_outer")->width(), 0)).x());
 }
@@ -133,15 +136,18 @@ TEST_F(Perffrm_test, tab_reaches_every_entry_in_reading_order) {
     start_with_ports();
     QTest::mouseClick(box("fluid_density"), Qt::LeftButton);
     std::vector<std::string> reached;
-    for (int step = 0; step < 40 && (reached.empty() || QApplication::focusWidget() != box("fluid_density")); ++step) {
+    for (int step = 0;
+         step < 40 && (reached.empty() || QApplication::focusWidget() != box("fluid_density"));
+         ++step) {
         reached.push_back(utf8_text(QApplication::focusWidget()->objectName()));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         settle();
     }
     const std::vector<std::string> expected = {
-        "fluid_density",  "kin_visc",       "vap_press",   "bulk_mod_text", "young_inner",     "young_outer",
-        "poissons_inner", "poissons_outer", "friction",    "UTS_value",     "Face_area_value", "OD_area_value",
-        "speed_lo",       "speed_hi",       "pressure_lo", "pressure_hi",   "calc_perf"};
+        "fluid_density",   "kin_visc",       "vap_press",      "bulk_mod_text", "young_inner",
+        "young_outer",     "poissons_inner", "poissons_outer", "friction",      "UTS_value",
+        "Face_area_value", "OD_area_value",  "speed_lo",       "speed_hi",      "pressure_lo",
+        "pressure_hi",     "calc_perf"};
     EXPECT_EQ(reached, expected);
 }
 

@@ -1,4 +1,5 @@
-// assist_area: the switch of the Design assist, its colours and frame lines, and the run behind its button.
+// assist_area: the switch of the Design assist, its colours and frame lines, and the run behind its
+// button.
 #include "ui/desktop_fixture.hpp"
 
 #include <QFrame>
@@ -134,7 +135,8 @@ TEST_F(assist_area_test, enter_in_an_entry_runs_the_assist_while_it_is_on) {
     QTest::keyClick(box("ecc"), Qt::Key_Return);
     settle();
     EXPECT_EQ(robot.messages,
-              std::vector<std::string>{"Enter a value for the required Volumetric Capacity of the Gerotors"});
+              std::vector<std::string>{
+                  "Enter a value for the required Volumetric Capacity of the Gerotors"});
 }
 
 TEST_F(assist_area_test, tells_that_the_rotors_do_not_fit) {
@@ -143,7 +145,8 @@ TEST_F(assist_area_test, tells_that_the_rotors_do_not_fit) {
     press("Des_assist_check");
     press("designer");
     ASSERT_EQ(robot.messages.size(), 1U);
-    EXPECT_TRUE(robot.messages[0].starts_with("The rotor design to achieve this Volumetric Capacity will not fit"));
+    EXPECT_TRUE(robot.messages[0].starts_with(
+        "The rotor design to achieve this Volumetric Capacity will not fit"));
 }
 
 TEST_F(assist_area_test, nothing_moves_when_it_is_switched) {

@@ -29,13 +29,15 @@ QJsonObject reference_labels(const std::string& name) {
 }  // namespace
 
 TEST_F(perf_res_test, shows_the_known_results_of_the_designs) {
-    for (const char* name : {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n07_inch_hydraulic"}) {
+    for (const char* name :
+         {"n03_transfer_sharp", "n04_fuel", "n07_engine_oil_groove", "n07_inch_hydraulic"}) {
         start_with_results(name);
         const QJsonObject expected = reference_labels(name);
-        for (const char* result :
-             {"max_speed", "Label5", "max_shaft_side_load", "side_load_direction", "max_cutter_inner", "Label1"}) {
+        for (const char* result : {"max_speed", "Label5", "max_shaft_side_load",
+                                   "side_load_direction", "max_cutter_inner", "Label1"}) {
             ASSERT_TRUE(expected.contains(result)) << name << " " << result;
-            EXPECT_EQ(label_on("perf_res", result), utf8_text(expected[result].toString())) << name << " " << result;
+            EXPECT_EQ(label_on("perf_res", result), utf8_text(expected[result].toString()))
+                << name << " " << result;
         }
     }
 }

@@ -81,11 +81,13 @@ TEST_F(portdes_test, two_double_sided_ports_leave_no_shadow_ports) {
 
 TEST_F(portdes_test, the_groove_check_decides_about_its_entries_and_their_captions) {
     start();
-    for (const char* control : {"groove_length", "groove_width", "groove_depth", "Label10", "Label11", "Label12"}) {
+    for (const char* control :
+         {"groove_length", "groove_width", "groove_depth", "Label10", "Label11", "Label12"}) {
         EXPECT_FALSE(usable(control)) << control;
     }
     press("metering_groove");
-    for (const char* control : {"groove_length", "groove_width", "groove_depth", "Label10", "Label11", "Label12"}) {
+    for (const char* control :
+         {"groove_length", "groove_width", "groove_depth", "Label10", "Label11", "Label12"}) {
         EXPECT_TRUE(usable(control)) << control;
     }
     press("metering_groove");
@@ -94,7 +96,8 @@ TEST_F(portdes_test, the_groove_check_decides_about_its_entries_and_their_captio
 }
 
 TEST_F(portdes_test, every_porting_type_asks_for_a_new_design_before_the_performance) {
-    for (const char* check : {"inlet_double_sided", "outlet_double_sided", "shadow_ports", "metering_groove"}) {
+    for (const char* check :
+         {"inlet_double_sided", "outlet_double_sided", "shadow_ports", "metering_groove"}) {
         start_with_profiles();
         press("design_ports");
         EXPECT_TRUE(find<QPushButton>("calc_perf")->isEnabled());
@@ -107,7 +110,8 @@ TEST_F(portdes_test, tells_a_missing_groove_entry_empties_and_focuses_it) {
     start_with_profiles();
     type("groove_width", "0");
     press("design_ports");
-    EXPECT_EQ(robot.messages, std::vector<std::string>{"Enter a value for the width of the Metering Groove"});
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"Enter a value for the width of the Metering Groove"});
     EXPECT_EQ(shown("groove_width"), "");
     EXPECT_TRUE(QTest::qWaitFor([this] { return box("groove_width")->hasFocus(); }, 2000));
     EXPECT_FALSE(shows_outline(kavetta().design_view.inlet_portline));
@@ -117,7 +121,8 @@ TEST_F(portdes_test, empties_the_angle_of_each_port_that_no_corner_fits_and_focu
     start_with_profiles("n07_inch_hydraulic");
     type("port_radii", "0.9");
     press("design_ports");
-    const std::string refused = "Error with the Start Angle Outer Radius, please enter a different value";
+    const std::string refused =
+        "Error with the Start Angle Outer Radius, please enter a different value";
     EXPECT_EQ(robot.messages, (std::vector<std::string>{refused, refused}));
     EXPECT_EQ(shown("inlet_start_outer"), "");
     EXPECT_EQ(shown("outlet_start_outer"), "");
@@ -131,7 +136,8 @@ TEST_F(portdes_test, tells_a_port_that_reaches_too_far_in_the_language_of_the_us
     type("inlet_end_inner", "190");
     type("inlet_end_outer", "188");
     press("design_ports");
-    EXPECT_EQ(robot.messages, std::vector<std::string>{"Hafen dehnt zu weit in „Auslauf“ Gebiet der Pumpe aus"});
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"Hafen dehnt zu weit in „Auslauf“ Gebiet der Pumpe aus"});
     EXPECT_TRUE(shows_outline(kavetta().design_view.outlet_portline));
 }
 
@@ -141,7 +147,8 @@ TEST_F(portdes_test, a_carriage_return_in_a_message_is_one_line_break) {
     press("design_ports");
     ASSERT_FALSE(robot.messages.empty());
     EXPECT_EQ(robot.messages[0].find('\r'), std::string::npos);
-    EXPECT_NE(robot.messages[0].find("\nPlease enter a smaller port radius"), std::string::npos) << robot.messages[0];
+    EXPECT_NE(robot.messages[0].find("\nPlease enter a smaller port radius"), std::string::npos)
+        << robot.messages[0];
 }
 
 TEST_F(portdes_test, clear_values_empties_the_form_and_takes_the_ports_out_of_the_view) {
@@ -189,18 +196,20 @@ TEST_F(portdes_test, tab_reaches_every_entry_in_reading_order) {
     start_with_profiles();
     QTest::mouseClick(box("inlet_start_inner"), Qt::LeftButton);
     std::vector<std::string> reached;
-    for (int step = 0; step < 40 && (reached.empty() || QApplication::focusWidget() != box("inlet_start_inner"));
+    for (int step = 0;
+         step < 40 && (reached.empty() || QApplication::focusWidget() != box("inlet_start_inner"));
          ++step) {
         reached.push_back(utf8_text(QApplication::focusWidget()->objectName()));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         settle();
     }
     const std::vector<std::string> expected = {
-        "inlet_start_inner",   "inlet_start_outer",   "inlet_end_inner",    "inlet_end_outer",     "inlet_inner_radius",
-        "inlet_outer_radius",  "outlet_start_inner",  "outlet_start_outer", "outlet_end_inner",    "outlet_end_outer",
-        "Outlet_inner_radius", "Outlet_outer_radius", "inlet_double_sided", "outlet_double_sided", "shadow_ports",
-        "metering_groove",     "groove_length",       "groove_width",       "groove_depth",        "port_radii",
-        "design_ports",        "clear_ports"};
+        "inlet_start_inner",  "inlet_start_outer",   "inlet_end_inner",     "inlet_end_outer",
+        "inlet_inner_radius", "inlet_outer_radius",  "outlet_start_inner",  "outlet_start_outer",
+        "outlet_end_inner",   "outlet_end_outer",    "Outlet_inner_radius", "Outlet_outer_radius",
+        "inlet_double_sided", "outlet_double_sided", "shadow_ports",        "metering_groove",
+        "groove_length",      "groove_width",        "groove_depth",        "port_radii",
+        "design_ports",       "clear_ports"};
     EXPECT_EQ(reached, expected);
 }
 

@@ -9,8 +9,9 @@ namespace {
 
 class select_graphs_test : public desktop_test {};
 
-constexpr const char* CHECKS[] = {"flow_checkbox", "power_checkbox", "stress_checkbox",   "ripple_checkbox",
-                                  "ve_checkbox",   "effic_checkbox", "ovr_effic_checkbox"};
+constexpr const char* CHECKS[] = {"flow_checkbox",     "power_checkbox", "stress_checkbox",
+                                  "ripple_checkbox",   "ve_checkbox",    "effic_checkbox",
+                                  "ovr_effic_checkbox"};
 
 }  // namespace
 
@@ -63,7 +64,8 @@ TEST_F(select_graphs_test, every_control_is_explained_in_both_languages) {
     EXPECT_NE(utf8_text(find<QPushButton>("create_charts")->toolTip()), "");
     EXPECT_NE(utf8_text(find<QPushButton>("export_excel")->toolTip()), "");
     EXPECT_EQ(english,
-              "Chart of the delivered flow over the delivery pressure, in Lit/min, or in USGall/min with inches.");
+              "Chart of the delivered flow over the delivery pressure, in Lit/min, or in "
+              "USGall/min with inches.");
 }
 
 TEST_F(select_graphs_test, tab_goes_down_the_results_and_then_the_efficiencies) {

@@ -32,7 +32,8 @@ class viewwinfrm_test : public desktop_test {
     }
     /// The mouse moves over the picture with no button held.
     void hover(QPointF place) {
-        QMouseEvent event(QEvent::MouseMove, place, sheet()->mapToGlobal(place), Qt::NoButton, Qt::NoButton, {});
+        QMouseEvent event(QEvent::MouseMove, place, sheet()->mapToGlobal(place), Qt::NoButton,
+                          Qt::NoButton, {});
         QApplication::sendEvent(sheet(), &event);
     }
     void hold(const char* name) { QTest::mousePress(find<QWidget>(name), Qt::LeftButton); }
@@ -88,7 +89,8 @@ TEST_F(viewwinfrm_test, maximised_only_the_picture_is_sized) {
     EXPECT_EQ(form()->size(), QSize(426, 479));
 }
 
-TEST_F(viewwinfrm_test, the_picture_is_white_paper_until_profiles_are_calculated_then_black_rotors) {
+TEST_F(viewwinfrm_test,
+       the_picture_is_white_paper_until_profiles_are_calculated_then_black_rotors) {
     start(design_file("n07_engine_oil_groove"));
     QWidget* sheet = find<QWidget>("Picture1");
     const QImage empty = sheet->grab().toImage();
@@ -96,14 +98,16 @@ TEST_F(viewwinfrm_test, the_picture_is_white_paper_until_profiles_are_calculated
     EXPECT_EQ(empty.pixel(5, 5), qRgb(255, 255, 255));
     press("Calc");
     const QImage drawn = sheet->grab().toImage();
-    // The outside circle: diameter 0.95 of the side, so it meets the middle row 2.5 % from the left and the right.
+    // The outside circle: diameter 0.95 of the side, so it meets the middle row 2.5 % from the left
+    // and the right.
     EXPECT_GT(dark_pixels(drawn, QRect(8, 195, 5, 10)), 10);
     EXPECT_GT(dark_pixels(drawn, QRect(387, 195, 5, 10)), 10);
     // Every element of the inner rotor has ink where the program put it.
     for (std::size_t index = 0; index < kavetta().design_view.Line1.elements.size(); index += 100) {
         const drawn_line& line = kavetta().design_view.Line1.elements[index];
         const QPoint at(static_cast<int>(line.x1 / 15.0F), static_cast<int>(line.y1 / 15.0F));
-        EXPECT_GT(dark_pixels(drawn, QRect(at - QPoint(1, 1), QSize(3, 3))), 0) << "element " << index;
+        EXPECT_GT(dark_pixels(drawn, QRect(at - QPoint(1, 1), QSize(3, 3))), 0)
+            << "element " << index;
     }
     EXPECT_EQ(dark_pixels(drawn, QRect(200, 200, 4, 4)), 0);
 }
@@ -205,7 +209,8 @@ TEST_F(viewwinfrm_test, zoom_all_brings_the_whole_pair_back_and_turns_it_to_zero
     EXPECT_EQ(shown("rotated_angle"), "0");
 }
 
-TEST_F(viewwinfrm_test, a_held_button_turns_by_one_degree_every_ten_milliseconds_until_it_is_let_go) {
+TEST_F(viewwinfrm_test,
+       a_held_button_turns_by_one_degree_every_ten_milliseconds_until_it_is_let_go) {
     calculate();
     EXPECT_EQ(timer("Timer_rotate_cw")->interval(), 10);
     EXPECT_EQ(timer("Timer_rotate_ccw")->interval(), 10);
@@ -267,7 +272,8 @@ TEST_F(viewwinfrm_test, a_command_stops_the_turning_first) {
     EXPECT_FALSE(timer("Timer_rotate_ccw")->isActive());
 }
 
-TEST_F(viewwinfrm_test, turning_goes_on_when_the_button_is_pressed_right_after_typing_in_another_window) {
+TEST_F(viewwinfrm_test,
+       turning_goes_on_when_the_button_is_pressed_right_after_typing_in_another_window) {
     calculate();
     type("ecc", "2,8");
     hold("rotate_rotors_cw");

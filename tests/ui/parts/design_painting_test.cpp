@@ -107,7 +107,8 @@ TEST(design_painting, keeps_corners_and_gaps) {
     EXPECT_EQ(ink(image, 50, 50), 0);
 }
 
-TEST(design_painting, the_rubber_band_is_dotted_and_lies_above_the_ports_and_below_the_inner_rotor) {
+TEST(design_painting,
+     the_rubber_band_is_dotted_and_lies_above_the_ports_and_below_the_inner_rotor) {
     design_view view;
     view.Line3.visible = true;
     view.Line3.lines[0] = {150, 750, 1350, 750};
@@ -157,13 +158,13 @@ TEST(design_painting, a_band_that_nobody_sees_is_no_change) {
 }
 
 TEST(design_painting, a_zoomed_arc_keeps_its_place_to_the_pixel) {
-    // A radius of 40,000 pixels: the arc from the right to the top passes through (r cos a, r sin a) for every a; one
-    // curve for a quarter turn would be off by 11 pixels at 21 degrees.
+    // A radius of 40,000 pixels: the arc from the right to the top passes through (r cos a, r sin
+    // a) for every a; one curve for a quarter turn would be off by 11 pixels at 21 degrees.
     for (const double a : {0.2, 0.37, 0.7, 1.2}) {
         const double radius = 600000.0;
         design_view view;
-        view.Picture1.push_back(
-            {750.0 - radius * std::cos(a), 750.0 + radius * std::sin(a), radius, 0.0, std::numbers::pi / 2});
+        view.Picture1.push_back({750.0 - radius * std::cos(a), 750.0 + radius * std::sin(a), radius,
+                                 0.0, std::numbers::pi / 2});
         EXPECT_GT(ink(painted(view), 49, 49) + ink(painted(view), 50, 50), 200) << a;
     }
 }

@@ -11,7 +11,8 @@ class entry_validator_test : public desktop_test {};
 
 }  // namespace
 
-TEST_F(entry_validator_test, a_character_outside_the_code_page_is_refused_with_a_line_in_the_status_bar) {
+TEST_F(entry_validator_test,
+       a_character_outside_the_code_page_is_refused_with_a_line_in_the_status_bar) {
     start();
     type("ecc", "2.5");
     type_keys(box("ecc"), QString(QChar(0x0436)));
@@ -29,7 +30,8 @@ TEST_F(entry_validator_test, every_other_text_stays_as_typed) {
     }
 }
 
-TEST_F(entry_validator_test, a_pasted_line_end_is_dropped_because_an_entry_is_one_line_of_the_file) {
+TEST_F(entry_validator_test,
+       a_pasted_line_end_is_dropped_because_an_entry_is_one_line_of_the_file) {
     start();
     type("ecc", "");
     QApplication::clipboard()->setText("2.85\r\n");

@@ -23,7 +23,8 @@ TEST_F(form_binding_test, every_control_of_the_text_table_is_on_its_form) {
         const auto* found = find<QMdiSubWindow>(form);
         for (const text_row& row : text_rows()) {
             if (row.form == form && !row.name.empty() && !is_second_text(row)) {
-                EXPECT_NE(found->findChild<QWidget*>(qt_text(row.name)), nullptr) << form << "." << row.name;
+                EXPECT_NE(found->findChild<QWidget*>(qt_text(row.name)), nullptr)
+                    << form << "." << row.name;
             }
         }
     }
@@ -47,7 +48,8 @@ TEST_F(form_binding_test, every_entry_has_a_tooltip_in_both_languages) {
     EXPECT_FALSE(english.isEmpty());
     press("Image2");
     for (const entry_field& field : entry_fields()) {
-        EXPECT_FALSE(find<QWidget>(std::string(field.name).c_str())->toolTip().isEmpty()) << field.name;
+        EXPECT_FALSE(find<QWidget>(std::string(field.name).c_str())->toolTip().isEmpty())
+            << field.name;
     }
     EXPECT_NE(box("ecc")->toolTip(), english);
     EXPECT_FALSE(find<QComboBox>("unittype")->toolTip().isEmpty());

@@ -69,7 +69,8 @@ TEST_F(start_and_end, a_path_takes_the_place_of_the_prompt) {
     EXPECT_EQ(window().windowTitle(), "Kavetta V2021 - 'n04_fuel'");
 }
 
-TEST_F(start_and_end, a_path_that_does_not_exist_leaves_the_empty_form_and_a_line_in_the_status_bar) {
+TEST_F(start_and_end,
+       a_path_that_does_not_exist_leaves_the_empty_form_and_a_line_in_the_status_bar) {
     start((folder.path() / "none.KVT").string());
     EXPECT_EQ(status(), "The file could not be opened: File not found");
     EXPECT_EQ(shown("numlobes"), "3");
@@ -89,7 +90,8 @@ TEST_F(start_and_end, closing_the_main_window_asks_and_cancel_keeps_it) {
     window().close();
     EXPECT_TRUE(window().isVisible());
     EXPECT_FALSE(desk().runner().has_ended());
-    EXPECT_EQ(robot.questions, std::vector<std::string>{"Do you wish to save any changes before exiting?"});
+    EXPECT_EQ(robot.questions,
+              std::vector<std::string>{"Do you wish to save any changes before exiting?"});
 }
 
 TEST_F(start_and_end, closing_the_design_form_asks_the_same_and_no_ends_the_program) {
@@ -103,7 +105,8 @@ TEST_F(start_and_end, closing_the_design_form_asks_the_same_and_no_ends_the_prog
 
 TEST_F(start_and_end, escape_at_the_exit_question_means_cancel) {
     start();
-    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    QTimer::singleShot(0,
+                       [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
     choose("mnufileexit");
     EXPECT_FALSE(desk().runner().has_ended());
 }
@@ -133,7 +136,8 @@ TEST_F(start_and_end, questions_have_german_buttons_in_german) {
     robot.answers.emplace_back("Abbrechen");
     choose("mnufileexit");
     EXPECT_EQ(robot.questions,
-              std::vector<std::string>{"Wünschen Sie, irgendeine Änderungen zu sparen, bevor ausgehend?"});
+              std::vector<std::string>{
+                  "Wünschen Sie, irgendeine Änderungen zu sparen, bevor ausgehend?"});
 }
 
 TEST_F(start_and_end, the_last_window_that_closes_does_not_end_the_program) {

@@ -39,8 +39,8 @@ TEST(Form2, asks_in_the_current_language) {
 
 TEST(Form2, answers_with_the_button_and_neither_for_escape) {
     const program kavetta;
-    for (const auto& [button, choice] :
-         {std::pair("new", start_choice::new_project), std::pair("open", start_choice::open_project)}) {
+    for (const auto& [button, choice] : {std::pair("new", start_choice::new_project),
+                                         std::pair("open", start_choice::open_project)}) {
         Form2 prompt(kavetta, nullptr);
         prompt.show();
         QTest::mouseClick(prompt.findChild<QPushButton*>(button), Qt::LeftButton);

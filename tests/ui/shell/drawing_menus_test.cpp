@@ -1,4 +1,5 @@
-// The menus of the STEP and DXF files: when their entries can be used, their dialogs, the files they leave.
+// The menus of the STEP and DXF files: when their entries can be used, their dialogs, the files
+// they leave.
 #include "ui/desktop_fixture.hpp"
 
 #include <QMenu>
@@ -53,12 +54,14 @@ TEST_F(drawing_menus, write_their_files) {
     press("Calc");
     EXPECT_NE(written("mnustepinner", "inner.stp").find("'INNER ROTOR'"), std::string::npos);
     EXPECT_NE(written("mnustepouter", "outer.stp").find("'Outer rotor'"), std::string::npos);
-    EXPECT_NE(written("mnustepassy", "both.stp").find("#1000020 = MANIFOLD_SOLID_BREP"), std::string::npos);
+    EXPECT_NE(written("mnustepassy", "both.stp").find("#1000020 = MANIFOLD_SOLID_BREP"),
+              std::string::npos);
     EXPECT_TRUE(written("mnudxfinner", "inner.dxf").ends_with("EOF\r\n"));
     EXPECT_TRUE(written("mnudxfouter", "outer.dxf").ends_with("EOF\r\n"));
     const std::vector<std::string> titles = {
-        "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Create STEP file",
-        "Kavetta V2021 - Save Inner Rotor Profile As DXF", "Kavetta V2021 - Save Outer Rotor Profile As DXF"};
+        "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Create STEP file",
+        "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Save Inner Rotor Profile As DXF",
+        "Kavetta V2021 - Save Outer Rotor Profile As DXF"};
     EXPECT_EQ(robot.titles, titles);
     EXPECT_TRUE(robot.messages.empty());
 }

@@ -14,7 +14,8 @@ class file_dialogs_test : public desktop_test {};
 }  // namespace
 
 TEST(name_filters, match_both_ways_to_write_the_extension) {
-    EXPECT_EQ(name_filters("All files|*.*|KVT|*.KVT"), QStringList({"All files (*)", "KVT (*.KVT *.kvt)"}));
+    EXPECT_EQ(name_filters("All files|*.*|KVT|*.KVT"),
+              QStringList({"All files (*)", "KVT (*.KVT *.kvt)"}));
     EXPECT_EQ(name_filters(""), QStringList());
 }
 
@@ -28,7 +29,8 @@ TEST_F(file_dialogs_test, the_save_dialog_proposes_the_name_and_adds_the_extensi
         proposed = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
         filter = dialog.selectedNameFilter();
         title = dialog.windowTitle();
-        EXPECT_EQ(dialog.directory().absolutePath(), qt_text((folder.path() / "projects").string()));
+        EXPECT_EQ(dialog.directory().absolutePath(),
+                  qt_text((folder.path() / "projects").string()));
         EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
     };
     robot.files.emplace_back((folder.path() / "projects" / "mine").string());

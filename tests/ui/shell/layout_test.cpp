@@ -19,28 +19,35 @@ namespace {
 
 class layout_test : public desktop_test {
   protected:
-    /// Labels and buttons must be as large as their texts; a label that wraps must be as high as its lines.
+    /// Labels and buttons must be as large as their texts; a label that wraps must be as high as
+    /// its lines.
     static void expect_no_clipped_text(const QWidget& form, const std::string& what) {
         for (const QWidget* control : form.findChildren<QWidget*>()) {
             const auto* label = qobject_cast<const QLabel*>(control);
-            const bool has_text = label != nullptr || qobject_cast<const QAbstractButton*>(control) != nullptr;
+            const bool has_text =
+                label != nullptr || qobject_cast<const QAbstractButton*>(control) != nullptr;
             if (!has_text || !control->isVisibleTo(&form) || control->objectName().isEmpty() ||
                 control->objectName().startsWith("qt_")) {
                 continue;
             }
             const bool wraps = label != nullptr && label->wordWrap();
-            const QSize needed = wraps ? QSize(0, label->heightForWidth(label->width())) : control->minimumSizeHint();
-            EXPECT_GE(control->width(), needed.width()) << what << " " << control->objectName().toStdString();
-            EXPECT_GE(control->height(), needed.height()) << what << " " << control->objectName().toStdString();
+            const QSize needed = wraps ? QSize(0, label->heightForWidth(label->width()))
+                                       : control->minimumSizeHint();
+            EXPECT_GE(control->width(), needed.width())
+                << what << " " << control->objectName().toStdString();
+            EXPECT_GE(control->height(), needed.height())
+                << what << " " << control->objectName().toStdString();
         }
     }
 
     static void expect_no_overlap(const QWidget& form, const std::string& what) {
         QList<const QWidget*> controls;
         for (const QWidget* control : form.findChildren<QWidget*>()) {
-            const bool is_leaf = control->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).isEmpty() ||
-                                 control->inherits("QComboBox");
-            const bool is_ours = !control->objectName().isEmpty() && !control->objectName().startsWith("qt_");
+            const bool is_leaf =
+                control->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).isEmpty() ||
+                control->inherits("QComboBox");
+            const bool is_ours =
+                !control->objectName().isEmpty() && !control->objectName().startsWith("qt_");
             if (is_leaf && is_ours && control->isVisibleTo(&form)) {
                 controls.append(control);
             }
@@ -65,7 +72,8 @@ class layout_test : public desktop_test {
     }
 
     void look_at_everything(const std::string& what) {
-        for (const char* name : {"Form1", "portdes", "Perffrm", "viewwinfrm", "select_graphs", "perf_res"}) {
+        for (const char* name :
+             {"Form1", "portdes", "Perffrm", "viewwinfrm", "select_graphs", "perf_res"}) {
             look_at(*find<QMdiSubWindow>(name), what + " " + name);
         }
         Form2 prompt(kavetta(), nullptr);
@@ -78,7 +86,8 @@ class layout_test : public desktop_test {
         Form3 files(form_context{kavetta(), desk().runner(), person}, nullptr);
         // With the entry of the groove's cutter, which is hidden until then.
         files.findChild<QCheckBox*>("outlet_port_xy_tool_checkbox")->click();
-        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress, &files}) {
+        for (QDialog* dialog :
+             std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress, &files}) {
             dialog->setModal(false);
             dialog->show();
             settle();
@@ -132,7 +141,8 @@ TEST_F(layout_test, the_design_form_fits_its_place_in_the_default_layout_without
     }
 }
 
-TEST_F(layout_test, the_other_forms_fit_their_places_without_scrolling_in_both_languages_and_units) {
+TEST_F(layout_test,
+       the_other_forms_fit_their_places_without_scrolling_in_both_languages_and_units) {
     for (const char* design : {"n07_engine_oil_groove", "n07_inch_hydraulic"}) {
         for (const char language : {'1', '2'}) {
             write_settings(language);
@@ -146,8 +156,10 @@ TEST_F(layout_test, the_other_forms_fit_their_places_without_scrolling_in_both_l
             EXPECT_EQ(find<QMdiSubWindow>("select_graphs")->geometry(), QRect(681, 540, 293, 157));
             for (const char* form : {"portdes", "Perffrm", "select_graphs", "perf_res"}) {
                 const auto* scrolled = find<QMdiSubWindow>(form)->findChild<QScrollArea*>();
-                EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible()) << design << language << form;
-                EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible()) << design << language << form;
+                EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible())
+                    << design << language << form;
+                EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible())
+                    << design << language << form;
             }
         }
     }

@@ -21,8 +21,9 @@ TEST_F(main_menu_test, has_every_entry_of_the_text_table_with_its_caption) {
         if (row.form == "MDIForm1" && row.name.starts_with("mnu")) {
             const std::string name(row.name);
             QObject* found = window().findChild<QMenu*>(name.c_str());
-            const QAction* action =
-                found == nullptr ? find<QAction>(name.c_str()) : window().findChild<QMenu*>(name.c_str())->menuAction();
+            const QAction* action = found == nullptr
+                                        ? find<QAction>(name.c_str())
+                                        : window().findChild<QMenu*>(name.c_str())->menuAction();
             ASSERT_NE(action, nullptr) << name;
             EXPECT_EQ(utf8_text(action->text()), row.english) << name;
         }
@@ -35,8 +36,9 @@ TEST_F(main_menu_test, stands_in_the_bar_in_its_order) {
     for (const QAction* action : window().menuBar()->actions()) {
         bar.push_back(utf8_text(action->menu()->objectName()));
     }
-    const std::vector<std::string> expected = {"mnufile",   "mnumodel",   "mnustep",   "mnudxf", "mnudata",
-                                               "mnuscreen", "mnuupdates", "mnuwindow", "mnuhelp"};
+    const std::vector<std::string> expected = {"mnufile",    "mnumodel",  "mnustep",
+                                               "mnudxf",     "mnudata",   "mnuscreen",
+                                               "mnuupdates", "mnuwindow", "mnuhelp"};
     EXPECT_EQ(bar, expected);
 }
 
@@ -65,9 +67,11 @@ TEST_F(main_menu_test, a_recent_entry_that_was_never_set_stays_hidden_when_the_l
 TEST_F(main_menu_test, every_entry_has_a_command_or_is_listed_as_not_built) {
     start();
     // The commands of these need the windows themselves.
-    const std::set<std::string_view> by_window = {"mnuscreensave", "mnuscreenrestore", "mnuhelpabout", "mnudatacnc"};
+    const std::set<std::string_view> by_window = {"mnuscreensave", "mnuscreenrestore",
+                                                  "mnuhelpabout", "mnudatacnc"};
     for (const menu_row& row : menu_rows()) {
-        if (row.kind == menu_kind::entry && row.command == nullptr && !by_window.contains(row.name)) {
+        if (row.kind == menu_kind::entry && row.command == nullptr &&
+            !by_window.contains(row.name)) {
             EXPECT_TRUE(is_not_built_yet("MDIForm1", row.name)) << row.name;
             EXPECT_FALSE(find<QAction>(std::string(row.name).c_str())->isEnabled()) << row.name;
         }
@@ -78,7 +82,8 @@ TEST_F(main_menu_test, what_is_not_built_stays_disabled_when_the_enabling_record
     start(design_file("n04_fuel"));
     press("Calc");
     EXPECT_TRUE(kavetta().enabling.mnudxf);
-    EXPECT_EQ(find<QMenu>("mnudxf")->menuAction()->isEnabled(), !is_not_built_yet("MDIForm1", "mnudxf"));
+    EXPECT_EQ(find<QMenu>("mnudxf")->menuAction()->isEnabled(),
+              !is_not_built_yet("MDIForm1", "mnudxf"));
 }
 
 TEST_F(main_menu_test, has_the_usual_shortcuts) {
@@ -86,7 +91,8 @@ TEST_F(main_menu_test, has_the_usual_shortcuts) {
     EXPECT_EQ(find<QAction>("mnufilenew")->shortcut(), QKeySequence(QKeySequence::New));
     EXPECT_EQ(find<QAction>("mnufileopen")->shortcut(), QKeySequence(QKeySequence::Open));
     EXPECT_EQ(find<QAction>("mnufilesave")->shortcut(), QKeySequence(QKeySequence::Save));
-    EXPECT_EQ(find<QAction>("mnufilesaveas")->shortcut(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    EXPECT_EQ(find<QAction>("mnufilesaveas")->shortcut(),
+              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     EXPECT_EQ(find<QAction>("mnufileprint")->shortcut(), QKeySequence(QKeySequence::Print));
     EXPECT_EQ(find<QAction>("mnufileexit")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
     EXPECT_EQ(find<QAction>("mnuhelpcontents")->shortcut(), QKeySequence(Qt::Key_F1));

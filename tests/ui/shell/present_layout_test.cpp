@@ -27,7 +27,8 @@ class present_layout_test : public desktop_test {
     }
     static std::string chart_blocks() {
         std::string blocks;
-        for (const char* chart : {"Flow", "Power", "Stress", "Ripple", "VE", "Mech Effic", "Overall Effic"}) {
+        for (const char* chart :
+             {"Flow", "Power", "Stress", "Ripple", "VE", "Mech Effic", "Overall Effic"}) {
             blocks += block(std::string(chart) + " Chart", 4500, 6000, 150, 300);
         }
         return blocks;
@@ -35,7 +36,8 @@ class present_layout_test : public desktop_test {
     void deliver_explanation() {
         QImage picture(300, 200, QImage::Format_RGB32);
         picture.fill(Qt::white);
-        EXPECT_TRUE(picture.save(qt_text((folder.path() / "explain screen - small1.jpg").string()), "JPG"));
+        EXPECT_TRUE(
+            picture.save(qt_text((folder.path() / "explain screen - small1.jpg").string()), "JPG"));
     }
     static std::string block(const std::string& heading, int height, int width, int top, int left) {
         std::string text = heading + "\r\n";
@@ -53,9 +55,10 @@ TEST_F(present_layout_test, saves_the_windows_as_they_stand) {
     form("Form1")->setGeometry(20, 30, 380, 560);
     form("portdes")->setGeometry(0, 600, 700, 200);
     const std::string saved = save();
-    EXPECT_EQ(saved, block("Design", 8400, 5700, 450, 300) + block("Port Design", 3000, 10500, 9000, 0) +
-                         block("View", 7185, 6390, 0, 9000) + block("Performance", 8085, 3525, 0, 5445) +
-                         block("Charts", 2355, 4395, 8100, 10215));
+    EXPECT_EQ(saved,
+              block("Design", 8400, 5700, 450, 300) + block("Port Design", 3000, 10500, 9000, 0) +
+                  block("View", 7185, 6390, 0, 9000) + block("Performance", 8085, 3525, 0, 5445) +
+                  block("Charts", 2355, 4395, 8100, 10215));
 }
 
 TEST_F(present_layout_test, a_saved_layout_comes_back_at_the_next_start) {
@@ -79,8 +82,10 @@ TEST_F(present_layout_test, a_main_window_that_is_not_maximised_gets_its_block) 
     EXPECT_TRUE(save().ends_with(block("Main Screen", 7500, 10500, 750, 600)));
 }
 
-TEST_F(present_layout_test, lines_behind_the_last_block_leave_the_main_window_where_its_block_says) {
-    write_file(file(), fixed_blocks() + block("Main Screen", 7500, 10500, 750, 600) + chart_blocks() + "\r\n");
+TEST_F(present_layout_test,
+       lines_behind_the_last_block_leave_the_main_window_where_its_block_says) {
+    write_file(file(), fixed_blocks() + block("Main Screen", 7500, 10500, 750, 600) +
+                           chart_blocks() + "\r\n");
     start();
     EXPECT_FALSE(window().isMaximized());
     EXPECT_EQ(window().pos(), QPoint(40, 50));
@@ -126,9 +131,11 @@ TEST_F(present_layout_test, a_maximised_or_minimised_window_is_saved_where_it_go
     EXPECT_EQ(windows.Form1, (window_rectangle{8085, 5430, 0, 0}));
 }
 
-TEST_F(present_layout_test, an_explanation_window_of_the_layout_is_open_at_the_start_and_saved_again) {
+TEST_F(present_layout_test,
+       an_explanation_window_of_the_layout_is_open_at_the_start_and_saved_again) {
     deliver_explanation();
-    write_file(file(), fixed_blocks() + block("Gerotor Explanation", 3000, 4500, 600, 750) + chart_blocks());
+    write_file(file(), fixed_blocks() + block("Gerotor Explanation", 3000, 4500, 600, 750) +
+                           chart_blocks());
     start();
     ASSERT_NE(loaded("explain"), nullptr);
     EXPECT_TRUE(loaded("explain")->isVisible());

@@ -50,7 +50,9 @@ TEST_F(splashform_test, is_followed_by_the_prompt_and_then_by_the_main_window) {
     robot.prompts.emplace_back("new");
     robot.names.emplace_back("first pump");
     bool prompt_before_window = false;
-    robot.at_prompt = [&] { prompt_before_window = splash()->isVisible() && !window().isVisible(); };
+    robot.at_prompt = [&] {
+        prompt_before_window = splash()->isVisible() && !window().isVisible();
+    };
     timer()->start(0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return window().isVisible(); }));
     EXPECT_TRUE(prompt_before_window);

@@ -27,7 +27,8 @@ class window_menu_test : public desktop_test {
 
 TEST_F(window_menu_test, has_the_titles_of_the_five_windows) {
     start();
-    const std::vector<std::string> expected = {"Design", "Port Design", "Design View", "Performance", "Charts"};
+    const std::vector<std::string> expected = {"Design", "Port Design", "Design View",
+                                               "Performance", "Charts"};
     EXPECT_EQ(titles(), expected);
 }
 
