@@ -2,6 +2,8 @@
 // batch program with options and standard error, a test with a script.
 #pragma once
 
+#include "core/teller.hpp"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,12 +28,8 @@ struct file_dialog {
 /// What the user chose at the start prompt.
 enum class start_choice { neither, new_project, open_project };
 
-class user {
+class user : public teller {
   public:
-    virtual ~user() = default;
-
-    /// A modal message with an OK button. The boxes on the screen are refreshed before it appears.
-    virtual void show_message(std::string_view text) = 0;
     virtual answer ask(std::string_view question, question_buttons buttons) = 0;
     /// The chosen full path, or nothing when the dialog was cancelled.
     virtual std::optional<std::string> choose_file(const file_dialog& dialog) = 0;
@@ -45,7 +43,6 @@ class user {
     virtual void show_form(std::string_view form) = 0;
     /// Closes and forgets a form; nothing happens when it is not open.
     virtual void unload_form(std::string_view form) = 0;
-    virtual void set_focus(std::string_view control) = 0;
     virtual void set_busy(bool busy) = 0;
     /// Progress of long work, 0 .. 100.
     virtual void show_progress(std::string_view text, int percent) = 0;
