@@ -1,6 +1,7 @@
 #include "app/files/saved_text.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "core/failure_text.hpp"
 #include "core/text_table.hpp"
 
 namespace kvt {
@@ -50,7 +51,7 @@ void ask_and_save_text(const program& kavetta, user& person, const file_dialog& 
     if (failed) {
         const std::int16_t language = kavetta.app_state.language;
         person.show_status(std::string(message_text(message::save_failed, language)) +
-                           failed->text(language));
+                           std::string(failure_text(failed->kind(), language)));
     }
 }
 
