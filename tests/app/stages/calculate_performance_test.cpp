@@ -2,7 +2,7 @@
 // languages, what is shown.
 #include "app/desk/run_command.hpp"
 #include "base/number_text.hpp"
-#include "performance_fixture.hpp"
+#include "app/stages/performance_fixture.hpp"
 #include "support/expect_failure.hpp"
 
 namespace kvt {

@@ -5,7 +5,7 @@
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
-#include "project_fixture.hpp"
+#include "app/files/project_fixture.hpp"
 #include "support/expect_performance.hpp"
 
 #include <filesystem>
