@@ -8,7 +8,6 @@
 #include "app/stages/design_ports.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/number_text.hpp"
-#include "core/capacity_unit.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
 
@@ -45,10 +44,7 @@ batch_end end_of(assist_end end) {
 }
 
 void type_entries(program& kavetta, user& person, const design_source& source) {
-    if (source.capacity_unit != 0) {
-        select_capacity_unit(
-            kavetta, CAPACITY_UNIT_TEXTS.at(static_cast<std::size_t>(source.capacity_unit - 1)));
-    }
+    select_capacity_unit(kavetta, source.capacity_unit);
     for (const typed_entry& typed : source.typed) {
         type_entry(kavetta, person, typed);
     }

@@ -1,5 +1,7 @@
 #include "kvt/command_line.hpp"
 
+#include "base/number_text.hpp"
+#include "core/capacity_unit.hpp"
 #include "kvt/assist_command.hpp"
 #include "kvt/calc_command.hpp"
 #include "kvt/export_command.hpp"
@@ -60,6 +62,18 @@ typed_entry parse_typed(const std::string& option) {
     return typed;
 }
 
+/// "1 Lit/Min/1000rpm, 2 USGall/Min/1000rpm, ...", in lines of the help's width.
+std::string capacity_unit_list() {
+    std::string list;
+    int code = 0;
+    for (const capacity_unit& unit : capacity_units()) {
+        ++code;
+        list += code == 1 ? "" : code % 3 == 0 ? ",\n" : ", ";
+        list += number_text(code) + " " + std::string(unit.list_text);
+    }
+    return list;
+}
+
 /// A check that adds nothing to the help text: the option's own words name the values.
 CLI::Validator plain(CLI::Validator check) {
     check.description("");
@@ -78,12 +92,10 @@ void add_design_options(CLI::App& command, command_line& line) {
         ->type_name("CONTROL=TEXT")
         ->allow_extra_args(false);
     command
-        .add_option(
-            "--capacity-unit", source.capacity_unit,
-            "Select a capacity unit after opening: 1 Lit/Min/1000rpm, 2 USGall/Min/1000rpm,\n"
-            "3 ImpGall/Min/1000rpm, 4 CC/Rev, 5 Cu In/Rev")
+        .add_option("--capacity-unit", source.capacity_unit,
+                    "Select a capacity unit after opening: " + capacity_unit_list())
         ->type_name("N")
-        ->check(plain(CLI::Range(1, 5)));
+        ->check(plain(CLI::Range(1, static_cast<int>(capacity_units().size()))));
     command.add_option("--language", source.language, "Language of messages: 1 English, 2 German")
         ->type_name("1|2")
         ->check(plain(CLI::Range(1, 2)));

@@ -53,8 +53,11 @@ std::string unit_problem(std::string_view text) {
     if (capacity_unit_code(text) != 0) {
         return {};
     }
-    return "unittype is one of: " +
-           joined({CAPACITY_UNIT_TEXTS.begin(), CAPACITY_UNIT_TEXTS.end()});
+    std::vector<std::string_view> texts;
+    for (const capacity_unit& unit : capacity_units()) {
+        texts.push_back(unit.list_text);
+    }
+    return "unittype is one of: " + joined(texts);
 }
 
 std::string text_problem(const typed_entry& typed) {
@@ -89,7 +92,7 @@ std::string typed_entry_problem(const typed_entry& typed) {
 
 void type_entry(program& kavetta, user& person, const typed_entry& typed) {
     if (typed.control == "unittype") {
-        select_capacity_unit(kavetta, typed.text);
+        select_capacity_unit(kavetta, capacity_unit_code(typed.text));
     } else if (typed.control == "dimens1") {
         set_mm_labels(kavetta);
     } else if (typed.control == "dimens2") {

@@ -3,7 +3,7 @@
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
 #include "base/number_text.hpp"
-#include "geometry/capacity.hpp"
+#include "core/capacity_unit.hpp"
 #include "geometry/required_entries.hpp"
 
 #include <array>

@@ -3,29 +3,14 @@
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
 #include "base/number_text.hpp"
-
-#include <array>
+#include "core/capacity_unit.hpp"
 
 namespace kvt {
-
-namespace {
-
-/// cm3 in one unit, in the order of the capacity units: litre, US gallon, imperial gallon per 1000,
-/// cm3, cubic inch. Kept: rounded to 3 decimals and less; they are not the factors of the unit
-/// list's conversion table.
-constexpr std::array<double, 5> CC_IN_UNIT = {1.0, 3.785, 4.54, 1.0, 16.387};
-
-}  // namespace
 
 double annulus_volume(const design_params& design, const rotor_profiles& rotors) {
     const double tip =
         rotors.roll_radius + rotors.base_radius + design.ecc - design.clearn_half - design.radouter;
     return (tip * tip - design.radinnroot * design.radinnroot) * PI_D * design.thick / 1000.0;
-}
-
-double cc_in_capacity_unit(std::int16_t capacity_unit) {
-    const bool known = capacity_unit >= 1 && capacity_unit <= 5;
-    return known ? CC_IN_UNIT[static_cast<std::size_t>(capacity_unit - 1)] : 1.0;
 }
 
 fixed4 capacity_in_unit(fixed4 capacity_cc, std::int16_t capacity_unit) {

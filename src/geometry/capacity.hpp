@@ -15,9 +15,6 @@ namespace kvt {
 /// Source: docs/formulas/chambers.md, "Capacity".
 double annulus_volume(const design_params& design, const rotor_profiles& rotors);
 
-/// cm3 in one unit of capacity_unit 1 .. 5, per 1000 where the unit is; 1 for other codes.
-double cc_in_capacity_unit(std::int16_t capacity_unit);
-
 /// A capacity in cm3 per revolution (litres per minute at 1000 rpm) in the unit 1 .. 5, rounded to
 /// 4 decimals. Other codes leave it as it is.
 fixed4 capacity_in_unit(fixed4 capacity_cc, std::int16_t capacity_unit);

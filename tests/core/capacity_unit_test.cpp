@@ -39,6 +39,16 @@ TEST(capacity_unit_factor, stands_in_the_table_of_units_before_and_after) {
     }
 }
 
+TEST(capacity_unit, has_its_cubic_centimetres_in_its_row) {
+    constexpr double CC[] = {1, 3.785, 4.54, 1, 16.387};
+    for (std::int16_t code = 1; code <= 5; ++code) {
+        EXPECT_EQ(cc_in_capacity_unit(code), CC[code - 1]) << code;
+    }
+    EXPECT_EQ(cc_in_capacity_unit(0), 1.0);
+    EXPECT_EQ(find_capacity_unit(6), nullptr);
+    EXPECT_EQ(find_capacity_unit(-1), nullptr);
+}
+
 TEST(capacity_unit_factor, undoes_itself_there_and_back) {
     for (std::int16_t from = 1; from <= 5; ++from) {
         for (std::int16_t to = 1; to <= 5; ++to) {

@@ -75,7 +75,7 @@ void load_settings(program& kavetta) {
     const std::string settings = read_file(kavetta.folder / SETTINGS_FILE_NAME);
     read_settings(settings, state);
     state.capacity_unit = 1;
-    kavetta.labels.unittype = CAPACITY_UNIT_TEXTS[0];
+    kavetta.labels.unittype = find_capacity_unit(state.capacity_unit)->list_text;
     state.project_has_file = false;
     hide_assist(kavetta);
 }

@@ -63,14 +63,14 @@ void set_inch_labels(program& kavetta) {
     set_rows(kavetta, text_kind::caption_inch, kavetta.app_state.language);
 }
 
-void select_capacity_unit(program& kavetta, std::string_view list_text) {
-    const std::int16_t code = capacity_unit_code(list_text);
-    if (code == 0) {
+void select_capacity_unit(program& kavetta, std::int16_t code) {
+    const capacity_unit* unit = find_capacity_unit(code);
+    if (unit == nullptr) {
         return;
     }
     app_state& state = kavetta.app_state;
     const double factor = capacity_unit_factor(state.capacity_unit, code);
-    kavetta.labels.unittype = list_text;
+    kavetta.labels.unittype = unit->list_text;
     state.capacity_unit = code;
 
     fixed4& capacity = kavetta.rotor_profiles.capacity;
@@ -80,7 +80,7 @@ void select_capacity_unit(program& kavetta, std::string_view list_text) {
 
     state.volumereqd_value = fixed4::from(val(kavetta.entries.volumereqd) * factor);
     kavetta.entries.volumereqd = state.volumereqd_value.text();
-    kavetta.labels.units_label = list_text;
+    kavetta.labels.units_label = unit->list_text;
 }
 
 }  // namespace kvt

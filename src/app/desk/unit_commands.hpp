@@ -5,7 +5,6 @@
 #include "app/program.hpp"
 
 #include <cstdint>
-#include <string_view>
 
 namespace kvt {
 
@@ -26,8 +25,8 @@ void set_mm_labels(program& kavetta);
 void set_inch_labels(program& kavetta);
 
 /// A selection in the unittype list. Converts capacity and volumereqd through the fixed-point type,
-/// and sets units_label. Texts that are not in the list do nothing. Throws overflow for values that
-/// do not fit.
-void select_capacity_unit(program& kavetta, std::string_view list_text);
+/// and sets units_label. A code that is not in the table does nothing. Throws overflow for values
+/// that do not fit.
+void select_capacity_unit(program& kavetta, std::int16_t code);
 
 }  // namespace kvt

@@ -8,7 +8,6 @@
 #include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
-#include "core/capacity_unit.hpp"
 #include "core/failure_text.hpp"
 #include "core/recent_list.hpp"
 #include "core/text_table.hpp"
@@ -180,7 +179,7 @@ void new_project(program& kavetta, user& person) {
     }
     state.project_name = kavetta.labels.hiddenprojnamelabel;
     state.capacity_unit = 1;
-    select_capacity_unit(kavetta, CAPACITY_UNIT_TEXTS[0]);
+    select_capacity_unit(kavetta, state.capacity_unit);
     clear_design(kavetta, person);
     state.project_has_file = false;
     kavetta.labels.title = project_title(state.project_name);

@@ -5,7 +5,6 @@
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
-#include "core/capacity_unit.hpp"
 
 #include <array>
 #include <string>
@@ -48,11 +47,7 @@ void assign_units(program& kavetta, const project_record& record) {
     }
     // The selection in the list is one like the user's: it runs the conversion, with factor 1. An
     // unknown code leaves list, caption and required capacity alone.
-    if (state.capacity_unit >= 1 &&
-        state.capacity_unit <= static_cast<int>(CAPACITY_UNIT_TEXTS.size())) {
-        select_capacity_unit(
-            kavetta, CAPACITY_UNIT_TEXTS[static_cast<std::size_t>(state.capacity_unit - 1)]);
-    }
+    select_capacity_unit(kavetta, state.capacity_unit);
 }
 
 void assign_dimensions(program& kavetta, const project_record& record) {

@@ -111,8 +111,8 @@ void Form1::add_requirement(QVBoxLayout& layout) {
     unittype_ = new QComboBox;
     unittype_->setObjectName("unittype");
     unittype_->setFocusPolicy(Qt::TabFocus);
-    for (const std::string_view unit : CAPACITY_UNIT_TEXTS) {
-        unittype_->addItem(qt_text(unit));
+    for (const capacity_unit& unit : capacity_units()) {
+        unittype_->addItem(qt_text(unit.list_text));
     }
     row->addWidget(label, 1);
     row->addWidget(required);
@@ -196,8 +196,8 @@ void Form1::connect_commands() {
     connect(dimens2_, &QRadioButton::clicked, this,
             [&runner] { runner.act([](program& kavetta, user&) { set_inch_labels(kavetta); }); });
     connect(unittype_, &QComboBox::activated, this, [this, &runner] {
-        const std::string unit = utf8_text(unittype_->currentText());
-        runner.act([&unit](program& kavetta, user&) { select_capacity_unit(kavetta, unit); });
+        const std::int16_t code = capacity_unit_code(utf8_text(unittype_->currentText()));
+        runner.act([code](program& kavetta, user&) { select_capacity_unit(kavetta, code); });
     });
     connect(image1_, &language_flag::clicked, this, [&runner] {
         runner.act(

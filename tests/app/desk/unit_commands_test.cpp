@@ -1,6 +1,7 @@
 // Language, units and the capacity unit.
 #include "app/desk/unit_commands.hpp"
 
+#include "core/capacity_unit.hpp"
 #include "support/scripted_user.hpp"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ TEST(capacity_unit_change, rewrites_the_required_capacity_with_four_decimals_eve
     program kavetta;
     kavetta.entries.volumereqd = "12.34565 l";
     kavetta.labels.capacity = "0.0";
-    select_capacity_unit(kavetta, "CC/Rev");
+    select_capacity_unit(kavetta, capacity_unit_code("CC/Rev"));
     EXPECT_EQ(kavetta.entries.volumereqd, "12.3456");
     EXPECT_EQ(kavetta.labels.capacity, "0");
     EXPECT_EQ(kavetta.labels.units_label, "CC/Rev");
@@ -24,12 +25,12 @@ TEST(capacity_unit_change, converts_both_capacities_with_the_factor_of_the_table
     program kavetta;
     kavetta.entries.volumereqd = "10";
     kavetta.labels.capacity = "100";
-    select_capacity_unit(kavetta, "USGall/Min/1000rpm");
+    select_capacity_unit(kavetta, capacity_unit_code("USGall/Min/1000rpm"));
     EXPECT_EQ(kavetta.entries.volumereqd, "2.642");  // 10 / 3.785 = 2.64200...
     EXPECT_EQ(kavetta.labels.capacity, "26.4201");   // 100 / 3.785 = 26.42007...
-    select_capacity_unit(kavetta, "Cu In/Rev");
+    select_capacity_unit(kavetta, capacity_unit_code("Cu In/Rev"));
     EXPECT_EQ(kavetta.labels.capacity, "6.103");  // 26.4201 * 0.231 = 6.10304...
-    select_capacity_unit(kavetta, "USGall/Min/1000rpm");
+    select_capacity_unit(kavetta, capacity_unit_code("USGall/Min/1000rpm"));
     EXPECT_EQ(kavetta.labels.capacity, "26.4199")
         << "there and back can change the last digits";  // 6.103 / 0.231
 }
@@ -37,7 +38,7 @@ TEST(capacity_unit_change, converts_both_capacities_with_the_factor_of_the_table
 TEST(capacity_unit_change, ignores_a_text_that_is_not_in_the_list) {
     program kavetta;
     kavetta.entries.volumereqd = "12.34565";
-    select_capacity_unit(kavetta, "Gallons");
+    select_capacity_unit(kavetta, capacity_unit_code("Gallons"));
     EXPECT_EQ(kavetta.entries.volumereqd, "12.34565");
     EXPECT_EQ(kavetta.labels.unittype, "Lit/Min/1000rpm");
 }
