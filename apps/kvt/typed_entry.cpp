@@ -94,9 +94,9 @@ void type_entry(program& kavetta, user& person, const typed_entry& typed) {
     if (typed.control == "unittype") {
         select_capacity_unit(kavetta, capacity_unit_code(typed.text));
     } else if (typed.control == "dimens1") {
-        set_mm_labels(kavetta);
+        set_unit_labels(kavetta, length_unit_of(MILLIMETRES));
     } else if (typed.control == "dimens2") {
-        set_inch_labels(kavetta);
+        set_unit_labels(kavetta, length_unit_of(INCHES));
     } else if (const entry_field* field = find_entry(typed.control);
                is_porting_type(typed.control)) {
         set_porting_check(kavetta, field->member, typed.text);

@@ -3,7 +3,6 @@
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
-#include "core/app_state.hpp"
 
 #include <algorithm>
 #include <array>
@@ -42,6 +41,10 @@ std::span<const length_unit> length_units() {
 
 const length_unit& length_unit_of(std::int16_t drawing_units) {
     return row_of(&length_unit::code, drawing_units, UNITS.front());
+}
+
+const length_unit& length_unit_of(const app_state& state) {
+    return length_unit_of(state.drawing_units);
 }
 
 const length_unit& length_unit_of_project(std::string_view text) {

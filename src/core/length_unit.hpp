@@ -1,6 +1,7 @@
 // length_unit: the units of length, one row a unit with everything that the program asks of it.
 #pragma once
 
+#include "core/app_state.hpp"
 #include "core/text_table.hpp"
 
 #include <cstdint>
@@ -46,6 +47,7 @@ std::span<const length_unit> length_units();
 
 /// The unit of a code drawing_units; millimetres for a code that is not in the table.
 const length_unit& length_unit_of(std::int16_t drawing_units);
+const length_unit& length_unit_of(const app_state& state);
 
 /// The unit of line 3 of a project file; inches for a text that is not in the table.
 const length_unit& length_unit_of_project(std::string_view text);

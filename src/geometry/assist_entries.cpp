@@ -1,7 +1,6 @@
 #include "geometry/assist_entries.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "core/capacity_unit.hpp"
 #include "geometry/required_entries.hpp"
@@ -29,8 +28,8 @@ constexpr std::array<assist_length, 6> ASSIST_LENGTHS = {{
     {&entries::radial_clear, &design_params::radial_clear},
 }};
 
-std::string in_entry_unit(double millimetres, bool inches) {
-    return fixed4::from(inches ? millimetres / MM_PER_INCH : millimetres).text();
+std::string in_entry_unit(double millimetres, const length_unit& unit) {
+    return fixed4::from(unit.from_mm(millimetres)).text();
 }
 
 }  // namespace
@@ -42,13 +41,12 @@ std::optional<message> first_refused_assist_entry(const entries& boxes) {
     return first_missing_entry(boxes, REQUIRED_ENTRIES);
 }
 
-void read_assist_entries(const entries& boxes, bool inches, design_params& design) {
-    const double factor = inches ? MM_PER_INCH : 1.0;
+void read_assist_entries(const entries& boxes, const length_unit& unit, design_params& design) {
     design.numlobes = to_int32(val(boxes.numlobes));
     // Half of the clearance is taken first and converted then, unlike in Calculate Profiles.
-    design.clearn_half = checked_finite(val(boxes.clearn) / 2.0 * factor);
+    design.clearn_half = checked_finite(unit.to_mm(val(boxes.clearn) / 2.0));
     for (const auto& [entry, field] : ASSIST_LENGTHS) {
-        design.*field = checked_finite(val(boxes.*entry) * factor);
+        design.*field = checked_finite(unit.to_mm(val(boxes.*entry)));
     }
 }
 
@@ -56,13 +54,14 @@ fixed4 required_capacity_cc(const entries& boxes, std::int16_t capacity_unit) {
     return fixed4::from(val(boxes.volumereqd) * cc_in_capacity_unit(capacity_unit));
 }
 
-void write_root_and_eccentricity(const design_params& design, bool inches, entries& boxes) {
-    boxes.ecc = inches ? in_entry_unit(design.ecc, inches) : number_text(design.ecc);
-    boxes.radinnroot = in_entry_unit(design.radinnroot, inches);
+void write_root_and_eccentricity(const design_params& design, const length_unit& unit,
+                                 entries& boxes) {
+    boxes.ecc = unit.is_of_records() ? number_text(design.ecc) : in_entry_unit(design.ecc, unit);
+    boxes.radinnroot = in_entry_unit(design.radinnroot, unit);
 }
 
-void write_lobe_radius(const design_params& design, bool inches, entries& boxes) {
-    boxes.radouter = in_entry_unit(design.radouter, inches);
+void write_lobe_radius(const design_params& design, const length_unit& unit, entries& boxes) {
+    boxes.radouter = in_entry_unit(design.radouter, unit);
 }
 
 void write_assist_outer_root(const design_params& design, entries& boxes) {

@@ -5,6 +5,7 @@
 #include "base/fixed4.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/text_table.hpp"
 
 #include <cstdint>
@@ -15,10 +16,10 @@ namespace kvt {
 /// The message of the first entry that is not above 0, volumereqd first, or nothing.
 std::optional<message> first_refused_assist_entry(const entries& boxes);
 
-/// Reads numlobes, clearn_half and the six lengths that the assist needs, inches into millimetres.
+/// Reads numlobes, clearn_half and the six lengths that the assist needs, lengths into millimetres.
 /// ecc, radinnroot and radouter are not read: they are what it looks for. Throws overflow for a
 /// length beyond a double.
-void read_assist_entries(const entries& boxes, bool inches, design_params& design);
+void read_assist_entries(const entries& boxes, const length_unit& unit, design_params& design);
 
 /// The required capacity, cm3 per revolution: the entry as a number times the cm3 of its unit,
 /// rounded once after the multiplication. Throws overflow for what four decimals can't hold.
@@ -28,10 +29,11 @@ fixed4 required_capacity_cc(const entries& boxes, std::int16_t capacity_unit);
 /// Writes ecc and radinnroot in the unit of the entries with four decimals.
 /// Kept: in millimetres ecc has the text of a double, which for four decimals shows the same
 /// digits.
-void write_root_and_eccentricity(const design_params& design, bool inches, entries& boxes);
+void write_root_and_eccentricity(const design_params& design, const length_unit& unit,
+                                 entries& boxes);
 
 /// Writes radouter in the unit of the entries with four decimals.
-void write_lobe_radius(const design_params& design, bool inches, entries& boxes);
+void write_lobe_radius(const design_params& design, const length_unit& unit, entries& boxes);
 
 /// Kept: millimetres in inch mode too; the next Calculate Profiles corrects the entry by its own
 /// rules.

@@ -1,7 +1,6 @@
 #include "geometry/entry_checks.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "geometry/required_entries.hpp"
 
@@ -97,14 +96,13 @@ std::optional<refused_entry> first_refused_entry(const entries& boxes) {
     return std::nullopt;
 }
 
-void read_entries(const entries& boxes, bool inches, design_params& design,
+void read_entries(const entries& boxes, const length_unit& unit, design_params& design,
                   rotor_profiles& rotors) {
     design.numlobes = to_int32(val(boxes.numlobes));
     for (const auto& [entry, field] : DIMENSIONS) {
-        design.*field = inches ? val(boxes.*entry) * MM_PER_INCH : val(boxes.*entry);
+        design.*field = unit.to_mm(val(boxes.*entry));
     }
-    design.clearn_half =
-        inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
+    design.clearn_half = unit.half_to_mm(val(boxes.clearn));
     design.coarseness = to_int16(val(boxes.coarseness));
     rotors.inner_plot_len =
         checked_divide(rotors.profile_points + rotors.profile_points, design.coarseness) + 1.0;

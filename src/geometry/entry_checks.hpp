@@ -4,6 +4,7 @@
 
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -32,7 +33,8 @@ std::optional<refused_entry> first_refused_entry(const entries& boxes);
 /// Reads the entries into millimetres and sets inner_plot_len = (P + P) / coarseness + 1.
 /// outer_root is not read here. Throws division_by_zero when coarseness rounds to 0, overflow when
 /// a counter doesn't fit.
-void read_entries(const entries& boxes, bool inches, design_params& design, rotor_profiles& rotors);
+void read_entries(const entries& boxes, const length_unit& unit, design_params& design,
+                  rotor_profiles& rotors);
 
 /// 2 * radinnroot < minmaterial + shaftdiameter.
 /// Kept: minmaterial counts once on the diameter, not on each side; entry_checks_test holds it.

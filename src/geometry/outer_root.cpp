@@ -1,7 +1,6 @@
 #include "geometry/outer_root.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 
@@ -35,22 +34,22 @@ outer_root_limits limits_of_outer_root(const design_params& design, const rotor_
     return limits;
 }
 
-void apply_outer_root_rules(const rotor_profiles& rotors, bool inches, std::int16_t language,
-                            design_params& design, entries& boxes, user& person) {
+void apply_outer_root_rules(const rotor_profiles& rotors, const length_unit& unit,
+                            std::int16_t language, design_params& design, entries& boxes,
+                            user& person) {
     const outer_root_limits limits = limits_of_outer_root(design, rotors);
-    const double unit = inches ? MM_PER_INCH : 1.0;
     if (boxes.outer_root.empty()) {
         design.outer_root = limits.minimum;
-        boxes.outer_root = number_text(limits.minimum / unit);
-    } else if (val(boxes.outer_root) * unit > limits.maximum) {
-        const std::string shown = number_text(limits.maximum / unit);
+        boxes.outer_root = number_text(unit.from_mm(limits.minimum));
+    } else if (unit.to_mm(val(boxes.outer_root)) > limits.maximum) {
+        const std::string shown = number_text(unit.from_mm(limits.maximum));
         tell_limit(message::maximum_root_radius, language, shown, person);
         boxes.outer_root = shown;
-        design.outer_root = val(boxes.outer_root) * unit;
+        design.outer_root = unit.to_mm(val(boxes.outer_root));
     }
     if (limits.minimum > design.outer_root) {
         design.outer_root = limits.minimum;
-        const std::string shown = number_text(design.outer_root / unit);
+        const std::string shown = number_text(unit.from_mm(design.outer_root));
         tell_limit(message::minimum_root_radius, language, shown, person);
         boxes.outer_root = shown;
     }

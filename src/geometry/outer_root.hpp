@@ -4,6 +4,7 @@
 
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "core/user.hpp"
 
@@ -28,8 +29,9 @@ outer_root_limits limits_of_outer_root(const design_params& design, const rotor_
 /// Brings outer_root between its limits, tells each correction and writes it back in the unit of
 /// the entries. The written text has 15 digits, so it can lie below the stored minimum, and the
 /// next run then tells the minimum again. Source: docs/formulas/outer_rotor.md, "Root radius".
-void apply_outer_root_rules(const rotor_profiles& rotors, bool inches, std::int16_t language,
-                            design_params& design, entries& boxes, user& person);
+void apply_outer_root_rules(const rotor_profiles& rotors, const length_unit& unit,
+                            std::int16_t language, design_params& design, entries& boxes,
+                            user& person);
 
 /// maxdiameter/2 < outer_root + minmaterial.
 bool exceeds_maximum_diameter(const design_params& design);

@@ -42,8 +42,8 @@ void store_outline(const port_fields& port, port_work& work) {
 }
 
 pass_end one_pass(const port_fields& port, port_work& work) {
-    read_port_radii(port, work.boxes, work.inches, work.ports);
-    reread_design(work.boxes, work.inches, work.design, work.rotors);
+    read_port_radii(port, work.boxes, work.unit, work.ports);
+    reread_design(work.boxes, work.unit, work.design, work.rotors);
     set_side_lines(port, work.design, work.ports);
     if (set_start_corners(port, work) == port_end::refused) {
         return pass_end::refused;
@@ -60,14 +60,14 @@ pass_end one_pass(const port_fields& port, port_work& work) {
 
 pass_end inlet_pass(port_work& work) {
     read_port_angles(inlet_fields(), work.rotors, work.boxes, work.ports);
-    fill_port_radii(inlet_fields(), work.design, work.inches, work.boxes);
-    fill_port_radii(outlet_fields(), work.design, work.inches, work.boxes);
+    fill_port_radii(inlet_fields(), work.design, work.unit, work.boxes);
+    fill_port_radii(outlet_fields(), work.design, work.unit, work.boxes);
     return one_pass(inlet_fields(), work);
 }
 
 pass_end outlet_pass(port_work& work) {
     read_port_angles(outlet_fields(), work.rotors, work.boxes, work.ports);
-    fill_port_radii(outlet_fields(), work.design, work.inches, work.boxes);
+    fill_port_radii(outlet_fields(), work.design, work.unit, work.boxes);
     return one_pass(outlet_fields(), work);
 }
 
@@ -91,7 +91,7 @@ bool take_back_port_radius(const port_work& work) {
         work.ports.last_good_port_radius = 0.0;
     }
     return write_back(work.boxes.port_radii,
-                      cut_length_text(work.ports.last_good_port_radius, work.inches));
+                      cut_length_text(work.ports.last_good_port_radius, work.unit));
 }
 
 /// Also the two radii go back, to those of the rotors. False when all three entries keep their
@@ -103,9 +103,9 @@ bool take_back_all_radii(const port_fields& port, const port_work& work) {
     }
     const bool radius = take_back_port_radius(work);
     const bool inner = write_back(work.boxes.*port.inner_radius_box,
-                                  cut_length_text(work.design.radinnroot, work.inches));
+                                  cut_length_text(work.design.radinnroot, work.unit));
     const bool outer = write_back(work.boxes.*port.outer_radius_box,
-                                  cut_length_text(work.design.outer_root, work.inches));
+                                  cut_length_text(work.design.outer_root, work.unit));
     return radius || inner || outer;
 }
 

@@ -19,7 +19,7 @@ namespace {
 void set_path_circles(const port_work& work) {
     port_params& ports = work.ports;
     const double e = work.design.ecc;
-    ports.groove_width_mm = length_of(work.boxes.groove_width, work.inches);
+    ports.groove_width_mm = length_of(work.boxes.groove_width, work.unit);
     ports.groove_length_deg = val(work.boxes.groove_length);
     ports.groove_centre_r =
         ((ports.outlet_outer_r - e - ports.outlet_inner_r) / 2.0) + ports.outlet_inner_r + e / 2.0;
@@ -145,7 +145,7 @@ void store_outline(port_params& ports, const groove_outline& built) {
 }  // namespace
 
 port_end build_metering_groove(port_work& work) {
-    reread_design(work.boxes, work.inches, work.design, work.rotors);
+    reread_design(work.boxes, work.unit, work.design, work.rotors);
     set_path_circles(work);
     set_start_points(work);
     set_tail(work);

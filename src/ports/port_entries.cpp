@@ -1,7 +1,6 @@
 #include "ports/port_entries.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "geometry/trochoid.hpp"
 
@@ -31,16 +30,16 @@ double two_decimals_cut(double degrees) {
 
 }  // namespace
 
-std::string length_text(double mm, bool inches) {
-    return number_text(inches ? mm / MM_PER_INCH : mm);
+std::string length_text(double mm, const length_unit& unit) {
+    return number_text(unit.from_mm(mm));
 }
 
-std::string cut_length_text(double mm, bool inches) {
-    return number_text(inches ? floor_to_int(mm * 1000.0 / MM_PER_INCH) / 1000.0 : mm);
+std::string cut_length_text(double mm, const length_unit& unit) {
+    return number_text(unit.cut_from_mm(mm));
 }
 
-double length_of(const std::string& text, bool inches) {
-    return checked_finite(inches ? val(text) * MM_PER_INCH : val(text));
+double length_of(const std::string& text, const length_unit& unit) {
+    return checked_finite(unit.to_mm(val(text)));
 }
 
 void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes,
@@ -58,31 +57,30 @@ void read_port_angles(const port_fields& port, const rotor_profiles& rotors, ent
     }
 }
 
-void fill_port_radii(const port_fields& port, const design_params& design, bool inches,
+void fill_port_radii(const port_fields& port, const design_params& design, const length_unit& unit,
                      entries& boxes) {
     if (val(boxes.*port.inner_radius_box) == 0.0) {
-        boxes.*port.inner_radius_box = length_text(design.radinnroot, inches);
+        boxes.*port.inner_radius_box = length_text(design.radinnroot, unit);
     }
     if (val(boxes.*port.outer_radius_box) == 0.0) {
-        boxes.*port.outer_radius_box = length_text(design.outer_root, inches);
+        boxes.*port.outer_radius_box = length_text(design.outer_root, unit);
     }
 }
 
-void read_port_radii(const port_fields& port, const entries& boxes, bool inches,
+void read_port_radii(const port_fields& port, const entries& boxes, const length_unit& unit,
                      port_params& ports) {
-    ports.*port.inner_r = length_of(boxes.*port.inner_radius_box, inches);
-    ports.*port.outer_r = length_of(boxes.*port.outer_radius_box, inches);
-    ports.port_radius = length_of(boxes.port_radii, inches);
+    ports.*port.inner_r = length_of(boxes.*port.inner_radius_box, unit);
+    ports.*port.outer_r = length_of(boxes.*port.outer_radius_box, unit);
+    ports.port_radius = length_of(boxes.port_radii, unit);
 }
 
-void reread_design(const entries& boxes, bool inches, design_params& design,
+void reread_design(const entries& boxes, const length_unit& unit, design_params& design,
                    rotor_profiles& rotors) {
     design.numlobes = to_int32(val(boxes.numlobes));
     for (const auto& [box, field] : ROTOR_LENGTHS) {
-        design.*field = length_of(boxes.*box, inches);
+        design.*field = length_of(boxes.*box, unit);
     }
-    design.clearn_half =
-        inches ? val(boxes.clearn) * HALF_CLEARANCE_MM_PER_INCH : val(boxes.clearn) / 2.0;
+    design.clearn_half = unit.half_to_mm(val(boxes.clearn));
     design.coarseness = to_int16(val(boxes.coarseness));
     set_rolling_circles(design, rotors);
     rotors.lobe_centre_offset = design.ecc + design.radinnroot;

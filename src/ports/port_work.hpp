@@ -3,6 +3,7 @@
 
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -19,7 +20,7 @@ struct port_work {
     entries& boxes;          ///< defaults and corrections are written back, refused entries emptied
     user& person;
     std::int16_t language = 1;
-    bool inches = false;
+    const length_unit& unit = length_unit_of(MILLIMETRES);
 
     void tell(message id) const { person.show_message(message_text(id, language)); }
     /// Empties an entry that a message refused, and gives it the focus.

@@ -59,13 +59,13 @@ TEST(assist_entries, are_refused_in_their_order) {
 
 TEST(assist_entries, are_read_in_millimetres_and_in_inches) {
     design_params design;
-    read_assist_entries(sample_entries(), false, design);
+    read_assist_entries(sample_entries(), length_unit_of(MILLIMETRES), design);
     EXPECT_EQ(design.numlobes, 7);
     EXPECT_EQ(design.clearn_half, 0.06);
     EXPECT_EQ(design.shaftdiameter, 18.0);
     EXPECT_EQ(design.maxdiameter, 52.0);
     EXPECT_EQ(design.ecc, 0.0);
-    read_assist_entries(sample_entries(), true, design);
+    read_assist_entries(sample_entries(), length_unit_of(INCHES), design);
     EXPECT_EQ(design.numlobes, 7);
     EXPECT_EQ(design.clearn_half, 0.06 * 25.4);
     EXPECT_EQ(design.thick, 254.0);
@@ -78,7 +78,7 @@ TEST(assist_entries, fail_when_inches_leave_the_range_of_a_double) {
     entries boxes = sample_entries();
     boxes.thick = "1E308";
     design_params design;
-    EXPECT_FAILURE(read_assist_entries(boxes, true, design), failure::overflow);
+    EXPECT_FAILURE(read_assist_entries(boxes, length_unit_of(INCHES), design), failure::overflow);
 }
 
 TEST(required_capacity, is_rounded_once_after_the_factor) {
@@ -109,8 +109,8 @@ TEST(assist_results, have_four_decimals_without_trailing_zeros) {
     design.radouter = 7.0;
     design.outer_root = 22.769999999999996;
     entries boxes;
-    write_root_and_eccentricity(design, false, boxes);
-    write_lobe_radius(design, false, boxes);
+    write_root_and_eccentricity(design, length_unit_of(MILLIMETRES), boxes);
+    write_lobe_radius(design, length_unit_of(MILLIMETRES), boxes);
     write_assist_outer_root(design, boxes);
     EXPECT_EQ(boxes.ecc, "2.84");
     EXPECT_EQ(boxes.radinnroot, "14.25");
@@ -125,8 +125,8 @@ TEST(assist_results, are_inches_in_inch_mode_but_for_the_outer_root) {
     design.radouter = 8.75;
     design.outer_root = 21.2501;
     entries boxes;
-    write_root_and_eccentricity(design, true, boxes);
-    write_lobe_radius(design, true, boxes);
+    write_root_and_eccentricity(design, length_unit_of(INCHES), boxes);
+    write_lobe_radius(design, length_unit_of(INCHES), boxes);
     write_assist_outer_root(design, boxes);
     EXPECT_EQ(boxes.ecc, "0.1392");         // 0.139240
     EXPECT_EQ(boxes.radinnroot, "0.4189");  // 0.418898

@@ -194,7 +194,7 @@ TEST(reading, takes_millimetres_as_they_are_and_halves_the_clearance) {
     entries boxes = sample_entries();
     boxes.clearn = "0.2";
     boxes.coarseness = "9";
-    read_entries(boxes, false, design, rotors);
+    read_entries(boxes, length_unit_of(MILLIMETRES), design, rotors);
     EXPECT_EQ(design.clearn_half, 0.1);
     EXPECT_EQ(design.numlobes, 7);
     EXPECT_EQ(design.ecc, 2.85);
@@ -223,7 +223,7 @@ TEST(reading, converts_inches_and_takes_half_the_clearance_at_12_7) {
         boxes.*find_entry(name)->member = "0.5";
     }
     boxes.clearn = "0.01";
-    read_entries(boxes, true, design, rotors);
+    read_entries(boxes, length_unit_of(INCHES), design, rotors);
     EXPECT_EQ(design.clearn_half, 0.127);
     for (const double field : {design.ecc, design.radouter, design.thick, design.radinnroot,
                                design.shaftdiameter, design.maxdiameter, design.axial_clear,
@@ -239,9 +239,11 @@ TEST(reading, fails_for_a_resolution_that_rounds_to_0_or_does_not_fit) {
     rotor_profiles rotors;
     entries boxes = sample_entries();
     boxes.coarseness = "0.5";
-    EXPECT_FAILURE(read_entries(boxes, false, design, rotors), failure::division_by_zero);
+    EXPECT_FAILURE(read_entries(boxes, length_unit_of(MILLIMETRES), design, rotors),
+                   failure::division_by_zero);
     boxes.coarseness = "32768";
-    EXPECT_FAILURE(read_entries(boxes, false, design, rotors), failure::overflow);
+    EXPECT_FAILURE(read_entries(boxes, length_unit_of(MILLIMETRES), design, rotors),
+                   failure::overflow);
 }
 
 TEST(shaft_check, counts_the_minimum_material_once_on_the_diameter) {

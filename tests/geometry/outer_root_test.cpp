@@ -19,7 +19,9 @@ struct outer_root_rules : testing::Test {
     scripted_user person;
 
     void run(bool inches = false) {
-        apply_outer_root_rules(prepared_rotors(design), inches, LANGUAGE, design, boxes, person);
+        apply_outer_root_rules(prepared_rotors(design),
+                               length_unit_of(inches ? INCHES : MILLIMETRES), LANGUAGE, design,
+                               boxes, person);
     }
 };
 
@@ -120,7 +122,8 @@ TEST_F(outer_root_rules, in_inch_mode_leave_a_kept_radius_unconverted_and_raise_
 TEST_F(outer_root_rules, are_told_in_english_in_either_language) {
     boxes.outer_root = "0";
     design.outer_root = 0.0;
-    apply_outer_root_rules(prepared_rotors(design), false, 2, design, boxes, person);
+    apply_outer_root_rules(prepared_rotors(design), length_unit_of(MILLIMETRES), 2, design, boxes,
+                           person);
     EXPECT_EQ(person.messages,
               std::vector<std::string>{"Minimum value for Outer Rotor Root Radius is 22.7"});
 }

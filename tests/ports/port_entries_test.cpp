@@ -45,11 +45,11 @@ TEST(port_entries, radii_that_read_as_zero_take_those_of_the_rotors_uncut) {
     port_design tested;
     tested.boxes.inlet_inner_radius = "";
     tested.boxes.inlet_outer_radius = "0.0";
-    fill_port_radii(inlet_fields(), tested.design, false, tested.boxes);
+    fill_port_radii(inlet_fields(), tested.design, length_unit_of(MILLIMETRES), tested.boxes);
     EXPECT_EQ(tested.boxes.inlet_inner_radius, "14.15");
     EXPECT_EQ(tested.boxes.inlet_outer_radius, "22.9");
     tested.boxes.inlet_inner_radius = "x";
-    fill_port_radii(inlet_fields(), tested.design, true, tested.boxes);
+    fill_port_radii(inlet_fields(), tested.design, length_unit_of(INCHES), tested.boxes);
     EXPECT_EQ(tested.boxes.inlet_inner_radius, number_text(14.15 / 25.4));
     EXPECT_EQ(tested.boxes.inlet_outer_radius, "22.9") << "not 0, so it stays";
 }
@@ -58,7 +58,7 @@ TEST(port_entries, inches_are_25_4_mm) {
     port_design tested;
     tested.boxes.Outlet_inner_radius = "0.5";
     tested.boxes.port_radii = "0.1";
-    read_port_radii(outlet_fields(), tested.boxes, true, tested.ports);
+    read_port_radii(outlet_fields(), tested.boxes, length_unit_of(INCHES), tested.ports);
     EXPECT_EQ(tested.ports.outlet_inner_r, 0.5 * 25.4);
     EXPECT_EQ(tested.ports.port_radius, 0.1 * 25.4);
 }
@@ -66,13 +66,14 @@ TEST(port_entries, inches_are_25_4_mm) {
 TEST(port_entries, an_empty_fillet_radius_is_zero) {
     port_design tested;
     tested.boxes.port_radii = "";
-    read_port_radii(inlet_fields(), tested.boxes, false, tested.ports);
+    read_port_radii(inlet_fields(), tested.boxes, length_unit_of(MILLIMETRES), tested.ports);
     EXPECT_EQ(tested.ports.port_radius, 0.0);
 }
 
 TEST(port_entries, written_back_inches_are_cut_to_three_decimals) {
-    EXPECT_EQ(cut_length_text(14.15, true), "0.557") << "14.15 / 25.4 = 0.55708...";
-    EXPECT_EQ(cut_length_text(14.155, false), "14.155");
+    EXPECT_EQ(cut_length_text(14.15, length_unit_of(INCHES)), "0.557")
+        << "14.15 / 25.4 = 0.55708...";
+    EXPECT_EQ(cut_length_text(14.155, length_unit_of(MILLIMETRES)), "14.155");
 }
 
 TEST(port_entries, the_rotor_entries_are_read_again_but_for_three) {
@@ -82,7 +83,7 @@ TEST(port_entries, the_rotor_entries_are_read_again_but_for_three) {
     tested.boxes.outer_root = "25";
     tested.boxes.fillet = "2";
     tested.boxes.radial_clear = "9";
-    reread_design(tested.boxes, false, tested.design, tested.rotors);
+    reread_design(tested.boxes, length_unit_of(MILLIMETRES), tested.design, tested.rotors);
     EXPECT_EQ(tested.design.ecc, 3.0);
     EXPECT_EQ(tested.design.clearn_half, 0.06);
     EXPECT_EQ(tested.rotors.lobe_centre_offset, 18.0);
@@ -91,7 +92,7 @@ TEST(port_entries, the_rotor_entries_are_read_again_but_for_three) {
     EXPECT_EQ(tested.design.outer_root, 22.9);
     EXPECT_EQ(tested.design.fillet, 1.5);
     EXPECT_EQ(tested.design.radial_clear, 0.15);
-    reread_design(tested.boxes, true, tested.design, tested.rotors);
+    reread_design(tested.boxes, length_unit_of(INCHES), tested.design, tested.rotors);
     EXPECT_EQ(tested.design.ecc, 3.0 * 25.4);
     EXPECT_EQ(tested.design.clearn_half, 0.12 * 12.7);
 }
@@ -99,8 +100,9 @@ TEST(port_entries, the_rotor_entries_are_read_again_but_for_three) {
 TEST(port_entries, a_single_lobe_divides_by_zero) {
     port_design tested;
     tested.boxes.numlobes = "1";
-    EXPECT_FAILURE(reread_design(tested.boxes, false, tested.design, tested.rotors),
-                   failure::division_by_zero);
+    EXPECT_FAILURE(
+        reread_design(tested.boxes, length_unit_of(MILLIMETRES), tested.design, tested.rotors),
+        failure::division_by_zero);
 }
 
 }  // namespace

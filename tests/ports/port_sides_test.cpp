@@ -16,7 +16,7 @@ struct read_ports : port_design {
 
     void read() {
         read_port_angles(fields, rotors, boxes, ports);
-        read_port_radii(fields, boxes, inches, ports);
+        read_port_radii(fields, boxes, unit(), ports);
         set_side_lines(fields, design, ports);
     }
 

@@ -51,7 +51,8 @@ struct port_design {
         rotors.max_chamber_outer_angle = 34.9876;
     }
 
-    port_work work() { return {ports, design, rotors, boxes, person, language, inches}; }
+    const length_unit& unit() const { return length_unit_of(inches ? INCHES : MILLIMETRES); }
+    port_work work() { return {ports, design, rotors, boxes, person, language, unit()}; }
     std::string last_message() const {
         return person.messages.empty() ? "" : person.messages.back();
     }

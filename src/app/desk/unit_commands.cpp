@@ -17,11 +17,7 @@ void set_rows(program& kavetta, text_kind kind, std::int16_t language) {
 }
 
 void set_unit_labels_again(program& kavetta) {
-    if (kavetta.app_state.drawing_units == INCHES) {
-        set_inch_labels(kavetta);
-    } else {
-        set_mm_labels(kavetta);
-    }
+    set_unit_labels(kavetta, length_unit_of(kavetta.app_state));
 }
 
 }  // namespace
@@ -53,14 +49,9 @@ void choose_language(program& kavetta, user& person, std::int16_t language) {
     set_captions(kavetta);
 }
 
-void set_mm_labels(program& kavetta) {
-    kavetta.app_state.drawing_units = MILLIMETRES;
-    set_rows(kavetta, text_kind::caption_mm, kavetta.app_state.language);
-}
-
-void set_inch_labels(program& kavetta) {
-    kavetta.app_state.drawing_units = INCHES;
-    set_rows(kavetta, text_kind::caption_inch, kavetta.app_state.language);
+void set_unit_labels(program& kavetta, const length_unit& unit) {
+    kavetta.app_state.drawing_units = unit.code;
+    set_rows(kavetta, unit.captions, kavetta.app_state.language);
 }
 
 void select_capacity_unit(program& kavetta, std::int16_t code) {

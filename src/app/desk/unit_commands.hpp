@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/program.hpp"
+#include "core/length_unit.hpp"
 
 #include <cstdint>
 
@@ -19,10 +20,9 @@ void set_captions(program& kavetta);
 /// A click on a flag: sets the language, unloads perf_res, runs the caption routine.
 void choose_language(program& kavetta, user& person, std::int16_t language);
 
-/// The unit label routines, run by a click on dimens1 (millimetres) and dimens2 (inches). No entry
-/// changes.
-void set_mm_labels(program& kavetta);
-void set_inch_labels(program& kavetta);
+/// The label routine of a unit, run by a click on its option button: sets drawing_units and the
+/// captions that name units, in the current language. No entry changes.
+void set_unit_labels(program& kavetta, const length_unit& unit);
 
 /// A selection in the unittype list. Converts capacity and volumereqd through the fixed-point type,
 /// and sets units_label. A code that is not in the table does nothing. Throws overflow for values

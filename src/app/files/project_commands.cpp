@@ -90,11 +90,7 @@ void load_entries(program& kavetta, user& person, const std::string& path) {
     app_state& state = kavetta.app_state;
     const project_record record = read_project(read_file(path), state.project_name);
     assign_project_record(kavetta, record);
-    if (state.drawing_units == INCHES) {
-        set_inch_labels(kavetta);
-    } else {
-        set_mm_labels(kavetta);
-    }
+    set_unit_labels(kavetta, length_unit_of(state));
     project_reset(kavetta, person, reset_kind::open_project);
     hide_assist(kavetta);
 }

@@ -40,11 +40,7 @@ void assign_rotor_boxes(program& kavetta, const project_record& record) {
 void assign_units(program& kavetta, const project_record& record) {
     app_state& state = kavetta.app_state;
     state.capacity_unit = record.capacity_unit;
-    if (record.units == "mm") {
-        set_mm_labels(kavetta);
-    } else {
-        set_inch_labels(kavetta);
-    }
+    set_unit_labels(kavetta, length_unit_of_project(record.units));
     // The selection in the list is one like the user's: it runs the conversion, with factor 1. An
     // unknown code leaves list, caption and required capacity alone.
     select_capacity_unit(kavetta, state.capacity_unit);
@@ -87,7 +83,7 @@ project_record project_record_of(const program& kavetta, std::string_view path) 
     project_record record;
     record.project_path = path;
     record.project_name = state.project_name;
-    record.units = state.drawing_units == MILLIMETRES ? "mm" : "";
+    record.units = length_unit_of(state).project_text;
     record.boxes = kavetta.entries;
     record.capacity = kavetta.labels.capacity;
     record.capacity_unit = state.capacity_unit;

@@ -160,7 +160,7 @@ run_end calculate_profiles(program& kavetta, user& person) {
     entries& boxes = kavetta.entries;
     design_params& design = kavetta.design_params;
     rotor_profiles& rotors = kavetta.rotor_profiles;
-    const bool inches = state.drawing_units == INCHES;
+    const length_unit& unit = length_unit_of(state);
 
     reset_results(kavetta, person);
     size_trochoid_lists(rotors);
@@ -172,7 +172,7 @@ run_end calculate_profiles(program& kavetta, user& person) {
     start_view_anew(kavetta);
     keep_or_drop_outer_root(boxes,
                             design);  // compares with the stored design, so before it is read anew
-    read_entries(boxes, inches, design, rotors);
+    read_entries(boxes, unit, design, rotors);
     size_inner_plot(rotors);
     if (shaft_material_too_thin(design)) {
         return failure_exit(kavetta, person, message::shaft_material_too_thin);
@@ -193,7 +193,7 @@ run_end calculate_profiles(program& kavetta, user& person) {
     draw_inner_rotor(design, rotors, state, kavetta.design_view);
     set_rolling_circles(design, rotors);
     rotors.lobe_centre_offset = design.radinnroot + design.ecc;
-    apply_outer_root_rules(rotors, inches, state.language, design, boxes, person);
+    apply_outer_root_rules(rotors, unit, state.language, design, boxes, person);
     note_stage(kavetta, stage::profiles);
     if (exceeds_maximum_diameter(design)) {
         return failure_exit(kavetta, person, message::does_not_fit_diameter);

@@ -17,14 +17,14 @@ void tell(const program& kavetta, user& person, message text) {
     person.show_message(message_text(text, kavetta.app_state.language));
 }
 
-bool inches(const program& kavetta) {
-    return kavetta.app_state.drawing_units == INCHES;
+const length_unit& unit_of(const program& kavetta) {
+    return length_unit_of(kavetta.app_state);
 }
 
 /// Kept: cm3 per revolution for now, whatever the unit beside the label says.
 void show_candidate(program& kavetta, fixed4 capacity_cc) {
     kavetta.labels.capacity = capacity_cc.text();
-    write_root_and_eccentricity(kavetta.design_params, inches(kavetta), kavetta.entries);
+    write_root_and_eccentricity(kavetta.design_params, unit_of(kavetta), kavetta.entries);
 }
 
 /// Stage 1. False, told, when the rotors exceed the maximum diameter.
@@ -48,7 +48,7 @@ void find_lobes(program& kavetta) {
     const fixed4 found = grow_root_to_curvature(design, rotors);
     show_candidate(kavetta, found);
     rotors.capacity = capacity_in_unit(found, kavetta.app_state.capacity_unit);
-    write_lobe_radius(design, inches(kavetta), kavetta.entries);
+    write_lobe_radius(design, unit_of(kavetta), kavetta.entries);
     kavetta.labels.capacity = commas_to_points(rotors.capacity.text());
 }
 
@@ -61,7 +61,7 @@ assist_end design_assist(program& kavetta, user& person) {
         return assist_end::refused;
     }
     person.set_busy(true);
-    read_assist_entries(kavetta.entries, inches(kavetta), kavetta.design_params);
+    read_assist_entries(kavetta.entries, unit_of(kavetta), kavetta.design_params);
     if (!find_fitting_root(kavetta, person)) {
         person.set_busy(false);
         return assist_end::does_not_fit;

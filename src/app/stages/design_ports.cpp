@@ -41,10 +41,6 @@ constexpr std::array<groove_entry, 3> GROOVE_ENTRIES = {{
     {&entries::groove_depth, "groove_depth", message::input_groove_depth},
 }};
 
-bool inches(const program& kavetta) {
-    return kavetta.app_state.drawing_units == INCHES;
-}
-
 /// Any performance result is stale from here on.
 void drop_results(program& kavetta, user& person) {
     if (kavetta.app_state.recalc_quiet != -1) {
@@ -79,7 +75,7 @@ port_work work_of(program& kavetta, user& person) {
             kavetta.entries,
             person,
             kavetta.app_state.language,
-            inches(kavetta)};
+            length_unit_of(kavetta.app_state)};
 }
 
 /// A port that was refused is drawn again only where it is on display, so that it has the scale of
@@ -102,7 +98,7 @@ bool design_groove(program& kavetta, port_work& work) {
     if (!has_metering_groove(kavetta)) {
         return false;
     }
-    kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.inches);
+    kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.unit);
     const bool done = build_metering_groove(work) == port_end::finished;
     if (done) {
         draw_metering_groove(kavetta.port_params, kavetta.app_state, kavetta.design_view);

@@ -1,8 +1,8 @@
 #include "app/windows/cursor_text.hpp"
 
-#include "base/constants.hpp"
 #include "base/fixed_number.hpp"
 #include "base/run_time_error.hpp"
+#include "core/length_unit.hpp"
 #include "core/text_table.hpp"
 #include "views/cursor_position.hpp"
 #include "views/zoom.hpp"
@@ -12,13 +12,12 @@ namespace kvt {
 namespace {
 
 std::string text_of(const point2& place, const app_state& state) {
-    const bool inches = state.drawing_units == INCHES;
-    const double unit = inches ? MM_PER_INCH : 1.0;
-    const int decimals = inches ? 4 : 2;
-    return fixed_number(place.x / unit, decimals) + ", " + fixed_number(place.y / unit, decimals) +
-           " " +
-           std::string(
-               message_text(inches ? message::unit_inches : message::unit_mm, state.language));
+    const length_unit& unit = length_unit_of(state);
+    const auto shown = [&](double mm) {
+        return fixed_number(unit.from_mm(mm), unit.cursor_decimals);
+    };
+    return shown(place.x) + ", " + shown(place.y) + " " +
+           std::string(message_text(unit.short_name, state.language));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "ui/parts/language_flag.hpp"
 #include "ui/shell/qt_text.hpp"
 
+#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
@@ -83,18 +84,17 @@ Form1::Form1(form_context context) : mdi_form("Form1", context) {
 void Form1::add_header(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     row->setSpacing(4);
-    dimens1_ = new QRadioButton;
-    dimens2_ = new QRadioButton;
-    dimens1_->setObjectName("dimens1");
-    dimens2_->setObjectName("dimens2");
-    for (QRadioButton* unit : {dimens1_, dimens2_}) {
-        unit->setFocusPolicy(Qt::TabFocus);
+    row->addWidget(named_label("Label14"));
+    dimens_ = new QButtonGroup(this);
+    for (const length_unit& unit : length_units()) {
+        auto* button = new QRadioButton;
+        button->setObjectName(qt_text(unit.option_button));
+        button->setFocusPolicy(Qt::TabFocus);
+        dimens_->addButton(button, unit.code);
+        row->addWidget(button);
     }
     image1_ = new language_flag("Image1", flag_kind::english);
     image2_ = new language_flag("Image2", flag_kind::german);
-    row->addWidget(named_label("Label14"));
-    row->addWidget(dimens1_);
-    row->addWidget(dimens2_);
     row->addStretch(1);
     row->addWidget(named_label("Label16"));
     row->addWidget(image1_);
@@ -191,10 +191,11 @@ void Form1::connect_commands() {
     command_runner& runner = context_.runner;
     connect(calc_, &QPushButton::clicked, this, [&runner] { runner.act(calculate_profiles); });
     connect(cleardesign_, &QPushButton::clicked, this, [&runner] { runner.act(clear_design); });
-    connect(dimens1_, &QRadioButton::clicked, this,
-            [&runner] { runner.act([](program& kavetta, user&) { set_mm_labels(kavetta); }); });
-    connect(dimens2_, &QRadioButton::clicked, this,
-            [&runner] { runner.act([](program& kavetta, user&) { set_inch_labels(kavetta); }); });
+    connect(dimens_, &QButtonGroup::idClicked, this, [&runner](int code) {
+        runner.act([code](program& kavetta, user&) {
+            set_unit_labels(kavetta, length_unit_of(static_cast<std::int16_t>(code)));
+        });
+    });
     connect(unittype_, &QComboBox::activated, this, [this, &runner] {
         const std::int16_t code = capacity_unit_code(utf8_text(unittype_->currentText()));
         runner.act([code](program& kavetta, user&) { select_capacity_unit(kavetta, code); });
@@ -229,8 +230,7 @@ void Form1::show_assist() {
 
 void Form1::show_units() {
     const app_state& state = context_.kavetta.app_state;
-    const bool inches = state.drawing_units == INCHES;
-    (inches ? dimens2_ : dimens1_)->setChecked(true);
+    dimens_->button(length_unit_of(state).code)->setChecked(true);
     unittype_->setCurrentText(qt_text(context_.kavetta.labels.unittype));
     show_length_unit(state, length_units_);
     findChild<QLabel*>("hiddenprojnamelabel")

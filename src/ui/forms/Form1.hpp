@@ -3,12 +3,12 @@
 
 #include "ui/shell/mdi_form.hpp"
 
+class QButtonGroup;
 class QComboBox;
 class QFrame;
 class QGridLayout;
 class QLabel;
 class QPushButton;
-class QRadioButton;
 class QVBoxLayout;
 
 namespace kvt {
@@ -43,8 +43,7 @@ class Form1 : public mdi_form {
     void show_assist();
     void show_units();
 
-    QRadioButton* dimens1_ = nullptr;
-    QRadioButton* dimens2_ = nullptr;
+    QButtonGroup* dimens_ = nullptr;  ///< the option buttons of the length units, by their codes
     QComboBox* unittype_ = nullptr;
     assist_area* assist_ = nullptr;
     language_flag* image1_ = nullptr;

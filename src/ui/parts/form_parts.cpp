@@ -1,6 +1,7 @@
 #include "ui/parts/form_parts.hpp"
 
 #include "core/app_state.hpp"
+#include "core/length_unit.hpp"
 #include "core/text_table.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -107,7 +108,7 @@ QCheckBox* named_check(const char* name) {
 }
 
 void show_length_unit(const app_state& state, const QList<QLabel*>& labels) {
-    const message unit = state.drawing_units == INCHES ? message::unit_inches : message::unit_mm;
+    const message unit = length_unit_of(state).short_name;
     for (QLabel* label : labels) {
         label->setText(qt_text(message_text(unit, state.language)));
     }

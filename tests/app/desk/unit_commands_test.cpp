@@ -46,19 +46,19 @@ TEST(capacity_unit_change, ignores_a_text_that_is_not_in_the_list) {
 TEST(unit_labels, change_no_entry) {
     program kavetta;
     kavetta.entries.thick = "25.4";
-    set_inch_labels(kavetta);
+    set_unit_labels(kavetta, length_unit_of(INCHES));
     EXPECT_EQ(kavetta.entries.thick, "25.4");
     EXPECT_EQ(kavetta.app_state.drawing_units, INCHES);
     EXPECT_EQ(kavetta.captions.of("Perffrm", "Label7"), "Pressure Range (psi)");
     EXPECT_EQ(kavetta.captions.of("portdes", "Label11"), "Width (inches)");
-    set_mm_labels(kavetta);
+    set_unit_labels(kavetta, length_unit_of(MILLIMETRES));
     EXPECT_EQ(kavetta.captions.of("Perffrm", "Label7"), "Pressure Range (bar)");
 }
 
 TEST(captions, follow_the_flag_and_the_units) {
     program kavetta;
     scripted_user person;
-    set_inch_labels(kavetta);
+    set_unit_labels(kavetta, length_unit_of(INCHES));
     choose_language(kavetta, person, GERMAN);
     EXPECT_EQ(kavetta.captions.of("MDIForm1", "mnufile"), "Datei");
     EXPECT_EQ(kavetta.captions.of("Form1", ""), "Entwurf");

@@ -59,7 +59,7 @@ TEST_F(design_assist_test, uses_a_decimal_comma) {
 }
 
 TEST_F(design_assist_test, works_in_inches_with_steps_of_a_quarter_millimetre) {
-    set_inch_labels(kavetta);
+    set_unit_labels(kavetta, length_unit_of(INCHES));
     entries& boxes = kavetta.entries;
     boxes.numlobes = "5";
     boxes.clearn = "0.1";

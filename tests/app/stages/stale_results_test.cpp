@@ -80,7 +80,7 @@ TEST_F(stale_results_test, an_edit_taken_back_is_no_edit) {
 
 TEST_F(stale_results_test, another_unit_of_length_makes_all_stages_stale) {
     run_all();
-    set_inch_labels(kavetta);
+    set_unit_labels(kavetta, length_unit_of(INCHES));
     EXPECT_EQ(find_stale_stages(kavetta), (stale_stages{true, true, true}));
 }
 
