@@ -27,7 +27,14 @@ struct rotor_profiles {
     std::int16_t outer_xy_last = 0;  ///< last used index of outer_xy
     std::int16_t outer_last = 0;     ///< last used index of outer_x and outer_y
     fixed4 capacity;                 ///< capacity in the unit of capacity_unit
-    double capacity_cc = 0.0;  ///< capacity in cm3 per revolution after rounding to 4 decimals
+    double capacity_cc = 0.0;       ///< capacity in cm3 per revolution after rounding to 4 decimals
+    double inner_area = 0.0;        ///< polar area of the inner profile about the inner axis, mm2
+    double outer_area = 0.0;        ///< the same of the outer profile, mm2
+    double area_ratio = 0.0;        ///< (outer_area - inner_area) / outer_area, percent
+    double max_chamber_area = 0.0;  ///< mm2; the label max_chamb_vol chooses its decimals by it
+    double max_chamber_volume = 0.0;  ///< max_chamber_area * thick, mm3
+    double min_chamber_area = 0.0;    ///< mm2; likewise of the label min_chamb_vol
+    double min_chamber_volume = 0.0;  ///< min_chamber_area * thick, mm3
     double max_chamber_inner_angle =
         0.0;  ///< half-angle of the chamber window at maximum chamber, degrees
     double max_chamber_outer_angle = 0.0;  ///< the same seen from the outer centre

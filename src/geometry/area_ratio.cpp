@@ -1,7 +1,6 @@
 #include "geometry/area_ratio.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/number_text.hpp"
 #include "geometry/polar_area.hpp"
 
 namespace kvt {
@@ -42,12 +41,12 @@ double outer_profile_area(rotor_profiles& rotors) {
     return area;
 }
 
-void calculate_area_ratio(rotor_profiles& rotors, labels& outputs) {
+void calculate_area_ratio(rotor_profiles& rotors) {
     const double inner = inner_profile_area(rotors);
     const double outer = outer_profile_area(rotors);
-    const double ratio =
-        floor_to_int(checked_divide((outer - inner) * 100.0 * 100.0, outer)) / 100.0;
-    outputs.area_ratio = number_text(ratio) + " %";
+    rotors.area_ratio = checked_divide((outer - inner) * 100.0 * 100.0, outer) / 100.0;
+    rotors.inner_area = inner;
+    rotors.outer_area = outer;
 }
 
 }  // namespace kvt

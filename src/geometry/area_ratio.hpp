@@ -1,7 +1,6 @@
 // The area ratio: the share of the outer rotor's opening that the inner rotor leaves free.
 #pragma once
 
-#include "core/entries.hpp"
 #include "core/rotor_profiles.hpp"
 
 namespace kvt {
@@ -11,9 +10,9 @@ namespace kvt {
 double inner_profile_area(rotor_profiles& rotors);
 double outer_profile_area(rotor_profiles& rotors);
 
-/// Sets the label area_ratio:
-///     Int((A_o - A_i) * 100 * 100 / A_o) / 100, followed by " %"
-/// Source: docs/formulas/chambers.md, "Area ratio".
-void calculate_area_ratio(rotor_profiles& rotors, labels& outputs);
+/// Sets inner_area A_i, outer_area A_o and area_ratio = (A_o - A_i) * 100 / A_o, percent.
+/// Source: docs/formulas/chambers.md, "Area ratio". Throws division_by_zero when A_o is 0; the
+/// older values stay then.
+void calculate_area_ratio(rotor_profiles& rotors);
 
 }  // namespace kvt

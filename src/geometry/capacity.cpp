@@ -2,7 +2,6 @@
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
-#include "base/number_text.hpp"
 #include "core/capacity_unit.hpp"
 
 namespace kvt {
@@ -22,11 +21,10 @@ fixed4 capacity_in_unit(fixed4 capacity_cc, std::int16_t capacity_unit) {
 }
 
 void calculate_capacity(const design_params& design, std::int16_t capacity_unit,
-                        rotor_profiles& rotors, labels& outputs) {
+                        rotor_profiles& rotors) {
     const fixed4 in_cc = fixed4::from(annulus_volume(design, rotors));
     rotors.capacity_cc = in_cc.value();
     rotors.capacity = capacity_in_unit(in_cc, capacity_unit);
-    outputs.capacity = commas_to_points(rotors.capacity.text());
 }
 
 }  // namespace kvt

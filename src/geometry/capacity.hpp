@@ -2,7 +2,6 @@
 #pragma once
 
 #include "core/design_params.hpp"
-#include "core/entries.hpp"
 #include "core/rotor_profiles.hpp"
 
 #include <cstdint>
@@ -19,9 +18,9 @@ double annulus_volume(const design_params& design, const rotor_profiles& rotors)
 /// 4 decimals. Other codes leave it as it is.
 fixed4 capacity_in_unit(fixed4 capacity_cc, std::int16_t capacity_unit);
 
-/// Sets capacity_cc, capacity and the label capacity. Throws overflow for a volume that doesn't
-/// fit.
+/// Sets capacity_cc and capacity. Throws overflow for a volume that doesn't fit; a capacity in its
+/// unit that doesn't fit leaves the older one.
 void calculate_capacity(const design_params& design, std::int16_t capacity_unit,
-                        rotor_profiles& rotors, labels& outputs);
+                        rotor_profiles& rotors);
 
 }  // namespace kvt

@@ -2,15 +2,12 @@
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
-#include "base/number_text.hpp"
 
 #include <cmath>
 
 namespace kvt {
 
 namespace {
-
-constexpr double SMALL_AREA = 10.0;
 
 /// The right angle as the chamber routines form it.
 double right_angle() {
@@ -36,12 +33,6 @@ chamber_window window_of_chamber(const design_params& design, const rotor_profil
     const double m = checked_sqrt(j * j + n1 * n1 - (2.0 * j * n1) * g);
     const double p = checked_divide(m * m + n1 * n1 - j * j, 2.0 * n1 * m);
     return {arc_cosine_form(q, right_angle()), arc_cosine_form(p, right_angle())};
-}
-
-std::string chamber_label(double area, double thick) {
-    const double volume =
-        area < SMALL_AREA ? floor_to_int(area * thick * 100.0) / 100.0 : floor_to_int(area * thick);
-    return number_text(volume) + " mm3";
 }
 
 }  // namespace kvt

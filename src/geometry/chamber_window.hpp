@@ -1,11 +1,8 @@
-// The window of a chamber: the angles under which a chamber is seen from both rotor axes; and the
-// chamber's label.
+// The window of a chamber: the angles under which a chamber is seen from both rotor axes.
 #pragma once
 
 #include "core/design_params.hpp"
 #include "core/rotor_profiles.hpp"
-
-#include <string>
 
 namespace kvt {
 
@@ -27,10 +24,5 @@ double half_pitch(const design_params& design);
 /// R trochoid_r, n1 = N ecc, n2 = (N-1) ecc. Source: docs/formulas/chambers.md, "Window".
 chamber_window window_of_chamber(const design_params& design, const rotor_profiles& rotors,
                                  double angle);
-
-/// "1038 mm3", with two decimals cut when the area is below 10 mm2.
-/// Kept: the test is on the area, before the multiplication by thick; the unit is mm3 in inch mode
-/// too.
-std::string chamber_label(double area, double thick);
 
 }  // namespace kvt

@@ -67,8 +67,7 @@ double outer_sum(const left_window& window, rotor_profiles& rotors) {
 
 }  // namespace
 
-void calculate_maximum_chamber(const design_params& design, rotor_profiles& rotors,
-                               labels& outputs) {
+void calculate_maximum_chamber(const design_params& design, rotor_profiles& rotors) {
     clear_working_copies(rotors, RADIUS_LAST);
     turn_to_maximum(design, rotors);
 
@@ -81,7 +80,8 @@ void calculate_maximum_chamber(const design_params& design, rotor_profiles& roto
     const left_window window = {std::tan(PI_D - a_in), std::tan(PI_D + a_in)};
     const double inner = inner_sum(window, rotors);
     const double outer = outer_sum(window, rotors);
-    outputs.max_chamb_vol = chamber_label(outer - inner, design.thick);
+    rotors.max_chamber_area = outer - inner;
+    rotors.max_chamber_volume = rotors.max_chamber_area * design.thick;
 }
 
 }  // namespace kvt

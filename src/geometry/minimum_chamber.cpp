@@ -92,8 +92,7 @@ double inner_sum(const outer_window_sum& outer, rotor_profiles& rotors) {
 
 }  // namespace
 
-void calculate_minimum_chamber(const design_params& design, rotor_profiles& rotors,
-                               labels& outputs) {
+void calculate_minimum_chamber(const design_params& design, rotor_profiles& rotors) {
     clear_working_copies(rotors, RADIUS_LAST);
     turn_inner_profile(checked_divide(PI_D, design.numlobes - 1.0), rotors);
     turn_outer_profile_about_its_centre(checked_divide(PI_D, design.numlobes), design, rotors);
@@ -104,7 +103,8 @@ void calculate_minimum_chamber(const design_params& design, rotor_profiles& roto
 
     const outer_window_sum outer = outer_sum({std::tan(-angles.w1), std::tan(angles.w1)}, rotors);
     const double inner = inner_sum(outer, rotors);
-    outputs.min_chamb_vol = chamber_label(outer.area - inner, design.thick);
+    rotors.min_chamber_area = outer.area - inner;
+    rotors.min_chamber_volume = rotors.min_chamber_area * design.thick;
 }
 
 }  // namespace kvt

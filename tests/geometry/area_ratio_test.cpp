@@ -1,8 +1,10 @@
 // Tests of the area ratio.
 #include "geometry/area_ratio.hpp"
 
+#include "support/expect_failure.hpp"
 #include "support/sample_design.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -52,14 +54,24 @@ TEST(outer_profile_area, counts_the_parts_that_turn_back_as_positive) {
                                              static_cast<std::size_t>(rotors.outer_last)));
 }
 
-TEST(area_ratio, is_cut_to_two_decimals_of_a_percent) {
+TEST(area_ratio, is_the_share_of_the_opening_that_the_inner_rotor_leaves_free) {
     rotor_profiles rotors = rotor_pair_of(sample_design());
-    labels outputs;
-    calculate_area_ratio(rotors, outputs);
-    const double inner = inner_profile_area(rotors);
-    const double outer = outer_profile_area(rotors);
-    EXPECT_NEAR((outer - inner) / outer * 100.0, 28.655, 0.005);
-    EXPECT_EQ(outputs.area_ratio, "28.65 %");
+    calculate_area_ratio(rotors);
+    EXPECT_EQ(rotors.inner_area, inner_profile_area(rotors));
+    EXPECT_EQ(rotors.outer_area, outer_profile_area(rotors));
+    EXPECT_NEAR(rotors.area_ratio, 100.0 - rotors.inner_area / rotors.outer_area * 100.0, 1e-12);
+    EXPECT_NEAR(rotors.area_ratio, 28.655, 0.005);
+}
+
+TEST(area_ratio, of_no_opening_fails_and_keeps_the_older_numbers) {
+    rotor_profiles rotors = rotor_pair_of(sample_design());
+    calculate_area_ratio(rotors);
+    const double inner = rotors.inner_area;
+    const double ratio = rotors.area_ratio;
+    std::fill(rotors.outer_xy.begin(), rotors.outer_xy.end(), 1.0);
+    EXPECT_FAILURE(calculate_area_ratio(rotors), failure::division_by_zero);
+    EXPECT_EQ(rotors.inner_area, inner);
+    EXPECT_EQ(rotors.area_ratio, ratio);
 }
 
 TEST(area_ratio, sizes_its_radii_anew_for_each_profile) {

@@ -15,14 +15,13 @@ TEST(capacity, is_the_annulus_between_tip_and_root) {
     EXPECT_NEAR(annulus_volume(sample_design(), rotors), 6.01368701, 1e-8);
 }
 
-TEST(capacity, keeps_four_decimals_and_sets_the_label) {
+TEST(capacity, keeps_four_decimals) {
     rotor_profiles rotors = prepared_rotors(sample_design());
-    labels outputs;
-    calculate_capacity(sample_design(), 1, rotors, outputs);
-    EXPECT_EQ(outputs.capacity, "6.0137");
+    calculate_capacity(sample_design(), 1, rotors);
+    EXPECT_EQ(rotors.capacity.text(), "6.0137");
     EXPECT_EQ(rotors.capacity_cc, 6.0137);
-    calculate_capacity(sample_design(), 2, rotors, outputs);
-    EXPECT_EQ(outputs.capacity, "1.5888");  // 6.0137 / 3.785 = 1.58882
+    calculate_capacity(sample_design(), 2, rotors);
+    EXPECT_EQ(rotors.capacity.text(), "1.5888");  // 6.0137 / 3.785 = 1.58882
     EXPECT_EQ(rotors.capacity_cc, 6.0137);
 }
 
@@ -48,9 +47,9 @@ TEST(capacity, that_does_not_fit_the_fixed_point_number_fails) {
     design_params design = sample_design();
     design.thick = 1e20;
     rotor_profiles rotors = prepared_rotors(design);
-    labels outputs;
-    EXPECT_FAILURE(calculate_capacity(design, 1, rotors, outputs), failure::overflow);
-    EXPECT_EQ(outputs.capacity, "0.0") << "the label keeps its older text";
+    rotors.capacity = fixed4::from(7.0);
+    EXPECT_FAILURE(calculate_capacity(design, 1, rotors), failure::overflow);
+    EXPECT_EQ(rotors.capacity.text(), "7") << "the older number stays";
 }
 
 }  // namespace kvt

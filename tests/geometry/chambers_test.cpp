@@ -1,5 +1,4 @@
 // Tests of the chamber window, the turned profiles and both chambers.
-#include "base/number_text.hpp"
 #include "geometry/chamber_window.hpp"
 #include "geometry/maximum_chamber.hpp"
 #include "geometry/minimum_chamber.hpp"
@@ -27,17 +26,6 @@ design_params design_with(int lobes, double ecc, double radouter, double radinnr
 }
 
 }  // namespace
-
-TEST(chamber_label, cuts_large_areas_to_whole_volumes) {
-    EXPECT_EQ(chamber_label(10.0, 10.0), "100 mm3");
-    EXPECT_EQ(chamber_label(103.89, 10.0), "1038 mm3");
-}
-
-TEST(chamber_label, tests_the_area_and_not_the_volume_for_its_decimals) {
-    EXPECT_EQ(chamber_label(9.99, 10.0), "99.9 mm3");
-    EXPECT_EQ(chamber_label(3.27777, 10.0), "32.77 mm3");
-    EXPECT_EQ(chamber_label(-0.001, 1.0), "-0.01 mm3") << "cut downwards, not towards 0";
-}
 
 TEST(half_pitch, is_half_the_angle_between_two_lobes) {
     design_params design;
@@ -111,18 +99,17 @@ TEST(turned_profiles, fail_for_a_point_on_the_y_axis) {
 TEST(maximum_chamber, of_odd_lobes_lies_on_the_negative_x_axis_as_generated) {
     const design_params design = sample_design();
     rotor_profiles rotors = rotor_pair_of(design);
-    labels outputs;
-    calculate_maximum_chamber(design, rotors, outputs);
+    calculate_maximum_chamber(design, rotors);
     EXPECT_NEAR(rotors.rot_inner_x[1234], rotors.inner_x[1234], 3e-6);
     EXPECT_NEAR(rotors.rot_outer_xy[4321], rotors.outer_xy[4321], 3e-6);
-    EXPECT_EQ(outputs.max_chamb_vol, "1038 mm3");
+    EXPECT_NEAR(rotors.max_chamber_area, 103.8655, 0.0001);
+    EXPECT_EQ(rotors.max_chamber_volume, rotors.max_chamber_area * design.thick);
 }
 
 TEST(maximum_chamber, of_even_lobes_turns_both_profiles_about_the_inner_axis) {
     const design_params design = design_with(8, 2.0, 6.0, 16.0);
     rotor_profiles rotors = rotor_pair_of(design);
-    labels outputs;
-    calculate_maximum_chamber(design, rotors, outputs);
+    calculate_maximum_chamber(design, rotors);
     const double inner_turn = PI_D / 7.0;
     const double outer_turn = PI_D / 8.0;
     EXPECT_NEAR(rotors.rot_inner_x[5],
@@ -137,24 +124,24 @@ TEST(maximum_chamber, of_even_lobes_turns_both_profiles_about_the_inner_axis) {
 TEST(chambers, have_their_angles_in_degrees) {
     const design_params design = sample_design();
     rotor_profiles rotors = rotor_pair_of(design);
-    labels outputs;
-    calculate_maximum_chamber(design, rotors, outputs);
-    calculate_minimum_chamber(design, rotors, outputs);
+    calculate_maximum_chamber(design, rotors);
+    calculate_minimum_chamber(design, rotors);
     EXPECT_NEAR(rotors.max_chamber_inner_angle, 26.481119987490075, 1e-12);
     EXPECT_NEAR(rotors.max_chamber_outer_angle, 30.728887912562293, 1e-12);
     EXPECT_NEAR(rotors.min_chamber_inner_angle, 10.363761515176309, 1e-12);
     EXPECT_NEAR(rotors.min_chamber_outer_angle, 8.95381494430248, 1e-12);
-    EXPECT_EQ(outputs.min_chamb_vol, "32.77 mm3");
+    EXPECT_NEAR(rotors.min_chamber_area, 3.2777, 0.0005);
+    EXPECT_EQ(rotors.min_chamber_volume, rotors.min_chamber_area * design.thick);
 }
 
-TEST(chambers, keep_the_older_label_when_their_sums_fail) {
+TEST(chambers, keep_the_older_volume_when_their_sums_fail) {
     const design_params design = sample_design();
     rotor_profiles rotors = rotor_pair_of(design);
-    labels outputs;
-    outputs.max_chamb_vol = "7 mm3";
+    rotors.max_chamber_area = rotors.max_chamber_volume = 7.0;
     rotors.inner_x[17] = 0.0;
-    EXPECT_FAILURE(calculate_maximum_chamber(design, rotors, outputs), failure::division_by_zero);
-    EXPECT_EQ(outputs.max_chamb_vol, "7 mm3");
+    EXPECT_FAILURE(calculate_maximum_chamber(design, rotors), failure::division_by_zero);
+    EXPECT_EQ(rotors.max_chamber_area, 7.0);
+    EXPECT_EQ(rotors.max_chamber_volume, 7.0);
 }
 
 TEST(chambers, differ_by_the_delivery_of_one_chamber) {
@@ -163,11 +150,9 @@ TEST(chambers, differ_by_the_delivery_of_one_chamber) {
     // percent.
     const design_params design = design_with(7, 2.85, 7.5, 14.15);
     rotor_profiles rotors = rotor_pair_of(design);
-    labels outputs;
-    calculate_maximum_chamber(design, rotors, outputs);
-    calculate_minimum_chamber(design, rotors, outputs);
-    const double delivered =
-        6.0 * (val(outputs.max_chamb_vol) - val(outputs.min_chamb_vol)) / 1000.0;
+    calculate_maximum_chamber(design, rotors);
+    calculate_minimum_chamber(design, rotors);
+    const double delivered = 6.0 * (rotors.max_chamber_volume - rotors.min_chamber_volume) / 1000.0;
     EXPECT_NEAR(delivered, 6.0137, 0.1);
 }
 

@@ -38,6 +38,10 @@ void project_reset(program& kavetta, user& person, reset_kind kind) {
     kavetta.labels.max_chamb_vol.clear();
     kavetta.labels.min_chamb_vol.clear();
     kavetta.labels.area_ratio.clear();
+    rotor_profiles& rotors = kavetta.rotor_profiles;
+    rotors.max_chamber_area = rotors.max_chamber_volume = 0.0;
+    rotors.min_chamber_area = rotors.min_chamber_volume = 0.0;
+    rotors.inner_area = rotors.outer_area = rotors.area_ratio = 0.0;
 }
 
 }  // namespace kvt

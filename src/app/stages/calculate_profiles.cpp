@@ -2,6 +2,7 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/stages/design_ports.hpp"
+#include "app/stages/rotor_labels.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"
 #include "base/checked_math.hpp"
@@ -117,9 +118,12 @@ run_end outer_rotor_steps(program& kavetta, user& person) {
     draw_outer_rotor(design, rotors, kavetta.app_state, kavetta.design_view);
     fill_outer_rotor(design, rotors);
     rotors.radius_scratch.assign(static_cast<std::size_t>(2.0 * rotors.profile_points) + 1, 0.0);
-    calculate_area_ratio(rotors, kavetta.labels);
-    calculate_maximum_chamber(design, rotors, kavetta.labels);
-    calculate_minimum_chamber(design, rotors, kavetta.labels);
+    calculate_area_ratio(rotors);
+    set_area_ratio_label(rotors, kavetta.labels);
+    calculate_maximum_chamber(design, rotors);
+    set_max_chamber_label(rotors, kavetta.labels);
+    calculate_minimum_chamber(design, rotors);
+    set_min_chamber_label(rotors, kavetta.labels);
     if (design.fillet > 0.0) {
         check_interference(kavetta, person);
     }
@@ -185,7 +189,8 @@ run_end calculate_profiles(program& kavetta, user& person) {
         return closing_exit(kavetta, person, message::inner_profile_errors);
     }
     fill_inner_rotor(design, rotors);
-    calculate_capacity(design, state.capacity_unit, rotors, kavetta.labels);
+    calculate_capacity(design, state.capacity_unit, rotors);
+    set_capacity_label(rotors, kavetta.labels);
     if (measured_lobe_radius(design, rotors) < design.radouter) {
         tell(kavetta, person, message::inner_shape_errors);
     }

@@ -2,7 +2,7 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/stages/design_ports.hpp"
-#include "base/number_text.hpp"
+#include "app/stages/rotor_labels.hpp"
 #include "core/text_table.hpp"
 #include "geometry/assist_entries.hpp"
 #include "geometry/assist_search.hpp"
@@ -49,7 +49,7 @@ void find_lobes(program& kavetta) {
     show_candidate(kavetta, found);
     rotors.capacity = capacity_in_unit(found, kavetta.app_state.capacity_unit);
     write_lobe_radius(design, unit_of(kavetta), kavetta.entries);
-    kavetta.labels.capacity = commas_to_points(rotors.capacity.text());
+    set_capacity_label(rotors, kavetta.labels);
 }
 
 }  // namespace

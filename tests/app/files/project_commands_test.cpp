@@ -258,6 +258,8 @@ TEST_F(open_project_test, refuses_a_check_line_that_is_neither_0_nor_1) {
 TEST_F(open_project_test, drops_results_of_the_design_before_it) {
     kavetta.enabling.mnudxf = kavetta.enabling.calc_perf = kavetta.enabling.design_ports = true;
     kavetta.labels.area_ratio = "28.65 %";
+    kavetta.rotor_profiles.area_ratio = kavetta.rotor_profiles.max_chamber_volume = 28.65;
+    kavetta.rotor_profiles.min_chamber_volume = 7.0;
     kavetta.app_state.profiles_calculated = -1;
     kavetta.app_state.assist_on = true;
     person.files = {project_file("pump.KVT", project_lines())};
@@ -265,6 +267,9 @@ TEST_F(open_project_test, drops_results_of_the_design_before_it) {
     EXPECT_FALSE(kavetta.enabling.mnudxf || kavetta.enabling.calc_perf ||
                  kavetta.enabling.design_ports);
     EXPECT_EQ(kavetta.labels.area_ratio, "");
+    EXPECT_EQ(kavetta.rotor_profiles.area_ratio, 0.0);
+    EXPECT_EQ(kavetta.rotor_profiles.max_chamber_volume, 0.0);
+    EXPECT_EQ(kavetta.rotor_profiles.min_chamber_volume, 0.0);
     EXPECT_EQ(kavetta.app_state.profiles_calculated, 0);
     EXPECT_FALSE(kavetta.app_state.assist_on);
 }

@@ -61,6 +61,9 @@ TEST_F(profiles_run, of_a_sound_design_ends_ok_and_shows_the_pair) {
     EXPECT_EQ(kavetta.labels.area_ratio, "28.65 %");
     EXPECT_EQ(kavetta.labels.max_chamb_vol, "1038 mm3");
     EXPECT_EQ(kavetta.labels.min_chamb_vol, "32.77 mm3");
+    EXPECT_NEAR(kavetta.rotor_profiles.area_ratio, 28.655, 0.005);
+    EXPECT_NEAR(kavetta.rotor_profiles.max_chamber_volume, 1038.655, 0.001);
+    EXPECT_NEAR(kavetta.rotor_profiles.min_chamber_volume, 32.777, 0.005);
     EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U);
     EXPECT_EQ(kavetta.design_view.Picture1.size(), 28U);
     EXPECT_TRUE(kavetta.design_view.Shape1.visible);
