@@ -8,6 +8,7 @@
 #include "core/design_params.hpp"
 #include "core/enabling.hpp"
 #include "core/entries.hpp"
+#include "core/hints.hpp"
 #include "core/rotor_profiles.hpp"
 #include "core/user.hpp"
 #include "core/window_rectangles.hpp"
@@ -19,6 +20,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace kvt {
 
@@ -38,6 +40,9 @@ struct program {
     kvt::cnc_choices cnc_choices;  ///< of the last run of the CNC output dialog
 
     kvt::stage_entries stage_entries;
+
+    /// What the command that ran last noticed; empty at the start of a command.
+    std::vector<hint> hints;
 
     /// The project that autosave wrote last or that the entries started from, as bytes.
     std::string autosaved;
