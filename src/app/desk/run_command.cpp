@@ -11,6 +11,7 @@ namespace kvt {
 
 namespace {
 
+/// The failure, where the entries are, and below it what may have led there.
 std::string fatal_text(const program& kavetta, const run_time_error& error,
                        const std::filesystem::path& recovery) {
     const auto text = [&kavetta](message id) {
@@ -20,6 +21,9 @@ std::string fatal_text(const program& kavetta, const run_time_error& error,
                        std::string(failure_text(error.kind(), kavetta.app_state.language)) + ". ";
     told += recovery.empty() ? text(message::entries_not_saved)
                              : text(message::entries_saved_to) + recovery.string();
+    for (const hint& row : kavetta.hints) {
+        told += "\r" + hint_line(row, kavetta.app_state.language);
+    }
     return told;
 }
 
