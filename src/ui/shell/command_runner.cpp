@@ -1,5 +1,6 @@
 #include "ui/shell/command_runner.hpp"
 
+#include "app/desk/command_hints.hpp"
 #include "app/desk/run_command.hpp"
 #include "app/stages/entry_handlers.hpp"
 
@@ -17,7 +18,9 @@ void command_runner::run(const command& action) {
         emit starting();
     }
     run_left_entry();
-    run_with(entry_in_use_, action);
+    run_with(entry_in_use_, [&action](program& kavetta, user& person) {
+        return run_with_hints(kavetta, person, [&] { return action(kavetta, person); });
+    });
 }
 
 void command_runner::act(const std::function<void(program&, user&)>& action) {

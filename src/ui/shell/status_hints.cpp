@@ -1,7 +1,9 @@
 #include "ui/shell/status_hints.hpp"
 
+#include "app/desk/command_hints.hpp"
 #include "app/stages/stale_results.hpp"
 #include "ui/parts/form_parts.hpp"
+#include "ui/parts/hint_button.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QLabel>
@@ -12,13 +14,21 @@ namespace kvt {
 status_hints::status_hints(const program& kavetta, QStatusBar& bar)
     : QObject(&bar),
       kavetta_(kavetta),
+      hints_(new hint_button),
       cursor_position_(named_label("cursor_position")),
       stale_hint_(named_label("stale_hint")) {
+    bar.addPermanentWidget(hints_);
     bar.addPermanentWidget(cursor_position_);
     bar.addPermanentWidget(stale_hint_);
 }
 
 void status_hints::refresh() {
+    const std::vector<hint> hints = hints_on_display(kavetta_);
+    QStringList texts;
+    for (const hint& row : hints) {
+        texts.append(qt_text(row.text));
+    }
+    hints_->show_hints(qt_text(hint_summary(hints, kavetta_.app_state.language)), texts);
     const QString hint = qt_text(stale_hint(kavetta_));
     stale_hint_->setText(hint);
     stale_hint_->setVisible(!hint.isEmpty());

@@ -1,5 +1,6 @@
-// status_hints: what stands at the right of the status bar, whatever is told beside it: where the
-// mouse is in the design, and which results don't belong to the entries any more.
+// status_hints: what stands at the right of the status bar, whatever is told beside it: the hints
+// of the last command, where the mouse is in the design, and which results don't belong to the
+// entries any more.
 #pragma once
 
 #include "app/program.hpp"
@@ -11,19 +12,22 @@ class QStatusBar;
 
 namespace kvt {
 
+class hint_button;
+
 class status_hints : public QObject {
     Q_OBJECT
 
   public:
-    /// Adds the labels cursor_position and stale_hint to the bar.
+    /// Adds the button hints and the labels cursor_position and stale_hint to the bar.
     status_hints(const program& kavetta, QStatusBar& bar);
 
-    /// Looks which results are stale now.
+    /// Looks which hints stand and which results are stale now.
     void refresh();
     void show_cursor(const QString& place);
 
   private:
     const program& kavetta_;
+    hint_button* hints_;
     QLabel* cursor_position_;
     QLabel* stale_hint_;
 };
