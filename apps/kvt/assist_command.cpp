@@ -38,6 +38,7 @@ int assist_design(const assist_request& request, std::ostream& out, std::ostream
     batch_user person(err);
     program kavetta;
     const batch_end end = find_design(kavetta, person, request.source);
+    person.show_hints(kavetta.hints, request.source.language);
     out << (request.json ? json_report(kavetta, person.messages(), {end, false}, false)
                          : assist_report(kavetta, end));
     if (end != batch_end::ok || request.write_file.empty()) {

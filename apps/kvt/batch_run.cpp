@@ -113,6 +113,7 @@ std::string run_time_error_line(const run_time_error& error, std::int16_t langua
 
 std::optional<batch_end> open_design(program& kavetta, batch_user& person,
                                      const design_source& source) {
+    kavetta.hints.clear();
     kavetta.app_state.language = source.language;
     set_captions(kavetta);
     try {

@@ -5,6 +5,12 @@
 
 namespace kvt {
 
+void batch_user::show_hints(const std::vector<hint>& hints, std::int16_t language) {
+    for (const hint& row : hints) {
+        err_ << hint_line(row, language) << '\n';
+    }
+}
+
 void batch_user::show_message(std::string_view text) {
     messages_.emplace_back(text);
     std::string lines(text);

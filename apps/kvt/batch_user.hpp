@@ -2,8 +2,10 @@
 // questions get defaults.
 #pragma once
 
+#include "core/hints.hpp"
 #include "core/user.hpp"
 
+#include <cstdint>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -20,6 +22,9 @@ class batch_user : public user {
     explicit batch_user(std::ostream& err) : err_(err) {}
 
     const std::vector<std::string>& messages() const { return messages_; }
+
+    /// The hints of a run, a line each, behind everything that was told.
+    void show_hints(const std::vector<hint>& hints, std::int16_t language);
 
     void show_message(std::string_view text) override;
     answer ask(std::string_view question, question_buttons buttons) override;

@@ -13,6 +13,7 @@ int calc_design(const calc_request& request, std::ostream& out, std::ostream& er
     program kavetta;
     kavetta.date = request.date;
     const batch_result result = calculate_design(kavetta, person, request.source, request.last);
+    person.show_hints(kavetta.hints, request.source.language);
     if (request.json_file != "-") {
         out << text_report(kavetta, result);
     }

@@ -56,6 +56,15 @@ bool has_ports(const program& kavetta) {
     return kavetta.port_params.outlet_port_last > 0;
 }
 
+void export_files(program& kavetta, batch_user& person, const export_request& request,
+                  export_folder& folder) {
+    export_cnc_files(kavetta, person, request, folder);
+    export_drawings(kavetta, request, folder);
+    if (has_ports(kavetta)) {
+        export_port_report(kavetta, folder);
+    }
+}
+
 }  // namespace
 
 int export_design(const export_request& request, std::ostream& out, std::ostream& err) {
@@ -69,15 +78,11 @@ int export_design(const export_request& request, std::ostream& out, std::ostream
         return EXIT_REFUSED;
     }
     const batch_result result = calculate_open_design(kavetta, person, calc_stage::ports);
-    if (!result.ports_reached) {
-        return exit_status(result);
-    }
     export_folder folder(request.folder, request.source.language, out, err);
-    export_cnc_files(kavetta, person, request, folder);
-    export_drawings(kavetta, request, folder);
-    if (has_ports(kavetta)) {
-        export_port_report(kavetta, folder);
+    if (result.ports_reached) {
+        export_files(kavetta, person, request, folder);
     }
+    person.show_hints(kavetta.hints, request.source.language);
     return folder.complete() ? exit_status(result) : EXIT_REFUSED;
 }
 

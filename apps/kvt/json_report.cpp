@@ -104,6 +104,14 @@ json json_labels(const program& kavetta) {
     return object;
 }
 
+json json_hints(const std::vector<hint>& hints) {
+    json texts = json::array();
+    for (const hint& row : hints) {
+        texts.push_back(row.text);
+    }
+    return texts;
+}
+
 json json_rotors(const rotor_profiles& rotors, bool full) {
     json object = json_of_fields(rotors, std::span(ROTOR_FIELDS));
     if (full) {
@@ -137,6 +145,7 @@ std::string json_report(const program& kavetta, const std::vector<std::string>& 
     json report = json::object();
     report["ended"] = batch_end_name(result.end);
     report["messages"] = messages;
+    report["hints"] = json_hints(kavetta.hints);
     report["entries"] = json_entries(kavetta.entries);
     report["labels"] = json_labels(kavetta);
     if (result.profiles_reached) {

@@ -148,6 +148,16 @@ TEST(json_report, gives_the_lines_and_arcs_of_the_design_view) {
     }
 }
 
+TEST(json_report, gives_the_hints_apart_from_the_messages) {
+    program kavetta;
+    add_hint(kavetta.hints, "look here");
+    add_hint(kavetta.hints, "and there", hint_weight::scraps_part);
+    const json report = json::parse(json_report(kavetta, {"told"}, {}, false));
+    EXPECT_EQ(report["messages"], json::array({"told"}));
+    EXPECT_EQ(report["hints"], json::array({"look here", "and there"}));
+    EXPECT_EQ(json::parse(json_report(program(), {}, {}, false))["hints"], json::array());
+}
+
 TEST(json_report, keeps_every_bit_of_a_number) {
     program kavetta;
     kavetta.design_params.ecc = 0.1 + 0.2;
