@@ -16,7 +16,7 @@ namespace {
 /// The entries that the assist writes, under their captions on the Design form.
 std::string assist_report(const program& kavetta, batch_end end) {
     const std::int16_t language = kavetta.app_state.language;
-    const std::string unit = length_unit(kavetta.app_state);
+    const std::string unit = length_unit_text(kavetta.app_state);
     const entries& boxes = kavetta.entries;
     std::vector<std::pair<std::string, std::string>> rows;
     if (end == batch_end::ok) {

@@ -59,22 +59,22 @@ std::string table_number(double value) {
 }
 
 std::string table_text(const program& kavetta, const result_table& table) {
-    const bool inches = kavetta.app_state.drawing_units == INCHES;
-    const std::int16_t language = kavetta.app_state.language;
+    const app_state& state = kavetta.app_state;
+    const unit_system system = length_unit_of(state).system;
+    const bool imperial = system == unit_system::imperial;
     const perf_results& results = kavetta.perf_results;
-    std::vector<std::vector<std::string>> rows = {
-        {unit_caption_text("kvt", "grid_axes", inches, language)}};
+    std::vector<std::vector<std::string>> rows = {{unit_caption_text("kvt", "grid_axes", state)}};
     for (const double pressure : results.press_pa) {
-        rows.front().push_back(table_number(pressure / BAR_PA * (inches ? PSI_PER_BAR : 1.0)));
+        rows.front().push_back(table_number(pressure / BAR_PA * factors_of(system).pressure));
     }
     for (std::size_t speed = 0; speed < GRID_SIZE; ++speed) {
         rows.push_back({table_number(results.speed_rpm[speed])});
         for (std::size_t pressure = 0; pressure < GRID_SIZE; ++pressure) {
-            const double factor = inches ? table.imperial_factor : table.metric_factor;
+            const double factor = imperial ? table.imperial_factor : table.metric_factor;
             rows.back().push_back(table_number(table.value(results, speed, pressure) * factor));
         }
     }
-    return unit_caption_text("kvt", table.caption, inches, language) + "\n" + aligned_table(rows);
+    return unit_caption_text("kvt", table.caption, state) + "\n" + aligned_table(rows);
 }
 
 std::string headlines(const program& kavetta) {

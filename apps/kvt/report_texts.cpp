@@ -1,8 +1,8 @@
 #include "kvt/report_texts.hpp"
 
-#include "base/constants.hpp"
 #include "base/fixed4.hpp"
 #include "base/number_text.hpp"
+#include "core/length_unit.hpp"
 
 #include <cmath>
 
@@ -21,23 +21,21 @@ std::string rounded(double value) {
     return std::abs(value) < LARGEST ? fixed4::from(value).text() : number_text(value);
 }
 
-std::string length_unit(const app_state& state) {
-    return state.drawing_units == INCHES ? " in" : " mm";
+std::string length_unit_text(const app_state& state) {
+    return " " + std::string(message_text(length_unit_of(state).short_name, state.language));
 }
 
 std::string length_text(const app_state& state, double millimetres) {
-    const bool inches = state.drawing_units == INCHES;
-    return rounded(inches ? millimetres / MM_PER_INCH : millimetres) + length_unit(state);
+    return rounded(length_unit_of(state).from_mm(millimetres)) + length_unit_text(state);
 }
 
 std::string caption_text(std::string_view form, std::string_view name, std::int16_t language) {
     return text_of(find_caption(form, name), name, language);
 }
 
-std::string unit_caption_text(std::string_view form, std::string_view name, bool inches,
-                              std::int16_t language) {
-    const text_kind kind = inches ? text_kind::caption_inch : text_kind::caption_mm;
-    return text_of(find_text(kind, form, name), name, language);
+std::string unit_caption_text(std::string_view form, std::string_view name,
+                              const app_state& state) {
+    return text_of(find_text(length_unit_of(state).captions, form, name), name, state.language);
 }
 
 }  // namespace kvt

@@ -33,7 +33,7 @@ std::string typed(const program& kavetta) {
 
 template <std::string entries::*box>
 std::string typed_length(const program& kavetta) {
-    return kavetta.entries.*box + length_unit(kavetta.app_state);
+    return kavetta.entries.*box + length_unit_text(kavetta.app_state);
 }
 
 template <std::string labels::*label>

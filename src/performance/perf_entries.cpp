@@ -1,7 +1,6 @@
 #include "performance/perf_entries.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "performance/perf_units.hpp"
 
@@ -45,14 +44,6 @@ constexpr std::array<perf_check, 15> PERF_CHECKS = {{
     {&entries::friction, message::input_friction},
 }};
 
-double density_kgm3(double value, bool inches) {
-    return inches ? value * CUBIC_FEET_PER_CUBIC_METRE / POUNDS_PER_KILOGRAM : value;
-}
-
-double vapour_pressure_pa(double value, bool inches) {
-    return value * BAR_PA / (inches ? INHG_PER_ATMOSPHERE : MMHG_PER_ATMOSPHERE);
-}
-
 bool is_ticked(const std::string& check) {
     return check == "1";
 }
@@ -75,18 +66,20 @@ std::optional<refused_perf_entry> first_refused_perf_entry(const entries& boxes)
     return std::nullopt;
 }
 
-perf_inputs read_perf_inputs(const entries& boxes, bool inches) {
+perf_inputs read_perf_inputs(const entries& boxes, unit_system system) {
+    const entry_factors& units = factors_of(system);
     perf_inputs inputs;
-    inputs.density_kgm3 = checked_finite(density_kgm3(val(boxes.fluid_density), inches));
+    inputs.system = system;
+    inputs.density_kgm3 = checked_finite(val(boxes.fluid_density) * units.volume / units.mass);
     inputs.kin_visc_cst = val(boxes.kin_visc);
-    inputs.pv = checked_finite(vapour_pressure_pa(val(boxes.vap_press), inches));
-    inputs.bulk_mod_pa = checked_finite(val(boxes.bulk_mod_text) * (inches ? KSI_PA : GPA_PA));
+    inputs.pv = checked_finite(val(boxes.vap_press) * BAR_PA / units.mercury);
+    inputs.bulk_mod_pa = checked_finite(val(boxes.bulk_mod_text) * units.bulk_modulus_pa);
     inputs.speed_lo = val(boxes.speed_lo);
     inputs.speed_hi = val(boxes.speed_hi);
     inputs.pressure_lo = val(boxes.pressure_lo);
     inputs.pressure_hi = val(boxes.pressure_hi);
-    inputs.young_inner_mpa = checked_finite(val(boxes.young_inner) * (inches ? KSI_MPA : GPA_MPA));
-    inputs.young_outer_mpa = checked_finite(val(boxes.young_outer) * (inches ? KSI_MPA : GPA_MPA));
+    inputs.young_inner_mpa = checked_finite(val(boxes.young_inner) * units.youngs_modulus_mpa);
+    inputs.young_outer_mpa = checked_finite(val(boxes.young_outer) * units.youngs_modulus_mpa);
     inputs.poisson_inner = val(boxes.poissons_inner);
     inputs.poisson_outer = val(boxes.poissons_outer);
     inputs.friction = val(boxes.friction);
@@ -94,7 +87,6 @@ perf_inputs read_perf_inputs(const entries& boxes, bool inches) {
     inputs.OD_area_value = val(boxes.OD_area_value);
     inputs.outlet_start_inner = val(boxes.outlet_start_inner);
     inputs.outlet_end_inner = val(boxes.outlet_end_inner);
-    inputs.inches = inches;
     inputs.inlet_double_sided = is_ticked(boxes.inlet_double_sided);
     inputs.outlet_double_sided = is_ticked(boxes.outlet_double_sided);
     inputs.shadow_ports = is_ticked(boxes.shadow_ports);
@@ -102,8 +94,8 @@ perf_inputs read_perf_inputs(const entries& boxes, bool inches) {
     return inputs;
 }
 
-double thickness_entry_mm(const entries& boxes, bool inches) {
-    return inches ? val(boxes.thick) * MM_PER_INCH : val(boxes.thick);
+double thickness_entry_mm(const entries& boxes, const length_unit& unit) {
+    return unit.to_mm(val(boxes.thick));
 }
 
 }  // namespace kvt

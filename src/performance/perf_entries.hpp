@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/text_table.hpp"
 #include "performance/perf_inputs.hpp"
 
@@ -25,11 +26,11 @@ struct refused_perf_entry {
 /// double.
 std::optional<refused_perf_entry> first_refused_perf_entry(const entries& boxes);
 
-/// The inputs in the units of the model. inches: the entries are in lb/ft3, inches of mercury, ksi
-/// and psi.
-perf_inputs read_perf_inputs(const entries& boxes, bool inches);
+/// The inputs in the units of the model. The entries of the imperial system are in lb/ft3, inches
+/// of mercury, ksi and psi.
+perf_inputs read_perf_inputs(const entries& boxes, unit_system system);
 
 /// The rotor thickness in mm as the entry of Form1 says now: performance reads it anew.
-double thickness_entry_mm(const entries& boxes, bool inches);
+double thickness_entry_mm(const entries& boxes, const length_unit& unit);
 
 }  // namespace kvt

@@ -10,13 +10,11 @@ namespace {
 constexpr double GRID_STEPS = 5.0;
 
 double lowest_pressure_pa(const perf_inputs& inputs) {
-    const double pressure = inputs.pressure_lo * BAR_PA;
-    return inputs.inches ? pressure / PSI_PER_BAR : pressure;
+    return inputs.pressure_lo * BAR_PA / factors_of(inputs.system).pressure;
 }
 
 double pressure_range_bar(const perf_inputs& inputs) {
-    const double range = inputs.pressure_hi - inputs.pressure_lo;
-    return inputs.inches ? range / PSI_PER_BAR : range;
+    return (inputs.pressure_hi - inputs.pressure_lo) / factors_of(inputs.system).pressure;
 }
 
 }  // namespace

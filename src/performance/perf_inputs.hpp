@@ -2,10 +2,12 @@
 // the entries.
 #pragma once
 
+#include "core/length_unit.hpp"
+
 namespace kvt {
 
 /// Units are those of the model; only the pressure range stays in the unit of the entries (bar, or
-/// psi with inches).
+/// psi in the imperial system).
 struct perf_inputs {
     double density_kgm3 = 0.0;  ///< fluid density, kg/m3
     double kin_visc_cst = 0.0;  ///< kinematic viscosity, cSt
@@ -25,8 +27,8 @@ struct perf_inputs {
     double outlet_start_inner =
         0.0;  ///< degrees, from the text of the entry: the side load reads the text
     double outlet_end_inner = 0.0;
-    bool inches = false;              ///< the entries are in the imperial units
-    bool inlet_double_sided = false;  ///< the porting type
+    unit_system system = unit_system::metric;  ///< of the entries
+    bool inlet_double_sided = false;           ///< the porting type
     bool outlet_double_sided = false;
     bool shadow_ports = false;
     bool metering_groove = false;

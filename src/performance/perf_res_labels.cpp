@@ -18,19 +18,15 @@ void set_speed(double speed_rpm, message limit, std::int16_t language, labels& t
     texts.Label5 = message_text(limit, language);
 }
 
-std::string side_load_text(double load, bool inches) {
-    if (inches) {
+std::string side_load_text(double load, unit_system system) {
+    if (system == unit_system::imperial) {
         return number_text(floor_to_int(load * 2.2 * 10.0 / 9.81) / 10.0) + " lbsf";
     }
     return number_text(floor_to_int(load * 100.0) / 100.0) + " N";
 }
 
-std::string cutter_text(double cutter_r, bool inches) {
-    if (inches) {
-        return number_text(floor_to_int(-2.0 * cutter_r * 1000.0 / MM_PER_INCH) / 1000.0) +
-               " inches";
-    }
-    return number_text(-2.0 * cutter_r) + " mm";
+std::string cutter_text(double cutter_r, const length_unit& unit) {
+    return number_text(unit.cut_from_mm(-2.0 * cutter_r)) + " " + std::string(unit.long_name);
 }
 
 }  // namespace
@@ -43,12 +39,12 @@ void set_speed_labels(const perf_results& results, std::int16_t language, labels
     }
 }
 
-void set_load_labels(const perf_results& results, bool inches, labels& texts) {
+void set_load_labels(const perf_results& results, const length_unit& unit, labels& texts) {
     const double angle = results.side_load_angle[TOP][TOP];
-    texts.max_shaft_side_load = side_load_text(results.side_load[TOP][TOP], inches);
+    texts.max_shaft_side_load = side_load_text(results.side_load[TOP][TOP], unit.system);
     texts.side_load_direction =
         number_text(floor_to_int(angle * 180.0 * 100.0 / TWO_PI_P) / 100.0) + " °";
-    texts.max_cutter_inner = cutter_text(results.cutter_r, inches);
+    texts.max_cutter_inner = cutter_text(results.cutter_r, unit);
 }
 
 void set_ripple_label(const perf_results& results, std::int16_t language, labels& texts) {

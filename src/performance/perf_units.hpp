@@ -2,6 +2,8 @@
 // is kept.
 #pragma once
 
+#include "core/length_unit.hpp"
+
 namespace kvt {
 
 /// Pascals of one atmosphere, and also of one bar: the model makes no difference between them.
@@ -20,6 +22,29 @@ inline constexpr double KSI_PA = 6894750.0;
 /// Megapascals of one GPa and of one ksi, for Young's modulus.
 inline constexpr double GPA_MPA = 1000.0;
 inline constexpr double KSI_MPA = 6.8947;
+
+/// What the entries of a unit system are worth in the units of the model.
+struct entry_factors {
+    double volume;              ///< of the density's unit, in one cubic metre
+    double mass;                ///< of the density's unit, in one kilogram
+    double mercury;             ///< of the vapour pressure's unit, in one atmosphere
+    double bulk_modulus_pa;     ///< pascals in one unit of the bulk modulus
+    double youngs_modulus_mpa;  ///< megapascals in one unit of Young's modulus
+    double pressure;            ///< units of the pressure range in one bar
+};
+
+inline constexpr entry_factors METRIC_FACTORS = {1.0,    1.0,     MMHG_PER_ATMOSPHERE,
+                                                 GPA_PA, GPA_MPA, 1.0};
+inline constexpr entry_factors IMPERIAL_FACTORS = {CUBIC_FEET_PER_CUBIC_METRE,
+                                                   POUNDS_PER_KILOGRAM,
+                                                   INHG_PER_ATMOSPHERE,
+                                                   KSI_PA,
+                                                   KSI_MPA,
+                                                   PSI_PER_BAR};
+
+constexpr const entry_factors& factors_of(unit_system system) {
+    return system == unit_system::imperial ? IMPERIAL_FACTORS : METRIC_FACTORS;
+}
 
 /// rpm times cm3 a revolution, divided by this, is m3/s.
 inline constexpr double CC_RPM_PER_M3S = 60000000.0;

@@ -104,7 +104,7 @@ TEST(perf_entries, must_span_a_range) {
 }
 
 TEST(perf_entries, are_read_in_metric_units) {
-    const perf_inputs inputs = read_perf_inputs(sound_entries(), false);
+    const perf_inputs inputs = read_perf_inputs(sound_entries(), unit_system::metric);
     EXPECT_EQ(inputs.density_kgm3, 860.0);
     EXPECT_EQ(inputs.kin_visc_cst, 12.5);
     EXPECT_EQ(inputs.pv, 0.5 * 101300.0 / 760.0);
@@ -118,55 +118,55 @@ TEST(perf_entries, are_read_in_metric_units) {
     EXPECT_EQ(inputs.OD_area_value, 100.0);
     EXPECT_EQ(inputs.speed_lo, 600.0);
     EXPECT_EQ(inputs.pressure_hi, 6.0);
-    EXPECT_FALSE(inputs.inches);
+    EXPECT_EQ(inputs.system, unit_system::metric);
 }
 
 TEST(perf_entries, are_read_in_imperial_units) {
-    const perf_inputs inputs = read_perf_inputs(sound_entries(), true);
+    const perf_inputs inputs = read_perf_inputs(sound_entries(), unit_system::imperial);
     EXPECT_EQ(inputs.density_kgm3, 860.0 * 35.31467 / 2.205);
     EXPECT_EQ(inputs.kin_visc_cst, 12.5);
     EXPECT_EQ(inputs.pv, 0.5 * 101300.0 / 29.92);
     EXPECT_EQ(inputs.bulk_mod_pa, 1.4 * 6894750.0);
     EXPECT_EQ(inputs.young_inner_mpa, 140.0 * 6.8947);
     EXPECT_EQ(inputs.pressure_lo, 1.0) << "the grid converts the range";
-    EXPECT_TRUE(inputs.inches);
+    EXPECT_EQ(inputs.system, unit_system::imperial);
 }
 
 TEST(perf_entries, read_an_area_with_a_comma_up_to_the_comma) {
     entries boxes = sound_entries();
     boxes.Face_area_value = "99,5";
-    EXPECT_EQ(read_perf_inputs(boxes, false).Face_area_value, 99.0);
+    EXPECT_EQ(read_perf_inputs(boxes, unit_system::metric).Face_area_value, 99.0);
 }
 
 TEST(perf_entries, read_the_porting_type_and_the_outlet_angles_of_the_texts) {
     entries boxes = sound_entries();
     boxes.outlet_start_inner = "14.5";
     boxes.outlet_end_inner = "148 deg";
-    EXPECT_EQ(read_perf_inputs(boxes, false).outlet_start_inner, 14.5);
-    EXPECT_EQ(read_perf_inputs(boxes, false).outlet_end_inner, 148.0);
-    EXPECT_FALSE(is_balanced(read_perf_inputs(boxes, false)));
+    EXPECT_EQ(read_perf_inputs(boxes, unit_system::metric).outlet_start_inner, 14.5);
+    EXPECT_EQ(read_perf_inputs(boxes, unit_system::metric).outlet_end_inner, 148.0);
+    EXPECT_FALSE(is_balanced(read_perf_inputs(boxes, unit_system::metric)));
     boxes.inlet_double_sided = boxes.metering_groove = "1";
-    EXPECT_TRUE(read_perf_inputs(boxes, false).inlet_double_sided);
-    EXPECT_TRUE(read_perf_inputs(boxes, false).metering_groove);
-    EXPECT_FALSE(is_balanced(read_perf_inputs(boxes, false)));
+    EXPECT_TRUE(read_perf_inputs(boxes, unit_system::metric).inlet_double_sided);
+    EXPECT_TRUE(read_perf_inputs(boxes, unit_system::metric).metering_groove);
+    EXPECT_FALSE(is_balanced(read_perf_inputs(boxes, unit_system::metric)));
     boxes.outlet_double_sided = "1";
-    EXPECT_TRUE(is_balanced(read_perf_inputs(boxes, false)));
+    EXPECT_TRUE(is_balanced(read_perf_inputs(boxes, unit_system::metric)));
     boxes.outlet_double_sided = "0";
     boxes.shadow_ports = "1";
-    EXPECT_TRUE(is_balanced(read_perf_inputs(boxes, false)));
+    EXPECT_TRUE(is_balanced(read_perf_inputs(boxes, unit_system::metric)));
 }
 
 TEST(perf_entries, give_the_thickness_in_millimetres) {
     entries boxes;
     boxes.thick = "0.5";
-    EXPECT_EQ(thickness_entry_mm(boxes, false), 0.5);
-    EXPECT_EQ(thickness_entry_mm(boxes, true), 12.7);
+    EXPECT_EQ(thickness_entry_mm(boxes, length_unit_of(MILLIMETRES)), 0.5);
+    EXPECT_EQ(thickness_entry_mm(boxes, length_unit_of(INCHES)), 12.7);
 }
 
 TEST(perf_entries, fail_beyond_a_double) {
     entries boxes = sound_entries();
     boxes.bulk_mod_text = "1e305";
-    EXPECT_FAILURE(read_perf_inputs(boxes, false), failure::overflow);
+    EXPECT_FAILURE(read_perf_inputs(boxes, unit_system::metric), failure::overflow);
 }
 
 }  // namespace

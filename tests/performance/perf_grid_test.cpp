@@ -7,19 +7,19 @@ namespace kvt {
 namespace {
 
 perf_inputs range(double speed_lo, double speed_hi, double pressure_lo, double pressure_hi,
-                  bool inches) {
+                  unit_system system) {
     perf_inputs inputs;
     inputs.speed_lo = speed_lo;
     inputs.speed_hi = speed_hi;
     inputs.pressure_lo = pressure_lo;
     inputs.pressure_hi = pressure_hi;
-    inputs.inches = inches;
+    inputs.system = system;
     return inputs;
 }
 
 TEST(perf_grid, steps_from_the_lowest_to_the_highest) {
     perf_results results;
-    set_grid(range(1000, 6000, 2, 12, false), results);
+    set_grid(range(1000, 6000, 2, 12, unit_system::metric), results);
     EXPECT_EQ(results.speed_rpm, (perf_list{1000, 2000, 3000, 4000, 5000, 6000}));
     EXPECT_EQ(results.press_pa, (perf_list{202600, 405200, 607800, 810400, 1013000, 1215600}));
     EXPECT_EQ(results.press_step_bar, 2.0);
@@ -28,7 +28,7 @@ TEST(perf_grid, steps_from_the_lowest_to_the_highest) {
 
 TEST(perf_grid, takes_14_5_psi_for_a_bar) {
     perf_results results;
-    set_grid(range(1000, 6000, 29, 174, true), results);  // 2 .. 12 bar
+    set_grid(range(1000, 6000, 29, 174, unit_system::imperial), results);  // 2 .. 12 bar
     EXPECT_EQ(results.press_step_bar, 2.0);
     EXPECT_EQ(results.press_pa, (perf_list{202600, 405200, 607800, 810400, 1013000, 1215600}));
 }

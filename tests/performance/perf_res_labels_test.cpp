@@ -16,7 +16,7 @@ TEST_P(sample_labels_test, read_as_the_reference) {
     sample.run();
     labels texts;
     set_speed_labels(sample.perf_results, ENGLISH, texts);
-    set_load_labels(sample.perf_results, sample.inches(), texts);
+    set_load_labels(sample.perf_results, sample.unit(), texts);
     set_ripple_label(sample.perf_results, ENGLISH, texts);
     int compared = 0;
     for (const label_field& field : label_fields()) {
@@ -67,10 +67,10 @@ TEST(perf_res_labels, give_half_of_the_load_angle) {
     results.side_load_angle[5][5] = 1.5707963;
     results.side_load_angle[0][0] = 9.0;
     labels texts;
-    set_load_labels(results, false, texts);
+    set_load_labels(results, length_unit_of(MILLIMETRES), texts);
     EXPECT_EQ(texts.side_load_direction, "44.99 °") << "the divisor is a little above a full turn";
     results.side_load_angle[5][5] = -1.0;
-    set_load_labels(results, false, texts);
+    set_load_labels(results, length_unit_of(MILLIMETRES), texts);
     EXPECT_EQ(texts.side_load_direction, "-28.65 °");
 }
 
@@ -80,10 +80,10 @@ TEST(perf_res_labels, give_load_and_cutter_in_both_unit_systems) {
     results.side_load[5][5] = 98.126;
     results.cutter_r = -12.7;
     labels texts;
-    set_load_labels(results, false, texts);
+    set_load_labels(results, length_unit_of(MILLIMETRES), texts);
     EXPECT_EQ(texts.max_shaft_side_load, "98.12 N");
     EXPECT_EQ(texts.max_cutter_inner, "25.4 mm");
-    set_load_labels(results, true, texts);
+    set_load_labels(results, length_unit_of(INCHES), texts);
     EXPECT_EQ(texts.max_shaft_side_load, "22 lbsf");
     EXPECT_EQ(texts.max_cutter_inner, "1 inches");
 }

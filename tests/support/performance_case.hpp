@@ -38,8 +38,9 @@ struct performance_case {
     kvt::perf_results perf_results;
     nlohmann::json expected;  ///< the reference file
 
-    bool inches() const {
-        return expected["labels"]["max_shaft_side_load"].get<std::string>().ends_with("lbsf");
+    const length_unit& unit() const {
+        const auto load = expected["labels"]["max_shaft_side_load"].get<std::string>();
+        return length_unit_of(load.ends_with("lbsf") ? INCHES : MILLIMETRES);
     }
 
     /// Speed limits and grid, then the eight routines in the order of Calculate Performance.
@@ -106,7 +107,7 @@ inline performance_case load_performance_case(const std::string& name) {
             sample.entries.*field.member = sample.expected["entries"][key].get<std::string>();
         }
     }
-    sample.perf_inputs = read_perf_inputs(sample.entries, sample.inches());
+    sample.perf_inputs = read_perf_inputs(sample.entries, sample.unit().system);
     return sample;
 }
 

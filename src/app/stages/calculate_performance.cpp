@@ -31,9 +31,9 @@ bool has_refused_entry(program& kavetta, user& person) {
 }
 
 void read_inputs(program& kavetta) {
-    const bool inches = kavetta.app_state.drawing_units == INCHES;
-    kavetta.perf_inputs = read_perf_inputs(kavetta.entries, inches);
-    kavetta.design_params.thick = thickness_entry_mm(kavetta.entries, inches);
+    const length_unit& unit = length_unit_of(kavetta.app_state);
+    kavetta.perf_inputs = read_perf_inputs(kavetta.entries, unit.system);
+    kavetta.design_params.thick = thickness_entry_mm(kavetta.entries, unit);
 }
 
 /// The order is binding: each routine reads what the ones before it wrote.
@@ -48,7 +48,7 @@ void run_routines(program& kavetta) {
     calc_drive_power(design, rotors, ports, inputs, results);
     calc_lobe_load_share(design, rotors, results);
     calc_hertz_and_side_load(design, inputs, results);
-    set_load_labels(results, inputs.inches, kavetta.labels);
+    set_load_labels(results, length_unit_of(kavetta.app_state), kavetta.labels);
     calc_flow(design, rotors, ports, inputs, results);
     calc_mech_efficiency(rotors, results);
     calc_overall_efficiency(results);
