@@ -108,7 +108,6 @@ double set_nose_line(const port_work& work) {
 port_end refuse_length(const port_work& work, message text) {
     work.tell(text);
     work.refuse(&entries::groove_length, "groove_length");
-    work.person.set_busy(false);
     return port_end::refused;
 }
 
