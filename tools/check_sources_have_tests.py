@@ -28,8 +28,6 @@ COVERED_BY = {
     "src/app/desk/settings_commands.cpp": "tests/app/desk/exit_program_test.cpp",
     "src/geometry/assist_lobe.cpp": "tests/geometry/assist_search_test.cpp",
     "src/geometry/chamber_window.cpp": "tests/geometry/chambers_test.cpp",
-    "src/geometry/maximum_chamber.cpp": "tests/geometry/chambers_test.cpp",
-    "src/geometry/minimum_chamber.cpp": "tests/geometry/chambers_test.cpp",
     "src/geometry/turned_profiles.cpp": "tests/geometry/chambers_test.cpp",
     "src/output/dxf/dxf_polyline.cpp": "tests/output/dxf/dxf_files_test.cpp",
     "src/output/step/step_prism.cpp": "tests/output/step/step_files_test.cpp",

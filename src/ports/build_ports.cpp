@@ -34,8 +34,7 @@ void store_outline(const port_fields& port, port_work& work) {
         built.outline.mirror();
     }
     port_params& ports = work.ports;
-    built.outline.store(ports.*port.x, ports.*port.y);
-    ports.*port.last = built.outline.last();
+    built.outline.store(ports.*port.x, ports.*port.y, ports.*port.last);
     for (std::size_t mark = 0; mark < built.marks.size(); ++mark) {
         ports.*port.marks[mark] = built.marks[mark];
     }

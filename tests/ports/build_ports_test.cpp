@@ -99,7 +99,7 @@ TEST(build_ports, a_refusal_leaves_the_old_outline_whole) {
     port_design tested;
     port_work work = tested.work();
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
-    const std::vector<double> x = tested.ports.inlet_port_x;
+    const zeroed_array x = tested.ports.inlet_port_x;
     const std::int16_t last = tested.ports.inlet_port_last;
     tested.boxes.inlet_end_inner = "190";
     tested.boxes.inlet_end_outer = "188";
