@@ -79,7 +79,7 @@ class guide_test(tree_test):
         self.write("src/core/texts/Perffrm.inc", '{caption, "Perffrm", "Label7", "&Pressure Range (bar)", "Druck"},\n')
         self.write("tools/screenshots/main.cpp", 'pictures["workplace"]')
         self.write("tools/pictures/CMakeLists.txt", '"${share_folder}/explain.jpg"')
-        self.write("src/ui/Form1.hpp", "")
+        self.write("src/ui/forms/Form1.hpp", "")
 
     def page(self, content):
         self.write("docs/guide/01-first.md", content)
