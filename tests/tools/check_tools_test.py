@@ -53,6 +53,13 @@ class includes_test(tree_test):
         self.write("src/views/a.hpp", '#include "output/dxf.hpp"\n')
         self.expect_one(self.check(), "src/views/a.hpp:1", "output/dxf.hpp")
 
+    def test_the_writers_of_one_kind_of_file_know_no_other(self):
+        self.write("src/output/cnc/a.cpp", '#include "output/cnc/b.hpp"\n#include "output/outer_path.hpp"\n')
+        self.write("src/app/files/a.cpp", '#include "app/stages/b.hpp"\n')
+        self.assertEqual(list(self.check()), [])
+        self.write("src/output/cnc/a.cpp", '#include "output/dxf/b.hpp"\n')
+        self.expect_one(self.check(), "src/output/cnc/a.cpp:1", "output/dxf/b.hpp")
+
     def test_a_relative_path_does_not_hide_the_room(self):
         self.write("src/core/a.cpp", '#include "../app/program.hpp"\n')
         self.expect_one(self.check(), "src/core/a.cpp:1")
