@@ -11,8 +11,10 @@ import check_format  # noqa: E402
 import check_guide  # noqa: E402
 import check_includes  # noqa: E402
 import check_line_ends  # noqa: E402
+import check_named_tests  # noqa: E402
 import check_pages  # noqa: E402
 import check_sources_have_tests  # noqa: E402
+import check_sources_of_formulas  # noqa: E402
 import check_texts  # noqa: E402
 
 
@@ -260,6 +262,71 @@ class sources_have_tests_test(tree_test):
     def test_an_entry_for_a_source_that_is_gone_is_reported(self):
         self.write("tests/core/a_test.cpp", "")
         self.expect_one(self.check(None, {"src/core/gone.cpp": "a table"}), "src/core/gone.cpp")
+
+
+class named_tests_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write("tests/geometry/shaft_test.cpp", "TEST_F(thin_material_test, is_told) {\n}\n")
+
+    def check(self):
+        return check_named_tests.findings(self.root)
+
+    def test_a_test_file_and_a_suite_are_known(self):
+        self.write("src/geometry/a.hpp", "/// Kept: as it is; shaft_test holds it.\n")
+        self.write("src/geometry/a.cpp", "int a;  // Kept: as it was;\n// thin_material_test holds it.\n")
+        self.write("docs/formulas/a.md", "shaft_test holds that.\n")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_test_that_does_not_exist_is_reported_with_its_line(self):
+        self.write("src/app/files/a.cpp", "int a;\n// Kept: 7 stays; reset_test holds it.\n")
+        self.expect_one(self.check(), "src/app/files/a.cpp:2", "reset_test")
+
+    def test_a_name_and_its_verb_may_stand_in_two_lines(self):
+        self.write("src/core/a.hpp", "/// Kept: 7 stays; reset_test\n/// holds it.\n")
+        self.expect_one(self.check(), "reset_test")
+
+    def test_pages_are_read_too(self):
+        self.write("docs/style.md", "gone_test holds it.\n")
+        self.expect_one(self.check(), "docs/style.md:1", "gone_test")
+
+
+class sources_of_formulas_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write("docs/formulas/trochoid.md", "# Trochoid\n\n## A point\n")
+
+    def check(self, without_formula=None):
+        return check_sources_of_formulas.findings(self.root, without_formula or {})
+
+    def header(self, comment):
+        self.write("src/geometry/a.hpp", comment)
+
+    def test_a_page_and_a_section_of_it_are_allowed(self):
+        self.header('/// Source:\n/// docs/formulas/trochoid.md, "A\n/// point". Also docs/formulas/trochoid.md.\n')
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_header_without_a_page_is_reported(self):
+        self.header("/// x = e cos t\n")
+        self.expect_one(self.check(), "src/geometry/a.hpp", "names no page")
+
+    def test_a_page_that_does_not_exist_is_reported(self):
+        self.header("/// Source: docs/formulas/lobes.md.\n")
+        self.expect_one(self.check(), "docs/formulas/lobes.md")
+
+    def test_a_section_that_does_not_exist_is_reported(self):
+        self.header('/// Source: docs/formulas/trochoid.md, "Circles".\n')
+        self.expect_one(self.check(), "Circles")
+
+    def test_an_entry_is_enough_while_no_page_is_named(self):
+        listed = {"src/geometry/a.hpp": "a pair of numbers"}
+        self.header("/// a pair\n")
+        self.assertEqual(list(self.check(listed)), [])
+        self.header("/// Source: docs/formulas/trochoid.md.\n")
+        self.expect_one(self.check(listed), "needs no entry")
+
+    def test_an_entry_for_a_header_that_is_gone_is_reported(self):
+        self.expect_one(self.check({"src/ports/gone.hpp": "a pair"}), "src/ports/gone.hpp")
 
 
 if __name__ == "__main__":
