@@ -207,6 +207,18 @@ class pages_test(tree_test):
         self.expect_one(self.check(), "README.md:1", "fast")
 
 
+    def test_paths_without_suffix_and_lists_of_paths_are_allowed(self):
+        self.write("src/base/code_page.cpp", "")
+        self.write("src/ports/polar.cpp", "")
+        self.write("README.md", "`src/base/code_page`, `src/{base,ports}`, `src/cad` and src/gone\n")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_path_that_does_not_exist_is_reported(self):
+        self.write("src/ports/polar.cpp", "")
+        self.write("README.md", "`src/{ports,views}/polar.cpp`\n")
+        self.expect_one(self.check(), "README.md:1", "src/views/polar.cpp")
+
+
 class format_test(tree_test):
     def setUp(self):
         super().setUp()
