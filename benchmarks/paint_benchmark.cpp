@@ -26,7 +26,7 @@ kvt::program drawn_design() {
     const auto file = std::string(KVT_TEST_DATA) + "/designs/n07_engine_oil_groove.KVT";
     kvt::assign_project_record(kavetta, kvt::read_project(kvt::read_file(file), name));
     kavetta.entries.coarseness = "1";
-    kavetta.app_state.view_size = SIDE * 15;
+    kavetta.view_state.view_size = SIDE * 15;
     kvt::calculate_profiles(kavetta, person);
     return kavetta;
 }

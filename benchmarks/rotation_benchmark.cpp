@@ -15,7 +15,7 @@ kvt::program calculated(const std::string& coarseness) {
     kvt::scripted_user person;
     kavetta.entries = kvt::sample_entries();
     kavetta.entries.coarseness = coarseness;
-    kavetta.app_state.view_size = 10500;  // 700 pixels
+    kavetta.view_state.view_size = 10500;  // 700 pixels
     kvt::calculate_profiles(kavetta, person);
     return kavetta;
 }

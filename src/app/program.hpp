@@ -17,6 +17,7 @@
 #include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"
 #include "views/design_view.hpp"
+#include "views/view_state.hpp"
 
 #include <filesystem>
 #include <string>
@@ -31,6 +32,7 @@ struct program {
     kvt::perf_inputs perf_inputs;
     kvt::perf_results perf_results;
     kvt::app_state app_state;
+    kvt::view_state view_state;
     kvt::entries entries;
     kvt::labels labels;
     kvt::captions captions;

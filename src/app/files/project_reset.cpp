@@ -28,7 +28,7 @@ void clear_chart_choice(entries& boxes) {
 }  // namespace
 
 void project_reset(program& kavetta, user& person, reset_kind kind) {
-    kavetta.app_state.angleline_count =
+    kavetta.view_state.angleline_count =
         static_cast<double>(kavetta.design_view.angleline.elements.size());
     clear_all(kavetta.design_view);
     apply_chain(kavetta.enabling, chain_event::project_reset);

@@ -83,13 +83,13 @@ port_work work_of(program& kavetta, user& person) {
 void draw_ports(program& kavetta, const ports_designed& done) {
     design_view& view = kavetta.design_view;
     if (done.inlet || shows_outline(view.inlet_portline)) {
-        draw_inlet_port(kavetta.port_params, kavetta.app_state, view);
+        draw_inlet_port(kavetta.port_params, kavetta.view_state, view);
     }
     if (done.outlet || shows_outline(view.outlet_portline)) {
-        draw_outlet_port(kavetta.port_params, kavetta.app_state, view);
+        draw_outlet_port(kavetta.port_params, kavetta.view_state, view);
     }
     if (shows_outline(view.inlet_portline) || shows_outline(view.outlet_portline)) {
-        draw_port_angles(kavetta.port_params, kavetta.design_params, kavetta.app_state, view);
+        draw_port_angles(kavetta.port_params, kavetta.design_params, kavetta.view_state, view);
     }
 }
 
@@ -109,7 +109,7 @@ bool design_groove(program& kavetta, port_work& work, user& person) {
     kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.unit);
     const bool done = has_finished(build_metering_groove(work), person);
     if (done) {
-        draw_metering_groove(kavetta.port_params, kavetta.app_state, kavetta.design_view);
+        draw_metering_groove(kavetta.port_params, kavetta.view_state, kavetta.design_view);
     }
     return done;
 }

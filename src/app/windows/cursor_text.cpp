@@ -27,7 +27,7 @@ std::string cursor_text(const program& kavetta, double x, double y) {
         return {};
     }
     try {
-        const std::optional<point2> place = cursor_position(x, y, kavetta.app_state);
+        const std::optional<point2> place = cursor_position(x, y, kavetta.view_state);
         return place ? text_of(*place, kavetta.app_state) : std::string();
     } catch (const run_time_error&) {
         return {};

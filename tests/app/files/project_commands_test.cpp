@@ -265,7 +265,7 @@ TEST_F(open_project_test, drops_results_of_the_design_before_it) {
     kavetta.design_view.angleline.elements.resize(4);
     person.files = {project_file("pump.KVT", project_lines())};
     open_project(kavetta, person);
-    EXPECT_EQ(kavetta.app_state.angleline_count, 4.0) << "as it was before the reset";
+    EXPECT_EQ(kavetta.view_state.angleline_count, 4.0) << "as it was before the reset";
     EXPECT_EQ(kavetta.design_view.angleline.elements.size(), 1U);
     EXPECT_FALSE(kavetta.enabling.mnudxf || kavetta.enabling.calc_perf ||
                  kavetta.enabling.design_ports);

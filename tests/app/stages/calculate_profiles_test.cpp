@@ -158,12 +158,12 @@ TEST_F(profiles_run, stops_at_the_shaft_check_with_an_empty_view) {
 TEST_F(profiles_run, ends_at_the_curvature_check_through_the_closing_steps) {
     boxes().radouter = "30";
     kavetta.app_state.zoom_all_requested = -1;
-    kavetta.app_state.view_zoom = 4.0;
+    kavetta.view_state.view_zoom = 4.0;
     EXPECT_EQ(run(), run_end::closing);
     EXPECT_EQ(person.messages,
               texts{std::string(message_text(message::inner_rotor_errors, ENGLISH))});
     EXPECT_EQ(kavetta.app_state.zoom_all_requested, 0);
-    EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
     EXPECT_EQ(person.log.back(), "not busy");
 }
 
@@ -228,12 +228,12 @@ TEST_F(profiles_run, reports_a_lobe_that_does_not_reach_the_root_in_english) {
         boxes().fillet = "0";
         boxes().outer_root = "";
         keep_root_radius();
-        kavetta.app_state.view_zoom = 4.0;
+        kavetta.view_state.view_zoom = 4.0;
         EXPECT_EQ(run(), run_end::error);
         ASSERT_FALSE(person.messages.empty());
         EXPECT_EQ(person.messages.back(), SMALL_LOBES);
         EXPECT_EQ(kavetta.labels.area_ratio, "12 %") << "an older label stays";
-        EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+        EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
         EXPECT_EQ(person.log.back(), "not busy");
         EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U)
             << "the inner rotor stays on the screen";
@@ -383,19 +383,19 @@ TEST_F(profiles_run, takes_the_inches_of_the_option_buttons) {
 }
 
 TEST_F(profiles_run, returns_the_rotors_to_their_starting_position) {
-    kavetta.app_state.rotation_angle = 33.0;
+    kavetta.view_state.rotation_angle = 33.0;
     boxes().rotated_angle = "33";
     run();
-    EXPECT_EQ(kavetta.app_state.rotation_angle, 0.0);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 0.0);
     EXPECT_EQ(boxes().rotated_angle, "0");
 }
 
 TEST_F(profiles_run, stopped_by_the_validation_leaves_the_view_and_its_angle) {
     run();
-    kavetta.app_state.rotation_angle = 33.0;
+    kavetta.view_state.rotation_angle = 33.0;
     boxes().clearn = "0";
     EXPECT_EQ(run(), run_end::validation);
-    EXPECT_EQ(kavetta.app_state.rotation_angle, 33.0);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 33.0);
     EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U);
 }
 
@@ -412,12 +412,12 @@ TEST_F(profiles_run, asked_for_by_zoom_all_keeps_results_and_enablings) {
 }
 
 TEST_F(profiles_run, sets_the_scale_and_the_centre_of_the_view) {
-    kavetta.app_state.view_size = 6000;
+    kavetta.view_state.view_size = 6000;
     run();
-    EXPECT_EQ(kavetta.app_state.view_scale, 6000.0 * 0.95 / 52.0);
-    EXPECT_EQ(kavetta.app_state.view_cx, 3000.0);
-    EXPECT_EQ(kavetta.app_state.view_cy, 3000.0);
-    EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+    EXPECT_EQ(kavetta.view_state.view_scale, 6000.0 * 0.95 / 52.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, 3000.0);
+    EXPECT_EQ(kavetta.view_state.view_cy, 3000.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
 }
 
 TEST_F(profiles_run, shows_the_hourglass_from_after_the_validation_to_the_end) {

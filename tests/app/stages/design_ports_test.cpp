@@ -200,11 +200,11 @@ TEST_F(design_ports_test, runs_again_after_calculate_profiles_when_an_inlet_is_o
     design_ports(kavetta, person);
     const double old_end_deg = kavetta.port_params.inlet_t2_deg;
     kavetta.entries.inlet_end_inner = "149";
-    kavetta.app_state.view_size = 6000;
+    kavetta.view_state.view_size = 6000;
     ASSERT_EQ(calculate_profiles(kavetta, person), run_end::ok);
     EXPECT_LT(kavetta.port_params.inlet_t2_deg, old_end_deg - 0.5) << "the new entry counts";
     const drawn_line& first = kavetta.design_view.inlet_portline.elements.front();
-    const double scale = kavetta.app_state.view_scale;
+    const double scale = kavetta.view_state.view_scale;
     EXPECT_FLOAT_EQ(first.x1,
                     float(scale * kavetta.port_params.inlet_port_x[0] + 3000.0 + scale * 2.85))
         << "in the new scale";

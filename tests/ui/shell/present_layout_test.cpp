@@ -69,7 +69,7 @@ TEST_F(present_layout_test, a_saved_layout_comes_back_at_the_next_start) {
     start();
     EXPECT_EQ(form("Form1")->geometry(), QRect(20, 30, 380, 560));
     EXPECT_EQ(form("viewwinfrm")->geometry(), QRect(450, 15, 326, 379));
-    EXPECT_EQ(kavetta().app_state.view_size, 4500);
+    EXPECT_EQ(kavetta().view_state.view_size, 4500);
     EXPECT_TRUE(window().isMaximized());
 }
 
