@@ -1,6 +1,7 @@
 // How long a repaint of the rotor pair takes, and a tick of a held rotation button: 3600 elements
 // of the inner rotor, a picture of 700 by 700 pixels.
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/windows/view_commands.hpp"
 #include "base/text_file.hpp"

@@ -1,5 +1,6 @@
 // What a held rotation button waits for: one tick, with the lines and arcs to paint, at coarseness
 // 1 and 10. The timer fires every 10 ms, of which a tick may take 4 together with its painting.
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/windows/view_commands.hpp"
 #include "support/sample_design.hpp"

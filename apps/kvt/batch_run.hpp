@@ -2,8 +2,8 @@
 // Profiles, Design Ports and Calculate Performance.
 #pragma once
 
-#include "app/program.hpp"
 #include "base/run_time_error.hpp"
+#include "core/app_state.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/typed_entry.hpp"
 
@@ -14,6 +14,8 @@
 #include <vector>
 
 namespace kvt {
+
+struct program;
 
 /// Where a run takes its design from.
 struct design_source {

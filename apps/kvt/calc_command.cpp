@@ -1,5 +1,6 @@
 #include "kvt/calc_command.hpp"
 
+#include "app/program.hpp"
 #include "base/text_file.hpp"
 #include "kvt/json_report.hpp"
 #include "kvt/text_report.hpp"

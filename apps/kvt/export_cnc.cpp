@@ -1,6 +1,7 @@
 #include "kvt/export_cnc.hpp"
 
 #include "app/files/cnc_output.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "output/cnc/cnc_lines.hpp"
 

@@ -2,6 +2,7 @@
 
 #include "app/files/port_report_file.hpp"
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "kvt/export_cnc.hpp"
 #include "kvt/export_drawings.hpp"
 #include "ports/port_report.hpp"

@@ -2,6 +2,7 @@
 
 #include "app/files/dxf_output.hpp"
 #include "app/files/step_output.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "output/cnc/cnc_lines.hpp"
 

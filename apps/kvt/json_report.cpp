@@ -1,6 +1,7 @@
 #include "kvt/json_report.hpp"
 
 #include "app/files/port_report_file.hpp"
+#include "app/program.hpp"
 #include "kvt/json_fields.hpp"
 #include "kvt/json_performance.hpp"
 #include "kvt/json_view.hpp"

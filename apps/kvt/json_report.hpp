@@ -2,13 +2,14 @@
 // the records' fields.
 #pragma once
 
-#include "app/program.hpp"
 #include "kvt/batch_run.hpp"
 
 #include <string>
 #include <vector>
 
 namespace kvt {
+
+struct program;
 
 /// {"ended", "messages", "hints", "entries", "labels", "design_params", "rotor_profiles"}, UTF-8,
 /// ended by a line feed. The two records are absent when the run did not get to them. full adds the

@@ -1,5 +1,6 @@
 #include "kvt/performance_summary.hpp"
 
+#include "app/program.hpp"
 #include "base/checked_math.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/report_texts.hpp"

@@ -10,7 +10,6 @@
 #include "core/entries.hpp"
 #include "core/hints.hpp"
 #include "core/rotor_profiles.hpp"
-#include "core/user.hpp"
 #include "core/window_rectangles.hpp"
 #include "output/cnc/cnc_source.hpp"
 #include "performance/perf_inputs.hpp"

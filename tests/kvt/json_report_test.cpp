@@ -1,6 +1,7 @@
 // Tests of the JSON's shape: names, texts, numbers, and arrays cut to their used length.
 #include "kvt/json_report.hpp"
 
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "core/entries.hpp"
 #include "kvt/kvt_run.hpp"

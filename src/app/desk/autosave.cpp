@@ -4,10 +4,12 @@
 #include "app/desk/run_command.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "core/failure_text.hpp"
 #include "core/project_file.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <string>
 #include <system_error>

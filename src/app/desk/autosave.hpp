@@ -2,13 +2,14 @@
 // at the next start when the program didn't end in order.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <filesystem>
 #include <optional>
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 inline constexpr std::string_view AUTOSAVE_FILE_NAME = "autosave.KVT";
 

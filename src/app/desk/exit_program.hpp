@@ -1,9 +1,10 @@
 // Exit: the question whether to save, Save As, the settings, the end.
 #pragma once
 
-#include "app/program.hpp"
-
 namespace kvt {
+
+class user;
+struct program;
 
 /// Answers true when the program ends. Yes runs Save As; when that is cancelled or fails, the
 /// entries stay in the recovery project; else the autosaved entries and the recovery project are

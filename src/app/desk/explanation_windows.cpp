@@ -1,7 +1,9 @@
 #include "app/desk/explanation_windows.hpp"
 
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

@@ -1,8 +1,10 @@
 #include "app/desk/layout_commands.hpp"
 
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

@@ -1,13 +1,15 @@
 // The commands of the Screen Layout menu, and the reading of the layout at the start.
 #pragma once
 
-#include "app/program.hpp"
 #include "core/screen_layout.hpp"
 
 #include <string_view>
 #include <vector>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// mnuscreensave: writes screen.ini from the present windows and tells so. Explanation windows are
 /// written while explain_closed and port_explain_closed say that they are open. Throws

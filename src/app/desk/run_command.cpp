@@ -1,9 +1,11 @@
 #include "app/desk/run_command.hpp"
 
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <string>
 

@@ -2,12 +2,14 @@
 // the entries to a recovery project, tells the user, and ends the program.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <filesystem>
 #include <functional>
+#include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// The recovery project in the program's folder.
 inline constexpr std::string_view RECOVERY_FILE_NAME = "recovery.KVT";

@@ -1,5 +1,6 @@
 #include "app/desk/settings_commands.hpp"
 
+#include "app/program.hpp"
 #include "base/text_file.hpp"
 #include "core/recent_list.hpp"
 #include "core/settings_file.hpp"

@@ -1,11 +1,11 @@
 // The settings file in the program's folder, and the folder in which the file dialogs start.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string>
 
 namespace kvt {
+
+struct program;
 
 /// Writes KVT.ini whole. Throws run_time_error when it can't be written.
 void save_settings(const program& kavetta);

@@ -3,10 +3,12 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/capacity_unit.hpp"
 #include "core/settings_file.hpp"
+#include "core/user.hpp"
 
 #include <cstdlib>
 #include <system_error>

@@ -1,10 +1,12 @@
 #include "app/files/cnc_output.hpp"
 
 #include "app/files/saved_text.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/checked_math.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "output/cnc/cnc_lines.hpp"
 #include "output/cnc/inner_offset.hpp"
 

@@ -2,14 +2,17 @@
 // writers.
 #pragma once
 
-#include "app/program.hpp"
 #include "output/cnc/cnc_files.hpp"
+#include "output/cnc/cnc_source.hpp"
 
 #include <array>
 #include <string>
 #include <vector>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// The boxes of Form3. It keeps no memory between openings: each one starts from open_cnc_form.
 struct cnc_form {

@@ -1,6 +1,7 @@
 #include "app/files/dxf_output.hpp"
 
 #include "app/files/saved_text.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "core/text_table.hpp"
 #include "output/dxf/dxf_files.hpp"

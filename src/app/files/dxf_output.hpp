@@ -1,12 +1,14 @@
 // The DXF entries of the menu: which files there are, their save dialogs, their saving.
 #pragma once
 
-#include "app/program.hpp"
 #include "base/text_file.hpp"
 
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 enum class dxf_file { inner, outer, inlet, outlet, groove };
 

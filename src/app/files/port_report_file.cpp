@@ -2,6 +2,7 @@
 
 #include "app/desk/program_title.hpp"
 #include "app/desk/settings_commands.hpp"
+#include "app/program.hpp"
 #include "base/short_date.hpp"
 #include "base/text_file.hpp"
 #include "ports/port_report.hpp"

@@ -1,13 +1,13 @@
 // The file port_radius_coordinates.txt in the project folder, written after every finished outlet.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <filesystem>
 #include <string>
 #include <vector>
 
 namespace kvt {
+
+struct program;
 
 /// projects_folder; when it is empty the folder of the project's path, else the program's folder
 /// with "projects".

@@ -5,12 +5,14 @@
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/files/project_reset.hpp"
+#include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/failure_text.hpp"
 #include "core/recent_list.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <string>
 

@@ -1,12 +1,13 @@
 // The commands of the File menu that deal with projects, and Clear Design.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string>
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// New Project: name dialog (Cancel goes on with the name that stood before), Clear Design, project
 /// reset.

@@ -1,6 +1,7 @@
 #include "app/files/project_entries.hpp"
 
 #include "app/desk/unit_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"

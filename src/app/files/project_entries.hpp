@@ -1,12 +1,13 @@
 // What a project file holds, taken from the program and put back into it.
 #pragma once
 
-#include "app/program.hpp"
 #include "core/project_file.hpp"
 
 #include <string_view>
 
 namespace kvt {
+
+struct program;
 
 /// The record that Save writes: the boxes as typed and the items of state. path is line 1.
 project_record project_record_of(const program& kavetta, std::string_view path);

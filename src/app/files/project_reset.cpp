@@ -1,6 +1,8 @@
 #include "app/files/project_reset.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
+#include "core/user.hpp"
 
 #include <array>
 

@@ -1,8 +1,10 @@
 #include "app/files/saved_text.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "app/program.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

@@ -1,9 +1,9 @@
 // A file that a writer appends to a text: saved as far as the writer got.
 #pragma once
 
-#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
+#include "core/user.hpp"
 
 #include <functional>
 #include <optional>
@@ -11,6 +11,8 @@
 #include <string_view>
 
 namespace kvt {
+
+struct program;
 
 using text_writer = std::function<void(text_lines&)>;
 

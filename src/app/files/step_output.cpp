@@ -2,6 +2,7 @@
 
 #include "app/desk/program_title.hpp"
 #include "app/files/saved_text.hpp"
+#include "app/program.hpp"
 #include "base/short_date.hpp"
 #include "core/text_table.hpp"
 #include "output/step/step_files.hpp"

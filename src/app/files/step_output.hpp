@@ -1,13 +1,15 @@
 // The STEP entries of the menu and the STEP files of the simulation exchange.
 #pragma once
 
-#include "app/program.hpp"
 #include "base/text_file.hpp"
 
 #include <string>
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// The last four are the single bodies of the simulation exchange, whose names are fixed.
 enum class step_file { inner, outer, assembly, ports, gt_inner, gt_outer, gt_inlet, gt_outlet };

@@ -1,6 +1,7 @@
 #include "app/stages/calculate_performance.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"
 #include "core/text_table.hpp"

@@ -1,11 +1,13 @@
 #include "app/stages/calculate_profiles.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
 #include "app/stages/design_ports.hpp"
 #include "app/stages/rotor_labels.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"
 #include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "geometry/area_ratio.hpp"

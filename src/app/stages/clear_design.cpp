@@ -2,8 +2,10 @@
 #include "app/desk/program_title.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <array>
 #include <string_view>

@@ -2,6 +2,7 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/files/port_report_file.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"

@@ -1,9 +1,10 @@
 // Design Ports and Clear Values: the buttons design_ports and clear_ports of portdes.
 #pragma once
 
-#include "app/program.hpp"
-
 namespace kvt {
+
+class user;
+struct program;
 
 /// Which outlines a run of Design Ports finished. A step that refused its port showed a message;
 /// the later ones ran all the same.

@@ -1,8 +1,13 @@
 #include "app/stages/porting_type.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
 
 namespace kvt {
+
+bool has_metering_groove(const program& kavetta) {
+    return kavetta.entries.metering_groove == "1";
+}
 
 void apply_shadow_rule(program& kavetta) {
     entries& boxes = kavetta.entries;

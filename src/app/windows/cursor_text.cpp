@@ -1,5 +1,6 @@
 #include "app/windows/cursor_text.hpp"
 
+#include "app/program.hpp"
 #include "base/fixed_number.hpp"
 #include "base/run_time_error.hpp"
 #include "core/length_unit.hpp"

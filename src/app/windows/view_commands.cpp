@@ -1,6 +1,8 @@
 #include "app/windows/view_commands.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
+#include "core/user.hpp"
 #include "views/zoom.hpp"
 
 namespace kvt {

@@ -1,6 +1,8 @@
 #include "ui/forms/Form3.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ui/parts/entry_validator.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/help_file.hpp"

@@ -2,6 +2,8 @@
 
 #include "app/desk/exit_program.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
+#include "core/user.hpp"
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Form3.hpp"

@@ -3,6 +3,7 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/layout_commands.hpp"
 #include "app/desk/start_up.hpp"
+#include "app/program.hpp"
 
 namespace kvt {
 

@@ -1,6 +1,7 @@
 #include "ui/shell/main_menu.hpp"
 
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "ui/shell/not_built_yet.hpp"
 #include "ui/shell/qt_text.hpp"
 

@@ -2,8 +2,8 @@
 // windows.
 #pragma once
 
-#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <QPointer>
 #include <QStatusBar>
@@ -15,6 +15,8 @@ class QMdiSubWindow;
 class QMessageBox;
 
 namespace kvt {
+
+struct program;
 
 class progressfrm;
 

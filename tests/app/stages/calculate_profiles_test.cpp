@@ -1,6 +1,7 @@
 // Tests of the Calculate Profiles run: its order, exits, messages, write-backs and enablings.
 #include "app/stages/calculate_profiles.hpp"
 
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "support/expect_failure.hpp"

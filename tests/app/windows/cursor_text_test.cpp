@@ -1,6 +1,7 @@
 // cursor_text: the place of the mouse in both length units.
 #include "app/windows/cursor_text.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "support/sample_design.hpp"
 #include "support/scripted_user.hpp"

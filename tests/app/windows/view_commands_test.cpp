@@ -2,6 +2,7 @@
 #include "app/windows/view_commands.hpp"
 
 #include "app/files/project_reset.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
 #include "support/sample_design.hpp"

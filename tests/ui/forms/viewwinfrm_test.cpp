@@ -1,4 +1,5 @@
 // viewwinfrm: the resize rule, the picture, zoom, Zoom All, rotation.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QMdiArea>

@@ -1,5 +1,6 @@
 // Start and end of the desktop program.
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QDropEvent>

@@ -1,6 +1,7 @@
 // present_layout: Save Current Layout, Restore Default Layout and the layout of the start.
 #include "ui/shell/present_layout.hpp"
 
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QImage>
