@@ -50,6 +50,7 @@ struct port_fields {
     zeroed_array port_params::*x;
     zeroed_array port_params::*y;
     std::int16_t port_params::*last;
+    port_shape port_params::*built;
     std::array<std::int16_t port_params::*, 4> marks;  ///< a .. d
     message out_of_range;
     message radius_too_large;
