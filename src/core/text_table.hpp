@@ -14,10 +14,10 @@ enum class text_kind {
     caption,         ///< set by both caption routines when the language changes
     design_caption,  ///< of Form3 and Form4: English at design time, German set by the German
                      ///< routine or by the form's own load, and never back
-    caption_mm,     ///< set by the millimetre label routine
-    caption_inch,   ///< set by the inch label routine
-    fixed_caption,  ///< a caption that no routine changes
-    tooltip         ///< explains a field with its unit
+    caption_mm,      ///< set by the millimetre label routine
+    caption_inch,    ///< set by the inch label routine
+    fixed_caption,   ///< a caption that no routine changes
+    tooltip          ///< explains a field with its unit
 };
 
 /// Whether a row must have a German text of its own.

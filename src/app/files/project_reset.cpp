@@ -9,7 +9,7 @@ namespace kvt {
 namespace {
 
 // Kept: New leaves RIPPLE_graphview2 loaded and Open leaves PRESS_RIP_graphview2;
-// project_reset_test holds it.
+// project_commands_test holds it.
 constexpr std::array NEW_UNLOADS = {"perf_res",         "FLOW_graphview2",      "LOAD_graphview2",
                                     "HERTZ_graphview2", "PRESS_RIP_graphview2", "VE_graphview2",
                                     "EFFIC_graphview2", "OVREFF_graphview2"};
