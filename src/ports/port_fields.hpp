@@ -1,5 +1,6 @@
 // port_fields: what differs between the inlet and the outlet as a table: their entries, their
 // fields, their messages.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "core/entries.hpp"

@@ -1,5 +1,6 @@
 // port_params: the entries of the ports as Design Ports read them, and the outlines it computed.
 // Lengths mm, angles degrees.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "base/zeroed_array.hpp"

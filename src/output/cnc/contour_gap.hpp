@@ -1,4 +1,5 @@
 // How far the codes of a contour lie from the outline that they stand for.
+// Source: docs/file-formats.md, "CNC files (`.cnc`)".
 #pragma once
 
 #include "geometry/point2.hpp"
