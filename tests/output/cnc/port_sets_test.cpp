@@ -1,5 +1,6 @@
 // Random sets of ports, built once or twice over the same records: the G-codes of every outline are
 // replayed against its X/Y file, or refused with their distance.
+#include "base/run_time_error.hpp"
 #include "output/cnc/contour_gap.hpp"
 #include "output/cnc/port_cnc.hpp"
 #include "ports/build_ports.hpp"
