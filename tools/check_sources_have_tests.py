@@ -11,6 +11,7 @@ import sys
 FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
 
 COVERED_BY = {
+    "src/output/cnc/contour_gap.cpp": "tests/output/cnc/port_cnc_test.cpp",
     "apps/kvt/batch_run.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/batch_user.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/export_folder.cpp": "tests/kvt/export_cnc_test.cpp",

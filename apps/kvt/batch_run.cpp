@@ -51,8 +51,10 @@ void type_entries(program& kavetta, user& person, const design_source& source) {
     }
 }
 
+/// No step was refused on the way, also none that was made good later.
 bool is_whole(const ports_designed& done, const program& kavetta) {
-    return done.inlet && done.outlet && (done.groove || !has_metering_groove(kavetta));
+    return done.inlet && !done.inlet_rebuilt && done.outlet &&
+           (done.groove || !has_metering_groove(kavetta));
 }
 
 /// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it

@@ -69,6 +69,12 @@ class cnc_export {
             folder_.refuse();
             return;
         }
+        note_refused_groove(kavetta_, file);
+        if (const std::string note = refused_gcode_note(kavetta_, file); !note.empty()) {
+            folder_.note(file_name(file), note);
+            folder_.refuse();
+            return;
+        }
         folder_.write(file_name(file),
                       [&](text_lines& lines) { file.write(cnc_source_of(kavetta_), lines); });
         if (index == INNER_OFFSET) {

@@ -1,5 +1,6 @@
 // Angles in degrees with the product's pi: cosines and sines, points on circles, arctangents of
 // slopes.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "geometry/point2.hpp"

@@ -1,4 +1,5 @@
 // The report of the corner centres for the workshop, port_radius_coordinates.txt, as lines.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "core/design_params.hpp"

@@ -4,12 +4,16 @@
 #include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/checked_math.hpp"
+#include "base/fixed_number.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "output/cnc/cnc_lines.hpp"
+#include "output/cnc/contour_gap.hpp"
 #include "output/cnc/inner_offset.hpp"
+#include "output/cnc/port_cnc.hpp"
 
+#include <cmath>
 #include <string_view>
 
 namespace kvt {
@@ -168,6 +172,11 @@ void remember_path(app_state& state, const cnc_file& file, const std::string& pa
 
 void ask_and_save(program& kavetta, user& person, std::size_t index) {
     const cnc_file& file = cnc_files()[index];
+    note_refused_groove(kavetta, file);
+    if (const std::string note = refused_gcode_note(kavetta, file); !note.empty()) {
+        add_hint(kavetta.hints, note, hint_weight::scraps_part);
+        return;
+    }
     bool written = false;
     ask_and_save_text(kavetta, person, cnc_dialog(kavetta, file),
                       [&](text_lines& text, const std::string& path) {
@@ -220,6 +229,25 @@ std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice
 
 bool check_cnc_form(program& kavetta, user& person, cnc_form& form) {
     return form_checks(kavetta, person, form).run();
+}
+
+void note_refused_groove(program& kavetta, const cnc_file& file) {
+    if (file.port == port_side::outlet && has_metering_groove(kavetta) &&
+        !kavetta.port_params.has_groove) {
+        add_hint(kavetta.hints, std::string(text_of(kavetta, message::hint_refused_groove)));
+    }
+}
+
+std::string refused_gcode_note(const program& kavetta, const cnc_file& file) {
+    if (!file.port || !file.name.ends_with("_gcode")) {
+        return "";
+    }
+    const double gap = port_gcode_gap(cnc_source_of(kavetta), *file.port);
+    if (gap <= CONTOUR_TOLERANCE_MM) {
+        return "";
+    }
+    const std::string shown = std::isfinite(gap) ? fixed_number(gap, 3) : "-";
+    return std::string(text_of(kavetta, message::hint_gcode_leaves_outline)) + shown;
 }
 
 cnc_source cnc_source_of(const program& kavetta) {

@@ -53,6 +53,14 @@ bool check_cnc_form(program& kavetta, user& person, cnc_form& form);
 /// The source of the writers: the program's records and choices.
 cnc_source cnc_source_of(const program& kavetta);
 
+/// Adds the hint that a file of the outlet is written without the metering groove that is ticked,
+/// because the last run of Design Ports did not finish one.
+void note_refused_groove(program& kavetta, const cnc_file& file);
+
+/// Why the G-codes of a port are not written: they would leave its outline, by how much. Empty when
+/// they follow it, and for every other file.
+std::string refused_gcode_note(const program& kavetta, const cnc_file& file);
+
 /// The notice about cutter centres on the wrong side; empty when there are none.
 std::string wrong_side_notice(const program& kavetta);
 

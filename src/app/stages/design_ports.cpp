@@ -105,6 +105,7 @@ bool has_finished(port_end end, user& person) {
 bool design_groove(program& kavetta, port_work& work, user& person) {
     clear_metering_groove(kavetta.design_view);
     if (!has_metering_groove(kavetta)) {
+        kavetta.port_params.has_groove = false;
         return false;
     }
     kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.unit);
@@ -120,6 +121,8 @@ ports_designed build_and_draw(program& kavetta, user& person) {
     ports_designed done;
     done.inlet = has_finished(build_inlet_port(work), person);
     done.outlet = has_finished(build_outlet_port(work), person);
+    done.inlet_rebuilt = !done.inlet && work.inlet_rebuilt;
+    done.inlet = done.inlet || done.inlet_rebuilt;
     draw_ports(kavetta, done);
     if (done.outlet) {
         write_port_report(kavetta);

@@ -12,6 +12,8 @@ struct ports_designed {
     bool inlet = false;
     bool outlet = false;
     bool groove = false;  ///< stays false without a metering groove
+    bool inlet_rebuilt =
+        false;  ///< the inlet was refused, and finished when the outlet built it again
 
     friend bool operator==(const ports_designed&, const ports_designed&) = default;
 };

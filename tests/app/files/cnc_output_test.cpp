@@ -302,4 +302,31 @@ TEST(cnc_files, have_a_name_a_tick_box_and_texts_of_their_own) {
     EXPECT_EQ(find_cnc_file("inner"), nullptr);
 }
 
+TEST_F(cnc_output, hints_at_a_refused_groove_in_the_files_of_the_outlet_only) {
+    kavetta.port_params.has_groove = false;
+    note_refused_groove(kavetta, *find_cnc_file("inlet_xy"));
+    EXPECT_TRUE(kavetta.hints.empty());
+    note_refused_groove(kavetta, *find_cnc_file("outlet_xy"));
+    ASSERT_EQ(kavetta.hints.size(), 1U);
+    EXPECT_EQ(kavetta.hints[0].text,
+              "The metering groove was refused: the port files are written without it.");
+    kavetta.hints.clear();
+    kavetta.entries.metering_groove = "0";
+    note_refused_groove(kavetta, *find_cnc_file("outlet_xy"));
+    EXPECT_TRUE(kavetta.hints.empty());
+}
+
+TEST_F(cnc_output, writes_no_codes_that_would_leave_their_outline) {
+    EXPECT_EQ(refused_gcode_note(kavetta, *find_cnc_file("inlet_gcode")), "");
+    kavetta.port_params.inlet_built.f = 0.0;
+    EXPECT_EQ(refused_gcode_note(kavetta, *find_cnc_file("inlet_xy")), "");
+    EXPECT_EQ(refused_gcode_note(kavetta, *find_cnc_file("outlet_gcode")), "");
+    tick("inlet_gcode");
+    EXPECT_TRUE(write());
+    EXPECT_TRUE(person.dialogs.empty());
+    ASSERT_EQ(kavetta.hints.size(), 1U);
+    EXPECT_EQ(kavetta.hints[0].weight, hint_weight::scraps_part);
+    EXPECT_TRUE(kavetta.hints[0].text.starts_with("The G-codes cannot follow the outline"));
+}
+
 }  // namespace kvt
