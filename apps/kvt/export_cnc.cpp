@@ -69,7 +69,7 @@ class cnc_export {
             return;
         }
         folder_.write(file_name(file),
-                      [&](text_lines& lines) { file.write(cnc_source_of(kavetta_), lines); });
+                      [&](text_lines& lines) { file.write(source_of(kavetta_), lines); });
         if (index == INNER_OFFSET) {
             if (const std::string notice = wrong_side_notice(kavetta_); !notice.empty()) {
                 folder_.note(file_name(file), notice);

@@ -23,7 +23,7 @@ inline program design_with_ports(const std::string& name) {
 /// The bytes of a CNC file, by its name. A run-time failure passes through.
 inline std::string cnc_bytes(const program& kavetta, std::string_view name) {
     text_lines text;
-    find_cnc_file(name)->write(cnc_source_of(kavetta), text);
+    find_cnc_file(name)->write(source_of(kavetta), text);
     return text.bytes();
 }
 

@@ -171,7 +171,7 @@ void ask_and_save(program& kavetta, user& person, std::size_t index) {
                       [&](text_lines& text, const std::string& path) {
                           written = true;
                           remember_path(kavetta.app_state, file, path);
-                          file.write(cnc_source_of(kavetta), text);
+                          file.write(source_of(kavetta), text);
                       });
     if (written && index == INNER_OFFSET) {
         if (const std::string notice = wrong_side_notice(kavetta); !notice.empty()) {
@@ -220,7 +220,7 @@ bool check_cnc_form(program& kavetta, user& person, cnc_form& form) {
     return form_checks(kavetta, person, form).run();
 }
 
-cnc_source cnc_source_of(const program& kavetta) {
+file_source source_of(const program& kavetta) {
     return {kavetta.design_params,      kavetta.rotor_profiles,
             kavetta.port_params,        kavetta.entries,
             kavetta.cnc_choices,        kavetta.app_state.project_name,

@@ -48,7 +48,7 @@ std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice
 bool check_cnc_form(program& kavetta, user& person, cnc_form& form);
 
 /// The source of the writers: the program's records and choices.
-cnc_source cnc_source_of(const program& kavetta);
+file_source source_of(const program& kavetta);
 
 /// The notice about cutter centres on the wrong side; empty when there are none.
 std::string wrong_side_notice(const program& kavetta);

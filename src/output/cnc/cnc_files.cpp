@@ -10,8 +10,8 @@ namespace kvt {
 
 namespace {
 
-template <void write(const cnc_source&, port_side, text_lines&), port_side side>
-void write_port(const cnc_source& source, text_lines& text) {
+template <void write(const file_source&, port_side, text_lines&), port_side side>
+void write_port(const file_source& source, text_lines& text) {
     write(source, side, text);
 }
 

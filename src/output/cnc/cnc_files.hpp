@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/text_file.hpp"
-#include "output/cnc/cnc_source.hpp"
+#include "output/file_source.hpp"
 #include "output/port_contours.hpp"
 
 #include <optional>
@@ -14,7 +14,7 @@ namespace kvt {
 struct cnc_file {
     std::string_view name;      ///< "inner_xy"; row of its texts, and its file name without ".cnc"
     std::string_view checkbox;  ///< on Form3
-    void (*write)(const cnc_source& source, text_lines& text);
+    void (*write)(const file_source& source, text_lines& text);
     bool needs_tool = false;
     std::optional<port_side> port;  ///< the port it needs
 };

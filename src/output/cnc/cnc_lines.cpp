@@ -20,7 +20,7 @@ double cutter_radius_mm(double diameter, bool inches) {
     return (inches ? diameter * MM_PER_INCH : diameter) / 2.0;
 }
 
-cnc_lines::cnc_lines(text_lines& text, const cnc_source& source)
+cnc_lines::cnc_lines(text_lines& text, const file_source& source)
     : text_(text),
       decimals_(source.choices.cnc_res_digits),
       inches_(source.inches),

@@ -3,7 +3,7 @@
 
 #include "base/text_file.hpp"
 #include "geometry/point2.hpp"
-#include "output/cnc/cnc_source.hpp"
+#include "output/file_source.hpp"
 
 #include <string>
 #include <string_view>
@@ -19,7 +19,7 @@ std::string_view cnc_text(std::string_view line, std::int16_t language);
 /// what it wrote.
 class cnc_lines {
   public:
-    cnc_lines(text_lines& text, const cnc_source& source);
+    cnc_lines(text_lines& text, const file_source& source);
 
     void comment(std::string_view line) { text_.line(line); }
     /// A comment of the text table, with what follows it.

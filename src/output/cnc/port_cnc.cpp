@@ -28,7 +28,7 @@ std::vector<point2> contour_of(const port_params& ports, port_side side, section
     return port_contour(ports, side);
 }
 
-pocket_shape pocket_of(const cnc_source& source, port_side side, section_kind kind) {
+pocket_shape pocket_of(const file_source& source, port_side side, section_kind kind) {
     const port_params& ports = source.ports;
     const bool inlet = side == port_side::inlet;
     pocket_shape pocket;
@@ -48,7 +48,7 @@ pocket_shape pocket_of(const cnc_source& source, port_side side, section_kind ki
     return pocket;
 }
 
-std::vector<port_section> pocket_sections(const cnc_source& source, port_side side) {
+std::vector<port_section> pocket_sections(const file_source& source, port_side side) {
     entries boxes = source.boxes;
     if (source.choices.leaves_out_groove_pocket) {
         boxes.metering_groove = "0";
@@ -70,7 +70,7 @@ void add_move(cnc_lines& lines, const tool_move& move) {
     lines.feed_g01(move.end);
 }
 
-void add_gcode_section(const cnc_source& source, port_side side, section_kind kind,
+void add_gcode_section(const file_source& source, port_side side, section_kind kind,
                        cnc_lines& lines) {
     lines.xy(point2{});
     const tool_contour contour = kind == section_kind::groove
@@ -86,7 +86,7 @@ void add_gcode_section(const cnc_source& source, port_side side, section_kind ki
 
 }  // namespace
 
-void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_xy(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = port_sections(source.boxes, side);
     add_port_preamble(
@@ -100,7 +100,7 @@ void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
     }
 }
 
-void write_port_pocket(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_pocket(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = pocket_sections(source, side);
     add_port_preamble(lines, source,
@@ -113,7 +113,7 @@ void write_port_pocket(const cnc_source& source, port_side side, text_lines& tex
     }
 }
 
-void write_port_gcode(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_gcode(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = port_sections(source.boxes, side);
     add_port_preamble(lines, source,

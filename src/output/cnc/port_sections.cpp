@@ -30,7 +30,7 @@ std::string head_row(port_side side, section_kind kind, section_file file) {
     return port + "_lower";
 }
 
-void add_groove_notes(cnc_lines& lines, const cnc_source& source, section_file file) {
+void add_groove_notes(cnc_lines& lines, const file_source& source, section_file file) {
     if (file == section_file::pocket) {
         lines.comment("groove_cutter_radius",
                       number_text(source.choices.groove_tool_diameter / 2.0) + "//");
@@ -62,7 +62,7 @@ std::vector<port_section> port_sections(const entries& boxes, port_side side) {
     return sections;
 }
 
-void add_section_head(cnc_lines& lines, const cnc_source& source, port_side side,
+void add_section_head(cnc_lines& lines, const file_source& source, port_side side,
                       const port_section& section, section_file file) {
     const std::string_view text = cnc_text(head_row(side, section.kind, file), source.language);
     lines.comment("section", number_text(section.number) + std::string(text));

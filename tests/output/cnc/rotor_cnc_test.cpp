@@ -19,12 +19,12 @@ struct rotor_files {
     cnc_choices choices{.cnc_res_digits = 3, .tool_diameter = 2.0};
     bool inches = false;
 
-    std::string bytes(void (*write)(const cnc_source&, text_lines&)) const {
+    std::string bytes(void (*write)(const file_source&, text_lines&)) const {
         text_lines text;
         write({design, rotors, ports, boxes, choices, "pump", ENGLISH, inches}, text);
         return text.bytes();
     }
-    std::vector<cnc_move> moves(void (*write)(const cnc_source&, text_lines&)) const {
+    std::vector<cnc_move> moves(void (*write)(const file_source&, text_lines&)) const {
         return cnc_reader(bytes(write), choices.cnc_res_digits).sections().at(0).moves;
     }
 };
@@ -122,8 +122,8 @@ TEST(rotor_cnc, leaves_what_it_wrote_until_a_failure) {
     rotor_files files;
     files.rotors.inner_x[2] = 0.0;
     text_lines text;
-    const cnc_source source{files.design,  files.rotors, files.ports, files.boxes,
-                            files.choices, "pump",       ENGLISH,     false};
+    const file_source source{files.design,  files.rotors, files.ports, files.boxes,
+                             files.choices, "pump",       ENGLISH,     false};
     EXPECT_FAILURE(write_inner_lathe(source, text), failure::division_by_zero);
     const std::vector<cnc_section> sections = cnc_reader(text.bytes(), 3).sections();
     ASSERT_EQ(sections.size(), 1U);
