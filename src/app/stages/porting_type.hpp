@@ -10,7 +10,7 @@ namespace kvt {
 
 /// The box metering_groove is ticked.
 inline bool has_metering_groove(const program& kavetta) {
-    return kavetta.entries.metering_groove == "1";
+    return is_ticked(kavetta.entries.metering_groove);
 }
 
 /// Both double-sided boxes together untick and disable shadow_ports; any other combination enables

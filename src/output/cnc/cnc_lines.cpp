@@ -5,15 +5,12 @@
 #include "base/fixed_number.hpp"
 #include "core/text_table.hpp"
 
-#include <cassert>
 #include <cmath>
 
 namespace kvt {
 
 std::string_view cnc_text(std::string_view line, std::int16_t language) {
-    const text_row* row = find_text(text_kind::fixed_caption, "cnc", line);
-    assert(row != nullptr);
-    return row_text(*row, language);
+    return form_text("cnc", line, language);
 }
 
 double cutter_radius_mm(double diameter, bool inches) {

@@ -50,13 +50,13 @@ std::vector<port_section> port_sections(const entries& boxes, port_side side) {
     const auto add = [&](section_kind kind) {
         sections.push_back({kind, inlet ? 2 : static_cast<int>(sections.size()) + 1});
     };
-    if (!inlet && boxes.metering_groove == "1") {
+    if (!inlet && is_ticked(boxes.metering_groove)) {
         add(section_kind::groove);
     }
-    if ((inlet ? boxes.inlet_double_sided : boxes.outlet_double_sided) == "1") {
+    if (is_ticked(inlet ? boxes.inlet_double_sided : boxes.outlet_double_sided)) {
         add(section_kind::upper);
     }
-    if (boxes.shadow_ports == "1") {
+    if (is_ticked(boxes.shadow_ports)) {
         add(section_kind::shadow);
     }
     return sections;
