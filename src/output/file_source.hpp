@@ -5,6 +5,7 @@
 #include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "output/cnc/cnc_choices.hpp"
 #include "ports/port_params.hpp"
@@ -24,7 +25,7 @@ struct file_source {
     const cnc_choices& choices;
     std::string_view project_name;
     std::int16_t language = ENGLISH;
-    bool inches = false;
+    const length_unit& unit = length_unit_of(MILLIMETRES);  ///< of entries and of most files
     std::string path = {};     ///< of the file, as the save dialog gave it
     std::string date = {};     ///< in the form in which it shall stand there
     std::string version = {};  ///< "2021.1.1"

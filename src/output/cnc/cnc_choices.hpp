@@ -16,7 +16,4 @@ struct cnc_choices {
         false;  ///< the pocket file has no section of the groove: there is no tool for it
 };
 
-/// A diameter as typed becomes a radius in mm.
-double cutter_radius_mm(double diameter, bool inches);
-
 }  // namespace kvt

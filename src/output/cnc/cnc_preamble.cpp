@@ -15,7 +15,7 @@ void add_cutter_radius(cnc_lines& lines, const file_source& source) {
 }
 
 void add_units(cnc_lines& lines, const file_source& source) {
-    lines.comment(source.inches ? "in_inches" : "in_mm", "");
+    lines.comment(source.unit.cnc_comment, "");
 }
 
 }  // namespace

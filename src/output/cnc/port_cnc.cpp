@@ -38,13 +38,13 @@ pocket_shape pocket_of(const file_source& source, port_side side, section_kind k
         pocket.inner_r = ports.groove_inner_r;
         pocket.outer_r = ports.groove_outer_r;
         pocket.fillet_r = ports.groove_corner_r;
-        pocket.tool_radius = cutter_radius_mm(source.choices.groove_tool_diameter, source.inches);
+        pocket.tool_radius = source.unit.half_to_mm(source.choices.groove_tool_diameter);
         return pocket;
     }
     pocket.inner_r = inlet ? ports.inlet_inner_r : ports.outlet_inner_r;
     pocket.outer_r = inlet ? ports.inlet_outer_r : ports.outlet_outer_r;
     pocket.fillet_r = ports.port_radius;
-    pocket.tool_radius = cutter_radius_mm(source.choices.tool_diameter, source.inches);
+    pocket.tool_radius = source.unit.half_to_mm(source.choices.tool_diameter);
     return pocket;
 }
 

@@ -1,6 +1,5 @@
 #include "output/cnc/port_sections.hpp"
 
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 
 #include <string>
@@ -36,9 +35,8 @@ void add_groove_notes(cnc_lines& lines, const file_source& source, section_file 
                       number_text(source.choices.groove_tool_diameter / 2.0) + "//");
     }
     if (file != section_file::gcode) {
-        const double depth = source.ports.groove_depth_mm;
         lines.comment("groove_depth",
-                      number_text(source.inches ? depth / MM_PER_INCH : depth) + "//");
+                      number_text(source.unit.from_mm(source.ports.groove_depth_mm)) + "//");
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
+#include "base/number_text.hpp"
 #include "output/cnc/cnc_preamble.hpp"
 #include "output/cnc/inner_offset.hpp"
 #include "output/outer_path.hpp"
@@ -31,7 +32,7 @@ void turn_clockwise(const file_source& source, std::vector<point2>& points) {
 }
 
 double tool_radius(const file_source& source) {
-    return cutter_radius_mm(source.choices.tool_diameter, source.inches);
+    return source.unit.half_to_mm(source.choices.tool_diameter);
 }
 
 void add_cutter_path(const file_source& source, cnc_lines& lines, std::vector<point2> centres) {
@@ -41,7 +42,7 @@ void add_cutter_path(const file_source& source, cnc_lines& lines, std::vector<po
 }
 
 design_params outer_design(const file_source& source) {
-    return outer_rotor_entries(source.boxes, source.inches);
+    return outer_rotor_entries(source.boxes, source.unit.mm);
 }
 
 /// Arc by arc, so that a failure leaves the arcs before it.
@@ -82,6 +83,13 @@ void write_inner_offset(const file_source& source, text_lines& text) {
     add_rotor_preamble(lines, source, {.content = "inner_offset", .has_cutter = true});
     add_cutter_path(source, lines,
                     inner_offset_points(source.design, source.rotors, tool_radius(source)));
+}
+
+std::string inner_offset_notice(const file_source& source) {
+    const int count = wrong_side_count(source.design, source.rotors, tool_radius(source));
+    return count == 0 ? ""
+                      : std::string(cnc_text("wrong_side", source.language)) + number_text(count) +
+                            std::string(cnc_text("wrong_side_advice", source.language));
 }
 
 void write_inner_offset_checked(const file_source& source, text_lines& text) {

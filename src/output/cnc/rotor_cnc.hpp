@@ -4,6 +4,8 @@
 #include "base/text_file.hpp"
 #include "output/file_source.hpp"
 
+#include <string>
+
 namespace kvt {
 
 // Each writer appends its preamble and its body to the text, 3601 body lines for the inner rotor. A
@@ -13,6 +15,9 @@ namespace kvt {
 void write_inner_xy(const file_source& source, text_lines& text);
 /// The cutter's centre round the inner rotor (inner_offset_points), likewise.
 void write_inner_offset(const file_source& source, text_lines& text);
+/// How many cutter centres of that file lie on the wrong side, and which file to use; empty without
+/// any. Throws as the writer does.
+std::string inner_offset_notice(const file_source& source);
 /// The same file with every point on the right side (checked_inner_offset_points).
 void write_inner_offset_checked(const file_source& source, text_lines& text);
 /// The inner profile as lathe lines, counterclockwise always.

@@ -19,10 +19,10 @@ struct cnc_records {
     entries boxes;
     cnc_choices choices{.cnc_res_digits = 3};
     std::int16_t language = ENGLISH;
-    bool inches = false;
+    std::int16_t unit = MILLIMETRES;
 
     file_source source() const {
-        return {design, rotors, ports, boxes, choices, "pump", language, inches};
+        return {design, rotors, ports, boxes, choices, "pump", language, length_unit_of(unit)};
     }
 };
 
@@ -74,7 +74,7 @@ TEST(cnc_lines, have_words_without_blanks) {
 
 TEST(cnc_lines, divide_lengths_but_no_angles_in_inches) {
     cnc_records records;
-    records.inches = true;
+    records.unit = INCHES;
     EXPECT_EQ(written(records,
                       [](cnc_lines& lines, const file_source&) {
                           lines.arc_cw_g02({25.4, -12.7}, 2.54);
@@ -120,7 +120,7 @@ TEST(cnc_preamble, tells_what_a_rotor_file_holds) {
         "//inner rotor (centre of drive shaft).//\r\n"
         "//The coordinates in this file are in MM.//\r\n"
         "//Cutter side checked for every point.//\r\n");
-    records.inches = true;
+    records.unit = INCHES;
     EXPECT_EQ(rotor_head(records, {.content = "outer_lathe", .outer = true, .lathe = true}),
               "//This file contains the X&C G-Code coordinates for the outer//\r\n"
               "//rotor of project: pump.//\r\n"
@@ -207,7 +207,7 @@ TEST(port_sections, have_heads_by_kind_and_file) {
     EXPECT_EQ(
         section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::gcode),
         "//Section 2: Metering groove profile//\r\n");
-    records.inches = true;
+    records.unit = INCHES;
     EXPECT_EQ(
         section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::pocket),
         "//Section 2: Metering groove//\r\n"

@@ -30,9 +30,8 @@ struct port_files {
     std::vector<cnc_section> sections(void (*write)(const file_source&, port_side, text_lines&),
                                       port_side side) const {
         text_lines text;
-        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump", ENGLISH,
-               false},
-              side, text);
+        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump"}, side,
+              text);
         return cnc_reader(text.bytes(), choices.cnc_res_digits).sections();
     }
 };
