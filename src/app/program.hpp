@@ -11,7 +11,7 @@
 #include "core/hints.hpp"
 #include "core/rotor_profiles.hpp"
 #include "core/window_rectangles.hpp"
-#include "output/cnc/cnc_source.hpp"
+#include "output/cnc/cnc_choices.hpp"
 #include "performance/perf_inputs.hpp"
 #include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"

@@ -42,6 +42,11 @@ struct entries {
     friend bool operator==(const entries&, const entries&) = default;
 };
 
+/// A check box or an option button is on.
+inline bool is_ticked(const std::string& check) {
+    return check == "1";
+}
+
 enum class entry_kind { text, check };
 
 /// One row of the table of entries.

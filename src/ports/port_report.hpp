@@ -11,8 +11,6 @@
 
 namespace kvt {
 
-inline constexpr std::string_view PORT_REPORT_NAME = "port_radius_coordinates.txt";
-
 /// What the report takes from outside the records.
 struct port_report_head {
     std::string version;  ///< "2021.1.1"

@@ -17,9 +17,6 @@ std::filesystem::path port_report_folder(const program& kavetta);
 /// today's date.
 std::vector<std::string> port_report(const program& kavetta);
 
-/// The lines as the bytes of the file.
-std::string port_report_bytes(const program& kavetta);
-
 /// Replaces the file. Without a program's folder (the batch program) nothing is written.
 /// Throws path_not_found or path_file_access.
 void write_port_report(const program& kavetta);

@@ -43,11 +43,12 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
     return dialog;
 }
 
-void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,
-                       const std::function<void(text_lines&, const std::string& path)>& write) {
+std::optional<std::string> ask_and_save_text(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<void(text_lines&, const std::string& path)>& write) {
     const std::optional<std::string> path = person.choose_file(dialog);
     if (!path || path->empty()) {
-        return;
+        return std::nullopt;
     }
     const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
     if (failed) {
@@ -55,6 +56,7 @@ void ask_and_save_text(const program& kavetta, user& person, const file_dialog& 
         person.show_status(std::string(message_text(message::save_failed, language)) +
                            std::string(failure_text(failed->kind(), language)));
     }
+    return path;
 }
 
 }  // namespace kvt

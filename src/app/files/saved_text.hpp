@@ -25,9 +25,11 @@ std::optional<run_time_error> save_text(const std::string& path, const text_writ
 file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter,
                              std::string_view extension);
 
-/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing; a
-/// failure ends the command with a line in the status bar and no message.
-void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,
-                       const std::function<void(text_lines&, const std::string& path)>& write);
+/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing and
+/// answers nothing, else the path; a failure ends the command with a line in the status bar and no
+/// message.
+std::optional<std::string> ask_and_save_text(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<void(text_lines&, const std::string& path)>& write);
 
 }  // namespace kvt

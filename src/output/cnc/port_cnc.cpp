@@ -30,7 +30,7 @@ std::vector<point2> contour_of(const port_params& ports, port_side side, section
     return port_contour(ports, side);
 }
 
-pocket_shape pocket_of(const cnc_source& source, port_side side, section_kind kind) {
+pocket_shape pocket_of(const file_source& source, port_side side, section_kind kind) {
     const port_params& ports = source.ports;
     pocket_shape pocket;
     pocket.outline = contour_of(ports, side, kind);
@@ -40,20 +40,20 @@ pocket_shape pocket_of(const cnc_source& source, port_side side, section_kind ki
         pocket.inner_r = groove.inner_r;
         pocket.outer_r = groove.outer_r;
         pocket.fillet_r = groove.f;
-        pocket.tool_radius = cutter_radius_mm(source.choices.groove_tool_diameter, source.inches);
+        pocket.tool_radius = source.unit.half_to_mm(source.choices.groove_tool_diameter);
         return pocket;
     }
     const port_shape& port = side == port_side::inlet ? ports.inlet_built : ports.outlet_built;
     pocket.inner_r = port.R;
     pocket.outer_r = port.Q;
     pocket.fillet_r = port.f;
-    pocket.tool_radius = cutter_radius_mm(source.choices.tool_diameter, source.inches);
+    pocket.tool_radius = source.unit.half_to_mm(source.choices.tool_diameter);
     return pocket;
 }
 
 /// The sections of a file: without a groove that the last run of Design Ports did not finish, or
 /// that this file leaves out.
-std::vector<port_section> sections_of(const cnc_source& source, port_side side, bool with_groove) {
+std::vector<port_section> sections_of(const file_source& source, port_side side, bool with_groove) {
     entries boxes = source.boxes;
     if (!with_groove || !source.ports.has_groove) {
         boxes.metering_groove = "0";
@@ -80,7 +80,7 @@ tool_contour moves_of(const port_params& ports, port_side side, section_kind kin
                                         : port_moves(ports, side, kind == section_kind::shadow);
 }
 
-void add_gcode_section(const cnc_source& source, port_side side, section_kind kind,
+void add_gcode_section(const file_source& source, port_side side, section_kind kind,
                        cnc_lines& lines) {
     lines.xy(point2{});
     const tool_contour contour = moves_of(source.ports, side, kind);
@@ -94,7 +94,7 @@ void add_gcode_section(const cnc_source& source, port_side side, section_kind ki
 
 }  // namespace
 
-void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_xy(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = sections_of(source, side, true);
     add_port_preamble(
@@ -108,7 +108,7 @@ void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
     }
 }
 
-void write_port_pocket(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_pocket(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections =
         sections_of(source, side, !source.choices.leaves_out_groove_pocket);
@@ -122,7 +122,7 @@ void write_port_pocket(const cnc_source& source, port_side side, text_lines& tex
     }
 }
 
-double port_gcode_gap(const cnc_source& source, port_side side) {
+double port_gcode_gap(const file_source& source, port_side side) {
     double largest = 0.0;
     for (const port_section& section : sections_of(source, side, true)) {
         const std::vector<point2> outline = contour_of(source.ports, side, section.kind);
@@ -134,7 +134,7 @@ double port_gcode_gap(const cnc_source& source, port_side side) {
     return largest;
 }
 
-void write_port_gcode(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_gcode(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
     const std::vector<port_section> sections = sections_of(source, side, true);
     add_port_preamble(lines, source,

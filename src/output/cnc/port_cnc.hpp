@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/text_file.hpp"
-#include "output/cnc/cnc_source.hpp"
+#include "output/file_source.hpp"
 #include "output/port_contours.hpp"
 
 namespace kvt {
@@ -13,11 +13,11 @@ namespace kvt {
 
 /// The outlines as X/Y lines, each with its point 0 once more behind it. Kept: an outline repeats
 /// point 0 itself, so it stands there twice.
-void write_port_xy(const cnc_source& source, port_side side, text_lines& text);
+void write_port_xy(const file_source& source, port_side side, text_lines& text);
 
 /// The path of a cutter that clears the pockets (pocket_path). The groove has its own cutter.
 /// Throws division_by_zero for a cutter without a diameter.
-void write_port_pocket(const cnc_source& source, port_side side, text_lines& text);
+void write_port_pocket(const file_source& source, port_side side, text_lines& text);
 
 /// How far the codes of a port's file lie from its X/Y file, mm (contour_gap). Above
 /// CONTOUR_TOLERANCE_MM the codes cannot follow the outline: a fillet that its side does not touch,
@@ -25,6 +25,6 @@ void write_port_pocket(const cnc_source& source, port_side side, text_lines& tex
 double port_gcode_gap(const cnc_source& source, port_side side);
 
 /// The outlines as arcs and lines, with the places where the tool goes down and up.
-void write_port_gcode(const cnc_source& source, port_side side, text_lines& text);
+void write_port_gcode(const file_source& source, port_side side, text_lines& text);
 
 }  // namespace kvt

@@ -29,12 +29,11 @@ struct port_files {
         build_metering_groove(work);
     }
 
-    std::vector<cnc_section> sections(void (*write)(const cnc_source&, port_side, text_lines&),
+    std::vector<cnc_section> sections(void (*write)(const file_source&, port_side, text_lines&),
                                       port_side side) const {
         text_lines text;
-        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump", ENGLISH,
-               false},
-              side, text);
+        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump"}, side,
+              text);
         return cnc_reader(text.bytes(), choices.cnc_res_digits).sections();
     }
 };
