@@ -7,7 +7,8 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <span>
+#include <iterator>
+#include <optional>
 #include <vector>
 
 namespace kvt {
@@ -57,7 +58,7 @@ void read_date(const std::string& line, std::string& date) {
     }
 }
 
-constexpr std::string_view RECENT_PATH = "recent=";
+constexpr std::string_view RECENT_PATH = "recent_";
 
 /// What KVT.ini can hold of a path, UTF-8.
 std::string held_by_code_page(const std::string& path) {
@@ -107,6 +108,33 @@ std::string path_of_line(std::string_view line) {
     return path;
 }
 
+/// One line of our own file.
+struct own_path {
+    std::size_t entry;
+    std::string path;
+};
+
+/// "recent_1=PATH" to "recent_3=PATH"; nothing for any other line.
+std::optional<own_path> own_path_of_line(std::string_view line) {
+    if (!line.starts_with(RECENT_PATH)) {
+        return std::nullopt;
+    }
+    line.remove_prefix(RECENT_PATH.size());
+    if (line.size() < 2 || line[0] < '1' || line[0] > '3' || line[1] != '=') {
+        return std::nullopt;
+    }
+    return own_path{static_cast<std::size_t>(line[0] - '0'), path_of_line(line.substr(2))};
+}
+
+/// The whole path in place of what KVT.ini could hold of it. False when the entry is another one.
+bool restore_path(const std::string& path, std::string& entry) {
+    if (entry != held_by_code_page(path)) {
+        return false;
+    }
+    entry = path;
+    return true;
+}
+
 }  // namespace
 
 void read_settings(std::string_view bytes, app_state& state) {
@@ -137,14 +165,16 @@ std::string write_settings(const app_state& state) {
 }
 
 void read_own_settings(std::string_view utf8, app_state& state) {
+    std::vector<own_path> moved;
     for (const std::string& line : split_lines(utf8)) {
-        if (!line.starts_with(RECENT_PATH)) {
-            continue;
+        const std::optional<own_path> own = own_path_of_line(line);
+        if (own && !restore_path(own->path, state.mnufileprev[own->entry])) {
+            moved.push_back(*own);
         }
-        const std::string path = path_of_line(std::string_view(line).substr(RECENT_PATH.size()));
-        for (std::string& entry : std::span(state.mnufileprev).subspan(1)) {
-            if (entry == held_by_code_page(path)) {
-                entry = path;
+    }
+    for (const own_path& own : moved) {
+        for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+            if (restore_path(own.path, state.mnufileprev[entry])) {
                 break;
             }
         }
@@ -153,9 +183,11 @@ void read_own_settings(std::string_view utf8, app_state& state) {
 
 std::string write_own_settings(const app_state& state) {
     text_lines text;
-    for (const std::string& entry : std::span(state.mnufileprev).subspan(1)) {
-        if (entry != held_by_code_page(entry)) {
-            text.raw_line(std::string(RECENT_PATH) + one_line(entry));
+    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+        const std::string& path = state.mnufileprev[entry];
+        if (path != held_by_code_page(path)) {
+            text.raw_line(std::string(RECENT_PATH) + static_cast<char>('0' + entry) + "=" +
+                          one_line(path));
         }
     }
     return text.bytes();

@@ -24,9 +24,9 @@ void read_settings(std::string_view bytes, app_state& state);
 /// comes as far as the code page holds it, with "?" for every other character and line end.
 std::string write_settings(const app_state& state);
 
-/// Reads "recent=PATH" lines into the recent entries 1 to 3 that read_settings has filled: a path
-/// counts for an entry that is what write_settings made of it, so that a list which another version
-/// wrote to KVT.ini later stays. All other lines are ignored.
+/// Reads "recent_1=PATH" to "recent_3=PATH" into the recent entries that read_settings has filled.
+/// A path counts for an entry that is what write_settings made of it, the one of its number first,
+/// so that a list which another version wrote to KVT.ini later stays. Other lines are ignored.
 void read_own_settings(std::string_view utf8, app_state& state);
 
 /// The text of our own settings file; empty when KVT.ini holds every path whole.

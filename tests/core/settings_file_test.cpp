@@ -137,13 +137,16 @@ TEST(own_settings, are_utf8_and_KVT_ini_gets_what_it_can_hold) {
     EXPECT_TRUE(
         write_settings(state).starts_with("/Gr\xF6\xDF"
                                           "e/?????.KVT\r\n"));
-    EXPECT_EQ(write_own_settings(state), "recent=/Größe/Насос.KVT\r\n");
+    EXPECT_EQ(write_own_settings(state), "recent_1=/Größe/Насос.KVT\r\n");
 }
 
 TEST(read_own_settings, leaves_a_list_alone_that_was_written_without_it) {
     app_state state;
     read_settings("/other.KVT\r\n/???.KVT\r\n", state);
-    read_own_settings("recent=/Насос.KVT\r\nrecent=/три.KVT\r\nunknown=1\r\n", state);
+    read_own_settings(
+        "recent_1=/Насос.KVT\r\nrecent_3=/три.KVT\r\nunknown=1\r\nrecent_2\r\nrecent_9=/"
+        "???.KVT\r\n",
+        state);
     EXPECT_EQ(state.mnufileprev[1], "/other.KVT");
     EXPECT_EQ(state.mnufileprev[2], "/три.KVT");
     EXPECT_EQ(state.mnufileprev[3], "");
