@@ -174,8 +174,8 @@ void assign_unsaved_entries(program& kavetta, const project_record& record) {
     kavetta.design_params.radinnroot = number_or_0(record.boxes.radinnroot);
 }
 
-void write_entries(const program& kavetta, std::string_view path) {
-    write_file(std::string(path), write_project(project_record_of(kavetta, path)));
+void write_entries(const program& kavetta, std::string_view path, disk_write kind) {
+    write_file(std::string(path), write_project(project_record_of(kavetta, path)), kind);
 }
 
 }  // namespace kvt

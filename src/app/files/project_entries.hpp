@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/program.hpp"
+#include "base/whole_file.hpp"
 #include "core/project_file.hpp"
 
 #include <optional>
@@ -34,6 +35,7 @@ std::optional<unopenable_entry> find_unopenable_entry(const program& kavetta);
 void assign_unsaved_entries(program& kavetta, const project_record& record);
 
 /// Writes the entries to a file as Save does, without any other effect. Throws run_time_error.
-void write_entries(const program& kavetta, std::string_view path);
+void write_entries(const program& kavetta, std::string_view path,
+                   disk_write kind = disk_write::flushed);
 
 }  // namespace kvt
