@@ -68,7 +68,7 @@ def picture_findings(root):
         for kind, name in PICTURE.findall(page.read_text(encoding="utf-8")):
             if kind == "share" and f"/{name}" not in delivered:
                 yield f"{page.relative_to(root)}: no such delivered picture: {name}"
-            elif kind == "screen" and f'"{name}"' not in tool and not (root / f"src/ui/{name}.hpp").exists():
+            elif kind == "screen" and f'"{name}"' not in tool and not (root / f"src/ui/forms/{name}.hpp").exists():
                 yield f"{page.relative_to(root)}: no form or picture: {name}"
 
 

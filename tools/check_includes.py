@@ -2,7 +2,7 @@
 """Reports includes that point upwards and Qt includes below src/ui.
 
 Usage: check_includes.py [ROOT]. Each room of src may include itself and the rooms below it, as docs/architecture.md
-draws them; rooms on one level do not include each other.
+draws them; rooms on one level do not include each other, nor do the folders of src/output (cnc, dxf, step).
 """
 import pathlib
 import re
@@ -10,6 +10,8 @@ import sys
 
 LEVELS = [["base"], ["core"], ["geometry"], ["ports"], ["performance"], ["output", "views", "cad"], ["gtsuite"], ["app"], ["ui"]]
 LEVEL_OF = {room: level for level, rooms in enumerate(LEVELS) for room in rooms}
+# Rooms whose folders know nothing of each other.
+SEPARATE_FOLDERS = {"output"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
@@ -27,6 +29,12 @@ def points_upwards(room, included_room):
     return LEVEL_OF[included_room] >= LEVEL_OF[room]
 
 
+def points_sideways(folder, name):
+    """An include of "room/folder/file.hpp" from another folder of the same room. folder is that of the file."""
+    parts = name.split("/")
+    return parts[0] in SEPARATE_FOLDERS and len(parts) == 3 and len(folder) == 2 and folder != tuple(parts[:2])
+
+
 def findings_of_room(root, folder):
     room = folder.name
     if room not in LEVEL_OF:
@@ -42,6 +50,8 @@ def findings_of_room(root, folder):
                 yield f"{place}: Qt below src/ui: <{name}>"
             elif kind == '"' and first in LEVEL_OF and "/" in name and points_upwards(room, first):
                 yield f"{place}: {room} must not include \"{name}\""
+            elif kind == '"' and first == room and points_sideways(path.relative_to(root / "src").parent.parts, name):
+                yield f"{place}: {path.parent.name} must not include \"{name}\""
             elif kind == '"' and (name.startswith("..") or "/" not in name):
                 yield f"{place}: write \"room/file.hpp\" instead of \"{name}\""
 

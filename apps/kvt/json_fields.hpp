@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/fixed4.hpp"
+#include "base/zeroed_array.hpp"
 
 #include <algorithm>
 #include <array>
@@ -28,7 +29,7 @@ struct json_field {
 template <typename record>
 struct json_array {
     std::string_view name;
-    std::vector<double> record::*member;
+    zeroed_array record::*member;
     std::size_t (*used_count)(const record&);
 };
 
@@ -72,7 +73,7 @@ json json_of_fields(const record& source, std::span<const json_field<record>, co
 }
 
 /// The first elements of an array, as many as are in use.
-inline json used_part(const std::vector<double>& all, std::size_t used) {
+inline json used_part(std::span<const double> all, std::size_t used) {
     const auto count = static_cast<std::ptrdiff_t>(std::min(all.size(), used));
     return std::vector<double>(all.begin(), all.begin() + count);
 }

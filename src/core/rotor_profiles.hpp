@@ -4,15 +4,16 @@
 
 #include "base/constants.hpp"
 #include "base/fixed4.hpp"
+#include "base/zeroed_array.hpp"
 
 #include <cstdint>
-#include <vector>
 
 namespace kvt {
 
 /// troch_*, inner_* and outer_* are about the inner rotor axis, with the outer rotor centre at x =
 /// -ecc; fillet_* is about the outer centre. The fixed arrays hold the elements 0 .. 36000 and are
-/// never cleared between runs; the growable ones are new and zeroed in every run.
+/// never cleared between runs; the growable ones are new and zeroed in every run. None of them
+/// takes memory before its first element is set.
 struct rotor_profiles {
     double profile_points = 0.0;  ///< number of trochoid points P, 3600.0 once a run has started
     double base_radius = 0.0;     ///< a = (radouter + radinnroot + ecc) / (1/(N-1) + 1), mm
@@ -41,40 +42,23 @@ struct rotor_profiles {
     double min_chamber_inner_angle = 0.0;  ///< half-angle at minimum chamber, degrees
     double min_chamber_outer_angle = 0.0;  ///< the same seen from the outer centre
 
-    static std::vector<double> fixed_array() {
-        return std::vector<double>(FIXED_ARRAY_LAST + 1, 0.0);
-    }
+    static zeroed_array fixed_array() { return zeroed_array(FIXED_ARRAY_LAST + 1); }
 
-    std::vector<double> troch_x =
-        fixed_array();  ///< trochoid points 0 .. P; element P repeats element 0
-    std::vector<double> troch_y = fixed_array();
-    std::vector<double> troch_angle =
+    zeroed_array troch_x = fixed_array();  ///< trochoid points 0 .. P; element P repeats element 0
+    zeroed_array troch_y = fixed_array();
+    zeroed_array troch_angle =
         fixed_array();  ///< generating angle, then the uniform index angle i PI_D/(P/2)
-    std::vector<double> troch_slope =
-        fixed_array();                            ///< dy/dx, central difference, 0 where dx is 0
-    std::vector<double> troch_xy;                 ///< flat x0, y0, x1, y1 ..., 0 .. 7201
-    std::vector<double> troch_xy_spare;           ///< sized here, filled by the CAD routines only
-    std::vector<double> inner_x = fixed_array();  ///< inner rotor profile, 0 .. P-1
-    std::vector<double> inner_y = fixed_array();
-    std::vector<double> inner_plot_xy;  ///< flat x, y of every coarseness-th inner point, closed
-    std::vector<double> outer_xy;       ///< flat x, y of the outer rotor profile
-    std::vector<double> outer_x;        ///< the same points as two lists
-    std::vector<double> outer_y;
-    std::vector<double> fillet_x;  ///< first fillet only, 0 .. 100, about the outer centre
-    std::vector<double> fillet_y;
-    std::vector<double> fillet_r;  ///< its distance from the outer centre
-    std::vector<double> rot_inner_x =
-        fixed_array();  ///< working copies, turned to a chamber position
-    std::vector<double> rot_inner_y = fixed_array();
-    std::vector<double> rot_outer_xy = fixed_array();
-    std::vector<double> radius_scratch;  ///< working radii of the area sums
-
-    // Scratch points of the outer profile generation, reused by output routines; nobody may expect
-    // them to survive.
-    double pt_a_x = 0.0, pt_a_y = 0.0;  ///< root end of a flank
-    double pt_b_x = 0.0, pt_b_y = 0.0;  ///< lobe end of a flank
-    double pt_o_x = 0.0, pt_o_y = 0.0;  ///< current end of the profile
-    std::int16_t scratch_index = 0;
+    zeroed_array troch_slope = fixed_array();  ///< dy/dx, central difference, 0 where dx is 0
+    zeroed_array troch_xy;                     ///< flat x0, y0, x1, y1 ..., 0 .. 7201
+    zeroed_array inner_x = fixed_array();      ///< inner rotor profile, 0 .. P-1
+    zeroed_array inner_y = fixed_array();
+    zeroed_array inner_plot_xy;  ///< flat x, y of every coarseness-th inner point, closed
+    zeroed_array outer_xy;       ///< flat x, y of the outer rotor profile
+    zeroed_array outer_x;        ///< the same points as two lists
+    zeroed_array outer_y;
+    zeroed_array fillet_x;  ///< first fillet only, 0 .. 100, about the outer centre
+    zeroed_array fillet_y;
+    zeroed_array fillet_r;  ///< its distance from the outer centre
 };
 
 }  // namespace kvt

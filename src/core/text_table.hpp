@@ -12,8 +12,8 @@ namespace kvt {
 enum class text_kind {
     message,         ///< a message box; name is the enumerator of message
     caption,         ///< set by both caption routines when the language changes
-    design_caption,  ///< English at design time, German set by the German routine or by the form's
-                     ///< own load
+    design_caption,  ///< of Form3 and Form4: English at design time, German set by the German
+                     ///< routine or by the form's own load, and never back
     caption_mm,      ///< set by the millimetre label routine
     caption_inch,    ///< set by the inch label routine
     fixed_caption,   ///< a caption that no routine changes

@@ -13,8 +13,7 @@ namespace kvt {
 
 namespace {
 
-constexpr std::int64_t UNIFORM_POINTS = 3600;
-constexpr double HALF_TURN_POINTS = 1800.0;
+constexpr double HALF_TURN_POINTS = PROFILE_POINTS / 2.0;
 
 /// More than the points of a bound lose by rounding, as a part of the trochoid's size.
 constexpr double POINT_ROUNDING = 2e-14;
@@ -25,7 +24,7 @@ double uniform_angle(std::int64_t i) {
 }
 
 point2 uniform_point(const design_params& design, const rotor_profiles& rotors, std::int64_t i) {
-    if (i < 0 || i >= UNIFORM_POINTS) {
+    if (i < 0 || i >= PROFILE_POINTS) {
         throw run_time_error(failure::subscript_out_of_range, "a flank without points");
     }
     return trochoid_point(rotors.base_radius, rotors.roll_radius, design.ecc - design.clearn_half,
@@ -123,7 +122,7 @@ bool stays_within_limit(design_params design, const flank_indexes& at, double fr
 }
 
 void fill_uniform_trochoid(const design_params& design, rotor_profiles& rotors) {
-    for (std::int64_t i = 0; i < UNIFORM_POINTS; ++i) {
+    for (std::int64_t i = 0; i < PROFILE_POINTS; ++i) {
         const point2 point = uniform_point(design, rotors, i);
         checked_at(rotors.troch_angle, i) = uniform_angle(i);
         checked_at(rotors.troch_x, i) = point.x;

@@ -31,14 +31,14 @@ constexpr std::array<required_entry, 3> LAST_CHECKS = {{
     {&entries::coarseness, message::input_coarseness},
 }};
 
-void clean_up_thickness(entries& boxes, user& person, std::int16_t language) {
+void clean_up_thickness(entries& boxes, teller& person, std::int16_t language) {
     if (boxes.thick.empty()) {
         person.show_message(message_text(message::rotors_need_thickness, language));
         boxes.thick = "1";
     }
 }
 
-void clean_up_lobe_number(entries& boxes, design_params& design, user& person,
+void clean_up_lobe_number(entries& boxes, design_params& design, teller& person,
                           std::int16_t language) {
     design.numlobes = integer_of_text(boxes.numlobes);
     // The text decides, not the rounded number: "2.7" is refused.
@@ -70,7 +70,8 @@ constexpr std::array<dimension, 10> DIMENSIONS = {{
 
 }  // namespace
 
-void clean_up_entries(entries& boxes, design_params& design, user& person, std::int16_t language) {
+void clean_up_entries(entries& boxes, design_params& design, teller& person,
+                      std::int16_t language) {
     clean_up_thickness(boxes, person, language);
     clean_up_lobe_number(boxes, design, person, language);
     for (const box entry : EMPTY_MEANS_ZERO) {

@@ -6,8 +6,8 @@
 #include "core/entries.hpp"
 #include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
+#include "core/teller.hpp"
 #include "core/text_table.hpp"
-#include "core/user.hpp"
 
 #include <cstdint>
 #include <optional>
@@ -18,7 +18,7 @@ namespace kvt {
 /// Clean up entries: an empty thick becomes "1" and a numlobes below 3 becomes "3", each with its
 /// message; stores numlobes; seven empty entries become "0"; in thirteen entries every comma
 /// becomes a point. Throws type_mismatch when numlobes is no number.
-void clean_up_entries(entries& boxes, design_params& design, user& person, std::int16_t language);
+void clean_up_entries(entries& boxes, design_params& design, teller& person, std::int16_t language);
 
 /// An entry that stops the run.
 struct refused_entry {

@@ -12,7 +12,7 @@ namespace kvt {
 namespace {
 
 constexpr int FILLET_LAST = 100;
-constexpr std::int64_t INNER_LAST = 3599;
+constexpr std::int64_t INNER_LAST = PROFILE_POINTS - 1;
 constexpr double CUT = 10000.0;
 
 /// A list of points in polar form. Kept: the arctangent has no quadrant correction on either side.
@@ -57,7 +57,7 @@ polar_list meshing_fillet(const design_params& design, const rotor_profiles& rot
     return fillet;
 }
 
-double distance(double a, double b) {
+double apart(double a, double b) {
     return checked_pow((a - b) * (a - b), 0.5);
 }
 
@@ -77,8 +77,8 @@ std::optional<interference> find_interference(const design_params& design,
                 return std::nullopt;
             }
         }
-        if (distance(checked_at(inner.angle, n), angle) >
-            distance(checked_at(inner.angle, n - 1), angle)) {
+        if (apart(checked_at(inner.angle, n), angle) >
+            apart(checked_at(inner.angle, n - 1), angle)) {
             --n;
         }
         const double depth = checked_at(inner.radius, n) - checked_at(fillet.radius, j);

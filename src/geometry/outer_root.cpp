@@ -11,7 +11,7 @@ namespace kvt {
 
 namespace {
 
-void tell_limit(message limit, std::int16_t language, const std::string& value, user& person) {
+void tell_limit(message limit, std::int16_t language, const std::string& value, teller& person) {
     person.show_message(std::string(message_text(limit, language)) + value);
 }
 
@@ -36,7 +36,7 @@ outer_root_limits limits_of_outer_root(const design_params& design, const rotor_
 
 void apply_outer_root_rules(const rotor_profiles& rotors, const length_unit& unit,
                             std::int16_t language, design_params& design, entries& boxes,
-                            user& person) {
+                            teller& person) {
     const outer_root_limits limits = limits_of_outer_root(design, rotors);
     if (boxes.outer_root.empty()) {
         design.outer_root = limits.minimum;

@@ -6,7 +6,7 @@
 #include "core/entries.hpp"
 #include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
-#include "core/user.hpp"
+#include "core/teller.hpp"
 
 #include <cstdint>
 
@@ -31,7 +31,7 @@ outer_root_limits limits_of_outer_root(const design_params& design, const rotor_
 /// next run then tells the minimum again. Source: docs/formulas/outer_rotor.md, "Root radius".
 void apply_outer_root_rules(const rotor_profiles& rotors, const length_unit& unit,
                             std::int16_t language, design_params& design, entries& boxes,
-                            user& person);
+                            teller& person);
 
 /// maxdiameter/2 < outer_root + minmaterial.
 bool exceeds_maximum_diameter(const design_params& design);

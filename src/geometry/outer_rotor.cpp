@@ -17,14 +17,6 @@ constexpr int LOBE_POINTS = 250;
 constexpr double LOBE_VALUES_WITH_FILLETS = 596.0;
 constexpr double LOBE_VALUES_WITHOUT_FILLETS = 304.0;
 
-point2 polar_point(double radius, double angle) {
-    return {radius * std::cos(angle), radius * std::sin(angle)};
-}
-
-point2 difference(const point2& point, const point2& centre) {
-    return {point.x - centre.x, point.y - centre.y};
-}
-
 /// Walks round the outer rotor once and stores its points.
 class outer_profile_walk {
   public:
@@ -41,8 +33,7 @@ class outer_profile_walk {
             first_flank(lobe);
             second_flank();
         }
-        set_root_end(profile_start_);
-        root_arc(current_end(), profile_start_);
+        root_arc(current_end_, profile_start_);
     }
 
     std::int64_t last_xy_index() const { return k_ - 1; }
@@ -50,47 +41,35 @@ class outer_profile_walk {
 
   private:
     bool has_fillets() const { return design_.fillet != 0.0; }
-    point2 current_end() const { return {rotors_.pt_o_x, rotors_.pt_o_y}; }
-    point2 root_end() const { return {rotors_.pt_a_x, rotors_.pt_a_y}; }
-    point2 lobe_end() const { return {rotors_.pt_b_x, rotors_.pt_b_y}; }
-
-    void set_root_end(const point2& point) {
-        rotors_.pt_a_x = point.x;
-        rotors_.pt_a_y = point.y;
-    }
 
     /// The root and lobe ends of a flank, the fillet centre standing at root_angle.
     void set_flank_ends(double root_angle, double lobe_angle) {
-        set_root_end(polar_point(design_.outer_root, root_angle));
-        const point2 tangent = polar_point(flank_.tangent_radius, lobe_angle);
-        rotors_.pt_b_x = tangent.x;
-        rotors_.pt_b_y = tangent.y;
+        root_end_ = polar_point(design_.outer_root, root_angle);
+        lobe_end_ = polar_point(flank_.tangent_radius, lobe_angle);
     }
 
     void first_flank(std::int32_t lobe) {
         const double root_angle = theta_ - flank_.alpha;
         set_flank_ends(root_angle, theta_ - flank_.beta);
         if (lobe == 0) {
-            profile_start_ = root_end();
-            rotors_.pt_o_x = profile_start_.x;
-            rotors_.pt_o_y = profile_start_.y;
+            profile_start_ = current_end_ = root_end_;
             if (has_fillets()) {
                 first_fillet_arc(root_angle);
             }
             return;
         }
-        root_arc(current_end(), root_end());
+        root_arc(current_end_, root_end_);
         if (has_fillets()) {
-            fillet_arc(root_angle, root_end(), lobe_end());
+            fillet_arc(root_angle, root_end_, lobe_end_);
         }
     }
 
     void second_flank() {
         const double root_angle = theta_ + flank_.alpha;
         set_flank_ends(root_angle, theta_ + flank_.beta);
-        lobe_arc_to(lobe_end());
+        lobe_arc_to(lobe_end_);
         if (has_fillets()) {
-            fillet_arc(root_angle, lobe_end(), root_end());
+            fillet_arc(root_angle, lobe_end_, root_end_);
         }
     }
 
@@ -104,8 +83,7 @@ class outer_profile_walk {
         checked_at(rotors_.outer_y, m_) = point.y;
         ++k_;
         ++m_;
-        rotors_.pt_o_x = point.x;
-        rotors_.pt_o_y = point.y;
+        current_end_ = point;
     }
 
     point2 fillet_point(const point2& centre, const arc_angles& arc, int j) const {
@@ -121,8 +99,8 @@ class outer_profile_walk {
             list->assign(FILLET_POINTS + 1, 0.0);
         }
         const point2 centre = polar_point(design_.outer_root - design_.fillet, root_angle);
-        const arc_angles arc = fillet_or_root_arc(difference(root_end(), centre),
-                                                  difference(lobe_end(), centre), design_.fillet);
+        const arc_angles arc = fillet_or_root_arc(difference(root_end_, centre),
+                                                  difference(lobe_end_, centre), design_.fillet);
         for (int j = 0; j <= FILLET_POINTS; ++j) {
             const point2 point = fillet_point(centre, arc, j);
             store(point);
@@ -141,7 +119,7 @@ class outer_profile_walk {
         }
     }
 
-    void root_arc(const point2& start, const point2& end) {
+    void root_arc(point2 start, point2 end) {
         const arc_angles arc = fillet_or_root_arc(start, end, design_.outer_root);
         for (int j = 1; j <= ROOT_POINTS; ++j) {
             store(polar_point(design_.outer_root, j * arc.sweep / ROOT_POINTS + arc.a0));
@@ -152,7 +130,7 @@ class outer_profile_walk {
         const point2 centre = polar_point(lobe_centre_radius_, theta_);
         const double Ro = design_.radouter;
         const arc_angles arc =
-            lobe_arc(difference(current_end(), centre), difference(end, centre), Ro);
+            lobe_arc(difference(current_end_, centre), difference(end, centre), Ro);
         for (int j = 1; j <= LOBE_POINTS; ++j) {
             const double angle = arc.a0 - j * (arc.sweep / LOBE_POINTS);
             store({centre.x + Ro * std::cos(angle), centre.y + Ro * std::sin(angle)});
@@ -163,10 +141,12 @@ class outer_profile_walk {
     rotor_profiles& rotors_;
     const outer_flank flank_;
     const double lobe_centre_radius_;
-    double theta_ = 0.0;    // angle of the lobe at work
-    point2 profile_start_;  // root end of the first flank
-    std::int64_t k_ = 0;    // next index of outer_xy
-    std::int64_t m_ = 0;    // next index of outer_x and outer_y
+    double theta_ = 0.0;          // angle of the lobe at work
+    point2 root_end_, lobe_end_;  // of the flank at work
+    point2 current_end_;          // of the profile
+    point2 profile_start_;        // root end of the first flank
+    std::int64_t k_ = 0;          // next index of outer_xy
+    std::int64_t m_ = 0;          // next index of outer_x and outer_y
 };
 
 void size_outer_lists(const design_params& design, rotor_profiles& rotors) {

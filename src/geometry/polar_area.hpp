@@ -5,7 +5,7 @@
 #include "geometry/point2.hpp"
 
 #include <cstdint>
-#include <vector>
+#include <span>
 
 namespace kvt {
 
@@ -24,12 +24,12 @@ double outer_triangle_area(const point2& p, double rp, const point2& q, double r
 double polar_angle(const point2& point);
 
 /// Element i of two lists.
-inline point2 point_at(const std::vector<double>& x, const std::vector<double>& y, std::int64_t i) {
+inline point2 point_at(std::span<const double> x, std::span<const double> y, std::int64_t i) {
     return {checked_at(x, i), checked_at(y, i)};
 }
 
 /// The pair at k, k + 1 of a flat list.
-inline point2 pair_at(const std::vector<double>& xy, std::int64_t k) {
+inline point2 pair_at(std::span<const double> xy, std::int64_t k) {
     return {checked_at(xy, k), checked_at(xy, k + 1)};
 }
 

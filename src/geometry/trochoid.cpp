@@ -77,10 +77,10 @@ bool fill_trochoid(const design_params& design, rotor_profiles& rotors) {
     double millionths = 0.0;
     std::int64_t i = 0;
     std::int64_t k = 0;
-    for (rotors.scratch_index = 0; rotors.scratch_index < lobe_end; ++rotors.scratch_index) {
-        const int count = spacing.points_of_lobe(rotors.scratch_index);
+    for (std::int16_t lobe = 0; lobe < lobe_end; ++lobe) {
+        const int count = spacing.points_of_lobe(lobe);
         for (int j = 1; j <= count; ++j, ++i) {
-            millionths += spacing.step(rotors.scratch_index, j);
+            millionths += spacing.step(lobe, j);
             store_point(design, rotors, i, millionths);
             append_xy(rotors, k, checked_at(rotors.troch_x, i), checked_at(rotors.troch_y, i));
             if (i == 1 && rotors.troch_y[1] < 0.0) {

@@ -16,10 +16,6 @@ constexpr int FILLET_STEPS = 10;
 constexpr int ROOT_STEPS = 50;
 constexpr int LOBE_STEPS = 250;
 
-point2 polar_point(double radius, double angle) {
-    return {radius * std::cos(angle), radius * std::sin(angle)};
-}
-
 double lobe_centre_radius(const design_params& design) {
     return design.radinnroot + design.ecc + design.radouter;
 }
@@ -84,10 +80,6 @@ outer_path path_with_corners(std::int32_t numlobes, double C, double lobe_radius
                   polar_point(rho, theta + half));
     }
     return built.path();
-}
-
-point2 difference(point2 point, point2 centre) {
-    return {point.x - centre.x, point.y - centre.y};
 }
 
 /// The points 1 .. steps of an arc from angle a0 over sweep, counterclockwise when positive.

@@ -1,6 +1,8 @@
 // perf_results: everything that Calculate Performance computes, over 6 speeds by 6 pressures.
 #pragma once
 
+#include "base/zeroed_array.hpp"
+
 #include <array>
 #include <cstddef>
 #include <span>
@@ -26,7 +28,7 @@ inline constexpr int RIPPLE_PRESSURE_LAST = 36000;
 
 using perf_list = std::array<double, GRID_SIZE>;              ///< [speed], or [pressure]
 using perf_grid = std::array<perf_list, GRID_SIZE>;           ///< [speed][pressure]
-using perf_array = std::vector<double>;                       ///< [degree], or [0.1 degree]
+using perf_array = zeroed_array;                              ///< [degree], or [0.1 degree]
 using perf_speed_angles = std::array<perf_array, GRID_SIZE>;  ///< [speed][degree]
 using perf_grid_angles =
     std::array<std::array<perf_array, GRID_SIZE>, GRID_SIZE>;  ///< [speed][pressure][degree]
@@ -34,9 +36,9 @@ using perf_lobe_angles = std::vector<perf_array>;              ///< [lobe][degre
 
 /// Values keep what the last run left. The first index is the speed, the second the pressure.
 struct perf_results {
-    static perf_array angle_array() { return perf_array(ANGLE_ARRAY_LAST + 1, 0.0); }
+    static perf_array angle_array() { return perf_array(ANGLE_ARRAY_LAST + 1); }
     static perf_array step_array(int last) {
-        return perf_array(static_cast<std::size_t>(last) + 1, 0.0);
+        return perf_array(static_cast<std::size_t>(last) + 1);
     }
     static perf_lobe_angles lobe_arrays() {
         return perf_lobe_angles(LOBE_ARRAY_LAST + 1, angle_array());

@@ -34,8 +34,7 @@ void store_outline(const port_fields& port, port_work& work) {
         built.outline.mirror();
     }
     port_params& ports = work.ports;
-    built.outline.store(ports.*port.x, ports.*port.y);
-    ports.*port.last = built.outline.last();
+    built.outline.store(ports.*port.x, ports.*port.y, ports.*port.last);
     for (std::size_t mark = 0; mark < built.marks.size(); ++mark) {
         ports.*port.marks[mark] = built.marks[mark];
     }
@@ -109,11 +108,6 @@ bool take_back_all_radii(const port_fields& port, const port_work& work) {
     return radius || inner || outer;
 }
 
-port_end refused(const port_work& work) {
-    work.person.set_busy(false);
-    return port_end::refused;
-}
-
 }  // namespace
 
 port_end build_inlet_port(port_work& work) {
@@ -124,7 +118,7 @@ port_end build_inlet_port(port_work& work) {
         }
         tell_radius_too_large(inlet_fields(), work);
         if (!take_back_all_radii(inlet_fields(), work)) {
-            return refused(work);
+            return port_end::refused;
         }
     }
 }
@@ -142,12 +136,12 @@ port_end build_outlet_port(port_work& work) {
         tell_radius_too_large(outlet_fields(), work);
         if (work.ports.side_angle_start >= 0.0) {
             if (!take_back_all_radii(outlet_fields(), work)) {
-                return refused(work);
+                return port_end::refused;
             }
             continue;
         }
         if (!take_back_port_radius(work)) {
-            return refused(work);
+            return port_end::refused;
         }
         build_inlet_port(work);
     }

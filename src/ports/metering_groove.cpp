@@ -108,7 +108,6 @@ double set_nose_line(const port_work& work) {
 port_end refuse_length(const port_work& work, message text) {
     work.tell(text);
     work.refuse(&entries::groove_length, "groove_length");
-    work.person.set_busy(false);
     return port_end::refused;
 }
 
@@ -130,8 +129,7 @@ groove_shape shape_of(const port_work& work) {
 }
 
 void store_outline(port_params& ports, const groove_outline& built) {
-    built.outline.store(ports.groove_x, ports.groove_y);
-    ports.groove_last = built.outline.last();
+    built.outline.store(ports.groove_x, ports.groove_y, ports.groove_last);
     ports.groove_main_last = built.main_last;
     ports.groove_mark_a = built.mark_a;
     ports.groove_mark_b = built.mark_b;

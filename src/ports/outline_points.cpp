@@ -3,7 +3,6 @@
 #include "base/checked_math.hpp"
 #include "ports/polar.hpp"
 
-#include <algorithm>
 #include <cmath>
 
 namespace kvt {
@@ -51,13 +50,17 @@ void outline_points::mirror() {
     }
 }
 
-void outline_points::store(std::vector<double>& x, std::vector<double>& y) const {
-    std::fill(x.begin(), x.end(), 0.0);
-    std::fill(y.begin(), y.end(), 0.0);
-    for (std::size_t i = 0; i < points_.size(); ++i) {
-        checked_at(x, static_cast<std::int64_t>(i)) = points_[i].x;
-        checked_at(y, static_cast<std::int64_t>(i)) = points_[i].y;
+void outline_points::store(zeroed_array& x, zeroed_array& y, std::int16_t& last) const {
+    const auto count = static_cast<std::int64_t>(points_.size());
+    for (std::int64_t i = 0; i < count; ++i) {
+        checked_at(x, i) = points_[static_cast<std::size_t>(i)].x;
+        checked_at(y, i) = points_[static_cast<std::size_t>(i)].y;
     }
+    for (std::int64_t i = count; i <= last; ++i) {
+        checked_at(x, i) = 0.0;
+        checked_at(y, i) = 0.0;
+    }
+    last = this->last();
 }
 
 double fillet_angle_deg(double f, double centre_r, double tangent_distance_squared) {

@@ -1,6 +1,7 @@
 // outline_points: an outline that grows point by point, arc by arc, fillet by fillet, side by side.
 #pragma once
 
+#include "base/zeroed_array.hpp"
 #include "geometry/point2.hpp"
 #include "ports/port_corners.hpp"
 
@@ -38,10 +39,10 @@ class outline_points {
     /// Gives every point negative y.
     void mirror();
 
-    /// Copies the points to a pair of arrays and makes these 0 beyond the last one: readers that
-    /// stop at the first x of exactly 0 shall never see the rest of an older, longer outline.
-    /// Throws subscript_out_of_range.
-    void store(std::vector<double>& x, std::vector<double>& y) const;
+    /// Copies the points to a pair of arrays that are 0 behind their last point, and sets `last`.
+    /// They are 0 behind it afterwards, too: readers that stop at the first x of exactly 0 shall
+    /// never see the rest of an older, longer outline. Throws subscript_out_of_range.
+    void store(zeroed_array& x, zeroed_array& y, std::int16_t& last) const;
 
   private:
     std::vector<point2> points_;

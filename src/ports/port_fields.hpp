@@ -12,7 +12,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kvt {
 
@@ -48,8 +47,8 @@ struct port_fields {
     double port_params::*outer_r;
     std::string entries::*inner_radius_box;
     std::string entries::*outer_radius_box;
-    std::vector<double> port_params::*x;
-    std::vector<double> port_params::*y;
+    zeroed_array port_params::*x;
+    zeroed_array port_params::*y;
     std::int16_t port_params::*last;
     std::array<std::int16_t port_params::*, 4> marks;  ///< a .. d
     message out_of_range;

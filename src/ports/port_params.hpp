@@ -2,10 +2,11 @@
 // Lengths mm, angles degrees.
 #pragma once
 
+#include "base/zeroed_array.hpp"
+
 #include <cstdint>
 #include <span>
 #include <string_view>
-#include <vector>
 
 namespace kvt {
 
@@ -16,9 +17,7 @@ inline constexpr int OUTLINE_ARRAY_LAST = 72000;
 /// -ecc. Corners and points of the inlet have positive y, like the outlet's: only the finished
 /// outline of the inlet is mirrored.
 struct port_params {
-    static std::vector<double> outline_array() {
-        return std::vector<double>(OUTLINE_ARRAY_LAST + 1, 0.0);
-    }
+    static zeroed_array outline_array() { return zeroed_array(OUTLINE_ARRAY_LAST + 1); }
 
     double port_radius = 0.0;  ///< fillet radius f of all corners; 0 means sharp corners
     double last_good_port_radius =
@@ -59,9 +58,9 @@ struct port_params {
     double inlet_s4_x = 0.0, inlet_s4_y = 0.0;  ///< tangent point on the side
     double inlet_r4_x = 0.0, inlet_r4_y = 0.0;  ///< tangent point on the arc
     double inlet_p4_x = 0.0, inlet_p4_y = 0.0;  ///< corner without its fillet
-    std::vector<double> inlet_port_x =
+    zeroed_array inlet_port_x =
         outline_array();  ///< the closed outline, 0 .. inlet_port_last, 0 beyond
-    std::vector<double> inlet_port_y = outline_array();
+    zeroed_array inlet_port_y = outline_array();
     std::int16_t inlet_port_last = 0;  ///< index of the last point, which repeats point 0
     std::int16_t inlet_mark_a = 0;     ///< start side's end: always 0
     std::int16_t inlet_mark_b = 0;     ///< end of the inner arc
@@ -102,9 +101,9 @@ struct port_params {
     double outlet_s4_x = 0.0, outlet_s4_y = 0.0;  ///< tangent point on the side
     double outlet_r4_x = 0.0, outlet_r4_y = 0.0;  ///< tangent point on the arc
     double outlet_p4_x = 0.0, outlet_p4_y = 0.0;  ///< corner without its fillet
-    std::vector<double> outlet_port_x =
+    zeroed_array outlet_port_x =
         outline_array();  ///< the closed outline, 0 .. outlet_port_last, 0 beyond
-    std::vector<double> outlet_port_y = outline_array();
+    zeroed_array outlet_port_y = outline_array();
     std::int16_t outlet_port_last = 0;  ///< index of the last point, which repeats point 0
     std::int16_t outlet_mark_a = 0;     ///< start side's end: always 0
     std::int16_t outlet_mark_b = 0;     ///< end of the inner arc
@@ -132,9 +131,9 @@ struct port_params {
     double groove_nose_inner_x = 0.0,
            groove_nose_inner_y = 0.0;  ///< nose corners: the same two points
     double groove_nose_outer_x = 0.0, groove_nose_outer_y = 0.0;
-    std::vector<double> groove_x =
+    zeroed_array groove_x =
         outline_array();  ///< groove, then its tail inside the port; 0 .. groove_last, 0 beyond
-    std::vector<double> groove_y = outline_array();
+    zeroed_array groove_y = outline_array();
     std::int16_t groove_last = 0;       ///< end of the closed contour
     std::int16_t groove_main_last = 0;  ///< end of the visible groove, on the outlet's end side
     std::int16_t groove_mark_a = 0;     ///< start of the inner tail
@@ -153,7 +152,7 @@ struct port_field {
 /// An outline array with the index of its last point.
 struct port_array {
     std::string_view name;
-    std::vector<double> port_params::*member;
+    zeroed_array port_params::*member;
     std::int16_t port_params::*last;
 };
 

@@ -69,12 +69,10 @@ port_end set_searched_corner(const port_fields& port, port_work& work, std::size
     if (!t) {
         work.tell(fields.search_failure);
         work.refuse(fields.box, fields.control);
-        work.person.set_busy(false);
         return port_end::refused;
     }
     if (fields.is_end ? *t > 180.0 : *t < 0.0) {
         work.tell(port.out_of_range);
-        work.person.set_busy(false);
         return port_end::refused;
     }
     store_corner(port, work, index, *t);

@@ -5,8 +5,8 @@
 #include "core/entries.hpp"
 #include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
+#include "core/teller.hpp"
 #include "core/text_table.hpp"
-#include "core/user.hpp"
 #include "ports/port_params.hpp"
 
 #include <cstdint>
@@ -18,7 +18,7 @@ struct port_work {
     design_params& design;   ///< its entries are read again by every step
     rotor_profiles& rotors;  ///< its circles are computed again by every step
     entries& boxes;          ///< defaults and corrections are written back, refused entries emptied
-    user& person;
+    teller& person;
     std::int16_t language = 1;
     const length_unit& unit = length_unit_of(MILLIMETRES);
 

@@ -11,10 +11,6 @@ namespace kvt {
 
 namespace {
 
-point2 polar_point(double radius, double angle) {
-    return {radius * std::cos(angle), radius * std::sin(angle)};
-}
-
 /// What the drawing notes of a flank, radians.
 struct drawn_flank {
     double root_angle = 0.0;  ///< root end seen from the outer centre

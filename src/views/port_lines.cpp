@@ -5,6 +5,7 @@
 #include "views/twips.hpp"
 
 #include <array>
+#include <span>
 #include <vector>
 
 namespace kvt {
@@ -21,7 +22,7 @@ drawn_line line_between(point2 from, point2 to, const app_state& state) {
 }
 
 /// Draws the segments between the points first .. last of an outline.
-void draw_segments(const std::vector<double>& x, const std::vector<double>& y, int first, int last,
+void draw_segments(std::span<const double> x, std::span<const double> y, int first, int last,
                    const app_state& state, line_array& lines) {
     lines.clear();
     const auto point = [&x, &y](int i) { return point2{checked_at(x, i), checked_at(y, i)}; };

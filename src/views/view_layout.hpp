@@ -7,19 +7,10 @@
 
 namespace kvt {
 
-/// A place of a control, twips from the form's upper left corner.
-struct control_place {
-    double left = 0.0, top = 0.0;
-
-    friend bool operator==(const control_place&, const control_place&) = default;
-};
-
-/// Sizes and places in twips.
+/// Sizes in twips. The controls below the picture stand where the form's own row puts them.
 struct view_layout {
     double picture_side = 0.0;
     double form_height = 0.0, form_width = 0.0;  ///< not for a maximised form, which keeps its size
-    control_place rotate_rotors_cw, rotate_rotors_ccw, rotate_label, rotated_angle,
-        zoom_all_command;
 
     friend bool operator==(const view_layout&, const view_layout&) = default;
 };

@@ -99,8 +99,9 @@ void zoom_to_band(const design_params& design, app_state& state) {
 }
 
 void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
-                   const port_params& ports, const app_state& state, design_view& view) {
+                   const port_params& ports, app_state& state, design_view& view) {
     const noted_ports noted = note_ports(view);
+    state.angleline_count = static_cast<double>(view.angleline.elements.size());
     clear_all(view);
     redraw_inner_rotor(rotors, state, view);
     redraw_ports(noted, design, ports, state, view);

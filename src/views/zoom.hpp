@@ -32,10 +32,10 @@ void zoom_to_band(const design_params& design, app_state& state);
 
 /// Draws everything that the view shows anew at the present scale and place: the inner rotor
 /// (without clearn_half, which only the first drawing adds), the ports, port angles and groove
-/// where they were drawn, the outer rotor and Shape1. The rotors stand at angle 0. Elements drawn
-/// before a failure stay. Throws run_time_error for what the outer rotor's arcs or a coordinate
-/// can't hold.
+/// where they were drawn, the outer rotor and Shape1. angleline_count becomes the number of
+/// elements that angleline had before. The rotors stand at angle 0. Elements drawn before a failure
+/// stay. Throws run_time_error for what the outer rotor's arcs or a coordinate can't hold.
 void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
-                   const port_params& ports, const app_state& state, design_view& view);
+                   const port_params& ports, app_state& state, design_view& view);
 
 }  // namespace kvt

@@ -171,7 +171,7 @@ TEST(find_caption, knows_a_control_a_form_and_nothing_else) {
 TEST(find_caption, prefers_the_caption_routine_to_the_label_routines) {
     EXPECT_EQ(find_caption("Perffrm", "Label3")->kind, text_kind::caption);
     EXPECT_EQ(find_caption("portdes", "Label11")->kind, text_kind::caption_mm);
-    EXPECT_EQ(find_caption("Form2", "new")->kind, text_kind::design_caption);
+    EXPECT_EQ(find_caption("Form3", "cancelbutton")->kind, text_kind::design_caption);
 }
 
 TEST(find_text, gives_the_unit_captions_in_both_languages) {

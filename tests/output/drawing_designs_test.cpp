@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <span>
 
 namespace kvt {
 namespace {
@@ -75,7 +76,7 @@ void expect_outer(const program& kavetta, const step_solid& solid) {
 }
 
 /// The area within a closed outline whichever way it runs.
-double outline_area(const std::vector<double>& x, const std::vector<double>& y, std::int16_t last) {
+double outline_area(std::span<const double> x, std::span<const double> y, std::int16_t last) {
     std::vector<point2> points;
     for (std::size_t i = 0; i < static_cast<std::size_t>(last); ++i) {
         points.push_back({x[i], y[i]});
@@ -125,8 +126,8 @@ void expect_ports(const program& kavetta) {
     EXPECT_EQ(at, solids.size());
 }
 
-void expect_vertices(const dxf_content& read, const std::vector<double>& x,
-                     const std::vector<double>& y, std::size_t count, double unit) {
+void expect_vertices(const dxf_content& read, std::span<const double> x, std::span<const double> y,
+                     std::size_t count, double unit) {
     EXPECT_EQ(read.polylines, 1);
     ASSERT_EQ(read.vertices.size(), count + 1);
     EXPECT_EQ(read.vertices.front(), read.vertices.back());

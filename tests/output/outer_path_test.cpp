@@ -11,10 +11,6 @@ namespace kvt {
 
 namespace {
 
-double distance(point2 a, point2 b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
-}
-
 /// Every arc starts where the one before ended, and both its ends lie on its circle.
 void expect_closed_chain(const outer_path& path) {
     point2 end = path.first;

@@ -5,6 +5,7 @@
 #include "ports/polar.hpp"
 #include "support/expect_failure.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -62,15 +63,28 @@ TEST(outline_points, points_that_are_no_numbers_fail) {
 }
 
 TEST(outline_points, an_older_longer_outline_is_wiped_out) {
-    std::vector<double> x = {9, 9, 9, 9};
-    std::vector<double> y = x;
+    zeroed_array x(5);
+    std::fill_n(x.begin(), 4, 9.0);
+    zeroed_array y = x;
+    std::int16_t last = 3;
     outline_points outline;
     outline.add({1.0, 2.0});
     outline.add({3.0, 4.0});
     outline.mirror();
-    outline.store(x, y);
-    EXPECT_EQ(x, (std::vector<double>{1, 3, 0, 0}));
-    EXPECT_EQ(y, (std::vector<double>{-2, -4, 0, 0}));
+    outline.store(x, y, last);
+    EXPECT_EQ(std::vector<double>(x.begin(), x.end()), (std::vector<double>{1, 3, 0, 0, 0}));
+    EXPECT_EQ(std::vector<double>(y.begin(), y.end()), (std::vector<double>{-2, -4, 0, 0, 0}));
+    EXPECT_EQ(last, 1);
+}
+
+TEST(outline_points, an_outline_that_does_not_fit_its_arrays_fails) {
+    zeroed_array x(1);
+    zeroed_array y(1);
+    std::int16_t last = 0;
+    outline_points outline;
+    outline.add({1.0, 2.0});
+    outline.add({3.0, 4.0});
+    EXPECT_FAILURE(outline.store(x, y, last), failure::subscript_out_of_range);
 }
 
 TEST(outline_points, angle_of_a_fillet_by_the_cosine_rule) {

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <span>
 
 namespace kvt {
 namespace {
@@ -53,16 +54,12 @@ void type_random_design(random_values& random, port_design& tested) {
     tested.boxes.Outlet_inner_radius = tested.boxes.Outlet_outer_radius = "";
 }
 
-points outline(const std::vector<double>& x, const std::vector<double>& y, int last) {
+points outline(std::span<const double> x, std::span<const double> y, int last) {
     points result;
     for (std::int64_t i = 0; i <= last; ++i) {
         result.push_back({checked_at(x, i), checked_at(y, i)});
     }
     return result;
-}
-
-double distance(point2 a, point2 b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
 }
 
 double turn(point2 a, point2 b, point2 c) {

@@ -1,5 +1,8 @@
 """Tests of the checks in tools: each passes a good tree and names the fault of a bad one."""
+import os
 import pathlib
+import shutil
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -11,9 +14,13 @@ import check_format  # noqa: E402
 import check_guide  # noqa: E402
 import check_includes  # noqa: E402
 import check_line_ends  # noqa: E402
+import check_named_tests  # noqa: E402
 import check_pages  # noqa: E402
 import check_sources_have_tests  # noqa: E402
+import check_sources_of_formulas  # noqa: E402
 import check_texts  # noqa: E402
+import check_tidy  # noqa: E402
+import compare_programs  # noqa: E402
 
 
 class tree_test(unittest.TestCase):
@@ -53,6 +60,13 @@ class includes_test(tree_test):
         self.write("src/views/a.hpp", '#include "output/dxf.hpp"\n')
         self.expect_one(self.check(), "src/views/a.hpp:1", "output/dxf.hpp")
 
+    def test_the_writers_of_one_kind_of_file_know_no_other(self):
+        self.write("src/output/cnc/a.cpp", '#include "output/cnc/b.hpp"\n#include "output/outer_path.hpp"\n')
+        self.write("src/app/files/a.cpp", '#include "app/stages/b.hpp"\n')
+        self.assertEqual(list(self.check()), [])
+        self.write("src/output/cnc/a.cpp", '#include "output/dxf/b.hpp"\n')
+        self.expect_one(self.check(), "src/output/cnc/a.cpp:1", "output/dxf/b.hpp")
+
     def test_a_relative_path_does_not_hide_the_room(self):
         self.write("src/core/a.cpp", '#include "../app/program.hpp"\n')
         self.expect_one(self.check(), "src/core/a.cpp:1")
@@ -79,7 +93,7 @@ class guide_test(tree_test):
         self.write("src/core/texts/Perffrm.inc", '{caption, "Perffrm", "Label7", "&Pressure Range (bar)", "Druck"},\n')
         self.write("tools/screenshots/main.cpp", 'pictures["workplace"]')
         self.write("tools/pictures/CMakeLists.txt", '"${share_folder}/explain.jpg"')
-        self.write("src/ui/Form1.hpp", "")
+        self.write("src/ui/forms/Form1.hpp", "")
 
     def page(self, content):
         self.write("docs/guide/01-first.md", content)
@@ -198,6 +212,18 @@ class pages_test(tree_test):
         self.expect_one(self.check(), "README.md:1", "fast")
 
 
+    def test_paths_without_suffix_and_lists_of_paths_are_allowed(self):
+        self.write("src/base/code_page.cpp", "")
+        self.write("src/ports/polar.cpp", "")
+        self.write("README.md", "`src/base/code_page`, `src/{base,ports}`, `src/cad` and src/gone\n")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_path_that_does_not_exist_is_reported(self):
+        self.write("src/ports/polar.cpp", "")
+        self.write("README.md", "`src/{ports,views}/polar.cpp`\n")
+        self.expect_one(self.check(), "README.md:1", "src/views/polar.cpp")
+
+
 class format_test(tree_test):
     def setUp(self):
         super().setUp()
@@ -253,6 +279,199 @@ class sources_have_tests_test(tree_test):
     def test_an_entry_for_a_source_that_is_gone_is_reported(self):
         self.write("tests/core/a_test.cpp", "")
         self.expect_one(self.check(None, {"src/core/gone.cpp": "a table"}), "src/core/gone.cpp")
+
+
+class named_tests_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write("tests/geometry/shaft_test.cpp", "TEST_F(thin_material_test, is_told) {\n}\n")
+
+    def check(self):
+        return check_named_tests.findings(self.root)
+
+    def test_a_test_file_and_a_suite_are_known(self):
+        self.write("src/geometry/a.hpp", "/// Kept: as it is; shaft_test holds it.\n")
+        self.write("src/geometry/a.cpp", "int a;  // Kept: as it was;\n// thin_material_test holds it.\n")
+        self.write("docs/formulas/a.md", "shaft_test holds that.\n")
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_test_that_does_not_exist_is_reported_with_its_line(self):
+        self.write("src/app/files/a.cpp", "int a;\n// Kept: 7 stays; reset_test holds it.\n")
+        self.expect_one(self.check(), "src/app/files/a.cpp:2", "reset_test")
+
+    def test_a_name_and_its_verb_may_stand_in_two_lines(self):
+        self.write("src/core/a.hpp", "/// Kept: 7 stays; reset_test\n/// holds it.\n")
+        self.expect_one(self.check(), "reset_test")
+
+    def test_pages_are_read_too(self):
+        self.write("docs/style.md", "gone_test holds it.\n")
+        self.expect_one(self.check(), "docs/style.md:1", "gone_test")
+
+
+class sources_of_formulas_test(tree_test):
+    def setUp(self):
+        super().setUp()
+        self.write("docs/formulas/trochoid.md", "# Trochoid\n\n## A point\n")
+
+    def check(self, without_formula=None):
+        return check_sources_of_formulas.findings(self.root, without_formula or {})
+
+    def header(self, comment):
+        self.write("src/geometry/a.hpp", comment)
+
+    def test_a_page_and_a_section_of_it_are_allowed(self):
+        self.header('/// Source:\n/// docs/formulas/trochoid.md, "A\n/// point". Also docs/formulas/trochoid.md.\n')
+        self.assertEqual(list(self.check()), [])
+
+    def test_a_header_without_a_page_is_reported(self):
+        self.header("/// x = e cos t\n")
+        self.expect_one(self.check(), "src/geometry/a.hpp", "names no page")
+
+    def test_a_page_that_does_not_exist_is_reported(self):
+        self.header("/// Source: docs/formulas/lobes.md.\n")
+        self.expect_one(self.check(), "docs/formulas/lobes.md")
+
+    def test_a_section_that_does_not_exist_is_reported(self):
+        self.header('/// Source: docs/formulas/trochoid.md, "Circles".\n')
+        self.expect_one(self.check(), "Circles")
+
+    def test_an_entry_is_enough_while_no_page_is_named(self):
+        listed = {"src/geometry/a.hpp": "a pair of numbers"}
+        self.header("/// a pair\n")
+        self.assertEqual(list(self.check(listed)), [])
+        self.header("/// Source: docs/formulas/trochoid.md.\n")
+        self.expect_one(self.check(listed), "needs no entry")
+
+    def test_an_entry_for_a_header_that_is_gone_is_reported(self):
+        self.expect_one(self.check({"src/ports/gone.hpp": "a pair"}), "src/ports/gone.hpp")
+
+
+class test_script_test(tree_test):
+    """./test itself, with stand-ins for the programs that it starts."""
+
+    SUMMARY = "90% tests passed, 1 tests failed out of 10\n"
+
+    def setUp(self):
+        super().setUp()
+        shutil.copy(ROOT / "test", self.root / "test")
+        self.started = self.root / "started"
+        for name in ("scripts/setup", "bin/cmake", "tools/check_tidy.py", "tools/compare_programs.py"):
+            self.program(name)
+        self.program("bin/ctest", self.SUMMARY, status=1)
+
+    def program(self, name, prints="", status=0):
+        self.write(name, f"#!/bin/sh\necho {name} $* >> '{self.started}'\ncat <<'END'\n{prints}END\nexit {status}\n")
+        (self.root / name).chmod(0o755)
+
+    def run_it(self, *arguments):
+        for preset in ("ci", "asan"):
+            (self.root / "build" / preset).mkdir(parents=True, exist_ok=True)
+        path = f"{self.root / 'bin'}:{os.environ['PATH']}"
+        done = subprocess.run([self.root / "test", *arguments], env={**os.environ, "PATH": path}, capture_output=True,
+                              text=True, check=False)
+        return done.returncode, done.stdout.splitlines()
+
+    def test_alone_it_takes_preset_ci_and_the_changed_sources(self):
+        self.program("bin/ctest", "100% tests passed, 0 tests failed out of 10\n")
+        self.assertEqual(self.run_it()[0], 0)
+        self.assertEqual(self.run_it()[1][-1], "11 passed, 0 failed")
+        started = self.started.read_text()
+        self.assertIn("check_tidy.py --jobs", started)
+        self.assertNotIn("asan", started)
+
+    def test_with_all_it_takes_the_sanitizers_and_the_other_compiler_too(self):
+        status, lines = self.run_it("--all")
+        self.assertEqual(lines[-1], "20 passed, 2 failed")
+        self.assertEqual(status, 1)
+        started = self.started.read_text()
+        for piece in ("--preset asan", "--preset clang", "compare_programs.py build/ci", "check_tidy.py --all"):
+            self.assertIn(piece, started)
+
+    def test_a_skipped_test_is_named_and_not_counted(self):
+        self.program("bin/ctest", self.SUMMARY + "\t  4 - output.read_by_ezdxf (Skipped)\n", status=1)
+        status, lines = self.run_it()
+        self.assertEqual(lines[-2:], ["./test: left out: preset ci, output.read_by_ezdxf", "9 passed, 1 failed"])
+        self.assertEqual(status, 1)
+
+    def test_a_check_that_fails_counts_as_one(self):
+        self.program("bin/ctest", "100% tests passed, 0 tests failed out of 10\n")
+        self.program("tools/check_tidy.py", status=1)
+        self.assertEqual(self.run_it()[1][-1], "10 passed, 1 failed")
+
+    def test_a_build_that_fails_counts_as_one(self):
+        self.program("bin/cmake", status=1)
+        status, lines = self.run_it()
+        self.assertEqual((status, lines[-1]), (1, "1 passed, 1 failed"))
+
+
+class tidy_test(tree_test):
+    def git(self, *arguments):
+        subprocess.run(["git", "-c", "user.name=a", "-c", "user.email=a@b", *arguments], cwd=self.root, check=True,
+                       capture_output=True)
+
+    def setUp(self):
+        super().setUp()
+        self.write("src/core/old.cpp", "int a;\n")
+        self.write("src/core/gone.cpp", "int b;\n")
+        self.git("init", "-b", "main")
+        self.git("add", ".")
+        self.git("commit", "-m", "first")
+
+    def test_changed_are_the_last_commits_and_the_working_tree(self):
+        self.write("src/core/second.hpp", "int c;\n")
+        self.git("rm", "src/core/gone.cpp")
+        self.git("add", ".")
+        self.git("commit", "-m", "second")
+        self.write("src/core/new.cpp", "int d;\n")
+        self.assertEqual(check_tidy.changed_files(self.root), ["src/core/new.cpp", "src/core/second.hpp"])
+
+    def test_on_a_branch_changed_are_its_own_commits(self):
+        self.git("update-ref", "refs/remotes/origin/main", "HEAD")
+        self.write("src/core/old.cpp", "int e;\n")
+        self.git("commit", "-am", "mine")
+        self.assertEqual(check_tidy.changed_files(self.root), ["src/core/old.cpp"])
+
+    def test_a_header_stands_for_the_source_of_its_name(self):
+        compiled = ["src/core/a.cpp", "src/core/b.cpp"]
+        self.assertEqual(check_tidy.chosen_sources(["src/core/b.hpp", "docs/a.md"], compiled), ["src/core/b.cpp"])
+
+    def test_a_precompiled_header_becomes_an_ordinary_one(self):
+        self.write("cmake_pch.hxx", "#include <vector>\n")
+        arguments = ["c++", "-Winvalid-pch", "-include", f"{self.root}/cmake_pch.hxx", "-c", "a.cpp"]
+        changed = check_tidy.with_readable_headers(arguments, self.root / ".git")
+        self.assertEqual([*changed[:2], *changed[3:]], ["c++", "-include", "-c", "a.cpp"])
+        self.assertEqual(pathlib.Path(changed[2]).read_text(), "#include <vector>\n")
+
+
+class programs_test(tree_test):
+    WRITES = '#!/bin/sh\necho told\nif [ $1 = export ]; then echo {0} > a.cnc; echo {0} > b.cnc; fi\n'
+
+    def setUp(self):
+        super().setUp()
+        self.write("examples/pump.KVT", "1\r\n")
+
+    def program(self, name, content):
+        self.write(name, content)
+        (self.root / name).chmod(0o755)
+        return self.root / name
+
+    def check(self, left, right):
+        programs = (self.program("left", left), self.program("right", right))
+        return compare_programs.findings(self.root, programs)[1]
+
+    def test_the_same_files_are_allowed(self):
+        self.assertEqual(self.check(self.WRITES.format("1.5"), self.WRITES.format("1.5")), [])
+
+    def test_another_digit_is_reported_with_its_file(self):
+        found = self.check(self.WRITES.format("1.5"), self.WRITES.format("1.50001"))
+        self.assertEqual(found, ["pump/a.cnc: not the same", "pump/b.cnc: not the same"])
+
+    def test_a_missing_file_is_reported(self):
+        found = self.check(self.WRITES.format("1.5"), self.WRITES.format("1.5") + "rm -f b.cnc\n")
+        self.assertEqual(found, ["pump/b.cnc: written by one program only"])
+
+    def test_programs_that_write_nothing_are_reported(self):
+        self.assertEqual(self.check("#!/bin/sh\n", "#!/bin/sh\n"), ["nothing was written, so nothing was compared"])
 
 
 if __name__ == "__main__":

@@ -16,11 +16,6 @@ TEST(view_layout, makes_the_picture_square_below_the_height_of_the_form) {
     EXPECT_EQ(layout->picture_side, 6000.0);
     EXPECT_EQ(layout->form_height, 7185.0);
     EXPECT_EQ(layout->form_width, 6390.0);
-    EXPECT_EQ(layout->rotate_rotors_cw, (control_place{120.0, 6285.0}));
-    EXPECT_EQ(layout->rotate_rotors_ccw, (control_place{720.0, 6285.0}));
-    EXPECT_EQ(layout->rotate_label, (control_place{120.0, 6085.0}));
-    EXPECT_EQ(layout->rotated_angle, (control_place{1320.0, 6285.0}));
-    EXPECT_EQ(layout->zoom_all_command, (control_place{2400.0, 6285.0}));
 }
 
 TEST(view_layout, rounds_the_side_to_whole_twips) {

@@ -123,7 +123,7 @@ TEST(zoomed_drawing, has_inner_rotor_arcs_and_circle_at_the_new_place) {
 TEST(zoomed_drawing, at_the_first_scale_has_the_arcs_of_the_first_drawing) {
     const design_params design = sample_design();
     const rotor_profiles rotors = rotor_pair_of(design);
-    const app_state state = state_for(design);
+    app_state state = state_for(design);
     design_view first;
     draw_outer_rotor(design, rotors, state, first);
     design_view again;
@@ -164,6 +164,7 @@ TEST(zoomed_drawing, has_the_ports_that_were_drawn_before) {
     EXPECT_EQ(view.inlet_portline.elements.size(), 4U);
     EXPECT_EQ(view.outlet_portline.elements.size(), 3U);
     EXPECT_EQ(view.angleline.elements.size(), 4U);
+    EXPECT_EQ(state.angleline_count, 4.0) << "the number before the drawing was cleared";
     EXPECT_EQ(view.anglelineout.elements.size(), 4U);
     EXPECT_EQ(view.metering_groove_portline.elements.size(), 2U);
     EXPECT_EQ(view.metering_groove_extraline.elements.size(), 3U);
@@ -174,8 +175,10 @@ TEST(zoomed_drawing, has_the_ports_that_were_drawn_before) {
 
 TEST(zoomed_drawing, has_no_ports_when_none_were_drawn) {
     const design_params design = sample_design();
+    app_state state = state_for(design);
     design_view view;
-    redraw_zoomed(design, rotor_pair_of(design), few_points(), state_for(design), view);
+    redraw_zoomed(design, rotor_pair_of(design), few_points(), state, view);
+    EXPECT_EQ(state.angleline_count, 1.0);
     for (const line_array* lines :
          {&view.inlet_portline, &view.outlet_portline, &view.angleline, &view.anglelineout,
           &view.metering_groove_portline, &view.metering_groove_extraline}) {

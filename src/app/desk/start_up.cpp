@@ -4,7 +4,6 @@
 #include "app/desk/settings_commands.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
-#include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/capacity_unit.hpp"
@@ -76,7 +75,7 @@ void load_settings(program& kavetta) {
     state.capacity_unit = 1;
     kavetta.labels.unittype = find_capacity_unit(state.capacity_unit)->list_text;
     state.project_has_file = false;
-    hide_assist(kavetta);
+    set_captions(kavetta);
 }
 
 void start_project(program& kavetta, user& person, std::string_view path) {

@@ -23,8 +23,8 @@ void set_unit_labels_again(program& kavetta) {
 }  // namespace
 
 void set_english_captions(program& kavetta) {
-    // Kept: the forms whose English stands at design time only stay German after a change back to
-    // English.
+    // Kept: Form3 and Form4, whose English stands at design time only, stay German after a change
+    // back to English; unit_commands_test holds it.
     set_rows(kavetta, text_kind::caption, ENGLISH);
     set_unit_labels_again(kavetta);
 }

@@ -9,7 +9,7 @@ namespace kvt {
 namespace {
 
 // Kept: New leaves RIPPLE_graphview2 loaded and Open leaves PRESS_RIP_graphview2;
-// project_reset_test holds it.
+// project_commands_test holds it.
 constexpr std::array NEW_UNLOADS = {"perf_res",         "FLOW_graphview2",      "LOAD_graphview2",
                                     "HERTZ_graphview2", "PRESS_RIP_graphview2", "VE_graphview2",
                                     "EFFIC_graphview2", "OVREFF_graphview2"};
@@ -28,6 +28,8 @@ void clear_chart_choice(entries& boxes) {
 }  // namespace
 
 void project_reset(program& kavetta, user& person, reset_kind kind) {
+    kavetta.app_state.angleline_count =
+        static_cast<double>(kavetta.design_view.angleline.elements.size());
     clear_all(kavetta.design_view);
     apply_chain(kavetta.enabling, chain_event::project_reset);
     kavetta.app_state.profiles_calculated = 0;

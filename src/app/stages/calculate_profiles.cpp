@@ -10,11 +10,10 @@
 #include "core/text_table.hpp"
 #include "geometry/area_ratio.hpp"
 #include "geometry/capacity.hpp"
+#include "geometry/chambers.hpp"
 #include "geometry/entry_checks.hpp"
 #include "geometry/inner_rotor.hpp"
 #include "geometry/interference.hpp"
-#include "geometry/maximum_chamber.hpp"
-#include "geometry/minimum_chamber.hpp"
 #include "geometry/outer_flank.hpp"
 #include "geometry/outer_root.hpp"
 #include "geometry/outer_rotor.hpp"
@@ -44,7 +43,6 @@ void reset_results(program& kavetta, user& person) {
 void size_trochoid_lists(rotor_profiles& rotors) {
     rotors.profile_points = PROFILE_POINTS;
     rotors.troch_xy.assign(7202, 0.0);
-    rotors.troch_xy_spare.assign(static_cast<std::size_t>(2.0 * rotors.profile_points + 2.0), 0.0);
 }
 
 bool has_refused_entry(const program& kavetta, user& person) {
@@ -117,7 +115,6 @@ run_end outer_rotor_steps(program& kavetta, user& person) {
     }
     draw_outer_rotor(design, rotors, kavetta.app_state, kavetta.design_view);
     fill_outer_rotor(design, rotors);
-    rotors.radius_scratch.assign(static_cast<std::size_t>(2.0 * rotors.profile_points) + 1, 0.0);
     calculate_area_ratio(rotors);
     set_area_ratio_label(rotors, kavetta.labels);
     calculate_maximum_chamber(design, rotors);

@@ -93,13 +93,21 @@ void draw_ports(program& kavetta, const ports_designed& done) {
     }
 }
 
-bool design_groove(program& kavetta, port_work& work) {
+/// Whether a step finished. A refused one gives the pointer back at once.
+bool has_finished(port_end end, user& person) {
+    if (end == port_end::refused) {
+        person.set_busy(false);
+    }
+    return end == port_end::finished;
+}
+
+bool design_groove(program& kavetta, port_work& work, user& person) {
     clear_metering_groove(kavetta.design_view);
     if (!has_metering_groove(kavetta)) {
         return false;
     }
     kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.unit);
-    const bool done = build_metering_groove(work) == port_end::finished;
+    const bool done = has_finished(build_metering_groove(work), person);
     if (done) {
         draw_metering_groove(kavetta.port_params, kavetta.app_state, kavetta.design_view);
     }
@@ -109,13 +117,13 @@ bool design_groove(program& kavetta, port_work& work) {
 ports_designed build_and_draw(program& kavetta, user& person) {
     port_work work = work_of(kavetta, person);
     ports_designed done;
-    done.inlet = build_inlet_port(work) == port_end::finished;
-    done.outlet = build_outlet_port(work) == port_end::finished;
+    done.inlet = has_finished(build_inlet_port(work), person);
+    done.outlet = has_finished(build_outlet_port(work), person);
     draw_ports(kavetta, done);
     if (done.outlet) {
         write_port_report(kavetta);
     }
-    done.groove = design_groove(kavetta, work);
+    done.groove = design_groove(kavetta, work, person);
     return done;
 }
 

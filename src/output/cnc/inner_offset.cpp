@@ -9,10 +9,9 @@ namespace kvt {
 
 namespace {
 
-constexpr std::int64_t POINTS = 3600;
-
 point2 trochoid_at(const rotor_profiles& rotors, std::int64_t i) {
-    return {checked_at(rotors.troch_x, i % POINTS), checked_at(rotors.troch_y, i % POINTS)};
+    return {checked_at(rotors.troch_x, i % PROFILE_POINTS),
+            checked_at(rotors.troch_y, i % PROFILE_POINTS)};
 }
 
 double offset_distance(const design_params& design, double tool_radius) {
@@ -41,7 +40,7 @@ normal_angles normal_at(const rotor_profiles& rotors, std::int64_t i) {
 }
 
 double angle_by_quadrant(std::int64_t i, const normal_angles& normal) {
-    const bool first_half = i < POINTS / 2;
+    const bool first_half = i < PROFILE_POINTS / 2;
     const bool takes_b = first_half ? normal.a < 0.0 : normal.a > 0.0;
     return takes_b ? normal.b : normal.a;
 }
@@ -77,7 +76,7 @@ std::vector<point2> inner_offset_points(const design_params& design, const rotor
                                         double tool_radius) {
     const double D = offset_distance(design, tool_radius);
     std::vector<point2> points;
-    for (std::int64_t i = 0; i < POINTS; ++i) {
+    for (std::int64_t i = 0; i < PROFILE_POINTS; ++i) {
         points.push_back(
             moved(trochoid_at(rotors, i), literal_angle(rotors, i, normal_at(rotors, i), D), D));
     }
@@ -88,7 +87,7 @@ std::vector<point2> checked_inner_offset_points(const design_params& design,
                                                 const rotor_profiles& rotors, double tool_radius) {
     const double D = offset_distance(design, tool_radius);
     std::vector<point2> points;
-    for (std::int64_t i = 0; i < POINTS; ++i) {
+    for (std::int64_t i = 0; i < PROFILE_POINTS; ++i) {
         points.push_back(
             moved(trochoid_at(rotors, i), inward_angle(rotors, i, normal_at(rotors, i), D), D));
     }
@@ -99,7 +98,7 @@ int wrong_side_count(const design_params& design, const rotor_profiles& rotors,
                      double tool_radius) {
     const double D = offset_distance(design, tool_radius);
     int count = 0;
-    for (std::int64_t i = 0; i < POINTS; ++i) {
+    for (std::int64_t i = 0; i < PROFILE_POINTS; ++i) {
         const normal_angles normal = normal_at(rotors, i);
         count += literal_angle(rotors, i, normal, D) != inward_angle(rotors, i, normal, D) ? 1 : 0;
     }

@@ -13,10 +13,6 @@ namespace {
 /// How far a point of the outer path may lie from its circle, mm: rounding only.
 constexpr double ON_CIRCLE_MM = 1e-9;
 
-double distance(point2 a, point2 b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
-}
-
 /// The points of a port as its outline has them: the inlet below the x axis, the shadow on the
 /// other side of the y axis.
 class port_points {

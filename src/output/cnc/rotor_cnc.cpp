@@ -1,6 +1,7 @@
 #include "output/cnc/rotor_cnc.hpp"
 
 #include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "output/cnc/cnc_preamble.hpp"
 #include "output/cnc/inner_offset.hpp"
 #include "output/outer_path.hpp"
@@ -9,14 +10,12 @@ namespace kvt {
 
 namespace {
 
-constexpr std::int64_t POINTS = 3600;
-
 /// Point 0 is written once more behind the last one.
 std::vector<point2> closed_inner_profile(const rotor_profiles& rotors) {
     std::vector<point2> points;
-    for (std::int64_t i = 0; i <= POINTS; ++i) {
-        points.push_back(
-            {checked_at(rotors.inner_x, i % POINTS), checked_at(rotors.inner_y, i % POINTS)});
+    for (std::int64_t i = 0; i <= PROFILE_POINTS; ++i) {
+        points.push_back({checked_at(rotors.inner_x, i % PROFILE_POINTS),
+                          checked_at(rotors.inner_y, i % PROFILE_POINTS)});
     }
     return points;
 }

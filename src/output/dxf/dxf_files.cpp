@@ -8,6 +8,7 @@
 #include "output/outer_path.hpp"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,7 +28,7 @@ std::string port_number(double mm, bool inches) {
 }
 
 /// The first `count` points of an outline, then point 0.
-void write_port_outline(text_lines& out, const std::vector<double>& x, const std::vector<double>& y,
+void write_port_outline(text_lines& out, std::span<const double> x, std::span<const double> y,
                         std::int64_t count, bool inches) {
     dxf_polyline polyline(out, static_cast<std::size_t>(count) + 1);
     const auto vertex = [&](std::int64_t i) {
@@ -42,7 +43,7 @@ void write_port_outline(text_lines& out, const std::vector<double>& x, const std
 }
 
 /// Number of points from 0 to last, ending before the first x of exactly 0.
-std::int64_t count_up_to_zero(const std::vector<double>& x, std::int16_t last) {
+std::int64_t count_up_to_zero(std::span<const double> x, std::int16_t last) {
     std::int64_t count = 0;
     while (count <= last && checked_at(x, count) != 0.0) {
         ++count;

@@ -4,6 +4,7 @@
 #include "output/step/step_wall.hpp"
 
 #include <algorithm>
+#include <span>
 
 namespace kvt {
 
@@ -81,7 +82,7 @@ std::optional<step_prism> body_of(step_port port, const design_params& design,
 
 }  // namespace
 
-std::vector<point2> port_contour(const std::vector<double>& x, const std::vector<double>& y,
+std::vector<point2> port_contour(std::span<const double> x, std::span<const double> y,
                                  std::int16_t last) {
     std::vector<point2> points;
     for (std::int64_t i = 0; i < last; ++i) {

@@ -9,6 +9,7 @@
 #include "ports/port_params.hpp"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace kvt {
@@ -25,7 +26,7 @@ inline constexpr int STEP_BODY_OFFSET = 1'000'000;
 /// The distinct points of a closed outline, element `last` repeating element 0, always
 /// counter-clockwise: one that runs clockwise is walked backwards from point 0. Empty without an
 /// outline (last = 0).
-std::vector<point2> port_contour(const std::vector<double>& x, const std::vector<double>& y,
+std::vector<point2> port_contour(std::span<const double> x, std::span<const double> y,
                                  std::int16_t last);
 
 /// A body, or nothing when its outline was never finished or its box is not ticked.

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace kvt {
 
@@ -20,17 +21,13 @@ constexpr auto OUTER_ROWS = std::to_array<step_row>({
 constexpr int FIRST_OUTER_POINT = 158;
 
 /// The points 0 .. last of two lists; none before anything was calculated.
-std::vector<point2> points_of(const std::vector<double>& x, const std::vector<double>& y,
+std::vector<point2> points_of(std::span<const double> x, std::span<const double> y,
                               std::int64_t last) {
     std::vector<point2> points;
     for (std::int64_t i = 0; i <= last; ++i) {
         points.push_back({checked_at(x, i), checked_at(y, i)});
     }
     return points;
-}
-
-double distance(const point2& a, const point2& b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
 }
 
 /// Whether the last point is the first one up to rounding, and not a step of the profile before it.

@@ -2,7 +2,6 @@
 
 #include "app/stages/calculate_performance.hpp"
 #include "core/text_table.hpp"
-#include "ui/parts/column_heads.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -11,6 +10,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -39,6 +39,28 @@ constexpr int COLUMNS = 4;
 /// The versions of the simulation package that a model can be written for.
 constexpr int FIRST_GT_VERSION = 2018;
 constexpr int LAST_GT_VERSION = 2021;
+
+/// One label that heads two columns of boxes. Its text holds two words set apart by blanks, whose
+/// number means nothing here: the first word stands centred over a box at the left edge, the second
+/// over a box at the right edge.
+class column_heads : public QLabel {
+  public:
+    /// box_width: width of each box, pixels.
+    column_heads(const char* name, int box_width) : box_width_(box_width) { setObjectName(name); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        const QStringList words = text().simplified().split(' ');
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(QRect(0, 0, box_width_, height()), Qt::AlignCenter, words.front());
+        painter.drawText(QRect(width() - box_width_, 0, box_width_, height()), Qt::AlignCenter,
+                         words.back());
+    }
+
+  private:
+    int box_width_;
+};
 
 void add_heading(QGridLayout& grid, const char* name) {
     QLabel* heading = named_label(name);

@@ -4,12 +4,12 @@
 #include "app/windows/view_commands.hpp"
 #include "ui/parts/design_picture.hpp"
 #include "ui/parts/drawn_icons.hpp"
-#include "ui/parts/hold_button.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
 
@@ -28,6 +28,20 @@ int pixels(double twips) {
 }
 
 }  // namespace
+
+void hold_button::mousePressEvent(QMouseEvent* event) {
+    QToolButton::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        emit held();
+    }
+}
+
+void hold_button::mouseReleaseEvent(QMouseEvent* event) {
+    QToolButton::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+        emit let_go();
+    }
+}
 
 viewwinfrm::viewwinfrm(form_context context) : mdi_form("viewwinfrm", context) {
     auto* content = new QWidget;

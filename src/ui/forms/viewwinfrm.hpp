@@ -4,13 +4,33 @@
 #include "ui/shell/mdi_form.hpp"
 #include "views/rotation.hpp"
 
+#include <QToolButton>
+
 class QLineEdit;
 class QTimer;
 
 namespace kvt {
 
 class design_picture;
-class hold_button;
+
+/// A button that acts as long as it is held: it says when the left mouse button goes down on it and
+/// when it goes up on it.
+/// Kept: a mouse-up elsewhere says nothing, so what was started goes on until the next mouse-up on
+/// the button; viewwinfrm_test holds it.
+class hold_button : public QToolButton {
+    Q_OBJECT
+
+  public:
+    using QToolButton::QToolButton;
+
+  signals:
+    void held();
+    void let_go();
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+};
 
 class viewwinfrm : public mdi_form {
     Q_OBJECT

@@ -3,6 +3,7 @@
 
 #include "app/desk/settings_commands.hpp"
 #include "app/files/project_fixture.hpp"
+#include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
 
 #include <cstdlib>
@@ -51,6 +52,25 @@ TEST_F(start_up_test, reads_recent_list_package_and_language) {
     EXPECT_EQ(kavetta.app_state.mnufileprev[3], "/c.KVT");
     EXPECT_EQ(kavetta.app_state.modelling_package, "SolidWorks");
     EXPECT_EQ(kavetta.app_state.language, GERMAN);
+}
+
+TEST_F(start_up_test, has_german_captions_before_the_prompt_asks) {
+    write_settings_lines({"", "", "", "", "2", "", ""});
+    load_settings(kavetta);
+    EXPECT_EQ(kavetta.captions.of("Form2", "open"), "Öffnen Sie");
+    EXPECT_EQ(kavetta.captions.of("newprojectname", ""), "Neu Projekt");
+    EXPECT_EQ(kavetta.captions.of("Form1", ""), "Entwurf");
+}
+
+/// Until a project is there: New and Open hide what belongs to the assist.
+TEST_F(start_up_test, shows_the_assist_switched_off) {
+    load_settings(kavetta);
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist OFF", false, true, false, true}));
+    person.start_choices = {start_choice::neither};
+    start_project(kavetta, person);
+    EXPECT_EQ(look_of_assist(kavetta.app_state),
+              (assist_look{"Assist OFF", false, true, false, true}));
 }
 
 TEST_F(start_up_test, starts_a_new_project_without_asking_for_fluid_values) {

@@ -72,6 +72,17 @@ TEST(captions, follow_the_flag_and_the_units) {
     EXPECT_EQ(person.log.size(), 2U) << "also for the language already set";
 }
 
+TEST(captions, of_the_dialogs_at_the_start_change_back_to_english) {
+    program kavetta;
+    scripted_user person;
+    choose_language(kavetta, person, GERMAN);
+    EXPECT_EQ(kavetta.captions.of("Form2", "new"), "Neu");
+    EXPECT_EQ(kavetta.captions.of("newprojectname", "lblLabels"), "Planen Sie Namen:");
+    choose_language(kavetta, person, ENGLISH);
+    EXPECT_EQ(kavetta.captions.of("Form2", "new"), "New");
+    EXPECT_EQ(kavetta.captions.of("newprojectname", "lblLabels"), "Project Name:");
+}
+
 TEST(captions, of_forms_with_design_time_english_stay_german_after_the_change_back) {
     program kavetta;
     scripted_user person;

@@ -283,8 +283,8 @@ TEST_F(cnc_output, saves_what_a_failing_writer_got_to_and_goes_on) {
 
 TEST_F(cnc_output, never_changes_the_design) {
     const entries boxes = kavetta.entries;
-    const std::vector<double> outer_xy = kavetta.rotor_profiles.outer_xy;
-    const std::vector<double> troch_x = kavetta.rotor_profiles.troch_x;
+    const zeroed_array outer_xy = kavetta.rotor_profiles.outer_xy;
+    const zeroed_array troch_x = kavetta.rotor_profiles.troch_x;
     form.ticked.fill(true);
     person.files.assign(CNC_FILE_COUNT, folder.file("any.cnc"));
     EXPECT_TRUE(write());

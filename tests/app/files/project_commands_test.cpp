@@ -266,8 +266,11 @@ TEST_F(open_project_test, drops_results_of_the_design_before_it) {
     kavetta.rotor_profiles.min_chamber_volume = 7.0;
     kavetta.app_state.profiles_calculated = -1;
     kavetta.app_state.assist_on = true;
+    kavetta.design_view.angleline.elements.resize(4);
     person.files = {project_file("pump.KVT", project_lines())};
     open_project(kavetta, person);
+    EXPECT_EQ(kavetta.app_state.angleline_count, 4.0) << "as it was before the reset";
+    EXPECT_EQ(kavetta.design_view.angleline.elements.size(), 1U);
     EXPECT_FALSE(kavetta.enabling.mnudxf || kavetta.enabling.calc_perf ||
                  kavetta.enabling.design_ports);
     EXPECT_EQ(kavetta.labels.area_ratio, "");

@@ -102,7 +102,6 @@ TEST_F(profiles_run, of_a_new_program_asks_for_the_shaft_and_stops_at_once) {
     EXPECT_EQ(person.messages, texts{"Input a value for the diameter of the shaft"});
     EXPECT_FALSE(logged("busy"));
     EXPECT_EQ(kavetta.rotor_profiles.troch_xy.size(), 7202U);
-    EXPECT_EQ(kavetta.rotor_profiles.troch_xy_spare.size(), 7202U);
 }
 
 TEST_F(profiles_run, moves_the_focus_to_an_eccentricity_of_0) {

@@ -77,7 +77,7 @@ TEST_P(reference_ports, has_the_outlines) {
             continue;
         }
         const std::vector<double> points = field(name);
-        const std::vector<double>& actual = kavetta.port_params.*member;
+        const zeroed_array& actual = kavetta.port_params.*member;
         EXPECT_NEAR(actual.front(), points.front(), sharp ? SHARP_TOLERANCE : TOLERANCE) << name;
         for (std::size_t i = 0; !sharp && i < points.size(); ++i) {
             ASSERT_NEAR(actual[i], points[i], TOLERANCE) << name << " " << i;

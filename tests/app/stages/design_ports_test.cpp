@@ -108,6 +108,35 @@ TEST_F(design_ports_test, tells_the_first_groove_entry_that_is_zero_in_both_lang
     EXPECT_EQ(kavetta.port_params.port_radius, old.port_radius);
 }
 
+TEST_F(design_ports_test, closes_the_results_also_when_a_groove_entry_stops_it) {
+    design_ports(kavetta, person);
+    kavetta.enabling.create_charts = kavetta.enabling.mnudataperf = true;
+    kavetta.enabling.calc_perf = false;
+    kavetta.entries.groove_length = "0";
+    person.log.clear();
+    EXPECT_EQ(design_ports(kavetta, person), ports_designed{});
+    EXPECT_EQ(person.log, (log_lines{"unload perf_res", "unload EFFIC_graphview2",
+                                     "unload FLOW_graphview2", "unload HERTZ_graphview2",
+                                     "unload LOAD_graphview2", "unload OVREFF_graphview2",
+                                     "unload PRESS_RIP_graphview2", "unload VE_graphview2",
+                                     "message Enter a value for the length of the Metering Groove",
+                                     "focus groove_length"}))
+        << "the results are closed before the entry is looked at, and nothing is built";
+    EXPECT_TRUE(kavetta.enabling.calc_perf);
+    EXPECT_FALSE(kavetta.enabling.create_charts || kavetta.enabling.mnudataperf);
+}
+
+TEST_F(design_ports_test, closes_the_results_also_when_the_groove_is_refused) {
+    kavetta.enabling.create_charts = true;
+    kavetta.enabling.calc_perf = false;
+    kavetta.entries.groove_length = "200";
+    EXPECT_EQ(design_ports(kavetta, person), (ports_designed{true, true, false}));
+    EXPECT_EQ(count("unload perf_res"), 1);
+    EXPECT_EQ(person.log[person.log.size() - 3], "focus groove_length");
+    EXPECT_TRUE(kavetta.enabling.calc_perf);
+    EXPECT_FALSE(kavetta.enabling.create_charts);
+}
+
 TEST_F(design_ports_test, lets_a_negative_groove_entry_pass) {
     kavetta.entries.groove_depth = "-1";
     EXPECT_EQ(design_ports(kavetta, person), ALL);
@@ -119,6 +148,9 @@ TEST_F(design_ports_test, goes_on_with_the_outlet_after_a_refused_inlet) {
     kavetta.entries.inlet_end_outer = "188";
     EXPECT_EQ(design_ports(kavetta, person), (ports_designed{false, true, true}));
     EXPECT_EQ(person.messages, log_lines{"Port extends too far into 'Outlet' region of pump"});
+    const log_lines end(person.log.end() - 4, person.log.end());
+    EXPECT_EQ(end, (log_lines{"busy", "message " + person.messages[0], "not busy", "not busy"}))
+        << "a refused step gives the pointer back at once";
     EXPECT_FALSE(shows_outline(kavetta.design_view.inlet_portline));
     EXPECT_TRUE(shows_outline(kavetta.design_view.outlet_portline));
 }

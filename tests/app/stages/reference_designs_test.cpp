@@ -7,6 +7,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <span>
 
 namespace kvt {
 
@@ -27,7 +28,7 @@ class reference_design : public testing::TestWithParam<const char*> {
         end = calculate_profiles(kavetta, person);
     }
 
-    void expect_array(const char* name, const std::vector<double>& actual, double tolerance,
+    void expect_array(const char* name, std::span<const double> actual, double tolerance,
                       bool relative = false) {
         const auto& array = expected.at("arrays").at(name);
         const std::size_t every = array.at("every");

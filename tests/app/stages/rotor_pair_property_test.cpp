@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <iostream>
 #include <limits>
+#include <span>
 
 namespace kvt {
 
@@ -167,7 +168,7 @@ struct area_sums {
     double signed_sum = 0.0, positive_sum = 0.0;
 };
 
-area_sums shoelace(const std::vector<double>& x, const std::vector<double>& y, std::size_t last) {
+area_sums shoelace(std::span<const double> x, std::span<const double> y, std::size_t last) {
     area_sums sums;
     for (std::size_t i = 1; i <= last; ++i) {
         const double term = (x[i - 1] * y[i] - x[i] * y[i - 1]) / 2.0;

@@ -13,8 +13,8 @@ namespace kvt {
 namespace {
 
 /// A closed outline of 40 points about (cx, cy): point 40 repeats point 0.
-void set_outline(std::vector<double>& x, std::vector<double>& y, std::int16_t& last, point2 centre,
-                 double radius, bool clockwise) {
+void set_outline(zeroed_array& x, zeroed_array& y, std::int16_t& last, point2 centre, double radius,
+                 bool clockwise) {
     last = 40;
     for (std::size_t i = 0; i <= 40; ++i) {
         const double angle =

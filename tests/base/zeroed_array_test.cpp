@@ -1,0 +1,89 @@
+// Tests of the array that takes memory only once it is written to.
+#include "base/zeroed_array.hpp"
+
+#include "base/checked_math.hpp"
+#include "support/expect_failure.hpp"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <utility>
+
+namespace kvt {
+namespace {
+
+TEST(zeroed_array, is_0_from_its_first_to_its_last_element_and_fails_beyond) {
+    const zeroed_array numbers(36001);
+    EXPECT_EQ(numbers.size(), 36001U);
+    EXPECT_EQ(checked_at(numbers, 0), 0.0);
+    EXPECT_EQ(checked_at(numbers, 36000), 0.0);
+    EXPECT_FAILURE(checked_at(numbers, 36001), failure::subscript_out_of_range);
+    EXPECT_FAILURE(checked_at(numbers, -1), failure::subscript_out_of_range);
+}
+
+TEST(zeroed_array, takes_no_memory_before_it_is_written_to) {
+    const zeroed_array first(36001);
+    zeroed_array second(72001);
+    EXPECT_EQ(first.data(), std::as_const(second).data()) << "both show the same zeros";
+    second[7] = 1.5;
+    EXPECT_NE(first.data(), std::as_const(second).data());
+    EXPECT_EQ(std::as_const(second)[7], 1.5);
+    EXPECT_EQ(first[7], 0.0);
+}
+
+TEST(zeroed_array, of_a_copy_that_nobody_wrote_to_takes_none_either) {
+    const zeroed_array numbers(36001);
+    const zeroed_array copy = numbers;  // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_EQ(copy.data(), numbers.data());
+    EXPECT_EQ(copy.size(), 36001U);
+}
+
+TEST(zeroed_array, copies_every_number_and_stays_apart_from_its_copy) {
+    zeroed_array numbers(36001);
+    numbers[0] = 1.0;
+    numbers[5000] = -0.0;
+    numbers[36000] = 3.0;
+    zeroed_array copy = numbers;
+    EXPECT_EQ(copy, numbers);
+    EXPECT_TRUE(std::signbit(copy[5000]));
+    copy[100] = 7.0;
+    EXPECT_EQ(numbers[100], 0.0);
+    EXPECT_FALSE(copy == numbers);
+    numbers = copy;
+    EXPECT_EQ(numbers[100], 7.0);
+}
+
+TEST(zeroed_array, moves_its_numbers_and_leaves_nothing) {
+    zeroed_array numbers(10);
+    numbers[3] = 2.0;
+    const zeroed_array moved = std::move(numbers);
+    EXPECT_EQ(moved[3], 2.0);
+    EXPECT_EQ(moved.size(), 10U);
+}
+
+TEST(zeroed_array, assigns_a_new_size_and_one_value) {
+    zeroed_array numbers(3);
+    numbers[2] = 5.0;
+    numbers.assign(4, 0.0);
+    EXPECT_EQ(numbers.size(), 4U);
+    EXPECT_EQ(numbers[2], 0.0);
+    numbers.assign(2, 1.25);
+    EXPECT_EQ(numbers.size(), 2U);
+    EXPECT_EQ(numbers[1], 1.25);
+}
+
+TEST(zeroed_array, larger_than_any_record_has_zeros_of_its_own) {
+    const zeroed_array numbers(1000000);
+    EXPECT_EQ(numbers[999999], 0.0);
+    EXPECT_NE(numbers.data(), zeroed_array(5).data());
+}
+
+TEST(zeroed_array, of_nothing_is_empty) {
+    zeroed_array none;
+    EXPECT_TRUE(none.empty());
+    EXPECT_EQ(none.begin(), none.end());
+    EXPECT_EQ(none, zeroed_array(0));
+    EXPECT_FALSE(none == zeroed_array(1));
+}
+
+}  // namespace
+}  // namespace kvt

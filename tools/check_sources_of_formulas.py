@@ -1,0 +1,107 @@
+#!/usr/bin/env python3
+"""Reports headers with formulas or file formats that do not name the page they come from.
+
+Usage: check_sources_of_formulas.py [ROOT]. Every header of the folders below names a page of docs/formulas or
+docs/file-formats.md; the page exists, and so does the section where one is named: docs/formulas/trochoid.md, "Circles".
+Headers without a formula stand in the list with the reason.
+"""
+import pathlib
+import re
+import sys
+
+FOLDERS = ("geometry", "ports", "performance", "output")
+PAGE = re.compile(r'\b(docs/(?:formulas/[\w-]+|file-formats)\.md)(?:,?\s+"([^"]+)")?')
+COMMENT = re.compile(r"^\s*//[/!<]*", re.MULTILINE)
+HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
+
+# Headers that hold no formula and no line of a file, with the reason.
+WITHOUT_FORMULA = {
+    "src/geometry/point2.hpp": "a pair of coordinates",
+    "src/geometry/required_entries.hpp": "the entries that must be above 0",
+    "src/output/cnc/cnc_source.hpp": "what the writers get",
+    "src/performance/extremes.hpp": "the smallest and the largest of some values",
+    "src/ports/port_work.hpp": "what the steps of Design Ports get",
+}
+# Headers whose page is still to be named; the list only shrinks.
+TO_BE_NAMED = {
+    "src/geometry/assist_entries.hpp",
+    "src/geometry/entry_checks.hpp",
+    "src/geometry/number_range.hpp",
+    "src/geometry/quarter_steps.hpp",
+    "src/geometry/turned_profiles.hpp",
+    "src/output/cnc/clearing_arcs.hpp",
+    "src/output/cnc/cnc_files.hpp",
+    "src/output/cnc/cnc_lines.hpp",
+    "src/output/cnc/cnc_preamble.hpp",
+    "src/output/cnc/inner_offset.hpp",
+    "src/output/cnc/pocket_path.hpp",
+    "src/output/cnc/pocket_region.hpp",
+    "src/output/cnc/port_cnc.hpp",
+    "src/output/cnc/port_gcode.hpp",
+    "src/output/cnc/port_sections.hpp",
+    "src/output/cnc/rotor_cnc.hpp",
+    "src/output/dxf/dxf_files.hpp",
+    "src/output/dxf/dxf_polyline.hpp",
+    "src/output/port_contours.hpp",
+    "src/output/step/step_entities.hpp",
+    "src/output/step/step_files.hpp",
+    "src/output/step/step_ports.hpp",
+    "src/output/step/step_prism.hpp",
+    "src/output/step/step_rotors.hpp",
+    "src/output/step/step_wall.hpp",
+    "src/performance/face_films.hpp",
+    "src/performance/outlet_opening.hpp",
+    "src/performance/perf_entries.hpp",
+    "src/performance/perf_grid.hpp",
+    "src/performance/perf_inputs.hpp",
+    "src/performance/perf_res_labels.hpp",
+    "src/performance/perf_results.hpp",
+    "src/performance/perf_units.hpp",
+    "src/performance/side_load.hpp",
+    "src/ports/groove_outline.hpp",
+    "src/ports/outline_points.hpp",
+    "src/ports/polar.hpp",
+    "src/ports/port_corners.hpp",
+    "src/ports/port_entries.hpp",
+    "src/ports/port_fields.hpp",
+    "src/ports/port_params.hpp",
+    "src/ports/port_report.hpp",
+    "src/ports/port_sides.hpp",
+    "src/ports/side_lines.hpp",
+}
+
+
+def pages_named(path):
+    """Yields page and section ("" for the whole page). A comment's line ends are taken out first."""
+    text = " ".join(COMMENT.sub("", path.read_text(encoding="utf-8")).split())
+    yield from PAGE.findall(text)
+
+
+def header_findings(root, path, without_formula):
+    name = path.relative_to(root).as_posix()
+    named = list(pages_named(path))
+    if not named and name not in without_formula and name not in TO_BE_NAMED:
+        yield f"{name}: names no page of docs/formulas or docs/file-formats.md"
+    if named and name in without_formula:
+        yield f"{name}: names a page and needs no entry in this check"
+    for page, section in named:
+        if not (root / page).exists():
+            yield f"{name}: there is no page {page}"
+        elif section and section not in HEADING.findall((root / page).read_text(encoding="utf-8")):
+            yield f'{name}: {page} has no section "{section}"'
+
+
+def findings(root, without_formula=None):
+    without_formula = WITHOUT_FORMULA if without_formula is None else without_formula
+    for folder in FOLDERS:
+        for path in sorted((root / "src" / folder).rglob("*.hpp")):
+            yield from header_findings(root, path, without_formula)
+    for name in sorted(without_formula):
+        if not (root / name).exists():
+            yield f"{name}: listed in this check, but there is no such file"
+
+
+if __name__ == "__main__":
+    found = list(findings(pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".")))
+    print("\n".join(found) or "Every header with a formula names its page.")
+    sys.exit(1 if found else 0)
