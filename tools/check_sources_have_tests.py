@@ -20,6 +20,7 @@ COVERED_BY = {
     "apps/kvt/json_view.cpp": "tests/kvt/json_report_test.cpp",
     "apps/kvt/performance_summary.cpp": "tests/kvt/stage_summaries_test.cpp",
     "apps/kvt/port_summary.cpp": "tests/kvt/stage_summaries_test.cpp",
+    "apps/kvt/standard_streams.cpp": "tests/kvt/program_test.cpp",
     "apps/kvt/report_texts.cpp": "tests/kvt/text_report_test.cpp",
     "src/app/stages/porting_type.cpp": "tests/app/desk/enabling_chain_test.cpp",
     "src/app/desk/program_title.cpp": "tests/app/files/project_commands_test.cpp",

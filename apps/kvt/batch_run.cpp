@@ -110,8 +110,12 @@ int exit_status(const batch_result& result) {
 }
 
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
+    // What the system said stands on the desk only.
+    const bool is_ours = error.fault().why != file_fault::reason::system;
+    const std::string told =
+        is_ours ? failure_text(error, language) : std::string(failure_text(error.kind(), language));
     return std::string(message_text(message::run_time_failure, language)) +
-           number_text(error.number()) + ": " + std::string(failure_text(error.kind(), language));
+           number_text(error.number()) + ": " + told;
 }
 
 std::optional<batch_end> open_design(program& kavetta, batch_user& person,

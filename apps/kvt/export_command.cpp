@@ -32,7 +32,7 @@ bool export_project(const program& kavetta, const export_request& request, std::
     const std::string path = (request.folder / exported_project_name(request.source)).string();
     try {
         create_folder(request.folder);
-        write_entries(kavetta, path);
+        write_entries(kavetta, path, disk_write::left_to_the_system);
     } catch (const run_time_error& error) {
         err << path << ": " << run_time_error_line(error, request.source.language) << '\n';
         return false;

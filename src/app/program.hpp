@@ -2,6 +2,7 @@
 // batch program.
 #pragma once
 
+#include "app/desk/unsaved_files.hpp"
 #include "app/stages/stage_entries.hpp"
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
@@ -19,6 +20,7 @@
 #include "views/view_state.hpp"
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -45,8 +47,9 @@ struct program {
     /// What the command that ran last noticed; empty at the start of a command.
     std::vector<hint> hints;
 
-    /// The project that autosave wrote last or that the entries started from, as bytes.
-    std::string autosaved;
+    /// The files with entries that nobody saved: of the run, not of the design, so that copies of
+    /// the records share it.
+    std::shared_ptr<unsaved_work> unsaved = std::make_shared<unsaved_work>();
 
     /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes
     /// nothing there.

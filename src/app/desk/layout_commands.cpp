@@ -18,11 +18,37 @@ void write_layout_file(const program& kavetta, const present_windows& windows) {
 layout_reading read_layout_file(program& kavetta) {
     std::string bytes;
     try {
-        bytes = read_file(kavetta.folder / LAYOUT_FILE_NAME);
+        bytes = read_file(kavetta.folder / LAYOUT_FILE_NAME, LARGEST_TEXT);
     } catch (const run_time_error&) {
         bytes.clear();
     }
     return read_layout(bytes, kavetta.window_rectangles);
+}
+
+/// What the error path shows.
+start_layout layout_after_failure() {
+    return {{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}, "Form1"};
+}
+
+/// False when the form could not be shown.
+bool shows(user& person, std::string_view form) {
+    try {
+        person.show_form(form);
+        return true;
+    } catch (const run_time_error&) {
+        return false;
+    }
+}
+
+/// The window was not there when the reading failed.
+void forget_explanation(program& kavetta, std::string_view form) {
+    if (form == "explain") {
+        kavetta.app_state.explain_closed = true;
+        kavetta.window_rectangles.explain.reset();
+    } else if (form == "port_explain") {
+        kavetta.app_state.port_explain_closed = true;
+        kavetta.window_rectangles.port_explain.reset();
+    }
 }
 
 }  // namespace
@@ -64,8 +90,7 @@ start_layout read_start_layout(program& kavetta) {
     const layout_reading reading = read_layout_file(kavetta);
     start_layout start;
     if (reading.failed) {
-        start.shown = {"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"};
-        start.focus = "Form1";
+        start = layout_after_failure();
     } else {
         for (const window_rectangle_field& field : window_rectangle_fields()) {
             start.shown.push_back(field.name);
@@ -80,6 +105,27 @@ start_layout read_start_layout(program& kavetta) {
         start.shown.push_back("port_explain");
     }
     return start;
+}
+
+start_layout show_start_layout(program& kavetta, user& person) {
+    const start_layout start = read_start_layout(kavetta);
+    bool failed = false;
+    for (const std::string_view form : start.shown) {
+        failed = failed || !shows(person, form);
+        if (failed) {
+            forget_explanation(kavetta, form);
+        }
+    }
+    if (!failed) {
+        return start;
+    }
+    set_sizes_after_failure(kavetta.window_rectangles);
+    kavetta.window_rectangles.MDIForm1.reset();
+    const start_layout built_in = layout_after_failure();
+    for (const std::string_view form : built_in.shown) {
+        person.show_form(form);
+    }
+    return built_in;
 }
 
 }  // namespace kvt

@@ -34,4 +34,9 @@ struct start_layout {
 /// the screen takes the rectangles over. Never fails.
 start_layout read_start_layout(program& kavetta);
 
+/// read_start_layout, then shows its forms. One that can't be shown, e.g. for want of a picture, is
+/// a failure of the reading like any other: the built-in sizes, without a message; the explanation
+/// windows that were shown before it stay.
+start_layout show_start_layout(program& kavetta, user& person);
+
 }  // namespace kvt

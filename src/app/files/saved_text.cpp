@@ -15,7 +15,8 @@ constexpr int OVERWRITE_PROMPT = 2;
 
 }  // namespace
 
-std::optional<run_time_error> save_text(const std::string& path, const text_writer& write) {
+std::optional<run_time_error> save_text(const std::string& path, const text_writer& write,
+                                        disk_write kind) {
     std::optional<run_time_error> failed;
     text_lines text;
     try {
@@ -24,7 +25,7 @@ std::optional<run_time_error> save_text(const std::string& path, const text_writ
         failed = error;
     }
     try {
-        write_file(path, text.bytes());
+        write_file(path, text.bytes(), kind);
     } catch (const run_time_error& error) {
         failed = error;
     }

@@ -18,7 +18,8 @@ using text_writer = std::function<void(text_lines&)>;
 
 /// Runs the writer and saves what it appended, also when it failed. Answers the failure of the
 /// writer or of saving.
-std::optional<run_time_error> save_text(const std::string& path, const text_writer& write);
+std::optional<run_time_error> save_text(const std::string& path, const text_writer& write,
+                                        disk_write kind = disk_write::flushed);
 
 /// The dialog of every written file: the program's title with the suffix, the second row of the
 /// filter chosen, and a question before a file is overwritten.

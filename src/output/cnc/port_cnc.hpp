@@ -22,7 +22,7 @@ void write_port_pocket(const file_source& source, port_side side, text_lines& te
 /// How far the codes of a port's file lie from its X/Y file, mm (contour_gap). Above
 /// CONTOUR_TOLERANCE_MM the codes cannot follow the outline: a fillet that its side does not touch,
 /// an arc that runs backwards or over more than half a turn.
-double port_gcode_gap(const cnc_source& source, port_side side);
+double port_gcode_gap(const file_source& source, port_side side);
 
 /// The outlines as arcs and lines, with the places where the tool goes down and up.
 void write_port_gcode(const file_source& source, port_side side, text_lines& text);

@@ -121,15 +121,15 @@ void MDIForm1::show_start(const start_layout& start) {
 void MDIForm1::place_children() {
     const window_rectangles& layout = context_.kavetta.window_rectangles;
     for (const window_rectangle_field& field : window_rectangle_fields()) {
-        findChild<mdi_form*>(qt_text(field.name))->place(layout.*field.member);
+        findChild<mdi_form*>(qt_text(field.name))->place(child_place(layout.*field.member));
     }
     auto* explain = findChild<mdi_form*>("explain");
     if (explain != nullptr && layout.explain) {
-        explain->place(*layout.explain);
+        explain->place(child_place(*layout.explain));
     }
     auto* port_explain = findChild<mdi_form*>("port_explain");
     if (port_explain != nullptr && layout.port_explain) {
-        port_explain->place(*layout.port_explain);
+        port_explain->place(child_place(*layout.port_explain));
     }
     // Once even when the size is the one that it had.
     findChild<viewwinfrm*>()->size_picture();
