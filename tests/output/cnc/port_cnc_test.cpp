@@ -232,14 +232,8 @@ TEST(contour_gap, is_that_of_the_worst_point) {
 
 TEST(port_gcode_gap, is_small_for_sound_ports_and_tells_codes_that_leave_their_outline) {
     port_files files;
-    const cnc_source source{files.tested.design,
-                            files.tested.rotors,
-                            files.tested.ports,
-                            files.tested.boxes,
-                            files.choices,
-                            "pump",
-                            ENGLISH,
-                            false};
+    const file_source source{files.tested.design, files.tested.rotors, files.tested.ports,
+                             files.tested.boxes,  files.choices,       "pump"};
     EXPECT_LT(port_gcode_gap(source, port_side::inlet), CONTOUR_TOLERANCE_MM);
     EXPECT_LT(port_gcode_gap(source, port_side::outlet), CONTOUR_TOLERANCE_MM);
     files.tested.ports.inlet_built.f = 0.0;

@@ -73,8 +73,8 @@ struct tally {
 
 void replay(const port_design& tested, port_side side, tally& count) {
     const cnc_choices choices{.cnc_res_digits = DECIMALS};
-    const cnc_source source{tested.design, tested.rotors, tested.ports, tested.boxes,
-                            choices,       "pump",        ENGLISH,      false};
+    const file_source source{tested.design, tested.rotors, tested.ports,
+                             tested.boxes,  choices,       "pump"};
     if (port_gcode_gap(source, side) > CONTOUR_TOLERANCE_MM) {
         ++count.refused;
         return;
