@@ -38,9 +38,12 @@ struct performance_case {
     kvt::perf_results perf_results;
     nlohmann::json expected;  ///< the reference file
 
-    const length_unit& unit() const {
+    /// English, with the unit of the reference's texts.
+    app_state state() const {
         const auto load = expected["labels"]["max_shaft_side_load"].get<std::string>();
-        return length_unit_of(load.ends_with("lbsf") ? INCHES : MILLIMETRES);
+        app_state state;
+        state.drawing_units = load.ends_with("lbsf") ? INCHES : MILLIMETRES;
+        return state;
     }
 
     /// Speed limits and grid, then the eight routines in the order of Calculate Performance.
@@ -107,7 +110,7 @@ inline performance_case load_performance_case(const std::string& name) {
             sample.entries.*field.member = sample.expected["entries"][key].get<std::string>();
         }
     }
-    sample.perf_inputs = read_perf_inputs(sample.entries, sample.unit().system);
+    sample.perf_inputs = read_perf_inputs(sample.entries, length_unit_of(sample.state()).system);
     return sample;
 }
 
