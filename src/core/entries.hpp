@@ -49,6 +49,11 @@ inline bool is_ticked(const std::string& check) {
 
 enum class entry_kind { text, check };
 
+/// Whether the text of a check box or option button says that it is ticked.
+inline bool is_ticked(std::string_view check) {
+    return check == "1";
+}
+
 /// One row of the table of entries.
 struct entry_field {
     std::string_view form;

@@ -1,8 +1,12 @@
 #include "support/expect_performance.hpp"
 
+#include "base/checked_math.hpp"
+#include "performance/result_quantities.hpp"
+
 #include <cmath>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <vector>
 
 namespace kvt {
 
@@ -16,43 +20,56 @@ void expect_close(double value, double expected, const std::string& where) {
         << where << ": " << value;
 }
 
+/// The numbers of a result that is a number, a list or a grid, the speeds one behind the other;
+/// empty for arrays over an angle.
+std::vector<double> numbers_of(const result_quantity& quantity,
+                                      const perf_results& results) {
+    if (is_grid(quantity)) {
+        std::vector<double> numbers;
+        for (const perf_list& row : grid_of(quantity, results)) {
+            numbers.insert(numbers.end(), row.begin(), row.end());
+        }
+        return numbers;
+    }
+    if (const auto* value = std::get_if<result_value>(&quantity.source)) {
+        return {results.*(*value)};
+    }
+    const auto* speeds = std::get_if<speed_list>(&quantity.source);
+    const auto* pressures = std::get_if<pressure_list>(&quantity.source);
+    if (speeds == nullptr && pressures == nullptr) {
+        return {};
+    }
+    const perf_list& list = results.*(speeds != nullptr ? speeds->member : pressures->member);
+    return {list.begin(), list.end()};
+}
+
 /// Number of references compared, so that a test can see that none was skipped.
 int expect_scalars_and_grids(const perf_results& results, const nlohmann::json& expected) {
     int compared = 0;
-    for (const auto& field : perf_values()) {
-        const std::string name(field.name);
-        if (expected.contains(name)) {
-            expect_close(results.*field.member, expected[name], name);
-            ++compared;
+    for (const result_quantity& quantity : result_quantities()) {
+        const std::string name(quantity.name);
+        if (quantity.json == json_part::none || !expected.contains(name)) {
+            continue;
         }
-    }
-    for (const auto& field : perf_lists()) {
-        const std::string name(field.name);
-        for (std::size_t i = 0; expected.contains(name) && i < GRID_SIZE;
-             ++i, compared += i == GRID_SIZE) {
-            expect_close((results.*field.member)[i], expected[name][i],
-                         name + " " + std::to_string(i));
+        const std::vector<double> numbers = numbers_of(quantity, results);
+        const nlohmann::json references = nlohmann::json::array({expected[name]}).flatten();
+        EXPECT_EQ(numbers.size(), references.size()) << name;
+        std::size_t n = 0;
+        for (const nlohmann::json& reference : references) {
+            expect_close(numbers.at(n), reference, name + " " + std::to_string(n));
+            ++n;
         }
-    }
-    for (const auto& field : perf_grids()) {
-        const std::string name(field.name);
-        for (std::size_t i = 0; expected.contains(name) && i < GRID_SIZE;
-             ++i, compared += i == GRID_SIZE) {
-            for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-                expect_close((results.*field.member)[i][j], expected[name][i][j],
-                             name + " " + std::to_string(i) + "," + std::to_string(j));
-            }
-        }
+        ++compared;
     }
     return compared;
 }
 
 /// Elements 0, 25, 50 ...
 void expect_every_25th(const perf_array& values, const nlohmann::json& expected,
-                       const std::string& name) {
+                              const std::string& name) {
     ASSERT_FALSE(expected.empty()) << name;
     for (std::size_t n = 0; n < expected.size(); ++n) {
-        expect_close(values.at(n * 25), expected[n], name + " " + std::to_string(n * 25));
+        expect_close(checked_at(values, static_cast<int>(n * 25)), expected[n], name + " " + std::to_string(n * 25));
     }
 }
 

@@ -5,7 +5,6 @@
 #include "performance/perf_results.hpp"
 
 #include <nlohmann/json_fwd.hpp>
-#include <string>
 
 namespace kvt {
 

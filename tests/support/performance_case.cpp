@@ -40,9 +40,11 @@ void read_rotors(const nlohmann::json& from, rotor_profiles& rotors) {
 
 }  // namespace
 
-const length_unit& performance_case::unit() const {
+app_state performance_case::state() const {
+    app_state state;
     const bool inches = expected_label("max_shaft_side_load").ends_with("lbsf");
-    return length_unit_of(inches ? INCHES : MILLIMETRES);
+    state.drawing_units = inches ? INCHES : MILLIMETRES;
+    return state;
 }
 
 std::string performance_case::expected_label(std::string_view name) const {
@@ -65,7 +67,7 @@ performance_case load_performance_case(const std::string& name) {
         }
     }
     sample.expected = std::make_shared<const nlohmann::json>(expected);
-    sample.perf_inputs = read_perf_inputs(sample.entries, sample.unit().system);
+    sample.perf_inputs = read_perf_inputs(sample.entries, length_unit_of(sample.state()).system);
     return sample;
 }
 

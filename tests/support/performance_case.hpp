@@ -2,6 +2,7 @@
 // results it must give.
 #pragma once
 
+#include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
 #include "core/length_unit.hpp"
@@ -39,7 +40,8 @@ struct performance_case {
     kvt::perf_results perf_results;
     std::shared_ptr<const nlohmann::json> expected;  ///< the reference file
 
-    const length_unit& unit() const;
+    /// English, with the unit of the reference's texts.
+    app_state state() const;
     /// The text that the reference has for a label.
     std::string expected_label(std::string_view name) const;
 
