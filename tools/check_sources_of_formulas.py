@@ -18,7 +18,10 @@ HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
 WITHOUT_FORMULA = {
     "src/geometry/point2.hpp": "a pair of coordinates, and what a page needs no line for",
     "src/geometry/required_entries.hpp": "the entries that must be above 0",
-    "src/output/cnc/cnc_source.hpp": "what the writers get",
+    "src/output/cnc/cnc_choices.hpp": "what the CNC dialog was told",
+    "src/output/file_source.hpp": "what the writers get",
+    "src/output/written_files.hpp": "the table of the files",
+    "src/performance/result_quantities.hpp": "the table of the results",
     "src/performance/extremes.hpp": "the smallest and the largest of some values",
     "src/ports/port_work.hpp": "what the steps of Design Ports get",
 }

@@ -23,7 +23,8 @@ class files_export {
             }
             if (!is_there(file.needs, kavetta_.port_params, kavetta_.entries)) {
                 refuse_named(file);
-            } else if (file.group != file_group::cnc || (follows_outline(file) && passes_dialog(file))) {
+            } else if (file.group != file_group::cnc ||
+                       (follows_outline(file) && passes_dialog(file))) {
                 write(file);
             }
         }

@@ -22,8 +22,7 @@ void expect_close(double value, double expected, const std::string& where) {
 
 /// The numbers of a result that is a number, a list or a grid, the speeds one behind the other;
 /// empty for arrays over an angle.
-std::vector<double> numbers_of(const result_quantity& quantity,
-                                      const perf_results& results) {
+std::vector<double> numbers_of(const result_quantity& quantity, const perf_results& results) {
     if (is_grid(quantity)) {
         std::vector<double> numbers;
         for (const perf_list& row : grid_of(quantity, results)) {
@@ -66,10 +65,11 @@ int expect_scalars_and_grids(const perf_results& results, const nlohmann::json& 
 
 /// Elements 0, 25, 50 ...
 void expect_every_25th(const perf_array& values, const nlohmann::json& expected,
-                              const std::string& name) {
+                       const std::string& name) {
     ASSERT_FALSE(expected.empty()) << name;
     for (std::size_t n = 0; n < expected.size(); ++n) {
-        expect_close(checked_at(values, static_cast<int>(n * 25)), expected[n], name + " " + std::to_string(n * 25));
+        expect_close(checked_at(values, static_cast<int>(n * 25)), expected[n],
+                     name + " " + std::to_string(n * 25));
     }
 }
 
