@@ -13,7 +13,7 @@ class perf_results_test : public testing::TestWithParam<const char*> {};
 TEST_P(perf_results_test, give_the_reference_values) {
     performance_case sample = load_performance_case(GetParam());
     sample.run();
-    expect_performance(sample.perf_results, sample.expected);
+    expect_performance(sample.perf_results, *sample.expected);
 }
 
 TEST_P(perf_results_test, are_the_same_in_a_second_run) {
