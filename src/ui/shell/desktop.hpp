@@ -1,6 +1,7 @@
 // desktop: one running Kavetta with its windows, from the settings to the end.
 #pragma once
 
+#include "app/program.hpp"
 #include "ui/parts/entry_focus.hpp"
 #include "ui/shell/MDIForm1.hpp"
 #include "ui/shell/command_runner.hpp"
