@@ -21,7 +21,6 @@ WITHOUT_FORMULA = {
     "src/output/cnc/cnc_choices.hpp": "what the CNC dialog was told",
     "src/output/file_source.hpp": "what the writers get",
     "src/output/written_files.hpp": "the table of the files",
-    "src/performance/result_quantities.hpp": "the table of the results",
     "src/performance/extremes.hpp": "the smallest and the largest of some values",
     "src/ports/port_work.hpp": "what the steps of Design Ports get",
 }
@@ -47,15 +46,6 @@ TO_BE_NAMED = {
     "src/output/step/step_prism.hpp",
     "src/output/step/step_rotors.hpp",
     "src/output/step/step_wall.hpp",
-    "src/performance/face_films.hpp",
-    "src/performance/outlet_opening.hpp",
-    "src/performance/perf_entries.hpp",
-    "src/performance/perf_grid.hpp",
-    "src/performance/perf_inputs.hpp",
-    "src/performance/perf_res_labels.hpp",
-    "src/performance/perf_results.hpp",
-    "src/performance/perf_units.hpp",
-    "src/performance/side_load.hpp",
 }
 
 

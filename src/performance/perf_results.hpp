@@ -1,4 +1,6 @@
 // perf_results: everything that Calculate Performance computes, over 6 speeds by 6 pressures.
+// Sources: docs/formulas/flow.md, docs/formulas/power.md, docs/formulas/contact.md and
+// docs/formulas/ripple.md, each with the fields that it fills.
 #pragma once
 
 #include "base/zeroed_array.hpp"

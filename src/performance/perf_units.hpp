@@ -1,5 +1,5 @@
 // The unit factors of the performance model. Several are rounded; each is part of every result and
-// is kept.
+// is kept. Source: docs/formulas/flow.md, "Units".
 #pragma once
 
 #include "core/length_unit.hpp"

@@ -1,6 +1,7 @@
 // result_quantities: the one table of the performance results: what each is called, how it is got
 // from perf_results, and how every place of use shows it. Whatever shows, writes or draws results
-// loops over it; a new place of use is an enumerator and a row a result.
+// loops over it; a new place of use is an enumerator and a row a result. Source of
+// factors and digits: docs/formulas/flow.md, "Results as they are shown".
 #pragma once
 
 #include "core/length_unit.hpp"

@@ -2,6 +2,8 @@
 #include "support/expect_performance.hpp"
 #include "support/performance_case.hpp"
 
+#include <gtest/gtest.h>
+
 namespace kvt {
 namespace {
 

@@ -1,12 +1,10 @@
 #include "support/expect_performance.hpp"
 
 #include "base/checked_math.hpp"
-#include "performance/result_quantities.hpp"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-#include <vector>
 
 namespace kvt {
 
@@ -18,28 +16,6 @@ constexpr double RELATIVE_TOLERANCE = 1e-9;
 void expect_close(double value, double expected, const std::string& where) {
     EXPECT_LE(std::abs(value - expected), RELATIVE_TOLERANCE * std::abs(expected))
         << where << ": " << value;
-}
-
-/// The numbers of a result that is a number, a list or a grid, the speeds one behind the other;
-/// empty for arrays over an angle.
-std::vector<double> numbers_of(const result_quantity& quantity, const perf_results& results) {
-    if (is_grid(quantity)) {
-        std::vector<double> numbers;
-        for (const perf_list& row : grid_of(quantity, results)) {
-            numbers.insert(numbers.end(), row.begin(), row.end());
-        }
-        return numbers;
-    }
-    if (const auto* value = std::get_if<result_value>(&quantity.source)) {
-        return {results.*(*value)};
-    }
-    const auto* speeds = std::get_if<speed_list>(&quantity.source);
-    const auto* pressures = std::get_if<pressure_list>(&quantity.source);
-    if (speeds == nullptr && pressures == nullptr) {
-        return {};
-    }
-    const perf_list& list = results.*(speeds != nullptr ? speeds->member : pressures->member);
-    return {list.begin(), list.end()};
 }
 
 /// Number of references compared, so that a test can see that none was skipped.
@@ -74,6 +50,26 @@ void expect_every_25th(const perf_array& values, const nlohmann::json& expected,
 }
 
 }  // namespace
+
+std::vector<double> numbers_of(const result_quantity& quantity, const perf_results& results) {
+    if (is_grid(quantity)) {
+        std::vector<double> numbers;
+        for (const perf_list& row : grid_of(quantity, results)) {
+            numbers.insert(numbers.end(), row.begin(), row.end());
+        }
+        return numbers;
+    }
+    if (const auto* value = std::get_if<result_value>(&quantity.source)) {
+        return {results.*(*value)};
+    }
+    const auto* speeds = std::get_if<speed_list>(&quantity.source);
+    const auto* pressures = std::get_if<pressure_list>(&quantity.source);
+    if (speeds == nullptr && pressures == nullptr) {
+        return {};
+    }
+    const perf_list& list = results.*(speeds != nullptr ? speeds->member : pressures->member);
+    return {list.begin(), list.end()};
+}
 
 void expect_performance(const perf_results& results, const nlohmann::json& reference) {
     const nlohmann::json& expected = reference["perf_results"];
