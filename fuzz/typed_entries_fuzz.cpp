@@ -1,6 +1,7 @@
 // Fuzz target: any control and any text of kvt --set end in a sentence or are typed; a project
 // holds what was typed.
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "fuzzed_design.hpp"
 #include "kvt/batch_run.hpp"
@@ -31,7 +32,8 @@ void check_typed(const std::string& bytes) {
     std::ostringstream told;
     batch_user person(told);
     const auto kavetta = std::make_unique<program>();
-    require(!open_design(*kavetta, person, {.project = design.project}), "a sample opens");
+    require(!open_design(*kavetta, person, {.project = design.project, .typed = {}}),
+            "a sample opens");
     for (const typed_entry& typed : design.typed) {
         try {
             type_entry(*kavetta, person, typed);

@@ -115,7 +115,7 @@ TEST(outer_rotor, runs_with_new_lists_each_time) {
     rotors.lobe_centre_offset = design.radinnroot + design.ecc;
     fill_outer_rotor(design, rotors);
     EXPECT_EQ(rotors.outer_xy.size(), 608U * 3U + 2U);
-    EXPECT_EQ(rotors.outer_xy.back(), 0.0);
+    EXPECT_EQ(rotors.outer_xy[rotors.outer_xy.size() - 1], 0.0);
     EXPECT_EQ(rotors.fillet_x.size(), 101U)
         << "only a run with fillets gives the fillet lists new elements";
 }

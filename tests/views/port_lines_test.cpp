@@ -4,7 +4,9 @@
 #include "support/expect_failure.hpp"
 #include "views/twips.hpp"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <initializer_list>
 
 namespace kvt {
 namespace {
@@ -25,10 +27,16 @@ struct shown_ports {
     design_view view;
 };
 
+zeroed_array array_of(std::initializer_list<double> numbers) {
+    zeroed_array array(numbers.size());
+    std::copy(numbers.begin(), numbers.end(), array.begin());
+    return array;
+}
+
 TEST(port_lines, an_element_is_a_segment_with_y_upwards) {
     shown_ports shown;
-    shown.ports.inlet_port_x = {1.0, 2.0, 1.0};
-    shown.ports.inlet_port_y = {-3.0, -4.0, -3.0};
+    shown.ports.inlet_port_x = array_of({1.0, 2.0, 1.0});
+    shown.ports.inlet_port_y = array_of({-3.0, -4.0, -3.0});
     shown.ports.inlet_port_last = 2;
     draw_inlet_port(shown.ports, shown.state, shown.view);
     const line_array& lines = shown.view.inlet_portline;
