@@ -78,7 +78,7 @@ TEST_P(reference_ports, has_the_outlines) {
         }
         const std::vector<double> points = field(name);
         const zeroed_array& actual = kavetta.port_params.*member;
-        EXPECT_NEAR(actual.front(), points.front(), sharp ? SHARP_TOLERANCE : TOLERANCE) << name;
+        EXPECT_NEAR(actual[0], points.front(), sharp ? SHARP_TOLERANCE : TOLERANCE) << name;
         for (std::size_t i = 0; !sharp && i < points.size(); ++i) {
             ASSERT_NEAR(actual[i], points[i], TOLERANCE) << name << " " << i;
         }
