@@ -1,6 +1,7 @@
 #include "fuzzed_design.hpp"
 
 #include "base/text_file.hpp"
+#include "core/entries.hpp"
 #include "support/temporary_folder.hpp"
 
 #include <algorithm>

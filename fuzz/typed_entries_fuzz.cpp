@@ -1,6 +1,7 @@
 // Fuzz target: any control and any text of kvt --set end in a sentence or are typed; a project
 // holds what was typed.
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "fuzzed_design.hpp"
 #include "kvt/batch_run.hpp"
