@@ -26,26 +26,6 @@ WITHOUT_FORMULA = {
 }
 # Headers whose page is still to be named; the list only shrinks.
 TO_BE_NAMED = {
-    "src/output/cnc/clearing_arcs.hpp",
-    "src/output/cnc/cnc_files.hpp",
-    "src/output/cnc/cnc_lines.hpp",
-    "src/output/cnc/cnc_preamble.hpp",
-    "src/output/cnc/inner_offset.hpp",
-    "src/output/cnc/pocket_path.hpp",
-    "src/output/cnc/pocket_region.hpp",
-    "src/output/cnc/port_cnc.hpp",
-    "src/output/cnc/port_gcode.hpp",
-    "src/output/cnc/port_sections.hpp",
-    "src/output/cnc/rotor_cnc.hpp",
-    "src/output/dxf/dxf_files.hpp",
-    "src/output/dxf/dxf_polyline.hpp",
-    "src/output/port_contours.hpp",
-    "src/output/step/step_entities.hpp",
-    "src/output/step/step_files.hpp",
-    "src/output/step/step_ports.hpp",
-    "src/output/step/step_prism.hpp",
-    "src/output/step/step_rotors.hpp",
-    "src/output/step/step_wall.hpp",
 }
 
 

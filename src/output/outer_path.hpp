@@ -35,19 +35,21 @@ design_params outer_rotor_entries(const entries& boxes, double mm_per_unit);
 /// N lobes of radius r about centres at C = radinnroot + ecc + r, joined to the root circle of
 /// radius outer_root by fillets. Lobe i stands at (i + 1) TWO_PI_D/N, so the path starts one step
 /// past the x axis: at the root end of that lobe's first flank. Without fillets their arcs are
-/// missing and the ends of a flank coincide up to rounding. Source: docs/formulas/outer_rotor.md,
-/// "Tangent point". Throws run_time_error for a geometry that doesn't close.
+/// missing and the ends of a flank coincide up to rounding. Source: docs/formulas/written_files.md,
+/// "Outer path". Throws run_time_error for a geometry that doesn't close.
 outer_path outer_rotor_path(const design_params& design);
 
 /// The path of a cutter's centre: lobes r + tool_radius, root outer_root - tool_radius, fillets
 /// fillet - tool_radius and none when that is negative; the lobe centres stay. Where the root arcs
 /// vanish (2 alpha N >= TWO_PI_D) the lobe arcs meet in sharp corners halfway between two lobes, at
 ///     rho = x - sqrt((r + tool_radius)^2 - (C^2 - x^2))      x = C cos(TWO_PI_D / (2 N))
+/// Source: docs/formulas/written_files.md, "Outer offset".
 outer_path outer_rotor_offset_path(const design_params& design, double tool_radius);
 
 /// The points of an arc behind its start, the last one at its end: 10 a fillet, 50 a root, 250 a
 /// lobe.
 ///     centre + radius (cos, sin) of start + j (end - start) / n      j = 1 .. n
+/// Source: docs/formulas/written_files.md, "Points of an arc".
 /// Throws division_by_zero for an end straight above or below the centre.
 std::vector<point2> arc_points(const outer_path_arc& arc);
 

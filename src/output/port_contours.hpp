@@ -1,5 +1,6 @@
 // The outlines of the ports and of the metering groove as lists of points, as the output files walk
 // along them.
+// Source: docs/formulas/ports.md, "Point list".
 #pragma once
 
 #include "geometry/point2.hpp"

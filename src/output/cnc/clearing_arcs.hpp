@@ -1,4 +1,5 @@
 // The concentric arcs that clear the middle of a pocket.
+// Source: docs/formulas/written_files.md, "Pocket".
 #pragma once
 
 #include "output/cnc/pocket_path.hpp"

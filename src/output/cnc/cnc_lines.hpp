@@ -1,4 +1,5 @@
 // The lines of a CNC file: comments, coordinates and G-codes, numbers in one fixed format.
+// Source: docs/file-formats.md, "CNC files (`.cnc`)".
 #pragma once
 
 #include "base/text_file.hpp"

@@ -1,4 +1,5 @@
 // The comment lines at the head of a CNC file.
+// Source: docs/file-formats.md, "CNC files (`.cnc`)".
 #pragma once
 
 #include "output/cnc/cnc_lines.hpp"

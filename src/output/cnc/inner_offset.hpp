@@ -1,4 +1,5 @@
 // The path of a cutter's centre round the inner rotor, offset from the trochoid.
+// Source: docs/formulas/written_files.md, "Inner offset".
 #pragma once
 
 #include "core/design_params.hpp"

@@ -1,4 +1,5 @@
 // The path of a cutter that clears the pocket of a port or of the metering groove.
+// Source: docs/formulas/written_files.md, "Pocket".
 #pragma once
 
 #include "geometry/point2.hpp"

@@ -1,4 +1,5 @@
 // The region of a pocket that a cutter's centre may reach.
+// Source: docs/formulas/written_files.md, "Pocket".
 #pragma once
 
 #include "geometry/point2.hpp"

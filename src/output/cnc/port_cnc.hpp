@@ -1,4 +1,5 @@
 // The CNC files of the ports: points, pocket milling paths and G-codes, section by section.
+// Source: docs/file-formats.md, "CNC files (`.cnc`)".
 #pragma once
 
 #include "base/text_file.hpp"

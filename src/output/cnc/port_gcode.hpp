@@ -1,4 +1,5 @@
 // The outline of a port and of the metering groove as arcs and lines of a milling program.
+// Source: docs/formulas/written_files.md, "Port arcs".
 #pragma once
 
 #include "geometry/point2.hpp"

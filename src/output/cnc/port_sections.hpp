@@ -1,4 +1,5 @@
 // The sections of a port's CNC file: lower housing, metering groove, upper housing, shadow port.
+// Source: docs/file-formats.md, "CNC files (`.cnc`)".
 #pragma once
 
 #include "output/cnc/cnc_lines.hpp"

@@ -1,4 +1,5 @@
 // The CNC files of the rotors: points, cutter paths, lathe lines and G-codes.
+// Source: docs/file-formats.md, "CNC files (`.cnc`)".
 #pragma once
 
 #include "base/text_file.hpp"

@@ -1,4 +1,5 @@
 // The DXF files: one open two-dimensional polyline each, whose last vertex repeats the first.
+// Source: docs/file-formats.md, "DXF files (`.dxf`)".
 #pragma once
 
 #include "base/text_file.hpp"

@@ -1,4 +1,5 @@
 // A DXF file around one polyline: sections, layers, vertices, end.
+// Source: docs/file-formats.md, "DXF files (`.dxf`)".
 #pragma once
 
 #include "base/text_file.hpp"

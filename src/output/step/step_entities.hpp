@@ -1,4 +1,5 @@
 // The entities of one STEP body, written from rows of fixed text.
+// Source: docs/file-formats.md, "STEP files (`.stp`)".
 #pragma once
 
 #include "base/text_file.hpp"

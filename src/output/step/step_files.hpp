@@ -1,5 +1,6 @@
 // The STEP files (ISO 10303-21, AP203): header, bodies, end. All lengths are millimetres, in
 // imperial projects too.
+// Source: docs/file-formats.md, "STEP files (`.stp`)".
 #pragma once
 
 #include "base/text_file.hpp"

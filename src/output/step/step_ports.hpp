@@ -1,5 +1,6 @@
 // The STEP bodies of the ports: inlet and outlet below the rotors, their upper or shadow halves,
 // the metering groove.
+// Source: docs/file-formats.md, "STEP files (`.stp`)".
 #pragma once
 
 #include "base/text_file.hpp"

@@ -1,4 +1,5 @@
 // A STEP body of constant section between two planes: the inner rotor and the ports.
+// Source: docs/file-formats.md, "STEP files (`.stp`)".
 #pragma once
 
 #include "base/text_file.hpp"

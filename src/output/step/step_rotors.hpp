@@ -1,4 +1,5 @@
 // The STEP bodies of both rotors.
+// Source: docs/file-formats.md, "STEP files (`.stp`)".
 #pragma once
 
 #include "base/text_file.hpp"

@@ -1,5 +1,6 @@
 // The side wall of a STEP body over a closed contour: control points in four layers, spline curves
 // and surfaces.
+// Source: docs/formulas/written_files.md, "STEP walls".
 #pragma once
 
 #include "base/text_file.hpp"
