@@ -71,8 +71,9 @@ void place_main_window(QMainWindow& window, const window_rectangle& stored) {
 }
 
 window_rectangle child_place(const window_rectangle& rectangle) {
-    // The main window may reach over all screens; its children stand from its corner on.
-    const QSize all = QGuiApplication::primaryScreen()->virtualSize();
+    // The main window may reach over all screens; its children stand from its corner on. A smaller
+    // one scrolls to the built-in layout, which stays as it is on every screen.
+    const QSize all = QGuiApplication::primaryScreen()->virtualSize().expandedTo(QSize(1100, 740));
     return moved_onto(rectangle, std::array{rectangle_of(QRect(QPoint(0, 0), all))});
 }
 

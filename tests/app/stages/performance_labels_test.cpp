@@ -43,12 +43,14 @@ TEST(performance_labels, name_the_lower_speed_limit) {
     labels texts;
     results.tip_speed_rpm = 7403.9;
     results.port_speed_rpm = 8000.0;
+    results.max_speed_rpm = 7403.9;
     set_performance_labels(results, perf_step::speed_limits, in(ENGLISH), texts);
     EXPECT_EQ(texts.max_speed, " 7403 RPM");
     EXPECT_EQ(texts.Label5, "This speed is limited by: Rotor Tip Velocity");
     set_performance_labels(results, perf_step::speed_limits, in(GERMAN), texts);
     EXPECT_EQ(texts.Label5, "Tempolimit: Rotor Spitze Geschwindigkeit");
     results.port_speed_rpm = 500.25;
+    results.max_speed_rpm = 500.25;
     set_performance_labels(results, perf_step::speed_limits, in(ENGLISH), texts);
     EXPECT_EQ(texts.max_speed, " 500 RPM");
     EXPECT_EQ(texts.Label5, "This speed is limited by: Port Fluid Velocity");

@@ -226,8 +226,7 @@ TEST_F(start_and_end, after_a_crash_the_question_names_the_project_and_yes_stand
     EXPECT_EQ(window().windowTitle(), "Kavetta V2021 - 'n04_fuel'");
     EXPECT_EQ(shown("ecc"), "2.75");
     EXPECT_EQ(shown("numlobes"), "4");
-    robot.files.emplace_back((folder.path() / "projects" / "n04_fuel.KVT").string());
-    robot.answers.emplace_back("Yes");
+    robot.files.emplace_back((folder.path() / "projects" / "recovered.KVT").string());
     choose("mnufilesave");
     EXPECT_FALSE(std::filesystem::exists(autosaved()));
     robot.answers.clear();
