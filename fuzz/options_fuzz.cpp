@@ -35,6 +35,7 @@ std::vector<std::string> arguments_of(const std::string& bytes) {
 void check_options(const std::string& bytes) {
     const std::vector<std::string> arguments = arguments_of(bytes);
     std::vector<const char*> argv;
+    argv.reserve(arguments.size());
     for (const std::string& argument : arguments) {
         argv.push_back(argument.c_str());
     }

@@ -31,6 +31,7 @@ std::vector<std::string> fixtures_in(const std::filesystem::path& folder) {
     }
     std::sort(paths.begin(), paths.end());
     std::vector<std::string> fixtures;
+    fixtures.reserve(paths.size());
     for (const auto& path : paths) {
         fixtures.push_back(kvt::read_file(path));
     }

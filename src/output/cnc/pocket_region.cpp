@@ -94,7 +94,7 @@ void pocket_region::fill_cells() {
         for (int row = near.first_row; row <= near.last_row; ++row) {
             row_segments_[static_cast<std::size_t>(row)].push_back(i);
             for (int column = near.first_column; column <= near.last_column; ++column) {
-                cells_[static_cast<std::size_t>(row * columns_ + column)].push_back(i);
+                cells_[place_of(column, row)].push_back(i);
             }
         }
     }
@@ -109,8 +109,13 @@ pocket_region::cell_range pocket_region::cells_near(point2 low, point2 high,
             index(low.y - distance - low_.y, rows_), index(high.y + distance - low_.y, rows_)};
 }
 
+std::size_t pocket_region::place_of(int column, int row) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(column);
+}
+
 const std::vector<std::size_t>& pocket_region::cell(int column, int row) const {
-    return cells_[static_cast<std::size_t>(row * columns_ + column)];
+    return cells_[place_of(column, row)];
 }
 
 bool pocket_region::contains(point2 point) const {

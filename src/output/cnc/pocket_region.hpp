@@ -35,6 +35,8 @@ class pocket_region {
     void fill_cells();
     cell_range cells_near(point2 low, point2 high, double distance) const;
     point2 end_of(std::size_t segment) const { return outline_[(segment + 1) % outline_.size()]; }
+    /// Of a cell in cells_.
+    std::size_t place_of(int column, int row) const;
     const std::vector<std::size_t>& cell(int column, int row) const;
 
     std::vector<point2> outline_;
