@@ -181,7 +181,11 @@ TEST(port_cnc, leaves_out_a_groove_that_was_refused) {
     for (const auto write : {write_port_xy, write_port_pocket, write_port_gcode}) {
         const std::vector<cnc_section> sections = files.sections(write, port_side::outlet);
         ASSERT_EQ(sections.size(), 1U);
-        EXPECT_EQ(std::ranges::count(sections[0].comments, "//This file contains 1 sections."), 1);
+        // The X/Y file ends the line with the marks that its two neighbours leave out.
+        const auto& told = sections[0].comments;
+        EXPECT_EQ(std::ranges::count(told, "//This file contains 1 sections.//") +
+                      std::ranges::count(told, "//This file contains 1 sections."),
+                  1);
     }
 }
 
