@@ -33,6 +33,7 @@ consteval auto form_rows() {
 #include "core/texts/Form4.inc"
 #include "core/texts/MDIForm1.inc"
 #include "core/texts/Perffrm.inc"
+#include "core/texts/charts.inc"
 #include "core/texts/cnc.inc"
 #include "core/texts/dxf.inc"
 #include "core/texts/explanations.inc"
