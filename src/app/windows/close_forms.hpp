@@ -5,9 +5,9 @@
 
 namespace kvt {
 
-class user;
+class form_shower;
 
 /// Unloads every form whose row of the table of forms names this closer, in the order of the table.
-void close_forms(form_closer closer, user& person);
+void close_forms(form_closer closer, form_shower& forms);
 
 }  // namespace kvt
