@@ -2,9 +2,10 @@
 // holds what was typed.
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
+#include "app/stages/batch_run.hpp"
 #include "base/run_time_error.hpp"
 #include "fuzzed_design.hpp"
-#include "kvt/batch_run.hpp"
+#include "kvt/batch_user.hpp"
 #include "require.hpp"
 
 #include <cstddef>
