@@ -14,7 +14,7 @@ namespace {
 void set_rows(program& kavetta, text_kind kind, std::int16_t language) {
     for (const text_row& row : text_rows()) {
         if (row.kind == kind) {
-            kavetta.captions.set(row.form, row.name, row_text(row, language));
+            kavetta.captions.set(row, language);
         }
     }
 }
