@@ -3,6 +3,8 @@
 #include "app/program.hpp"
 #include "base/whole_file.hpp"
 #include "fuzzed_design.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
 #include "kvt/export_command.hpp"
 #include "require.hpp"
 

@@ -1,7 +1,7 @@
 // fuzzed_design: the bytes of an input as a design and what is typed into it.
 #pragma once
 
-#include "kvt/typed_entry.hpp"
+#include "app/stages/typed_entry.hpp"
 
 #include <string>
 #include <vector>

@@ -17,34 +17,21 @@ void require_finite(const window_rectangle& window) {
             "a window's numbers are finite");
 }
 
-present_windows windows_at(const window_rectangles& rectangles) {
-    present_windows windows;
-    windows.Form1 = rectangles.Form1;
-    windows.portdes = rectangles.portdes;
-    windows.viewwinfrm = rectangles.viewwinfrm;
-    windows.Perffrm = rectangles.Perffrm;
-    windows.select_graphs = rectangles.select_graphs;
-    windows.explain = rectangles.explain;
-    windows.port_explain = rectangles.port_explain;
-    windows.MDIForm1 = rectangles.MDIForm1;
-    return windows;
-}
-
 void check_layout(const std::string& bytes) {
     window_rectangles rectangles;
     const layout_reading reading = read_layout(bytes, rectangles);
-    require(reading.explain == rectangles.explain.has_value(), "explain was touched or not");
+    require(reading.explain == rectangles.of("explain").has_value(), "explain was touched or not");
     require(!reading.failed || rectangles.main_window_maximised,
             "the main window is maximised after a failure");
-    const present_windows windows = windows_at(rectangles);
-    for (const window_rectangle& window : {windows.Form1, windows.portdes, windows.viewwinfrm,
-                                           windows.Perffrm, windows.select_graphs}) {
-        require_finite(window);
+    for (const form_row& form : form_rows()) {
+        if (const auto& window = rectangles.of(form.name)) {
+            require_finite(*window);
+        }
     }
-    const std::string written = write_layout(windows);
+    const std::string written = write_layout(rectangles);
     window_rectangles again;
     if (!read_layout(written, again).failed) {
-        require(write_layout(windows_at(again)) == written, "writing again gives the same bytes");
+        require(write_layout(again) == written, "writing again gives the same bytes");
     }
 }
 

@@ -12,7 +12,7 @@ FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
 
 COVERED_BY = {
     "src/output/cnc/contour_gap.cpp": "tests/output/cnc/port_cnc_test.cpp",
-    "apps/kvt/batch_run.cpp": "tests/kvt/calc_command_test.cpp",
+    "apps/kvt/exit_status.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/batch_user.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/export_folder.cpp": "tests/kvt/export_files_test.cpp",
     "apps/kvt/export_options.cpp": "tests/kvt/export_files_test.cpp",
@@ -23,6 +23,7 @@ COVERED_BY = {
     "apps/kvt/standard_streams.cpp": "tests/kvt/program_test.cpp",
     "apps/kvt/report_texts.cpp": "tests/kvt/text_report_test.cpp",
     "src/app/stages/porting_type.cpp": "tests/app/desk/enabling_chain_test.cpp",
+    "src/app/stages/typed_entry.cpp": "tests/kvt/typed_entry_test.cpp",
     "src/app/desk/program_title.cpp": "tests/app/files/project_commands_test.cpp",
     "src/app/files/project_entries.cpp": "tests/app/files/project_commands_test.cpp",
     "src/app/files/project_reset.cpp": "tests/app/desk/enabling_chain_test.cpp",

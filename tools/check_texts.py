@@ -18,6 +18,14 @@ ROOMS = ("app", "views", "ui")
 ALLOWED = {
     "Liberation Sans": "the name of a font",
     "DejaVu Sans": "the name of a font",
+    # What typed_entry_problem answers to the caller of a batch run; English, as are its options.
+    "there is no control '": "to the caller of a batch run",
+    "; near names: ": "to the caller of a batch run",
+    "unittype is one of: ": "to the caller of a batch run",
+    " holds one line of text": "to the caller of a batch run",
+    ": a project file can't hold a character of this text": "to the caller of a batch run",
+    " can only be switched on, with 1": "to the caller of a batch run",
+    " is a check box, 0 or 1": "to the caller of a batch run",
 }
 
 

@@ -3,6 +3,8 @@
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
 #include "kvt/aligned_lines.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
 #include "kvt/json_report.hpp"
 #include "kvt/report_texts.hpp"
 

@@ -1,7 +1,7 @@
 // assist_command: find rotor dimensions for the required capacity, without a window.
 #pragma once
 
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 
 #include <iosfwd>
 #include <string>

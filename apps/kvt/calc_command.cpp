@@ -2,6 +2,8 @@
 
 #include "app/program.hpp"
 #include "base/text_file.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
 #include "kvt/json_report.hpp"
 #include "kvt/text_report.hpp"
 

@@ -2,7 +2,7 @@
 // JSON.
 #pragma once
 
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 
 #include <iosfwd>
 #include <string>

@@ -4,6 +4,7 @@
 #include "core/capacity_unit.hpp"
 #include "kvt/assist_command.hpp"
 #include "kvt/calc_command.hpp"
+#include "kvt/exit_status.hpp"
 #include "kvt/export_command.hpp"
 #include "kvt/export_options.hpp"
 #include "kvt/standard_streams.hpp"

@@ -2,6 +2,8 @@
 
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
 #include "kvt/export_files.hpp"
 
 #include <ostream>

@@ -1,6 +1,6 @@
 #include "kvt/export_folder.hpp"
 
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 
 #include <ostream>
 

@@ -1,7 +1,7 @@
 // What `kvt export` was asked for.
 #pragma once
 
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 #include "output/written_files.hpp"
 
 #include <filesystem>

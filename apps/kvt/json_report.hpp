@@ -2,7 +2,7 @@
 // the records' fields.
 #pragma once
 
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "kvt/standard_streams.hpp"
 
 #include "base/run_time_error.hpp"
-#include "kvt/batch_run.hpp"
+#include "kvt/exit_status.hpp"
 
 #include <cerrno>
 #include <csignal>

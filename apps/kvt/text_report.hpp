@@ -1,7 +1,7 @@
 // text_report: a finished run as a short table for people.
 #pragma once
 
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 
 #include <string>
 

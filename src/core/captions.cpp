@@ -5,22 +5,23 @@
 
 namespace kvt {
 
-captions::captions() {
-    for (const text_row& row : text_rows()) {
-        if (row.kind != text_kind::message && row.kind != text_kind::tooltip) {
-            set(row.form, row.name, find_caption(row.form, row.name)->english);
+std::string_view captions::of(std::string_view form, std::string_view control) const {
+    const auto index = caption_index(form, control);
+    if (!index) {
+        return {};
+    }
+    return texts_.empty() ? caption_rows()[*index]->english : texts_[*index];
+}
+
+void captions::set(const text_row& row, std::int16_t language) {
+    if (texts_.empty()) {
+        for (const text_row* first : caption_rows()) {
+            texts_.push_back(first->english);
         }
     }
-}
-
-const std::string& captions::of(std::string_view form, std::string_view control) const {
-    static const std::string none;
-    const auto found = texts_.find(std::pair(std::string(form), std::string(control)));
-    return found == texts_.end() ? none : found->second;
-}
-
-void captions::set(std::string_view form, std::string_view control, std::string_view text) {
-    texts_.insert_or_assign({std::string(form), std::string(control)}, std::string(text));
+    if (const auto index = caption_index(row.form, row.name)) {
+        texts_[*index] = row_text(row, language);
+    }
 }
 
 }  // namespace kvt

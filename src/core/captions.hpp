@@ -2,26 +2,26 @@
 // set.
 #pragma once
 
-#include <map>
-#include <string>
+#include <cstdint>
 #include <string_view>
-#include <utility>
+#include <vector>
 
 namespace kvt {
 
+struct text_row;
+
 /// At start every control has its design-time caption (the English text of its row in the text
-/// table).
+/// table). A caption is always a text of the table, so nothing is copied.
 class captions {
   public:
-    captions();
-
     /// Caption of a control ("" as control: the form's own caption); empty for a control without
     /// one.
-    const std::string& of(std::string_view form, std::string_view control) const;
-    void set(std::string_view form, std::string_view control, std::string_view text);
+    std::string_view of(std::string_view form, std::string_view control) const;
+    /// The control of a caption row of the table shows that row's text in a language.
+    void set(const text_row& row, std::int16_t language);
 
   private:
-    std::map<std::pair<std::string, std::string>, std::string, std::less<>> texts_;
+    std::vector<std::string_view> texts_;  ///< as caption_rows; empty until the first change
 };
 
 }  // namespace kvt

@@ -4,8 +4,6 @@
 
 #include "core/window_rectangles.hpp"
 
-#include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,20 +12,11 @@ namespace kvt {
 /// The name of the layout file in the program's folder.
 inline constexpr std::string_view LAYOUT_FILE_NAME = "screen.ini";
 
-/// The windows as they are on the screen at this moment. A window that is not there has no
-/// rectangle.
-struct present_windows {
-    window_rectangle Form1, portdes, viewwinfrm, Perffrm, select_graphs;
-    std::optional<window_rectangle> explain, port_explain;
-    std::optional<window_rectangle> MDIForm1;  ///< only while its window state is normal
-    /// In the order of chart_rectangle_fields; a chart has one while it is open.
-    std::array<std::optional<window_rectangle>, 7> charts;
-};
-
-/// The bytes of the layout file: the five fixed blocks, then a block for each optional window that
-/// is there. Numbers are single-precision ones in their print form (" 8085 "). Throws overflow for
-/// a number that isn't finite.
-std::string write_layout(const present_windows& windows);
+/// The bytes of the layout file for the windows as they are on the screen at this moment: the five
+/// fixed blocks, then a block for each optional window that has a rectangle. Numbers are
+/// single-precision ones in their print form (" 8085 "). Throws overflow for a number that isn't
+/// finite.
+std::string write_layout(const window_rectangles& windows);
 
 /// What a reading leaves beside the rectangles.
 struct layout_reading {

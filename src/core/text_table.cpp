@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <cstddef>
+#include <utility>
 
 namespace kvt {
 
@@ -33,6 +35,7 @@ consteval auto form_rows() {
 #include "core/texts/Form4.inc"
 #include "core/texts/MDIForm1.inc"
 #include "core/texts/Perffrm.inc"
+#include "core/texts/charts.inc"
 #include "core/texts/cnc.inc"
 #include "core/texts/dxf.inc"
 #include "core/texts/explanations.inc"
@@ -59,6 +62,40 @@ consteval auto all_rows() {
 
 constexpr auto ROWS = all_rows();
 
+constexpr bool is_caption(const text_row& row) {
+    return row.kind != text_kind::message && row.kind != text_kind::tooltip;
+}
+
+constexpr auto control_of(const text_row& row) {
+    return std::pair(row.form, row.name);
+}
+
+/// The first caption row of each control, in the order of form and control.
+struct caption_list {
+    std::array<const text_row*, FORM_ROWS.size()> rows{};
+    std::size_t count = 0;
+};
+
+consteval caption_list sorted_captions() {
+    caption_list list;
+    for (const text_row& row : ROWS) {
+        if (is_caption(row)) {
+            list.rows[list.count++] = &row;
+        }
+    }
+    const auto last = list.rows.begin() + static_cast<std::ptrdiff_t>(list.count);
+    std::sort(list.rows.begin(), last, [](const text_row* a, const text_row* b) {
+        return std::pair(control_of(*a), a->kind) < std::pair(control_of(*b), b->kind);
+    });
+    const auto end = std::unique(list.rows.begin(), last, [](const text_row* a, const text_row* b) {
+        return control_of(*a) == control_of(*b);
+    });
+    list.count = static_cast<std::size_t>(end - list.rows.begin());
+    return list;
+}
+
+constexpr caption_list CAPTIONS = sorted_captions();
+
 }  // namespace
 
 std::span<const text_row> text_rows() {
@@ -80,15 +117,23 @@ const text_row* find_text(text_kind kind, std::string_view form, std::string_vie
     return found == ROWS.end() ? nullptr : &*found;
 }
 
-const text_row* find_caption(std::string_view form, std::string_view name) {
-    using enum text_kind;
-    for (const text_kind kind :
-         {caption, design_caption, caption_mm, caption_inch, fixed_caption}) {
-        if (const text_row* row = find_text(kind, form, name)) {
-            return row;
-        }
+std::span<const text_row* const> caption_rows() {
+    return std::span(CAPTIONS.rows).first(CAPTIONS.count);
+}
+
+std::optional<std::size_t> caption_index(std::string_view form, std::string_view name) {
+    const auto rows = caption_rows();
+    const auto found = std::ranges::lower_bound(
+        rows, std::pair(form, name), {}, [](const text_row* row) { return control_of(*row); });
+    if (found == rows.end() || control_of(**found) != std::pair(form, name)) {
+        return std::nullopt;
     }
-    return nullptr;
+    return static_cast<std::size_t>(found - rows.begin());
+}
+
+const text_row* find_caption(std::string_view form, std::string_view name) {
+    const auto index = caption_index(form, name);
+    return index ? caption_rows()[*index] : nullptr;
 }
 
 std::string_view form_text(std::string_view form, std::string_view name, std::int16_t language) {

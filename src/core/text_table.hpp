@@ -2,7 +2,9 @@
 // English and German.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -51,6 +53,11 @@ std::string_view message_text(message id, std::int16_t language);
 
 /// The text of a row: German for language 2 where there is one, else English.
 std::string_view row_text(const text_row& row, std::int16_t language);
+
+/// One row for each control with a caption, the one that find_caption gives, in the order of form
+/// and control; and the place of a control in that list.
+std::span<const text_row* const> caption_rows();
+std::optional<std::size_t> caption_index(std::string_view form, std::string_view name);
 
 /// The row of a control, or nullptr. The first kind that exists in the order of text_kind, tooltips
 /// excluded.

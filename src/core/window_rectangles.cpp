@@ -1,30 +1,18 @@
 #include "core/window_rectangles.hpp"
 
 #include <algorithm>
-#include <array>
+#include <cassert>
 #include <cmath>
 
 namespace kvt {
 
 namespace {
 
-constexpr std::array WINDOW_RECTANGLE_FIELDS = {
-    window_rectangle_field{"", "Form1", &window_rectangles::Form1},
-    window_rectangle_field{"", "portdes", &window_rectangles::portdes},
-    window_rectangle_field{"", "viewwinfrm", &window_rectangles::viewwinfrm},
-    window_rectangle_field{"", "Perffrm", &window_rectangles::Perffrm},
-    window_rectangle_field{"", "select_graphs", &window_rectangles::select_graphs},
-};
-
-constexpr std::array CHART_RECTANGLE_FIELDS = {
-    chart_rectangle_field{"", "FLOW_graphview2", &window_rectangles::FLOW_graphview2},
-    chart_rectangle_field{"", "LOAD_graphview2", &window_rectangles::LOAD_graphview2},
-    chart_rectangle_field{"", "HERTZ_graphview2", &window_rectangles::HERTZ_graphview2},
-    chart_rectangle_field{"", "PRESS_RIP_graphview2", &window_rectangles::PRESS_RIP_graphview2},
-    chart_rectangle_field{"", "VE_graphview2", &window_rectangles::VE_graphview2},
-    chart_rectangle_field{"", "EFFIC_graphview2", &window_rectangles::EFFIC_graphview2},
-    chart_rectangle_field{"", "OVREFF_graphview2", &window_rectangles::OVREFF_graphview2},
-};
+std::size_t index_of(std::string_view form) {
+    const form_row* row = find_form(form);
+    assert(row != nullptr && "every window is a row of the table of forms");
+    return static_cast<std::size_t>(row - form_rows().data());
+}
 
 /// A title row, and the part of it that is needed to drag a window: 40 by 10 pixels.
 constexpr float TITLE_HEIGHT = 450.0F;
@@ -82,12 +70,20 @@ window_rectangle moved_onto(const window_rectangle& window,
     return moved;
 }
 
-std::span<const window_rectangle_field> window_rectangle_fields() {
-    return WINDOW_RECTANGLE_FIELDS;
+window_rectangles::window_rectangles() {
+    for (const form_row& form : form_rows()) {
+        if (is_fixed_child(form)) {
+            of(form.name) = form.rectangle;
+        }
+    }
 }
 
-std::span<const chart_rectangle_field> chart_rectangle_fields() {
-    return CHART_RECTANGLE_FIELDS;
+std::optional<window_rectangle>& window_rectangles::of(std::string_view form) {
+    return places_[index_of(form)];
+}
+
+const std::optional<window_rectangle>& window_rectangles::of(std::string_view form) const {
+    return places_[index_of(form)];
 }
 
 }  // namespace kvt

@@ -35,11 +35,19 @@ TEST(captions, are_empty_for_a_control_without_one) {
 
 TEST(captions, change_for_one_control_of_one_form) {
     captions shown;
-    shown.set("portdes", "Label2", "Innerer Anfangwinkel");
-    EXPECT_EQ(shown.of("portdes", "Label2"), "Innerer Anfangwinkel");
+    shown.set(*find_caption("portdes", "Label2"), 2);
+    EXPECT_EQ(shown.of("portdes", "Label2"), find_caption("portdes", "Label2")->german);
+    EXPECT_NE(shown.of("portdes", "Label2"), captions().of("portdes", "Label2"));
     EXPECT_EQ(shown.of("Form1", "Label2"), "Shaft Diameter");
-    shown.set("Form1", "a_new_control", "shown");
-    EXPECT_EQ(shown.of("Form1", "a_new_control"), "shown");
+    EXPECT_EQ(shown.of("Form1", ""), "Design");
+}
+
+TEST(captions, follow_the_row_of_the_unit_that_was_set_last) {
+    captions shown;
+    shown.set(*find_text(text_kind::caption_inch, "portdes", "Label11"), 1);
+    EXPECT_EQ(shown.of("portdes", "Label11"), "Width (inches)");
+    shown.set(*find_text(text_kind::caption_mm, "portdes", "Label11"), 1);
+    EXPECT_EQ(shown.of("portdes", "Label11"), "Width (mm)");
 }
 
 }  // namespace

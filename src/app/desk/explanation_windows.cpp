@@ -24,7 +24,7 @@ std::filesystem::path load_explanation(program& kavetta, explanation_window wind
     const std::string_view form = form_of(window);
     closed_flag(kavetta, window) = false;
     const std::int16_t language = kavetta.app_state.language;
-    kavetta.captions.set(form, "", form_text(form, "", language));
+    kavetta.captions.set(*find_caption(form, ""), language);
     const std::filesystem::path picture = kavetta.folder / form_text(form, "Image1", language);
     std::error_code error;
     if (!std::filesystem::is_regular_file(picture, error)) {

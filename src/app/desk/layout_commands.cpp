@@ -1,6 +1,7 @@
 #include "app/desk/layout_commands.hpp"
 
 #include "app/program.hpp"
+#include "app/windows/close_forms.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/text_table.hpp"
@@ -10,7 +11,7 @@ namespace kvt {
 
 namespace {
 
-void write_layout_file(const program& kavetta, const present_windows& windows) {
+void write_layout_file(const program& kavetta, const window_rectangles& windows) {
     write_file(kavetta.folder / LAYOUT_FILE_NAME, write_layout(windows));
 }
 
@@ -25,9 +26,22 @@ layout_reading read_layout_file(program& kavetta) {
     return read_layout(bytes, kavetta.window_rectangles);
 }
 
+/// The child windows that stand from the start.
+start_layout fixed_children() {
+    start_layout layout;
+    for (const form_row& form : form_rows()) {
+        if (is_fixed_child(form)) {
+            layout.shown.push_back(form.name);
+        }
+    }
+    return layout;
+}
+
 /// What the error path shows.
 start_layout layout_after_failure() {
-    return {{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}, "Form1"};
+    start_layout layout = fixed_children();
+    layout.focus = "Form1";
+    return layout;
 }
 
 /// False when the form could not be shown.
@@ -44,21 +58,21 @@ bool shows(user& person, std::string_view form) {
 void forget_explanation(program& kavetta, std::string_view form) {
     if (form == "explain") {
         kavetta.app_state.explain_closed = true;
-        kavetta.window_rectangles.explain.reset();
+        kavetta.window_rectangles.of("explain").reset();
     } else if (form == "port_explain") {
         kavetta.app_state.port_explain_closed = true;
-        kavetta.window_rectangles.port_explain.reset();
+        kavetta.window_rectangles.of("port_explain").reset();
     }
 }
 
 }  // namespace
 
-void save_layout(program& kavetta, user& person, present_windows windows) {
+void save_layout(program& kavetta, user& person, window_rectangles windows) {
     if (kavetta.app_state.explain_closed) {
-        windows.explain.reset();
+        windows.of("explain").reset();
     }
     if (kavetta.app_state.port_explain_closed) {
-        windows.port_explain.reset();
+        windows.of("port_explain").reset();
     }
     write_layout_file(kavetta, windows);
     person.show_message(message_text(message::screen_layout_saved, kavetta.app_state.language));
@@ -66,36 +80,24 @@ void save_layout(program& kavetta, user& person, present_windows windows) {
 
 void restore_default_layout(program& kavetta, user& person) {
     const window_rectangles built_in;
-    for (const window_rectangle_field& field : window_rectangle_fields()) {
-        kavetta.window_rectangles.*field.member = built_in.*field.member;
-        person.show_form(field.name);
+    for (const form_row& form : form_rows()) {
+        if (is_fixed_child(form)) {
+            kavetta.window_rectangles.of(form.name) = form.rectangle;
+            person.show_form(form.name);
+        }
     }
     kavetta.window_rectangles.main_window_maximised = true;
-    person.unload_form("explain");
-    person.unload_form("port_explain");
+    close_forms(form_closer::default_layout, person);
     kavetta.app_state.explain_closed = true;
     kavetta.app_state.port_explain_closed = true;
-    present_windows windows;
-    windows.Form1 = built_in.Form1;
-    windows.portdes = built_in.portdes;
-    windows.viewwinfrm = built_in.viewwinfrm;
-    windows.Perffrm = built_in.Perffrm;
-    windows.select_graphs = built_in.select_graphs;
-    write_layout_file(kavetta, windows);
+    write_layout_file(kavetta, built_in);
 }
 
 start_layout read_start_layout(program& kavetta) {
     kavetta.app_state.explain_closed = true;
     kavetta.app_state.port_explain_closed = true;
     const layout_reading reading = read_layout_file(kavetta);
-    start_layout start;
-    if (reading.failed) {
-        start = layout_after_failure();
-    } else {
-        for (const window_rectangle_field& field : window_rectangle_fields()) {
-            start.shown.push_back(field.name);
-        }
-    }
+    start_layout start = reading.failed ? layout_after_failure() : fixed_children();
     // Touched windows come before the others of the error path; the order among children doesn't
     // show.
     if (reading.explain) {
@@ -120,7 +122,7 @@ start_layout show_start_layout(program& kavetta, user& person) {
         return start;
     }
     set_sizes_after_failure(kavetta.window_rectangles);
-    kavetta.window_rectangles.MDIForm1.reset();
+    kavetta.window_rectangles.of("MDIForm1").reset();
     const start_layout built_in = layout_after_failure();
     for (const std::string_view form : built_in.shown) {
         person.show_form(form);

@@ -1,6 +1,7 @@
 #include "app/desk/unit_commands.hpp"
 
 #include "app/program.hpp"
+#include "app/windows/close_forms.hpp"
 #include "base/number_text.hpp"
 #include "core/capacity_unit.hpp"
 #include "core/text_table.hpp"
@@ -13,7 +14,7 @@ namespace {
 void set_rows(program& kavetta, text_kind kind, std::int16_t language) {
     for (const text_row& row : text_rows()) {
         if (row.kind == kind) {
-            kavetta.captions.set(row.form, row.name, row_text(row, language));
+            kavetta.captions.set(row, language);
         }
     }
 }
@@ -47,7 +48,7 @@ void set_captions(program& kavetta) {
 
 void choose_language(program& kavetta, user& person, std::int16_t language) {
     kavetta.app_state.language = language;
-    person.unload_form("perf_res");
+    close_forms(form_closer::language, person);
     set_captions(kavetta);
 }
 

@@ -2,22 +2,11 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/program.hpp"
-#include "core/user.hpp"
-
-#include <array>
+#include "app/windows/close_forms.hpp"
 
 namespace kvt {
 
 namespace {
-
-// Kept: New leaves RIPPLE_graphview2 loaded and Open leaves PRESS_RIP_graphview2;
-// project_commands_test holds it.
-constexpr std::array NEW_UNLOADS = {"perf_res",         "FLOW_graphview2",      "LOAD_graphview2",
-                                    "HERTZ_graphview2", "PRESS_RIP_graphview2", "VE_graphview2",
-                                    "EFFIC_graphview2", "OVREFF_graphview2"};
-constexpr std::array OPEN_UNLOADS = {"perf_res",         "FLOW_graphview2",   "LOAD_graphview2",
-                                     "HERTZ_graphview2", "RIPPLE_graphview2", "VE_graphview2",
-                                     "EFFIC_graphview2", "OVREFF_graphview2"};
 
 void clear_chart_choice(entries& boxes) {
     for (const entry_field& field : entry_fields()) {
@@ -35,9 +24,9 @@ void project_reset(program& kavetta, user& person, reset_kind kind) {
     clear_all(kavetta.design_view);
     apply_chain(kavetta.enabling, chain_event::project_reset);
     kavetta.app_state.profiles_calculated = 0;
-    for (const char* form : kind == reset_kind::new_project ? NEW_UNLOADS : OPEN_UNLOADS) {
-        person.unload_form(form);
-    }
+    close_forms(
+        kind == reset_kind::new_project ? form_closer::new_project : form_closer::open_project,
+        person);
     clear_chart_choice(kavetta.entries);
     kavetta.labels.max_chamb_vol.clear();
     kavetta.labels.min_chamb_vol.clear();

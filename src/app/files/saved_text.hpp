@@ -3,7 +3,7 @@
 
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
-#include "core/user.hpp"
+#include "core/file_chooser.hpp"
 
 #include <functional>
 #include <optional>
@@ -12,6 +12,7 @@
 
 namespace kvt {
 
+class user;
 struct program;
 
 using text_writer = std::function<void(text_lines&)>;

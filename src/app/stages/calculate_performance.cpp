@@ -4,7 +4,7 @@
 #include "app/program.hpp"
 #include "app/stages/performance_labels.hpp"
 #include "app/stages/stale_results.hpp"
-#include "app/windows/result_forms.hpp"
+#include "app/windows/close_forms.hpp"
 #include "core/text_table.hpp"
 #include "performance/delivered_flow.hpp"
 #include "performance/drive_power.hpp"
@@ -71,7 +71,7 @@ void run_performance(program& kavetta, user& person) {
 }
 
 bool calculate_performance(program& kavetta, user& person) {
-    unload_chart_forms(person);
+    close_forms(form_closer::performance, person);
     clean_up_perf_entries(kavetta.entries);
     if (has_refused_entry(kavetta, person)) {
         return false;

@@ -5,7 +5,7 @@
 #include "app/stages/design_ports.hpp"
 #include "app/stages/rotor_labels.hpp"
 #include "app/stages/stale_results.hpp"
-#include "app/windows/result_forms.hpp"
+#include "app/windows/close_forms.hpp"
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
 #include "base/number_text.hpp"
@@ -37,7 +37,7 @@ void reset_results(program& kavetta, user& person) {
     if (kavetta.app_state.zoom_all_requested == -1) {
         return;
     }
-    unload_result_forms(person);
+    close_forms(form_closer::profiles, person);
     kavetta.app_state.profiles_calculated = -1;
     apply_chain(kavetta.enabling, chain_event::profiles_started);
 }

@@ -5,7 +5,7 @@
 #include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "app/stages/stale_results.hpp"
-#include "app/windows/result_forms.hpp"
+#include "app/windows/close_forms.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "ports/build_ports.hpp"
@@ -45,7 +45,7 @@ constexpr std::array<groove_entry, 3> GROOVE_ENTRIES = {{
 /// Any performance result is stale from here on.
 void drop_results(program& kavetta, user& person) {
     if (kavetta.app_state.recalc_quiet != -1) {
-        unload_result_forms(person);
+        close_forms(form_closer::ports, person);
         apply_chain(kavetta.enabling, chain_event::ports_designed);
     }
 }

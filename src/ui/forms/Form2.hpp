@@ -1,7 +1,7 @@
 // Form2: the prompt at the start, a new project or an existing one.
 #pragma once
 
-#include "core/user.hpp"
+#include "core/asker.hpp"
 #include "ui/shell/dialog_form.hpp"
 
 namespace kvt {

@@ -1,6 +1,6 @@
 #include "ui/parts/design_painting.hpp"
 
-#include "core/window_rectangles.hpp"
+#include "core/form_table.hpp"
 
 #include <QPainter>
 #include <QPen>

@@ -1,6 +1,6 @@
 #include "ui/parts/design_picture.hpp"
 
-#include "core/window_rectangles.hpp"
+#include "core/form_table.hpp"
 
 #include <QMouseEvent>
 #include <QPaintEvent>

@@ -7,11 +7,9 @@
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Form3.hpp"
-#include "ui/forms/Perffrm.hpp"
-#include "ui/forms/portdes.hpp"
-#include "ui/forms/select_graphs.hpp"
 #include "ui/forms/viewwinfrm.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/shell/form_factory.hpp"
 #include "ui/shell/loaded_form.hpp"
 #include "ui/shell/present_layout.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -25,6 +23,8 @@
 #include <QMimeData>
 #include <QStatusBar>
 #include <QUrl>
+
+#include <ranges>
 
 namespace kvt {
 
@@ -56,15 +56,15 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     windows_ = new window_menu(context, *this);
     statusBar()->setObjectName("status_bar");
     hints_ = new status_hints(context.kavetta, *statusBar());
-    auto* design = new Form1(context);
-    connect(design, &Form1::exit_asked, this, &MDIForm1::ask_exit);
-    auto* view = new viewwinfrm(context);
-    connect(view, &viewwinfrm::cursor_moved, hints_, &status_hints::show_cursor);
-    add_form(view, true);
-    add_form(new Perffrm(context), true);
-    add_form(new portdes(context), true);
-    add_form(new select_graphs(context), true);
-    add_form(design, true);
+    // The first form of the table comes last, on top of the others.
+    for (const form_row& form : std::views::reverse(form_rows())) {
+        if (is_fixed_child(form)) {
+            add_form(make_form(form.name, context), true);
+        }
+    }
+    connect(findChild<Form1*>(), &Form1::exit_asked, this, &MDIForm1::ask_exit);
+    connect(findChild<viewwinfrm*>(), &viewwinfrm::cursor_moved, hints_,
+            &status_hints::show_cursor);
     connect_commands();
     refresh();
 }
@@ -89,7 +89,7 @@ void MDIForm1::add_form(mdi_form* form, bool is_shown) {
 }
 
 void MDIForm1::load_child(std::string_view form) {
-    loaded_form* made = load_form(form, context_);
+    auto* made = qobject_cast<loaded_form*>(make_form(form, context_));
     if (made == nullptr) {
         return;
     }
@@ -120,16 +120,11 @@ void MDIForm1::show_start(const start_layout& start) {
 
 void MDIForm1::place_children() {
     const window_rectangles& layout = context_.kavetta.window_rectangles;
-    for (const window_rectangle_field& field : window_rectangle_fields()) {
-        findChild<mdi_form*>(qt_text(field.name))->place(child_place(layout.*field.member));
-    }
-    auto* explain = findChild<mdi_form*>("explain");
-    if (explain != nullptr && layout.explain) {
-        explain->place(child_place(*layout.explain));
-    }
-    auto* port_explain = findChild<mdi_form*>("port_explain");
-    if (port_explain != nullptr && layout.port_explain) {
-        port_explain->place(child_place(*layout.port_explain));
+    for (const form_row& form : form_rows()) {
+        auto* child = findChild<mdi_form*>(qt_text(form.name));
+        if (const auto& place = layout.of(form.name); child != nullptr && place) {
+            child->place(child_place(*place));
+        }
     }
     // Once even when the size is the one that it had.
     findChild<viewwinfrm*>()->size_picture();
@@ -141,8 +136,8 @@ void MDIForm1::place_itself() {
         showMaximized();
         return;
     }
-    if (layout.MDIForm1) {
-        place_main_window(*this, *layout.MDIForm1);
+    if (const auto& place = layout.of("MDIForm1")) {
+        place_main_window(*this, *place);
     }
     show();
 }

@@ -1,7 +1,7 @@
 // The file dialog that a command asks for, shown with Qt.
 #pragma once
 
-#include "core/user.hpp"
+#include "core/file_chooser.hpp"
 
 #include <QStringList>
 

@@ -1,8 +1,5 @@
 #include "ui/shell/loaded_form.hpp"
 
-#include "ui/forms/explain.hpp"
-#include "ui/forms/perf_res.hpp"
-
 #include <QCloseEvent>
 #include <QKeyEvent>
 
@@ -25,19 +22,6 @@ void loaded_form::keyPressEvent(QKeyEvent* event) {
     } else {
         mdi_form::keyPressEvent(event);
     }
-}
-
-loaded_form* load_form(std::string_view form, form_context context) {
-    if (form == "perf_res") {
-        return new perf_res(context);
-    }
-    if (form == "explain") {
-        return new explain(context);
-    }
-    if (form == "port_explain") {
-        return new port_explain(context);
-    }
-    return nullptr;
 }
 
 }  // namespace kvt

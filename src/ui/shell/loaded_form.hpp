@@ -25,8 +25,4 @@ class loaded_form : public mdi_form {
     virtual void unload() {}
 };
 
-/// Builds the child window of a name; nullptr for forms that are not built this way. Throws
-/// run_time_error when the load of the form fails.
-loaded_form* load_form(std::string_view form, form_context context);
-
 }  // namespace kvt

@@ -1,7 +1,7 @@
 // mdi_form: what the windows inside the main window have in common.
 #pragma once
 
-#include "core/window_rectangles.hpp"
+#include "core/form_table.hpp"
 #include "ui/parts/form_binding.hpp"
 
 #include <QMdiSubWindow>

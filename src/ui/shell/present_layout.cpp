@@ -28,7 +28,7 @@ std::optional<window_rectangle> child_rectangle(const QMainWindow& window, std::
     return form == nullptr ? std::nullopt : std::optional(rectangle_of(form->normal_place()));
 }
 
-std::optional<window_rectangle> chart_rectangle_of(std::string_view name) {
+std::optional<window_rectangle> window_rectangle_of(std::string_view name) {
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         if (window->objectName() == qt_text(name) && window->isVisible()) {
             return rectangle_of(QRect(window->pos(), window->size()));
@@ -37,25 +37,30 @@ std::optional<window_rectangle> chart_rectangle_of(std::string_view name) {
     return std::nullopt;
 }
 
+std::optional<window_rectangle> rectangle_of(const QMainWindow& window, const form_row& form) {
+    switch (form.kind) {
+        case form_kind::child:
+            return child_rectangle(window, form.name);
+        case form_kind::main_window:
+            return window.isMaximized() || window.isMinimized() || window.isFullScreen()
+                       ? std::nullopt
+                       : std::optional(rectangle_of(QRect(window.pos(), window.size())));
+        case form_kind::window:
+            return window_rectangle_of(form.name);
+        case form_kind::dialog:
+            break;
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
-present_windows present_layout(const QMainWindow& window) {
-    const auto fixed = [&window](const char* name) {
-        return child_rectangle(window, name).value_or(window_rectangle());
-    };
-    present_windows windows;
-    windows.Form1 = fixed("Form1");
-    windows.portdes = fixed("portdes");
-    windows.viewwinfrm = fixed("viewwinfrm");
-    windows.Perffrm = fixed("Perffrm");
-    windows.select_graphs = fixed("select_graphs");
-    windows.explain = child_rectangle(window, "explain");
-    windows.port_explain = child_rectangle(window, "port_explain");
-    if (!window.isMaximized() && !window.isMinimized() && !window.isFullScreen()) {
-        windows.MDIForm1 = rectangle_of(QRect(window.pos(), window.size()));
-    }
-    for (std::size_t chart = 0; chart < windows.charts.size(); ++chart) {
-        windows.charts.at(chart) = chart_rectangle_of(chart_rectangle_fields()[chart].name);
+window_rectangles present_layout(const QMainWindow& window) {
+    window_rectangles windows;
+    for (const form_row& form : form_rows()) {
+        if (!form.heading.empty()) {
+            windows.of(form.name) = rectangle_of(window, form);
+        }
     }
     return windows;
 }

@@ -1,7 +1,7 @@
 // present_layout: where the windows stand on the screen at this moment.
 #pragma once
 
-#include "core/screen_layout.hpp"
+#include "core/window_rectangles.hpp"
 
 class QMainWindow;
 
@@ -11,7 +11,7 @@ namespace kvt {
 /// window counts with the place it has when it is neither maximised nor minimised, shown or hidden;
 /// an explanation window and a chart have one while they are there, the main window while its state
 /// is normal.
-present_windows present_layout(const QMainWindow& window);
+window_rectangles present_layout(const QMainWindow& window);
 
 /// Puts the main window where its rectangle says, or inside the nearest screen; its frame belongs
 /// to the place, not to the size.

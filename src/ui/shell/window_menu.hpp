@@ -4,13 +4,17 @@
 
 #include "ui/parts/form_binding.hpp"
 
-#include <QList>
 #include <QObject>
+
+#include <utility>
+#include <vector>
 
 class QAction;
 class QMainWindow;
 
 namespace kvt {
+
+struct form_row;
 
 class window_menu : public QObject {
     Q_OBJECT
@@ -29,7 +33,7 @@ class window_menu : public QObject {
 
   private:
     form_context context_;
-    QList<QAction*> entries_;  ///< in the order of window_rectangle_fields
+    std::vector<std::pair<const form_row*, QAction*>> entries_;
 };
 
 }  // namespace kvt

@@ -31,15 +31,15 @@ class user_without : public scripted_user {
 class layout_commands_test : public project_test {
   protected:
     std::string written() const { return read_file(folder.path() / "screen.ini"); }
-    static present_windows some_windows() {
-        present_windows windows;
-        windows.Form1 = {8000, 5000, 10, 20};
-        windows.explain = windows.port_explain = window_rectangle{1, 2, 3, 4};
+    static window_rectangles some_windows() {
+        window_rectangles windows;
+        windows.of("Form1") = window_rectangle{8000, 5000, 10, 20};
+        windows.of("explain") = windows.of("port_explain") = window_rectangle{1, 2, 3, 4};
         return windows;
     }
 };
 
-TEST_F(layout_commands_test, save_writes_the_present_windows_and_tells_in_both_languages) {
+TEST_F(layout_commands_test, save_writes_the_window_rectangles_and_tells_in_both_languages) {
     for (const std::int16_t language : {ENGLISH, GERMAN}) {
         kavetta.app_state.language = language;
         person.messages.clear();
@@ -67,14 +67,14 @@ TEST_F(layout_commands_test, save_fails_for_good_when_the_file_cannot_be_written
 
 TEST_F(layout_commands_test, restore_sets_the_built_in_layout_and_writes_its_five_blocks) {
     window_rectangles& windows = kavetta.window_rectangles;
-    windows.Form1 = {1, 2, 3, 4};
-    windows.select_graphs = {1, 2, 3, 4};
+    windows.of("Form1") = window_rectangle{1, 2, 3, 4};
+    windows.of("select_graphs") = window_rectangle{1, 2, 3, 4};
     windows.main_window_maximised = false;
-    windows.FLOW_graphview2 = {5, 6, 7, 8};
+    windows.of("FLOW_graphview2") = window_rectangle{5, 6, 7, 8};
     kavetta.app_state.explain_closed = false;
     restore_default_layout(kavetta, person);
     window_rectangles expected;
-    expected.FLOW_graphview2 = {5, 6, 7, 8};
+    expected.of("FLOW_graphview2") = window_rectangle{5, 6, 7, 8};
     EXPECT_EQ(windows, expected);
     EXPECT_TRUE(kavetta.app_state.explain_closed);
     EXPECT_EQ(person.log, (texts{"show Form1", "show portdes", "show viewwinfrm", "show Perffrm",
@@ -91,7 +91,7 @@ TEST_F(layout_commands_test,
        start_without_a_file_shows_the_built_in_layout_with_the_focus_on_Form1) {
     kavetta.app_state.explain_closed = false;
     const start_layout start = read_start_layout(kavetta);
-    EXPECT_EQ(start.shown, (forms{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}));
+    EXPECT_EQ(start.shown, (forms{"Form1", "portdes", "viewwinfrm", "Perffrm", "select_graphs"}));
     EXPECT_EQ(start.focus, "Form1");
     EXPECT_EQ(kavetta.window_rectangles, window_rectangles());
     EXPECT_TRUE(kavetta.app_state.explain_closed);
@@ -107,8 +107,8 @@ TEST_F(layout_commands_test,
 }
 
 TEST_F(layout_commands_test, start_after_a_save_with_a_chart_of_all_shows_the_explanation_windows) {
-    present_windows windows = some_windows();
-    windows.charts.back() = window_rectangle{6630, 8790, 2100, 2100};
+    window_rectangles windows = some_windows();
+    windows.of("OVREFF_graphview2") = window_rectangle{6630, 8790, 2100, 2100};
     kavetta.app_state.explain_closed = false;
     kavetta.app_state.port_explain_closed = false;
     save_layout(kavetta, person, windows);
@@ -116,9 +116,9 @@ TEST_F(layout_commands_test, start_after_a_save_with_a_chart_of_all_shows_the_ex
     EXPECT_EQ(start.shown.size(), 7U);
     EXPECT_EQ(start.shown[5], "explain");
     EXPECT_EQ(start.shown[6], "port_explain");
-    EXPECT_EQ(kavetta.window_rectangles.Form1, (window_rectangle{8000, 5000, 10, 20}));
-    EXPECT_EQ(kavetta.window_rectangles.OVREFF_graphview2,
-              (chart_rectangle{6630, 8790, 2100, 2100}));
+    EXPECT_EQ(kavetta.window_rectangles.of("Form1"), (window_rectangle{8000, 5000, 10, 20}));
+    EXPECT_EQ(kavetta.window_rectangles.of("OVREFF_graphview2"),
+              (window_rectangle{6630, 8790, 2100, 2100}));
 }
 
 TEST_F(layout_commands_test, start_shows_the_forms_of_the_layout) {
@@ -131,20 +131,20 @@ TEST_F(layout_commands_test, start_shows_the_forms_of_the_layout) {
 }
 
 TEST_F(layout_commands_test, start_without_the_picture_of_an_explanation_gives_the_built_in_sizes) {
-    present_windows windows = some_windows();
-    windows.charts.back() = window_rectangle{6630, 8790, 2100, 2100};
+    window_rectangles windows = some_windows();
+    windows.of("OVREFF_graphview2") = window_rectangle{6630, 8790, 2100, 2100};
     kavetta.app_state.explain_closed = kavetta.app_state.port_explain_closed = false;
     save_layout(kavetta, person, windows);
     user_without without("port_explain");
     const start_layout start = show_start_layout(kavetta, without);
-    EXPECT_EQ(start.shown, (forms{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}));
+    EXPECT_EQ(start.shown, (forms{"Form1", "portdes", "viewwinfrm", "Perffrm", "select_graphs"}));
     EXPECT_EQ(start.focus, "Form1");
     EXPECT_TRUE(without.messages.empty());
-    EXPECT_EQ(kavetta.window_rectangles.Form1, (window_rectangle{8085, 5430, 10, 20}))
+    EXPECT_EQ(kavetta.window_rectangles.of("Form1"), (window_rectangle{8085, 5430, 10, 20}))
         << "Top and Left as they were read";
     EXPECT_TRUE(kavetta.window_rectangles.main_window_maximised);
-    EXPECT_TRUE(kavetta.window_rectangles.explain) << "shown before the failure";
-    EXPECT_FALSE(kavetta.window_rectangles.port_explain);
+    EXPECT_TRUE(kavetta.window_rectangles.of("explain")) << "shown before the failure";
+    EXPECT_FALSE(kavetta.window_rectangles.of("port_explain"));
     EXPECT_TRUE(kavetta.app_state.port_explain_closed);
 }
 

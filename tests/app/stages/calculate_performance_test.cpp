@@ -110,10 +110,10 @@ TEST_F(calculate_performance_test, closes_the_charts_and_shows_the_results) {
     prepare("n07_engine_oil_groove");
     ASSERT_TRUE(calculate_performance(kavetta, person));
     EXPECT_EQ(person.log,
-              (std::vector<std::string>{"unload EFFIC_graphview2", "unload FLOW_graphview2",
-                                        "unload HERTZ_graphview2", "unload LOAD_graphview2",
-                                        "unload OVREFF_graphview2", "unload PRESS_RIP_graphview2",
-                                        "unload VE_graphview2", "show perf_res"}));
+              (std::vector<std::string>{"unload FLOW_graphview2", "unload LOAD_graphview2",
+                                        "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2",
+                                        "unload VE_graphview2", "unload EFFIC_graphview2",
+                                        "unload OVREFF_graphview2", "show perf_res"}));
 }
 
 TEST_F(calculate_performance_test, enables_what_reads_the_results) {

@@ -40,9 +40,9 @@ TEST_F(design_ports_test, closes_the_results_and_opens_the_performance_step) {
     EXPECT_EQ(design_ports(kavetta, person), ALL);
     EXPECT_EQ(
         person.log,
-        (log_lines{"unload perf_res", "unload EFFIC_graphview2", "unload FLOW_graphview2",
-                   "unload HERTZ_graphview2", "unload LOAD_graphview2", "unload OVREFF_graphview2",
-                   "unload PRESS_RIP_graphview2", "unload VE_graphview2", "busy", "not busy"}));
+        (log_lines{"unload perf_res", "unload FLOW_graphview2", "unload LOAD_graphview2",
+                   "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2", "unload VE_graphview2",
+                   "unload EFFIC_graphview2", "unload OVREFF_graphview2", "busy", "not busy"}));
     EXPECT_TRUE(kavetta.enabling.calc_perf);
     EXPECT_TRUE(kavetta.enabling.mnudxfinletport && kavetta.enabling.mnudxfoutletport);
     EXPECT_TRUE(kavetta.enabling.mnumodelporting);
@@ -115,10 +115,10 @@ TEST_F(design_ports_test, closes_the_results_also_when_a_groove_entry_stops_it) 
     kavetta.entries.groove_length = "0";
     person.log.clear();
     EXPECT_EQ(design_ports(kavetta, person), ports_designed{});
-    EXPECT_EQ(person.log, (log_lines{"unload perf_res", "unload EFFIC_graphview2",
-                                     "unload FLOW_graphview2", "unload HERTZ_graphview2",
-                                     "unload LOAD_graphview2", "unload OVREFF_graphview2",
+    EXPECT_EQ(person.log, (log_lines{"unload perf_res", "unload FLOW_graphview2",
+                                     "unload LOAD_graphview2", "unload HERTZ_graphview2",
                                      "unload PRESS_RIP_graphview2", "unload VE_graphview2",
+                                     "unload EFFIC_graphview2", "unload OVREFF_graphview2",
                                      "message Enter a value for the length of the Metering Groove",
                                      "focus groove_length"}))
         << "the results are closed before the entry is looked at, and nothing is built";

@@ -93,7 +93,7 @@ TEST_F(present_layout_test,
     EXPECT_EQ(window().pos(), QPoint(40, 50));
     EXPECT_EQ(window().size(), QSize(700, 500));
     EXPECT_EQ(form("Form1")->geometry(), QRect(0, 0, 362, 539));
-    EXPECT_EQ(kavetta().window_rectangles.FLOW_graphview2.height, 4500);
+    EXPECT_EQ(kavetta().window_rectangles.of("FLOW_graphview2")->height, 4500);
 }
 
 TEST_F(present_layout_test, a_layout_that_is_none_gives_the_built_in_sizes) {
@@ -128,9 +128,9 @@ TEST_F(present_layout_test, a_maximised_or_minimised_window_is_saved_where_it_go
     form("portdes")->showMaximized();
     form("Form1")->showMinimized();
     settle();
-    const present_windows windows = present_layout(window());
-    EXPECT_EQ(windows.portdes, (window_rectangle{3000, 10500, 7500, 150}));
-    EXPECT_EQ(windows.Form1, (window_rectangle{8085, 5430, 0, 0}));
+    const window_rectangles windows = present_layout(window());
+    EXPECT_EQ(windows.of("portdes"), (window_rectangle{3000, 10500, 7500, 150}));
+    EXPECT_EQ(windows.of("Form1"), (window_rectangle{8085, 5430, 0, 0}));
 }
 
 TEST_F(present_layout_test,

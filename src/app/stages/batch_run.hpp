@@ -1,11 +1,11 @@
-// batch_run: what a user would do by hand: open the project, type into the entries, press Calculate
-// Profiles, Design Ports and Calculate Performance.
+// batch_run: what a user would do by hand, without one: open the project, type into the entries,
+// press Calculate Profiles, Design Ports and Calculate Performance. For whoever runs designs in
+// series; what is told goes to the given user, nothing is printed here.
 #pragma once
 
+#include "app/stages/typed_entry.hpp"
 #include "base/run_time_error.hpp"
 #include "core/app_state.hpp"
-#include "kvt/batch_user.hpp"
-#include "kvt/typed_entry.hpp"
 
 #include <cstdint>
 #include <optional>
@@ -15,6 +15,7 @@
 
 namespace kvt {
 
+class user;
 struct program;
 
 /// Where a run takes its design from.
@@ -45,37 +46,24 @@ struct batch_result {
 /// The name of an end as reports write it: "ok", "validation", ...
 std::string_view batch_end_name(batch_end end);
 
-/// The exit statuses of the program.
-inline constexpr int EXIT_OK = 0;
-inline constexpr int EXIT_REFUSED =
-    1;  ///< the design was refused or failed, or a file could not be written
-inline constexpr int EXIT_USAGE = 2;  ///< the command line was wrong; nothing was read
-inline constexpr int EXIT_UNREADABLE =
-    3;  ///< the project file could not be read, or there is no memory
-
-int exit_status(batch_end end);
-/// EXIT_REFUSED, too, for a run that ended ok with a refused port or performance entry.
-int exit_status(const batch_result& result);
-
 /// "Run-time error 11: Division by zero" in the given language, with the reason for a file that is
 /// too large, or none.
 std::string run_time_error_line(const run_time_error& error, std::int16_t language);
 
 /// Opens the project, selects the capacity unit and types the entries. Answers the end when it came
-/// already: read_error (told on the user's stream only, like the line in the status bar) or fatal
+/// already: read_error (told by a line in the status bar, not by a message) or fatal
 /// (told by a message).
-std::optional<batch_end> open_design(program& kavetta, batch_user& person,
-                                     const design_source& source);
+std::optional<batch_end> open_design(program& kavetta, user& person, const design_source& source);
 
 /// open_design, then the Design assist: ok when it found dimensions, validation when it refused an
 /// entry, failure when they do not fit the maximum diameter.
-batch_end find_design(program& kavetta, batch_user& person, const design_source& source);
+batch_end find_design(program& kavetta, user& person, const design_source& source);
 
 /// open_design, then the stages up to `last` one after the other, as long as Calculate Profiles
 /// ended ok. A refused port does not keep Calculate Performance from running, as on the screen.
-batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source,
+batch_result calculate_design(program& kavetta, user& person, const design_source& source,
                               calc_stage last);
 /// The stages alone, for a design that is open.
-batch_result calculate_open_design(program& kavetta, batch_user& person, calc_stage last);
+batch_result calculate_open_design(program& kavetta, user& person, calc_stage last);
 
 }  // namespace kvt

@@ -1,5 +1,5 @@
 // Tests of the names that an unknown control may have meant.
-#include "kvt/near_names.hpp"
+#include "app/stages/near_names.hpp"
 
 #include <gtest/gtest.h>
 

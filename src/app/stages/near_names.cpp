@@ -1,4 +1,4 @@
-#include "kvt/near_names.hpp"
+#include "app/stages/near_names.hpp"
 
 #include <algorithm>
 #include <cctype>

@@ -1,4 +1,4 @@
-#include "kvt/batch_run.hpp"
+#include "app/stages/batch_run.hpp"
 
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
@@ -11,6 +11,7 @@
 #include "base/number_text.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 
@@ -59,7 +60,7 @@ bool is_whole(const ports_designed& done, const program& kavetta) {
 
 /// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it
 /// true.
-void run_stages(program& kavetta, batch_user& person, calc_stage last, batch_result& result) {
+void run_stages(program& kavetta, user& person, calc_stage last, batch_result& result) {
     result.profiles_reached = true;
     result.end = end_of(calculate_profiles(kavetta, person));
     result.profiles_reached = result.end != batch_end::validation;
@@ -98,17 +99,6 @@ std::string_view batch_end_name(batch_end end) {
     return "read_error";
 }
 
-int exit_status(batch_end end) {
-    if (end == batch_end::read_error) {
-        return EXIT_UNREADABLE;
-    }
-    return end == batch_end::ok ? EXIT_OK : EXIT_REFUSED;
-}
-
-int exit_status(const batch_result& result) {
-    return result.refused ? EXIT_REFUSED : exit_status(result.end);
-}
-
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
     // What the system said stands on the desk only.
     const bool is_ours = error.fault().why != file_fault::reason::system;
@@ -118,8 +108,7 @@ std::string run_time_error_line(const run_time_error& error, std::int16_t langua
            number_text(error.number()) + ": " + told;
 }
 
-std::optional<batch_end> open_design(program& kavetta, batch_user& person,
-                                     const design_source& source) {
+std::optional<batch_end> open_design(program& kavetta, user& person, const design_source& source) {
     kavetta.hints.clear();
     kavetta.app_state.language = source.language;
     set_captions(kavetta);
@@ -138,7 +127,7 @@ std::optional<batch_end> open_design(program& kavetta, batch_user& person,
     return std::nullopt;
 }
 
-batch_end find_design(program& kavetta, batch_user& person, const design_source& source) {
+batch_end find_design(program& kavetta, user& person, const design_source& source) {
     if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
         return *early;
     }
@@ -150,7 +139,7 @@ batch_end find_design(program& kavetta, batch_user& person, const design_source&
     }
 }
 
-batch_result calculate_design(program& kavetta, batch_user& person, const design_source& source,
+batch_result calculate_design(program& kavetta, user& person, const design_source& source,
                               calc_stage last) {
     if (const std::optional<batch_end> early = open_design(kavetta, person, source)) {
         batch_result result;
@@ -160,7 +149,7 @@ batch_result calculate_design(program& kavetta, batch_user& person, const design
     return calculate_open_design(kavetta, person, last);
 }
 
-batch_result calculate_open_design(program& kavetta, batch_user& person, calc_stage last) {
+batch_result calculate_open_design(program& kavetta, user& person, calc_stage last) {
     batch_result result;
     try {
         run_stages(kavetta, person, last, result);

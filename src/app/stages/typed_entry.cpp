@@ -1,12 +1,12 @@
-#include "kvt/typed_entry.hpp"
+#include "app/stages/typed_entry.hpp"
 
 #include "app/desk/unit_commands.hpp"
 #include "app/program.hpp"
 #include "app/stages/entry_handlers.hpp"
+#include "app/stages/near_names.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/code_page.hpp"
 #include "core/capacity_unit.hpp"
-#include "kvt/near_names.hpp"
 
 #include <algorithm>
 #include <string_view>

@@ -1,0 +1,16 @@
+#include "kvt/exit_status.hpp"
+
+namespace kvt {
+
+int exit_status(batch_end end) {
+    if (end == batch_end::read_error) {
+        return EXIT_UNREADABLE;
+    }
+    return end == batch_end::ok ? EXIT_OK : EXIT_REFUSED;
+}
+
+int exit_status(const batch_result& result) {
+    return result.refused ? EXIT_REFUSED : exit_status(result.end);
+}
+
+}  // namespace kvt

@@ -1,0 +1,27 @@
+// asker: what a command asks the person on the other side.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kvt {
+
+enum class answer { yes, no, cancel };
+enum class question_buttons { yes_no, yes_no_cancel };
+
+/// What the user chose at the start prompt.
+enum class start_choice { neither, new_project, open_project };
+
+class asker {
+  public:
+    virtual ~asker() = default;
+
+    virtual answer ask(std::string_view question, question_buttons buttons) = 0;
+    /// The New Project dialog: the typed name for OK, nothing for Cancel.
+    virtual std::optional<std::string> ask_project_name() = 0;
+    /// The prompt Form2, new or open.
+    virtual start_choice ask_new_or_open() = 0;
+};
+
+}  // namespace kvt

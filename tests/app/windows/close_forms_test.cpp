@@ -1,0 +1,53 @@
+// Tests of what closes which forms.
+#include "app/windows/close_forms.hpp"
+
+#include "support/scripted_user.hpp"
+
+#include <gtest/gtest.h>
+
+namespace kvt {
+namespace {
+
+using texts = std::vector<std::string>;
+
+texts closed_by(form_closer closer) {
+    scripted_user person;
+    close_forms(closer, person);
+    return person.log;
+}
+
+const texts CHARTS = {"unload FLOW_graphview2",  "unload LOAD_graphview2",
+                      "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2",
+                      "unload VE_graphview2",    "unload EFFIC_graphview2",
+                      "unload OVREFF_graphview2"};
+
+texts results() {
+    texts forms = CHARTS;
+    forms.insert(forms.begin(), "unload perf_res");
+    return forms;
+}
+
+TEST(close_forms, of_a_changed_design_closes_all_results) {
+    EXPECT_EQ(closed_by(form_closer::profiles), results());
+    EXPECT_EQ(closed_by(form_closer::ports), results());
+    EXPECT_EQ(closed_by(form_closer::new_project), results());
+}
+
+TEST(close_forms, of_new_results_closes_the_charts_alone) {
+    EXPECT_EQ(closed_by(form_closer::performance), CHARTS);
+}
+
+TEST(close_forms, of_open_leaves_the_pressure_ripple) {
+    texts forms = results();
+    std::erase(forms, "unload PRESS_RIP_graphview2");
+    EXPECT_EQ(closed_by(form_closer::open_project), forms);
+}
+
+TEST(close_forms, of_language_and_layout) {
+    EXPECT_EQ(closed_by(form_closer::language), texts{"unload perf_res"});
+    EXPECT_EQ(closed_by(form_closer::default_layout),
+              (texts{"unload explain", "unload port_explain"}));
+}
+
+}  // namespace
+}  // namespace kvt
