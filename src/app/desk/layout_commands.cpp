@@ -4,6 +4,9 @@
 #include "base/text_file.hpp"
 #include "core/text_table.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 namespace kvt {
 
 namespace {
@@ -23,7 +26,68 @@ layout_reading read_layout_file(program& kavetta) {
     return read_layout(bytes, kavetta.window_rectangles);
 }
 
+/// Whole pixels, so that neighbours touch and never overlap.
+float in_pixels(float twips) {
+    return std::floor(twips / TWIPS_PER_PIXEL) * TWIPS_PER_PIXEL;
+}
+
+/// A size of the built-in layout, or its share of the room where that is short.
+float share(float built_in, float of_all, float room) {
+    return in_pixels(std::min(built_in, room * built_in / of_all));
+}
+
+window_rectangles fitted_rectangles(layout_room room) {
+    /// What the view is higher than wide: its buttons, less its borders.
+    constexpr float VIEW_BELOW_PICTURE = 795.0F;
+    constexpr float SMALLEST_VIEW = 1500.0F;
+    const window_rectangles told;
+    const float above = told.Form1.width + told.Perffrm.width + told.viewwinfrm.width;
+    const float below = told.portdes.width + told.select_graphs.width;
+    window_rectangles fitted;
+    const float design = share(told.Form1.width, above, room.width);
+    const float performance = share(told.Perffrm.width, above, room.width);
+    const float lower =
+        share(told.portdes.height, told.Form1.height + told.portdes.height, room.height);
+    const float upper = in_pixels(room.height) - lower;
+    const float view = in_pixels(std::max(
+        SMALLEST_VIEW, std::min(room.width - design - performance, upper - VIEW_BELOW_PICTURE)));
+    const float ports = share(told.portdes.width, below, room.width);
+    const float charts = std::min(told.select_graphs.width, in_pixels(room.width) - ports);
+    fitted.Form1 = {upper, design, 0.0F, 0.0F};
+    fitted.Perffrm = {upper, performance, 0.0F, design};
+    fitted.viewwinfrm = {view + VIEW_BELOW_PICTURE, view, 0.0F, design + performance};
+    fitted.portdes = {lower, ports, upper, 0.0F};
+    fitted.select_graphs = {std::min(lower, told.select_graphs.height), charts, upper, ports};
+    return fitted;
+}
+
+bool fits(const window_rectangles& layout, layout_room room) {
+    return std::ranges::all_of(window_rectangle_fields(), [&](const auto& field) {
+        const window_rectangle& window = layout.*field.member;
+        return window.left + window.width <= room.width &&
+               window.top + window.height <= room.height;
+    });
+}
+
+void take_over(program& kavetta, const window_rectangles& layout) {
+    for (const window_rectangle_field& field : window_rectangle_fields()) {
+        kavetta.window_rectangles.*field.member = layout.*field.member;
+    }
+}
+
 }  // namespace
+
+void fit_layout(program& kavetta, user& person, layout_room room) {
+    take_over(kavetta, fitted_rectangles(room));
+    for (const window_rectangle_field& field : window_rectangle_fields()) {
+        person.show_form(field.name);
+    }
+}
+
+void use_first_layout(program& kavetta, layout_room room) {
+    const window_rectangles built_in;
+    take_over(kavetta, fits(built_in, room) ? built_in : fitted_rectangles(room));
+}
 
 void save_layout(program& kavetta, user& person, present_windows windows) {
     if (kavetta.app_state.explain_closed) {
@@ -61,6 +125,7 @@ start_layout read_start_layout(program& kavetta) {
     kavetta.app_state.port_explain_closed = true;
     const layout_reading reading = read_layout_file(kavetta);
     start_layout start;
+    start.is_first = !std::filesystem::exists(kavetta.folder / LAYOUT_FILE_NAME);
     if (reading.failed) {
         start.shown = {"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"};
         start.focus = "Form1";

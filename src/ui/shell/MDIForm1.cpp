@@ -73,9 +73,14 @@ void MDIForm1::connect_commands() {
     };
     on_menu("mnuscreensave", &MDIForm1::save_layout);
     on_menu("mnuscreenrestore", &MDIForm1::restore_layout);
+    on_menu("mnuscreenfit", &MDIForm1::fit_layout);
     on_menu("mnuhelpabout", &MDIForm1::show_about);
     on_menu("mnudatacnc", &MDIForm1::show_cnc_output);
     connect(windows_, &window_menu::chosen, this, &MDIForm1::bring_to_front);
+    connect(&context_.runner, &command_runner::starting, this, [this] {
+        is_first_layout_ = false;
+        statusBar()->clearMessage();  // it belongs to the command before
+    });
     connect(&context_.runner, &command_runner::finished, this, &MDIForm1::refresh);
     connect(&context_.runner, &command_runner::edited, hints_, &status_hints::refresh);
 }
@@ -111,16 +116,25 @@ void MDIForm1::refresh() {
 
 void MDIForm1::show_start(const start_layout& start) {
     place_children();
+    is_first_layout_ = start.is_first;
+    area_->installEventFilter(this);
     place_itself();
     const QString focused = start.focus.empty() ? QString("Form1") : qt_text(start.focus);
     area_->setActiveSubWindow(findChild<mdi_form*>(focused));
 }
 
-void MDIForm1::place_children() {
+void MDIForm1::place_fixed_windows() {
     const window_rectangles& layout = context_.kavetta.window_rectangles;
     for (const window_rectangle_field& field : window_rectangle_fields()) {
         findChild<mdi_form*>(qt_text(field.name))->place(layout.*field.member);
     }
+    // Once even when the size is the one that it had.
+    findChild<viewwinfrm*>()->size_picture();
+}
+
+void MDIForm1::place_children() {
+    place_fixed_windows();
+    const window_rectangles& layout = context_.kavetta.window_rectangles;
     auto* explain = findChild<mdi_form*>("explain");
     if (explain != nullptr && layout.explain) {
         explain->place(*layout.explain);
@@ -129,8 +143,6 @@ void MDIForm1::place_children() {
     if (port_explain != nullptr && layout.port_explain) {
         port_explain->place(*layout.port_explain);
     }
-    // Once even when the size is the one that it had.
-    findChild<viewwinfrm*>()->size_picture();
 }
 
 void MDIForm1::place_itself() {
@@ -169,6 +181,34 @@ void MDIForm1::restore_layout() {
         place_children();
         place_itself();
     });
+}
+
+layout_room MDIForm1::room() const {
+    const QSize size = area_->maximumViewportSize();
+    return {static_cast<float>(size.height() * TWIPS_PER_PIXEL),
+            static_cast<float>(size.width() * TWIPS_PER_PIXEL)};
+}
+
+void MDIForm1::fit_layout() {
+    context_.runner.act([this](program& kavetta, user& person) {
+        kvt::fit_layout(kavetta, person, room());
+        place_fixed_windows();
+    });
+}
+
+/// A window manager gives the window its size some time after the start.
+void MDIForm1::place_first_layout() {
+    if (is_first_layout_) {
+        use_first_layout(context_.kavetta, room());
+        place_fixed_windows();
+    }
+}
+
+bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_ && event->type() == QEvent::Resize && is_first_layout_) {
+        QMetaObject::invokeMethod(this, &MDIForm1::place_first_layout, Qt::QueuedConnection);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {

@@ -8,23 +8,33 @@
 
 namespace kvt {
 
+namespace {
+
+/// Its results stand while the charts can be drawn.
+constexpr auto RESULTS = "perf_res";
+
+}  // namespace
+
 window_menu::window_menu(form_context context, QMainWindow& window)
     : QObject(&window), context_(context) {
     auto* menu = window.findChild<QMenu*>("mnuwindow");
     for (const window_rectangle_field& field : window_rectangle_fields()) {
-        const QString form = qt_text(field.name);
-        QAction* entry = menu->addAction(form);
-        entry->setObjectName("mnuwindow_" + form);
-        connect(entry, &QAction::triggered, this, [this, form] { emit chosen(form); });
-        entries_.append(entry);
+        add_entry(*menu, qt_text(field.name));
     }
+    add_entry(*menu, RESULTS);
+}
+
+void window_menu::add_entry(QMenu& menu, const QString& form) {
+    QAction* entry = menu.addAction(form);
+    entry->setObjectName("mnuwindow_" + form);
+    connect(entry, &QAction::triggered, this, [this, form] { emit chosen(form); });
+    entries_.append({form, entry});
 }
 
 void window_menu::refresh() {
-    for (qsizetype index = 0; index < entries_.size(); ++index) {
-        const std::string_view form =
-            window_rectangle_fields()[static_cast<std::size_t>(index)].name;
-        entries_[index]->setText(caption_of(context_.kavetta, form, "").replace('&', "&&"));
+    for (const auto& [form, entry] : entries_) {
+        entry->setText(caption_of(context_.kavetta, utf8_text(form), "").replace('&', "&&"));
+        entry->setEnabled(form != RESULTS || context_.kavetta.enabling.create_charts);
     }
 }
 
