@@ -1,5 +1,6 @@
 // What the Calc button waits for: Calculate Profiles on whole designs, and its parts.
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "support/scripted_user.hpp"
 

@@ -1,6 +1,7 @@
 // How long a repaint of the rotor pair takes, and a tick of a held rotation button: 3600 elements
 // of the inner rotor, a picture of 700 by 700 pixels.
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/windows/view_commands.hpp"
 #include "base/text_file.hpp"
@@ -26,7 +27,7 @@ kvt::program drawn_design() {
     const auto file = std::string(KVT_TEST_DATA) + "/designs/n07_engine_oil_groove.KVT";
     kvt::assign_project_record(kavetta, kvt::read_project(kvt::read_file(file), name));
     kavetta.entries.coarseness = "1";
-    kavetta.app_state.view_size = SIDE * 15;
+    kavetta.view_state.view_size = SIDE * 15;
     kvt::calculate_profiles(kavetta, person);
     return kavetta;
 }

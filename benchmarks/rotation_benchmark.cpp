@@ -1,5 +1,6 @@
 // What a held rotation button waits for: one tick, with the lines and arcs to paint, at coarseness
 // 1 and 10. The timer fires every 10 ms, of which a tick may take 4 together with its painting.
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/windows/view_commands.hpp"
 #include "support/sample_design.hpp"
@@ -15,7 +16,7 @@ kvt::program calculated(const std::string& coarseness) {
     kvt::scripted_user person;
     kavetta.entries = kvt::sample_entries();
     kavetta.entries.coarseness = coarseness;
-    kavetta.app_state.view_size = 10500;  // 700 pixels
+    kavetta.view_state.view_size = 10500;  // 700 pixels
     kvt::calculate_profiles(kavetta, person);
     return kavetta;
 }

@@ -1,8 +1,6 @@
 // The STEP file of an inner rotor, written by Kavetta and by a solid-modelling kernel's own writer
 // from a solid with the same two splines. Both write to a file; the kernel's solid is built
 // beforehand.
-#include "app/files/saved_text.hpp"
-#include "app/files/step_output.hpp"
 #include "output/step/step_rotors.hpp"
 #include "support/cnc_design.hpp"
 #include "support/temporary_folder.hpp"
@@ -56,7 +54,8 @@ void kavetta_writes_inner_rotor(benchmark::State& state) {
     const std::string path = folder.file("inner.stp");
     for (auto _ : state) {
         kvt::save_text(path, [&](kvt::text_lines& text) {
-            kvt::append_step_file(text, kvt::step_file::inner, kavetta, path);
+            kvt::find_file(kvt::file_group::step, "inner")
+                ->write(kvt::source_of(kavetta, path), text);
         });
     }
 }

@@ -3,27 +3,17 @@
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/project_file.hpp"
+#include "require.hpp"
 
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 namespace kvt {
 
 namespace {
-
-/// Stops the run, so that libFuzzer keeps the input; assert would do the same but for builds that
-/// switch it off.
-void require(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
-        std::abort();
-    }
-}
 
 /// What has been read is written in full, and reading that gives the same design and the same bytes
 /// again.

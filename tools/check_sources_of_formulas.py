@@ -16,19 +16,16 @@ HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
 
 # Headers that hold no formula and no line of a file, with the reason.
 WITHOUT_FORMULA = {
-    "src/geometry/point2.hpp": "a pair of coordinates",
+    "src/geometry/point2.hpp": "a pair of coordinates, and what a page needs no line for",
     "src/geometry/required_entries.hpp": "the entries that must be above 0",
-    "src/output/cnc/cnc_source.hpp": "what the writers get",
+    "src/output/cnc/cnc_choices.hpp": "what the CNC dialog was told",
+    "src/output/file_source.hpp": "what the writers get",
+    "src/output/written_files.hpp": "the table of the files",
     "src/performance/extremes.hpp": "the smallest and the largest of some values",
     "src/ports/port_work.hpp": "what the steps of Design Ports get",
 }
 # Headers whose page is still to be named; the list only shrinks.
 TO_BE_NAMED = {
-    "src/geometry/assist_entries.hpp",
-    "src/geometry/entry_checks.hpp",
-    "src/geometry/number_range.hpp",
-    "src/geometry/quarter_steps.hpp",
-    "src/geometry/turned_profiles.hpp",
     "src/output/cnc/clearing_arcs.hpp",
     "src/output/cnc/cnc_files.hpp",
     "src/output/cnc/cnc_lines.hpp",
@@ -49,25 +46,6 @@ TO_BE_NAMED = {
     "src/output/step/step_prism.hpp",
     "src/output/step/step_rotors.hpp",
     "src/output/step/step_wall.hpp",
-    "src/performance/face_films.hpp",
-    "src/performance/outlet_opening.hpp",
-    "src/performance/perf_entries.hpp",
-    "src/performance/perf_grid.hpp",
-    "src/performance/perf_inputs.hpp",
-    "src/performance/perf_res_labels.hpp",
-    "src/performance/perf_results.hpp",
-    "src/performance/perf_units.hpp",
-    "src/performance/side_load.hpp",
-    "src/ports/groove_outline.hpp",
-    "src/ports/outline_points.hpp",
-    "src/ports/polar.hpp",
-    "src/ports/port_corners.hpp",
-    "src/ports/port_entries.hpp",
-    "src/ports/port_fields.hpp",
-    "src/ports/port_params.hpp",
-    "src/ports/port_report.hpp",
-    "src/ports/port_sides.hpp",
-    "src/ports/side_lines.hpp",
 }
 
 

@@ -44,6 +44,10 @@ def main():
     for count in (22, 23, 24, 53, 57, 58, 59):
         write(f"lines_{count}", FULL[:count])
     write("lines_60", FULL + [b"behind the last line"])
+    # A named line behind each length. Only behind 59 lines it is one; before, its place gives it its meaning.
+    for count in (23, 53, 57, 58, 59):
+        write(f"named_{count}", FULL[:count] + ["UTS_value= 1.100,5 für Öl = roh ".encode("cp1252")])
+    write("named_others", FULL + [b"unknown=1", b"ecc=9", b"UTS_value", b"uts_value=1", b"UTS_value=520", b"UTS_value=2"])
     write("empty", [])
     write("inches", with_line(3, b""))
     write("integer_word", with_line(17, b"four"))

@@ -1,6 +1,7 @@
 #include "kvt/assist_command.hpp"
 
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/json_report.hpp"
 #include "kvt/report_texts.hpp"

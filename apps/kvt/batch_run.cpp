@@ -2,6 +2,7 @@
 
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_assist.hpp"
@@ -50,8 +51,10 @@ void type_entries(program& kavetta, user& person, const design_source& source) {
     }
 }
 
+/// No step was refused on the way, also none that was made good later.
 bool is_whole(const ports_designed& done, const program& kavetta) {
-    return done.inlet && done.outlet && (done.groove || !has_metering_groove(kavetta));
+    return done.inlet && !done.inlet_rebuilt && done.outlet &&
+           (done.groove || !has_metering_groove(kavetta));
 }
 
 /// Runs the stages and notes in the result how far they came, so that a run-time failure leaves it
@@ -107,8 +110,12 @@ int exit_status(const batch_result& result) {
 }
 
 std::string run_time_error_line(const run_time_error& error, std::int16_t language) {
+    // What the system said stands on the desk only.
+    const bool is_ours = error.fault().why != file_fault::reason::system;
+    const std::string told =
+        is_ours ? failure_text(error, language) : std::string(failure_text(error.kind(), language));
     return std::string(message_text(message::run_time_failure, language)) +
-           number_text(error.number()) + ": " + std::string(failure_text(error.kind(), language));
+           number_text(error.number()) + ": " + told;
 }
 
 std::optional<batch_end> open_design(program& kavetta, batch_user& person,

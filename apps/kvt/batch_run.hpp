@@ -2,8 +2,8 @@
 // Profiles, Design Ports and Calculate Performance.
 #pragma once
 
-#include "app/program.hpp"
 #include "base/run_time_error.hpp"
+#include "core/app_state.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/typed_entry.hpp"
 
@@ -14,6 +14,8 @@
 #include <vector>
 
 namespace kvt {
+
+struct program;
 
 /// Where a run takes its design from.
 struct design_source {
@@ -47,14 +49,16 @@ std::string_view batch_end_name(batch_end end);
 inline constexpr int EXIT_OK = 0;
 inline constexpr int EXIT_REFUSED =
     1;  ///< the design was refused or failed, or a file could not be written
-inline constexpr int EXIT_USAGE = 2;       ///< the command line was wrong; nothing was read
-inline constexpr int EXIT_UNREADABLE = 3;  ///< the project file could not be read
+inline constexpr int EXIT_USAGE = 2;  ///< the command line was wrong; nothing was read
+inline constexpr int EXIT_UNREADABLE =
+    3;  ///< the project file could not be read, or there is no memory
 
 int exit_status(batch_end end);
 /// EXIT_REFUSED, too, for a run that ended ok with a refused port or performance entry.
 int exit_status(const batch_result& result);
 
-/// "Run-time error 11: Division by zero", its beginning in the given language.
+/// "Run-time error 11: Division by zero" in the given language, with the reason for a file that is
+/// too large, or none.
 std::string run_time_error_line(const run_time_error& error, std::int16_t language);
 
 /// Opens the project, selects the capacity unit and types the entries. Answers the end when it came

@@ -1,5 +1,6 @@
 #include "kvt/calc_command.hpp"
 
+#include "app/program.hpp"
 #include "base/text_file.hpp"
 #include "kvt/json_report.hpp"
 #include "kvt/text_report.hpp"
@@ -26,7 +27,7 @@ int calc_design(const calc_request& request, std::ostream& out, std::ostream& er
         return exit_status(result);
     }
     try {
-        write_file(request.json_file, report);
+        write_file(request.json_file, report, disk_write::left_to_the_system);
     } catch (const run_time_error& error) {
         err << request.json_file << ": " << run_time_error_line(error, request.source.language)
             << '\n';

@@ -6,9 +6,11 @@
 #include "kvt/calc_command.hpp"
 #include "kvt/export_command.hpp"
 #include "kvt/export_options.hpp"
+#include "kvt/standard_streams.hpp"
 
 #include <CLI/CLI.hpp>
 #include <map>
+#include <new>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -31,8 +33,9 @@ constexpr const char* EXAMPLES =
     "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "\n"
-    "Exit status: 0 ended ok, 1 the design was refused or failed, 2 usage,\n"
-    "3 the project file could not be read. Messages go to standard error.";
+    "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
+    "output could not be written, 2 usage, 3 the project file could not be read or there\n"
+    "is no memory. Messages go to standard error.";
 
 /// What the options say, as they are read.
 struct command_line {
@@ -135,14 +138,13 @@ CLI::App* add_assist(CLI::App& app, command_line& line) {
     return assist;
 }
 
-}  // namespace
-
-int run_command_line(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+/// Reads the options and runs the command that they name.
+int run_options(int argc, const char* const* argv, command_line& line, std::ostream& out,
+                std::ostream& err) {
     CLI::App app{ABOUT, "kvt"};
     app.footer(EXAMPLES);
     app.set_version_flag("--version", VERSION);
     app.require_subcommand(1);
-    command_line line;
     add_calc(app, line);
     CLI::App* files = add_export(app, line);
     CLI::App* assist = add_assist(app, line);
@@ -164,6 +166,20 @@ int run_command_line(int argc, const char* const* argv, std::ostream& out, std::
         return export_design(line.files, out, err);
     }
     return calc_design(line.calc, out, err);
+}
+
+}  // namespace
+
+int run_command_line(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+    command_line line;
+    const std::int16_t& language = line.calc.source.language;
+    int status = EXIT_UNREADABLE;
+    try {
+        status = run_options(argc, argv, line, out, err);
+    } catch (const std::bad_alloc&) {
+        err << run_time_error_line(run_time_error(failure::out_of_memory), language) << '\n';
+    }
+    return status_after_printing(status, out, err, language);
 }
 
 }  // namespace kvt

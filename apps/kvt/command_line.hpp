@@ -6,7 +6,8 @@
 namespace kvt {
 
 /// Reads the command line and runs its command. Answers the exit status: 0 ended ok, 1 refused or
-/// failed, 2 usage, 3 the project file could not be read.
+/// failed, or `out` did not take everything, 2 usage, 3 the project file could not be read, or
+/// there is no memory.
 int run_command_line(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
 
 }  // namespace kvt

@@ -1,10 +1,8 @@
 #include "kvt/export_command.hpp"
 
-#include "app/files/port_report_file.hpp"
 #include "app/files/project_entries.hpp"
-#include "kvt/export_cnc.hpp"
-#include "kvt/export_drawings.hpp"
-#include "ports/port_report.hpp"
+#include "app/program.hpp"
+#include "kvt/export_files.hpp"
 
 #include <ostream>
 #include <system_error>
@@ -34,35 +32,13 @@ bool export_project(const program& kavetta, const export_request& request, std::
     const std::string path = (request.folder / exported_project_name(request.source)).string();
     try {
         create_folder(request.folder);
-        write_entries(kavetta, path);
+        write_entries(kavetta, path, disk_write::left_to_the_system);
     } catch (const run_time_error& error) {
         err << path << ": " << run_time_error_line(error, request.source.language) << '\n';
         return false;
     }
     out << path << '\n';
     return true;
-}
-
-void export_port_report(const program& kavetta, export_folder& folder) {
-    folder.write(PORT_REPORT_NAME, [&](text_lines& lines) {
-        for (const std::string& line : port_report(kavetta)) {
-            lines.line(line);
-        }
-    });
-}
-
-/// The ports were finished by this run: a refused outlet leaves no outline.
-bool has_ports(const program& kavetta) {
-    return kavetta.port_params.outlet_port_last > 0;
-}
-
-void export_files(program& kavetta, batch_user& person, const export_request& request,
-                  export_folder& folder) {
-    export_cnc_files(kavetta, person, request, folder);
-    export_drawings(kavetta, request, folder);
-    if (has_ports(kavetta)) {
-        export_port_report(kavetta, folder);
-    }
 }
 
 }  // namespace

@@ -1,12 +1,10 @@
 #include "kvt/export_options.hpp"
 
 #include "app/files/cnc_output.hpp"
-#include "app/files/dxf_output.hpp"
-#include "app/files/step_output.hpp"
 #include "base/number_text.hpp"
+#include "output/written_files.hpp"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <charconv>
 #include <chrono>
 
@@ -20,10 +18,6 @@ CLI::Validator check_of(std::string (*problem)(const std::string& text)) {
 }
 
 // Each check answers what is wrong with a text, or nothing.
-
-std::string cnc_name_problem(const std::string& name) {
-    return name == "all" || find_cnc_file(name) != nullptr ? "" : "'" + name + "' is no CNC file";
-}
 
 std::string diameter_problem(const std::string& text) {
     try {
@@ -58,16 +52,6 @@ std::string date_problem(const std::string& text) {
 
 void add_cnc_options(CLI::App& command, export_request& files) {
     command
-        .add_option("--cnc", files.cnc,
-                    "CNC files to write, separated by commas: inner_xy, inner_offset, "
-                    "inner_offset_checked,\n"
-                    "inner_lathe, outer_xy, outer_offset, outer_gcode, outer_lathe, inlet_xy, "
-                    "inlet_pocket,\n"
-                    "inlet_gcode, outlet_xy, outlet_pocket, outlet_gcode, or all")
-        ->type_name("TYPE,...")
-        ->delimiter(',')
-        ->check(check_of(cnc_name_problem));
-    command
         .add_option("--resolution", files.resolution,
                     "Smallest movement of the CNC machine; default: 0.0001")
         ->type_name("R")
@@ -88,32 +72,53 @@ void add_cnc_options(CLI::App& command, export_request& files) {
     command.add_flag("--clockwise", files.clockwise, "X/Y files of the inner rotor run clockwise");
 }
 
-std::string dxf_name_problem(const std::string& name) {
-    const bool known = std::ranges::find(DXF_FILES, name, dxf_file_name) != std::end(DXF_FILES);
-    return name == "all" || known ? "" : "'" + name + "' is no DXF file";
+/// "inner, outer, inlet", broken into lines.
+std::string list_of(std::span<const written_file> files) {
+    constexpr std::size_t WIDTH = 90;
+    std::string list;
+    std::size_t line_start = 0;
+    for (const written_file& file : files) {
+        list += list.empty() ? "" : ", ";
+        if (list.size() + file.name.size() - line_start > WIDTH) {
+            list.back() = '\n';
+            line_start = list.size();
+        }
+        list += file.name;
+    }
+    return list;
 }
 
-std::string step_name_problem(const std::string& name) {
-    const bool known = std::ranges::find(STEP_FILES, name, step_file_name) != std::end(STEP_FILES);
-    return name == "all" || known ? "" : "'" + name + "' is no STEP file";
+void add_names_option(CLI::App& command, const file_group_row& group, export_request& files) {
+    const std::string format(group.format);
+    command
+        .add_option("--" + std::string(group.name), files.chosen[group.group],
+                    format + " files to write, separated by commas:\n" +
+                        list_of(files_of(group.group)) + ", or all")
+        ->type_name("TYPE,...")
+        ->delimiter(',')
+        ->check(CLI::Validator(
+            [&group, format](const std::string& name) {
+                const bool known = name == "all" || find_file(group.group, name) != nullptr;
+                return known ? "" : "'" + name + "' is no " + format + " file";
+            },
+            ""));
 }
 
-void add_drawing_options(CLI::App& command, export_request& files) {
-    command
-        .add_option(
-            "--dxf", files.dxf,
-            "DXF files to write, separated by commas: inner, outer, inlet, outlet, groove, or all")
-        ->type_name("TYPE,...")
-        ->delimiter(',')
-        ->check(check_of(dxf_name_problem));
-    command
-        .add_option(
-            "--step", files.step,
-            "STEP files to write, separated by commas: inner, outer, assembly, ports, or all")
-        ->type_name("TYPE,...")
-        ->delimiter(',')
-        ->check(check_of(step_name_problem));
-    command.add_flag("--gt", files.gt, "The STEP files of the simulation exchange, too");
+void add_flag(CLI::App& command, const file_group_row& group, export_request& files) {
+    command.add_flag_callback(
+        "--" + std::string(group.name), [&files, &group] { files.flagged.insert(group.group); },
+        "The " + std::string(group.format) + " files of the simulation exchange, too");
+}
+
+/// The files of each group as the table has them.
+void add_file_options(CLI::App& command, export_request& files) {
+    for (const file_group_row& group : file_groups()) {
+        if (group.choice == file_choice::by_name) {
+            add_names_option(command, group, files);
+        } else if (group.choice == file_choice::by_flag) {
+            add_flag(command, group, files);
+        }
+    }
 }
 
 }  // namespace
@@ -122,8 +127,8 @@ void add_export_options(CLI::App& command, export_request& files) {
     command.add_option("--out", files.folder, "Folder to write to; created when it is missing")
         ->type_name("DIR")
         ->required();
+    add_file_options(command, files);
     add_cnc_options(command, files);
-    add_drawing_options(command, files);
     command
         .add_option("--date", files.date,
                     "Date that the files carry; default: today's in the form of the locale")

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "kvt/batch_run.hpp"
+#include "output/written_files.hpp"
 
 #include <filesystem>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -12,17 +15,17 @@ namespace kvt {
 struct export_request {
     design_source source;
     std::filesystem::path folder;
-    std::vector<std::string> cnc;       ///< names of CNC files, or "all"
-    std::string resolution = "0.0001";  ///< of the CNC files
-    std::string tool, groove_tool;      ///< diameters as a user would type them; empty: none
-    bool clockwise = false;             ///< the X/Y files of the inner rotor
-    std::vector<std::string> dxf;       ///< names of DXF files, or "all"
-    std::vector<std::string> step;      ///< names of STEP files, or "all"
-    bool gt = false;                    ///< the STEP files of the simulation exchange, too
-    std::string date;                   ///< that files carry; empty: today's
+    std::map<file_group, std::vector<std::string>> chosen;  ///< names of files, or "all"
+    std::set<file_group> flagged;                           ///< groups whose files are written, too
+    std::string resolution = "0.0001";                      ///< of the CNC files
+    std::string tool, groove_tool;  ///< diameters as a user would type them; empty: none
+    bool clockwise = false;         ///< the X/Y files of the inner rotor
+    std::string date;               ///< that files carry; empty: today's
 
-    /// Without a choice everything is written that the design allows.
-    bool chooses_nothing() const { return cnc.empty() && dxf.empty() && step.empty(); }
+    /// Whether a file was asked for by its name, or by the flag of its group.
+    bool names(const written_file& file) const;
+    /// Whether a file shall be written. Without a choice everything that is chosen by name is.
+    bool wants(const written_file& file) const;
 };
 
 }  // namespace kvt

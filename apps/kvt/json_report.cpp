@@ -1,12 +1,16 @@
 #include "kvt/json_report.hpp"
 
 #include "app/files/port_report_file.hpp"
+#include "app/program.hpp"
+#include "base/number_text.hpp"
 #include "kvt/json_fields.hpp"
 #include "kvt/json_performance.hpp"
 #include "kvt/json_view.hpp"
+#include "performance/result_quantities.hpp"
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace kvt {
 
@@ -104,6 +108,40 @@ json json_labels(const program& kavetta) {
     return object;
 }
 
+using rotor_number = double rotor_profiles::*;
+
+/// The numbers of the result labels of the Design form, under the names of the labels.
+constexpr std::array ROTOR_NUMBERS = {
+    std::pair<std::string_view, rotor_number>{"area_ratio", &rotor_profiles::area_ratio},
+    std::pair<std::string_view, rotor_number>{"max_chamb_vol", &rotor_profiles::max_chamber_volume},
+    std::pair<std::string_view, rotor_number>{"min_chamb_vol", &rotor_profiles::min_chamber_volume},
+};
+
+const std::string& label_text(const program& kavetta, std::string_view name) {
+    return kavetta.labels.*find_named(label_fields(), name)->member;
+}
+
+/// The number behind every text of a result that stands: in the units of the records, the capacity
+/// in the unit that its label has.
+json json_numbers(const program& kavetta) {
+    json object = json::object();
+    object["capacity"] = val(kavetta.labels.capacity);
+    for (const auto& [name, member] : ROTOR_NUMBERS) {
+        if (!label_text(kavetta, name).empty()) {
+            object[std::string(name)] = kavetta.rotor_profiles.*member;
+        }
+    }
+    for (const used_result& result : results_at(result_place::numbers)) {
+        const auto shown = result_at(result_place::perf_res, result.quantity->name);
+        if (!label_text(kavetta, shown->use->name).empty()) {
+            const double value = value_of(*result.quantity, kavetta.perf_results);
+            object[std::string(result.use->name)] =
+                shown_value(value, *result.use, unit_system::metric);
+        }
+    }
+    return object;
+}
+
 json json_hints(const std::vector<hint>& hints) {
     json texts = json::array();
     for (const hint& row : hints) {
@@ -148,6 +186,7 @@ std::string json_report(const program& kavetta, const std::vector<std::string>& 
     report["hints"] = json_hints(kavetta.hints);
     report["entries"] = json_entries(kavetta.entries);
     report["labels"] = json_labels(kavetta);
+    report["numbers"] = json_numbers(kavetta);
     if (result.profiles_reached) {
         report["design_params"] = json_of_fields(kavetta.design_params, std::span(DESIGN_FIELDS));
         report["rotor_profiles"] = json_rotors(kavetta.rotor_profiles, full);

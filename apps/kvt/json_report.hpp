@@ -2,7 +2,6 @@
 // the records' fields.
 #pragma once
 
-#include "app/program.hpp"
 #include "kvt/batch_run.hpp"
 
 #include <string>
@@ -10,10 +9,12 @@
 
 namespace kvt {
 
-/// {"ended", "messages", "hints", "entries", "labels", "design_params", "rotor_profiles"}, UTF-8,
-/// ended by a line feed. The two records are absent when the run did not get to them. full adds the
-/// arrays, each cut to its used length, and "view", the lines and arcs of the Design view in twips.
-/// Doubles read back to the same value.
+struct program;
+
+/// {"ended", "messages", "hints", "entries", "labels", "numbers", "design_params",
+/// "rotor_profiles"}, UTF-8, ended by a line feed. The two records are absent when the run did not
+/// get to them. full adds the arrays, each cut to its used length, and "view", the lines and arcs
+/// of the Design view in twips. Doubles read back to the same value.
 std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
                         const batch_result& result, bool full);
 

@@ -1,11 +1,11 @@
 // performance_summary: what Calculate Performance computed, for people.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string>
 
 namespace kvt {
+
+struct program;
 
 /// The headline results of perf_res, then one table a result over the 6 speeds (rows) and 6
 /// pressures (columns): flow, volumetric, mechanical and overall efficiency, drive power, largest

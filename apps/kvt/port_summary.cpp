@@ -1,5 +1,6 @@
 #include "kvt/port_summary.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/report_texts.hpp"

@@ -1,5 +1,6 @@
 #include "kvt/text_report.hpp"
 
+#include "app/program.hpp"
 #include "kvt/aligned_lines.hpp"
 #include "kvt/performance_summary.hpp"
 #include "kvt/port_summary.hpp"

@@ -1,12 +1,13 @@
 // text_report: a finished run as a short table for people.
 #pragma once
 
-#include "app/program.hpp"
 #include "kvt/batch_run.hpp"
 
 #include <string>
 
 namespace kvt {
+
+struct program;
 
 /// One line a value: caption, at least two blanks, value with its unit, all values in one column.
 /// Entries stand as typed; computed lengths are in the unit of the design, rounded to four

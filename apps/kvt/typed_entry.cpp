@@ -1,6 +1,7 @@
 #include "kvt/typed_entry.hpp"
 
 #include "app/desk/unit_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/entry_handlers.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/code_page.hpp"

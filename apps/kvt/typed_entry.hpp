@@ -1,11 +1,12 @@
 // typed_entry: one --set option, a text that the caller types into a control as a user would.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string>
 
 namespace kvt {
+
+class user;
+struct program;
 
 struct typed_entry {
     std::string control;  ///< an entry's name, dimens1, dimens2 or unittype

@@ -2,6 +2,7 @@
 // batch program.
 #pragma once
 
+#include "app/desk/unsaved_files.hpp"
 #include "app/stages/stage_entries.hpp"
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
@@ -10,15 +11,16 @@
 #include "core/entries.hpp"
 #include "core/hints.hpp"
 #include "core/rotor_profiles.hpp"
-#include "core/user.hpp"
 #include "core/window_rectangles.hpp"
-#include "output/cnc/cnc_source.hpp"
+#include "output/cnc/cnc_choices.hpp"
 #include "performance/perf_inputs.hpp"
 #include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"
 #include "views/design_view.hpp"
+#include "views/view_state.hpp"
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,6 +33,7 @@ struct program {
     kvt::perf_inputs perf_inputs;
     kvt::perf_results perf_results;
     kvt::app_state app_state;
+    kvt::view_state view_state;
     kvt::entries entries;
     kvt::labels labels;
     kvt::captions captions;
@@ -44,8 +47,9 @@ struct program {
     /// What the command that ran last noticed; empty at the start of a command.
     std::vector<hint> hints;
 
-    /// The project that autosave wrote last or that the entries started from, as bytes.
-    std::string autosaved;
+    /// The files with entries that nobody saved: of the run, not of the design, so that copies of
+    /// the records share it.
+    std::shared_ptr<unsaved_work> unsaved = std::make_shared<unsaved_work>();
 
     /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes
     /// nothing there.

@@ -27,7 +27,5 @@ inline constexpr double HALF_CLEARANCE_MM_PER_INCH = 12.7;
 /// Number of trochoid points of a Calculate Profiles run, and of the uniform trochoid of the
 /// assist.
 inline constexpr int PROFILE_POINTS = 3600;
-/// Last index of the fixed profile arrays.
-inline constexpr int FIXED_ARRAY_LAST = 36000;
 
 }  // namespace kvt

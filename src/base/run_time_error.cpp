@@ -12,7 +12,10 @@ std::string developer_text(failure kind, const std::string& detail) {
 
 }  // namespace
 
-run_time_error::run_time_error(failure kind, const std::string& detail)
-    : std::runtime_error(developer_text(kind, detail)), kind_(kind), detail_(detail) {}
+run_time_error::run_time_error(failure kind, const std::string& detail, file_fault fault)
+    : std::runtime_error(developer_text(kind, detail)),
+      kind_(kind),
+      detail_(detail),
+      fault_(fault) {}
 
 }  // namespace kvt

@@ -11,4 +11,7 @@ namespace kvt {
 /// decide; without a usable locale it is month/day/year in two digits each.
 std::string short_date(const clock& time);
 
+/// The local date in the same form and the time of day, "11/03/21 14:32".
+std::string short_date_and_time(std::chrono::system_clock::time_point time);
+
 }  // namespace kvt

@@ -1,8 +1,9 @@
 // Text files of 8-bit lines: CR LF when written; CR LF, lone CR and lone LF when read.
 #pragma once
 
+#include "base/whole_file.hpp"
+
 #include <cstddef>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,15 +42,5 @@ class text_lines {
 /// The lines of a file's bytes, without their ends. A last line without its end counts; an end at
 /// the very end of the bytes starts no further line.
 std::vector<std::string> split_lines(std::string_view bytes);
-
-/// All bytes of a file. Throws path_not_found, file_not_found (also for an empty path) or
-/// path_file_access.
-std::string read_file(const std::filesystem::path& path);
-
-/// Writes bytes to a temporary name beside the path and renames it over the path, so that a crash
-/// leaves either the old file or the new one. Throws path_not_found or path_file_access; then the
-/// old file is untouched. A link stays a link and its target is replaced; the old file's
-/// permissions stay; a device or pipe is written to.
-void write_file(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace kvt

@@ -42,7 +42,17 @@ struct entries {
     friend bool operator==(const entries&, const entries&) = default;
 };
 
+/// A check box or an option button is on.
+inline bool is_ticked(const std::string& check) {
+    return check == "1";
+}
+
 enum class entry_kind { text, check };
+
+/// Whether the text of a check box or option button says that it is ticked.
+inline bool is_ticked(std::string_view check) {
+    return check == "1";
+}
 
 /// One row of the table of entries.
 struct entry_field {

@@ -3,6 +3,8 @@
 
 #include "core/text_table.hpp"
 
+#include <system_error>
+
 namespace kvt {
 
 namespace {
@@ -13,6 +15,8 @@ message message_of(failure kind) {
             return message::failure_invalid_procedure_call;
         case failure::overflow:
             return message::failure_overflow;
+        case failure::out_of_memory:
+            return message::failure_out_of_memory;
         case failure::subscript_out_of_range:
             return message::failure_subscript_out_of_range;
         case failure::division_by_zero:
@@ -37,6 +41,27 @@ message message_of(failure kind) {
 
 std::string_view failure_text(failure kind, std::int16_t language) {
     return message_text(message_of(kind), language);
+}
+
+std::string reason_text(const run_time_error& error, std::int16_t language) {
+    const file_fault fault = error.fault();
+    switch (fault.why) {
+        case file_fault::reason::system:
+            return std::generic_category().message(fault.system_error);
+        case file_fault::reason::too_large:
+            return std::string(message_text(message::file_too_large, language));
+        case file_fault::reason::not_plain:
+            return std::string(message_text(message::file_not_plain, language));
+        case file_fault::reason::unknown:
+            break;
+    }
+    return {};
+}
+
+std::string failure_text(const run_time_error& error, std::int16_t language) {
+    const std::string text(failure_text(error.kind(), language));
+    const std::string reason = reason_text(error, language);
+    return reason.empty() ? text : text + " (" + reason + ")";
 }
 
 }  // namespace kvt

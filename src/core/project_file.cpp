@@ -1,4 +1,5 @@
-// The table of the 59 lines of a project file, one loop that reads it and one that writes it.
+// The table of the 59 lines of a project file, one loop that reads it and one that writes it, and
+// the named lines behind it.
 #include "core/project_file.hpp"
 
 #include "base/code_page.hpp"
@@ -8,6 +9,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace kvt {
@@ -120,6 +122,39 @@ constexpr bool stand_in_order() {
 }
 static_assert(stand_in_order());
 
+/// A box that the 59 lines have no place for: "NAME=TEXT" behind them. Readers of every age ignore
+/// such a line.
+struct named_box {
+    std::string_view name;
+    std::string entries::*box;
+};
+
+/// Written when not empty.
+constexpr std::array PROJECT_NAMED_BOXES = {named_box{"UTS_value", &entries::UTS_value}};
+/// Written always, with entries that nobody saved.
+constexpr std::array UNSAVED_NAMED_BOXES = {named_box{"UTS_value", &entries::UTS_value},
+                                            named_box{"Face_area_value", &entries::Face_area_value},
+                                            named_box{"OD_area_value", &entries::OD_area_value}};
+constexpr std::string_view SESSION = "session";
+
+/// The shortest project ever written.
+constexpr std::size_t FEWEST_LINES = 23;
+
+/// The text of "NAME=TEXT" behind the 59 lines, UTF-8; nothing without such a line.
+std::optional<std::string> named_text(const std::vector<std::string>& file, std::string_view name) {
+    for (std::size_t i = PROJECT_LINES.size(); i < file.size(); ++i) {
+        const std::string_view line = file[i];
+        if (line.starts_with(name) && line.substr(name.size()).starts_with('=')) {
+            return utf8_of_code_page(line.substr(name.size() + 1));
+        }
+    }
+    return std::nullopt;
+}
+
+void write_named(text_lines& file, std::string_view name, const std::string& text) {
+    file.line(std::string(name) + "=" + text);
+}
+
 /// The file has grown in four steps, so it may end before these lines and nowhere else.
 bool file_may_end_before(int line_number) {
     return line_number == 24 || line_number == 54 || line_number == 58 || line_number == 59;
@@ -169,6 +204,37 @@ void write_line(const project_line& line, const project_record& record, text_lin
     }
 }
 
+/// The 16-bit number of an integer line, or one in its place where there is none.
+std::int16_t integer_or(const std::string& bytes, std::int16_t otherwise) {
+    try {
+        return integer16_of_text(bytes);
+    } catch (const run_time_error&) {
+        return otherwise;
+    }
+}
+
+void read_line_leniently(const project_line& line, const std::string& bytes,
+                         project_record& record) {
+    switch (line.kind) {
+        case line_kind::own_path:
+        case line_kind::text:
+            text_of(line, record) = utf8_of_code_page(bytes);
+            break;
+        case line_kind::integer:
+            record.*line.code = integer_or(bytes, 1);
+            break;
+        case line_kind::check:
+            text_of(line, record) = integer_or(bytes, 0) == 1 ? "1" : "0";
+            break;
+    }
+}
+
+void write_lines(const project_record& record, text_lines& file) {
+    for (const project_line& line : PROJECT_LINES) {
+        write_line(line, record, file);
+    }
+}
+
 }  // namespace
 
 project_record read_project(std::string_view bytes, std::string& project_name) {
@@ -190,15 +256,52 @@ project_record read_project(std::string_view bytes, std::string& project_name) {
             project_name = record.project_name;
         }
     }
+    for (const named_box& named : PROJECT_NAMED_BOXES) {
+        record.boxes.*named.box = named_text(file, named.name).value_or("");
+    }
     return record;
 }
 
 std::string write_project(const project_record& record) {
     text_lines file;
-    for (const project_line& line : PROJECT_LINES) {
-        write_line(line, record, file);
+    write_lines(record, file);
+    for (const named_box& named : PROJECT_NAMED_BOXES) {
+        if (const std::string& text = record.boxes.*named.box; !text.empty()) {
+            write_named(file, named.name, text);
+        }
     }
     return file.bytes();
+}
+
+std::string write_unsaved(const unsaved_record& record) {
+    text_lines file;
+    write_lines(record.project, file);
+    for (const named_box& named : UNSAVED_NAMED_BOXES) {
+        write_named(file, named.name, record.project.boxes.*named.box);
+    }
+    write_named(file, SESSION, record.session);
+    return file.bytes();
+}
+
+unsaved_record read_unsaved(std::string_view bytes) {
+    const std::vector<std::string> file = split_lines(bytes);
+    if (file.size() < FEWEST_LINES) {
+        throw run_time_error(failure::input_past_end, "fewer lines than a project has");
+    }
+    unsaved_record record;
+    for (std::size_t i = 0; i < PROJECT_LINES.size(); ++i) {
+        if (i < file.size()) {
+            read_line_leniently(PROJECT_LINES[i], file[i], record.project);
+        } else {
+            clear_line(PROJECT_LINES[i], record.project);
+        }
+    }
+    for (const named_box& named : UNSAVED_NAMED_BOXES) {
+        std::string& box = record.project.boxes.*named.box;
+        box = named_text(file, named.name).value_or(box);
+    }
+    record.session = named_text(file, SESSION).value_or("");
+    return record;
 }
 
 }  // namespace kvt

@@ -2,13 +2,15 @@
 // radians.
 #pragma once
 
-#include "base/constants.hpp"
 #include "base/fixed4.hpp"
 #include "base/zeroed_array.hpp"
 
 #include <cstdint>
 
 namespace kvt {
+
+/// Last index of the fixed arrays.
+inline constexpr int FIXED_ARRAY_LAST = 36000;
 
 /// troch_*, inner_* and outer_* are about the inner rotor axis, with the outer rotor centre at x =
 /// -ecc; fillet_* is about the outer centre. The fixed arrays hold the elements 0 .. 36000 and are

@@ -1,15 +1,21 @@
-// The seven lines of the settings file: read as far as they go, written whole.
+// The seven lines of the settings file: read as far as they go, written whole. And the paths of our
+// own file, which find their places by what the seven lines made of them.
 #include "core/settings_file.hpp"
 
 #include "base/code_page.hpp"
 #include "base/text_file.hpp"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <optional>
 #include <vector>
 
 namespace kvt {
 
 namespace {
+
+constexpr std::size_t SETTINGS_LINE_COUNT = 7;
 
 std::vector<std::string> utf8_lines(std::string_view bytes) {
     std::vector<std::string> lines = split_lines(bytes);
@@ -52,43 +58,139 @@ void read_date(const std::string& line, std::string& date) {
     }
 }
 
+constexpr std::string_view RECENT_PATH = "recent_";
+
+/// What KVT.ini can hold of a path, UTF-8.
+std::string held_by_code_page(const std::string& path) {
+    std::string held = utf8_of_code_page(code_page_of_utf8(path));
+    std::ranges::replace(held, '\r', '?');
+    std::ranges::replace(held, '\n', '?');
+    return held;
+}
+
+/// A path on one line: line ends and the sign that marks them become "%" and two digits.
+std::string one_line(const std::string& path) {
+    std::string line;
+    for (const char c : path) {
+        switch (c) {
+            case '\r':
+                line += "%0D";
+                break;
+            case '\n':
+                line += "%0A";
+                break;
+            case '%':
+                line += "%25";
+                break;
+            default:
+                line += c;
+        }
+    }
+    return line;
+}
+
+std::string path_of_line(std::string_view line) {
+    std::string path;
+    while (!line.empty()) {
+        std::size_t taken = 3;
+        if (line.starts_with("%0D")) {
+            path += '\r';
+        } else if (line.starts_with("%0A")) {
+            path += '\n';
+        } else if (line.starts_with("%25")) {
+            path += '%';
+        } else {
+            path += line.front();
+            taken = 1;
+        }
+        line.remove_prefix(taken);
+    }
+    return path;
+}
+
+/// One line of our own file.
+struct own_path {
+    std::size_t entry;
+    std::string path;
+};
+
+/// "recent_1=PATH" to "recent_3=PATH"; nothing for any other line.
+std::optional<own_path> own_path_of_line(std::string_view line) {
+    if (!line.starts_with(RECENT_PATH)) {
+        return std::nullopt;
+    }
+    line.remove_prefix(RECENT_PATH.size());
+    if (line.size() < 2 || line[0] < '1' || line[0] > '3' || line[1] != '=') {
+        return std::nullopt;
+    }
+    return own_path{static_cast<std::size_t>(line[0] - '0'), path_of_line(line.substr(2))};
+}
+
+/// The whole path in place of what KVT.ini could hold of it. False when the entry is another one.
+bool restore_path(const std::string& path, std::string& entry) {
+    if (entry != held_by_code_page(path)) {
+        return false;
+    }
+    entry = path;
+    return true;
+}
+
 }  // namespace
 
 void read_settings(std::string_view bytes, app_state& state) {
-    const std::vector<std::string> lines = utf8_lines(bytes);
-    const auto read_text = [&lines](std::size_t number, std::string& value) {
-        if (number <= lines.size()) {
-            value = lines[number - 1];
-        }
-    };
-    read_text(1, state.mnufileprev[1]);
-    read_text(2, state.mnufileprev[2]);
-    read_text(3, state.mnufileprev[3]);
-    read_text(4, state.modelling_package);
-    if (lines.size() >= 5) {
-        state.language = language_of_line(lines[4]);
+    std::vector<std::string> lines = utf8_lines(bytes);
+    if (lines.size() < SETTINGS_LINE_COUNT) {
+        lines.resize(SETTINGS_LINE_COUNT);
+        state.last_update_check.clear();
     }
-    read_text(6, state.auto_update_mode);
-    if (lines.size() >= 7) {
-        read_date(lines[6], state.last_update_check);
-    }
-}
-
-std::string first_settings_line(std::string_view bytes) {
-    const std::vector<std::string> lines = utf8_lines(bytes);
-    return lines.empty() ? "" : lines.front();
+    state.mnufileprev[1] = lines[0];
+    state.mnufileprev[2] = lines[1];
+    state.mnufileprev[3] = lines[2];
+    state.modelling_package = lines[3];
+    state.language = language_of_line(lines[4]);
+    state.auto_update_mode = lines[5];
+    read_date(lines[6], state.last_update_check);
 }
 
 std::string write_settings(const app_state& state) {
     text_lines file;
-    file.line(state.mnufileprev[1]);
-    file.line(state.mnufileprev[2]);
-    file.line(state.mnufileprev[3]);
+    file.line(held_by_code_page(state.mnufileprev[1]));
+    file.line(held_by_code_page(state.mnufileprev[2]));
+    file.line(held_by_code_page(state.mnufileprev[3]));
     file.line(state.modelling_package);
     file.line(line_of_language(state.language));
     file.line(state.auto_update_mode);
     file.line("#" + state.last_update_check + "#");
     return file.bytes();
+}
+
+void read_own_settings(std::string_view utf8, app_state& state) {
+    std::vector<own_path> moved;
+    for (const std::string& line : split_lines(utf8)) {
+        const std::optional<own_path> own = own_path_of_line(line);
+        if (own && !restore_path(own->path, state.mnufileprev[own->entry])) {
+            moved.push_back(*own);
+        }
+    }
+    for (const own_path& own : moved) {
+        for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+            if (restore_path(own.path, state.mnufileprev[entry])) {
+                break;
+            }
+        }
+    }
+}
+
+std::string write_own_settings(const app_state& state) {
+    text_lines text;
+    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+        const std::string& path = state.mnufileprev[entry];
+        if (path != held_by_code_page(path)) {
+            text.raw_line(std::string(RECENT_PATH) + static_cast<char>('0' + entry) + "=" +
+                          one_line(path));
+        }
+    }
+    return text.bytes();
 }
 
 }  // namespace kvt

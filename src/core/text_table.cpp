@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 namespace kvt {
 
@@ -88,6 +89,12 @@ const text_row* find_caption(std::string_view form, std::string_view name) {
         }
     }
     return nullptr;
+}
+
+std::string_view form_text(std::string_view form, std::string_view name, std::int16_t language) {
+    const text_row* row = find_caption(form, name);
+    assert(row != nullptr);
+    return row_text(*row, language);
 }
 
 }  // namespace kvt

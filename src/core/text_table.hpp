@@ -57,4 +57,7 @@ std::string_view row_text(const text_row& row, std::int16_t language);
 const text_row* find_caption(std::string_view form, std::string_view name);
 const text_row* find_text(text_kind kind, std::string_view form, std::string_view name);
 
+/// The text of a row that must be there, by find_caption.
+std::string_view form_text(std::string_view form, std::string_view name, std::int16_t language);
+
 }  // namespace kvt

@@ -49,6 +49,14 @@ struct window_rectangles {
     friend bool operator==(const window_rectangles&, const window_rectangles&) = default;
 };
 
+/// The nearest whole pixel, half away from zero, held within what a window can have.
+int pixels_of(float twips);
+
+/// The rectangle, moved into the nearest screen when no piece of its title row, wide enough to be
+/// dragged, would stand on any of the screens; else as it is. Without screens it stays.
+window_rectangle moved_onto(const window_rectangle& window,
+                            std::span<const window_rectangle> screens);
+
 using window_rectangle_field = named_field<window_rectangles, window_rectangle>;
 
 /// The five fixed windows in the order of the layout file.

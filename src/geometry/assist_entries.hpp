@@ -1,5 +1,6 @@
 // The entries of the Design form before a run of the Design assist, and the dimensions that it
 // writes back.
+// Source: docs/formulas/design_assist.md.
 #pragma once
 
 #include "base/fixed4.hpp"

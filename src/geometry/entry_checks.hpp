@@ -1,5 +1,6 @@
 // The entries of the Design form before a run: clean-up, validation, reading into millimetres,
 // shaft check.
+// Source: docs/formulas/trochoid.md, "Shaft check".
 #pragma once
 
 #include "core/design_params.hpp"

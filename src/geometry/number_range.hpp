@@ -1,4 +1,5 @@
 // number_range: what a formula can give while one of its numbers lies between two bounds.
+// Source: docs/formulas/design_assist.md, "Passing over steps".
 #pragma once
 
 namespace kvt {

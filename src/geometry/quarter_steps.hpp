@@ -1,4 +1,5 @@
 // quarter_steps: a search in steps of 0.25 mm that passes over the steps which cannot end it.
+// Source: docs/formulas/design_assist.md, "Passing over steps".
 #pragma once
 
 namespace kvt {

@@ -94,15 +94,14 @@ std::vector<point2> samples(const outer_path_arc& arc, double a0, double sweep, 
 
 }  // namespace
 
-design_params outer_rotor_entries(const entries& boxes, bool with_inches) {
-    const double unit = with_inches ? MM_PER_INCH : 1.0;
+design_params outer_rotor_entries(const entries& boxes, double mm_per_unit) {
     design_params design;
     design.numlobes = to_int32(val(boxes.numlobes));
-    design.ecc = val(boxes.ecc) * unit;
-    design.radouter = val(boxes.radouter) * unit;
-    design.radinnroot = val(boxes.radinnroot) * unit;
-    design.fillet = val(boxes.fillet) * unit;
-    design.outer_root = val(boxes.outer_root) * unit;
+    design.ecc = val(boxes.ecc) * mm_per_unit;
+    design.radouter = val(boxes.radouter) * mm_per_unit;
+    design.radinnroot = val(boxes.radinnroot) * mm_per_unit;
+    design.fillet = val(boxes.fillet) * mm_per_unit;
+    design.outer_root = val(boxes.outer_root) * mm_per_unit;
     return design;
 }
 

@@ -28,9 +28,9 @@ struct outer_path {
 };
 
 /// The values that the outer rotor's files read from the boxes of the Design form each time:
-/// numlobes, ecc, radouter, radinnroot, fillet, outer_root. with_inches multiplies the lengths
-/// by 25.4; without it they stay as typed. Throws overflow for a number of lobes beyond 32 bits.
-design_params outer_rotor_entries(const entries& boxes, bool with_inches);
+/// numlobes, ecc, radouter, radinnroot, fillet, outer_root. The lengths are multiplied by
+/// mm_per_unit; with 1 they stay as typed. Throws overflow for a number of lobes beyond 32 bits.
+design_params outer_rotor_entries(const entries& boxes, double mm_per_unit);
 
 /// N lobes of radius r about centres at C = radinnroot + ecc + r, joined to the root circle of
 /// radius outer_root by fillets. Lobe i stands at (i + 1) TWO_PI_D/N, so the path starts one step

@@ -1,5 +1,6 @@
 // The rotor faces: their mean radii, the areas of their oil films, the friction of the loaded face
-// and the shear of the films on faces and periphery.
+// and the shear of the films on faces and periphery. Source: docs/formulas/power.md, "Radii and
+// areas", "Pressure friction" and "Film shear".
 #pragma once
 
 #include "core/design_params.hpp"

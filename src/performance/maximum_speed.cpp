@@ -4,6 +4,8 @@
 #include "base/constants.hpp"
 #include "performance/perf_units.hpp"
 
+#include <algorithm>
+
 namespace kvt {
 
 namespace {
@@ -40,6 +42,19 @@ void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports,
         results.port_flow = results.port_flow * 2.0;
     }
     results.port_speed_rpm = checked_divide(results.port_flow, rotors.capacity_cc / CC_RPM_PER_M3S);
+    if (limit_of_speed(results)) {
+        results.max_speed_rpm = std::min(results.tip_speed_rpm, results.port_speed_rpm);
+    }
+}
+
+std::optional<speed_limit> limit_of_speed(const perf_results& results) {
+    if (results.tip_speed_rpm < results.port_speed_rpm) {
+        return speed_limit::tip_velocity;
+    }
+    if (results.tip_speed_rpm > results.port_speed_rpm) {
+        return speed_limit::port_velocity;
+    }
+    return std::nullopt;
 }
 
 }  // namespace kvt

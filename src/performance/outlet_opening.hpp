@@ -1,5 +1,5 @@
 // The march of the ripple model: one chamber turns into the outlet, 0.1 degree a step, and fills
-// from it.
+// from it. Source: docs/formulas/ripple.md, "March".
 #pragma once
 
 #include "core/design_params.hpp"

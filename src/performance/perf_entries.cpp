@@ -44,10 +44,6 @@ constexpr std::array<perf_check, 15> PERF_CHECKS = {{
     {&entries::friction, message::input_friction},
 }};
 
-bool is_ticked(const std::string& check) {
-    return check == "1";
-}
-
 }  // namespace
 
 void clean_up_perf_entries(entries& boxes) {

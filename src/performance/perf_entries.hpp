@@ -27,7 +27,7 @@ struct refused_perf_entry {
 std::optional<refused_perf_entry> first_refused_perf_entry(const entries& boxes);
 
 /// The inputs in the units of the model. The entries of the imperial system are in lb/ft3, inches
-/// of mercury, ksi and psi.
+/// of mercury, ksi and psi. Source: docs/formulas/flow.md, "Units".
 perf_inputs read_perf_inputs(const entries& boxes, unit_system system);
 
 /// The rotor thickness in mm as the entry of Form1 says now: performance reads it anew.

@@ -1,4 +1,5 @@
-// The grid of 6 speeds by 6 pressures, and the values that every routine shares.
+// The grid of 6 speeds by 6 pressures, and the values that every routine shares. Source:
+// docs/formulas/flow.md, "Grid".
 #pragma once
 
 #include "core/design_params.hpp"

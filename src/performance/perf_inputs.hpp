@@ -1,5 +1,5 @@
 // perf_inputs: fluid, range, materials and porting type as Calculate Performance reads them from
-// the entries.
+// the entries. Source: docs/formulas/flow.md, "Units".
 #pragma once
 
 #include "core/length_unit.hpp"

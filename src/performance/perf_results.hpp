@@ -1,12 +1,12 @@
 // perf_results: everything that Calculate Performance computes, over 6 speeds by 6 pressures.
+// Sources: docs/formulas/flow.md, docs/formulas/power.md, docs/formulas/contact.md and
+// docs/formulas/ripple.md, each with the fields that it fills.
 #pragma once
 
 #include "base/zeroed_array.hpp"
 
 #include <array>
 #include <cstddef>
-#include <span>
-#include <string_view>
 #include <vector>
 
 namespace kvt {
@@ -64,6 +64,7 @@ struct perf_results {
     double port_velocity = 0.0;   ///< velocity at Reynolds number 2000 on that radius, m/s
     double port_flow = 0.0;       ///< flow through the inlet at that velocity, m3/s
     double port_speed_rpm = 0.0;  ///< speed at which the pump takes that flow, rpm
+    double max_speed_rpm = 0.0;   ///< the lower of both speeds; kept when they are equal
 
     // Delivered flow.
     double flow_max = 0.0, flow_min = 0.0;        ///< extremes over the grid, m3/s
@@ -158,26 +159,5 @@ struct perf_results {
     perf_array ripple_pressure =
         step_array(RIPPLE_PRESSURE_LAST);  ///< repeated over a revolution, Pa
 };
-
-/// A field under its name, for reports and tests.
-template <typename value>
-struct perf_field {
-    std::string_view name;
-    value perf_results::*member;
-};
-
-/// An array with the number of its elements that are in use.
-struct perf_array_field {
-    std::string_view name;
-    perf_array perf_results::*member;
-    std::size_t used_count;
-};
-
-std::span<const perf_field<double>> perf_values();
-std::span<const perf_field<perf_list>> perf_lists();
-std::span<const perf_field<perf_grid>> perf_grids();
-std::span<const perf_array_field> perf_arrays();
-std::span<const perf_field<perf_speed_angles>> perf_speed_arrays();
-std::span<const perf_field<perf_grid_angles>> perf_grid_arrays();
 
 }  // namespace kvt

@@ -1,5 +1,5 @@
 // The unit factors of the performance model. Several are rounded; each is part of every result and
-// is kept.
+// is kept. Source: docs/formulas/flow.md, "Units".
 #pragma once
 
 #include "core/length_unit.hpp"
@@ -22,6 +22,15 @@ inline constexpr double KSI_PA = 6894750.0;
 /// Megapascals of one GPa and of one ksi, for Young's modulus.
 inline constexpr double GPA_MPA = 1000.0;
 inline constexpr double KSI_MPA = 6.8947;
+/// Litres a minute in one m3/s, and US gallons in one litre.
+inline constexpr double LITRES_MINUTE_PER_M3S = 60000.0;
+inline constexpr double US_GALLONS_PER_LITRE = 0.26417;
+/// Watts of one kW and of one horsepower.
+inline constexpr double WATTS_PER_KILOWATT = 1000.0;
+inline constexpr double WATTS_PER_HORSEPOWER = 746.0;
+/// So many pounds are so many newtons of side load.
+inline constexpr double SIDE_LOAD_POUNDS = 2.2;
+inline constexpr double SIDE_LOAD_NEWTONS = 9.81;
 
 /// What the entries of a unit system are worth in the units of the model.
 struct entry_factors {

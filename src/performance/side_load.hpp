@@ -1,5 +1,5 @@
 // The load on the shaft from the contact forces of all lobes and from the pressure on the root of
-// the inner rotor.
+// the inner rotor. Source: docs/formulas/contact.md, "Side load".
 #pragma once
 
 #include "core/design_params.hpp"

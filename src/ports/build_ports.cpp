@@ -28,8 +28,10 @@ port_shape shape_of(const port_fields& port, const port_work& work) {
     return shape;
 }
 
+/// Stores the outline together with what it was built with; a failure leaves both as they were.
 void store_outline(const port_fields& port, port_work& work) {
-    port_outline built = outline_of_port(shape_of(port, work));
+    const port_shape shape = shape_of(port, work);
+    port_outline built = outline_of_port(shape);
     if (port.mirrored) {
         built.outline.mirror();
     }
@@ -38,6 +40,7 @@ void store_outline(const port_fields& port, port_work& work) {
     for (std::size_t mark = 0; mark < built.marks.size(); ++mark) {
         ports.*port.marks[mark] = built.marks[mark];
     }
+    ports.*port.built = shape;
 }
 
 pass_end one_pass(const port_fields& port, port_work& work) {
@@ -108,43 +111,40 @@ bool take_back_all_radii(const port_fields& port, const port_work& work) {
     return radius || inner || outer;
 }
 
+/// What stands in the entries of a port whose radius is too large: told, and taken back as far as
+/// it goes. False when the entries keep their texts, so that another pass would end alike.
+bool can_try_again(const port_fields& port, const port_work& work, bool takes_back_all) {
+    tell_radius_too_large(port, work);
+    return takes_back_all ? take_back_all_radii(port, work) : take_back_port_radius(work);
+}
+
 }  // namespace
 
 port_end build_inlet_port(port_work& work) {
-    for (;;) {
-        const pass_end end = inlet_pass(work);
-        if (end != pass_end::radius_too_large) {
-            return end == pass_end::finished ? port_end::finished : port_end::refused;
-        }
-        tell_radius_too_large(inlet_fields(), work);
-        if (!take_back_all_radii(inlet_fields(), work)) {
-            return port_end::refused;
-        }
+    pass_end end = inlet_pass(work);
+    while (end == pass_end::radius_too_large && can_try_again(inlet_fields(), work, true)) {
+        end = inlet_pass(work);
     }
+    return end == pass_end::finished ? port_end::finished : port_end::refused;
 }
 
 port_end build_outlet_port(port_work& work) {
-    for (;;) {
-        const pass_end end = outlet_pass(work);
-        if (end == pass_end::finished) {
-            work.ports.last_good_port_radius = work.ports.port_radius;
-            return port_end::finished;
-        }
-        if (end == pass_end::refused) {
+    pass_end end = outlet_pass(work);
+    while (end == pass_end::radius_too_large) {
+        const bool shares_radius = work.ports.side_angle_start < 0.0;
+        if (!can_try_again(outlet_fields(), work, !shares_radius)) {
             return port_end::refused;
         }
-        tell_radius_too_large(outlet_fields(), work);
-        if (work.ports.side_angle_start >= 0.0) {
-            if (!take_back_all_radii(outlet_fields(), work)) {
-                return port_end::refused;
-            }
-            continue;
+        if (shares_radius && build_inlet_port(work) == port_end::finished) {
+            work.inlet_rebuilt = true;
         }
-        if (!take_back_port_radius(work)) {
-            return port_end::refused;
-        }
-        build_inlet_port(work);
+        end = outlet_pass(work);
     }
+    if (end == pass_end::refused) {
+        return port_end::refused;
+    }
+    work.ports.last_good_port_radius = work.ports.port_radius;
+    return port_end::finished;
 }
 
 }  // namespace kvt

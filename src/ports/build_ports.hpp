@@ -18,7 +18,8 @@ port_end build_inlet_port(port_work& work);
 /// Builds the outlet likewise, above the x axis, and sets last_good_port_radius. A radius too large
 /// on a start side with a negative direction leaves the radii alone, builds the inlet again and
 /// then starts again, so that both ports share one radius; on any other start side the inlet stays
-/// as it is.
+/// as it is. Notes in inlet_rebuilt that the inlet was finished on that way. Source:
+/// docs/formulas/ports.md.
 port_end build_outlet_port(port_work& work);
 
 }  // namespace kvt

@@ -1,5 +1,6 @@
 // The outline of the metering groove: out along the inner path, round the nose, back along the
 // outer path, then the tail.
+// Source: docs/formulas/ports.md, "Metering groove".
 #pragma once
 
 #include "ports/outline_points.hpp"

@@ -140,9 +140,16 @@ void store_outline(port_params& ports, const groove_outline& built) {
     ports.groove_mark_d = built.mark_d;
 }
 
+void store_groove(port_params& ports, const groove_shape& shape) {
+    store_outline(ports, outline_of_groove(shape));
+    ports.groove_built = shape;
+    ports.has_groove = true;
+}
+
 }  // namespace
 
 port_end build_metering_groove(port_work& work) {
+    work.ports.has_groove = false;
     reread_design(work.boxes, work.unit, work.design, work.rotors);
     set_path_circles(work);
     set_start_points(work);
@@ -174,7 +181,7 @@ port_end build_metering_groove(port_work& work) {
     if (ports.groove_width_mm / 2.0 == ports.groove_corner_r) {
         shape.outer.s = shape.inner.s;  // the nose is one half circle
     }
-    store_outline(work.ports, outline_of_groove(shape));
+    store_groove(work.ports, shape);
     return port_end::finished;
 }
 

@@ -1,4 +1,5 @@
 // outline_points: an outline that grows point by point, arc by arc, fillet by fillet, side by side.
+// Source: docs/formulas/ports.md, "Point list".
 #pragma once
 
 #include "base/zeroed_array.hpp"

@@ -1,6 +1,7 @@
 #include "ports/polar.hpp"
 
 #include "base/checked_math.hpp"
+#include "base/constants.hpp"
 
 #include <cmath>
 
@@ -8,6 +9,10 @@ namespace kvt {
 
 double radians_of(double degrees) {
     return checked_finite(degrees * PI_D / 180.0);
+}
+
+double degrees_of(double radians) {
+    return radians * 180.0 / PI_D;
 }
 
 double cos_deg(double degrees) {

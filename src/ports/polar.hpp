@@ -1,8 +1,8 @@
 // Angles in degrees with the product's pi: cosines and sines, points on circles, arctangents of
 // slopes.
+// Source: docs/formulas/ports.md.
 #pragma once
 
-#include "base/constants.hpp"
 #include "geometry/point2.hpp"
 
 namespace kvt {
@@ -11,9 +11,7 @@ namespace kvt {
 double radians_of(double degrees);
 
 /// radians * 180 / PI_D.
-inline double degrees_of(double radians) {
-    return radians * 180.0 / PI_D;
-}
+double degrees_of(double radians);
 
 double cos_deg(double degrees);
 double sin_deg(double degrees);

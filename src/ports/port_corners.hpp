@@ -1,5 +1,6 @@
 // The four corners of a port: fillet centre and tangent points from the angle at which the fillet
 // touches.
+// Source: docs/formulas/ports.md, "Fillets".
 #pragma once
 
 #include "geometry/point2.hpp"

@@ -1,5 +1,6 @@
 // The entries of the ports: defaults for the empty ones, their values in millimetres, the rotor
 // entries read again.
+// Source: docs/formulas/ports.md, "Defaults".
 #pragma once
 
 #include "core/design_params.hpp"

@@ -1,5 +1,6 @@
 // port_fields: what differs between the inlet and the outlet as a table: their entries, their
 // fields, their messages.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "core/entries.hpp"
@@ -50,6 +51,7 @@ struct port_fields {
     zeroed_array port_params::*x;
     zeroed_array port_params::*y;
     std::int16_t port_params::*last;
+    port_shape port_params::*built;
     std::array<std::int16_t port_params::*, 4> marks;  ///< a .. d
     message out_of_range;
     message radius_too_large;

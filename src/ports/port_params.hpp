@@ -1,8 +1,11 @@
 // port_params: the entries of the ports as Design Ports read them, and the outlines it computed.
 // Lengths mm, angles degrees.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "base/zeroed_array.hpp"
+#include "ports/groove_outline.hpp"
+#include "ports/port_outline.hpp"
 
 #include <cstdint>
 #include <span>
@@ -109,6 +112,12 @@ struct port_params {
     std::int16_t outlet_mark_b = 0;     ///< end of the inner arc
     std::int16_t outlet_mark_c = 0;     ///< end of the end side
     std::int16_t outlet_mark_d = 0;     ///< end of the outer arc
+
+    // What the outlines were built with: corners, radii and angles of their own, whatever a later
+    // or refused pass left in the fields above. All 0 before the first outline.
+    port_shape inlet_built, outlet_built;
+    groove_shape groove_built;
+    bool has_groove = false;  ///< the last run of Design Ports finished its metering groove
 
     // Metering groove. Its circles and angles are about (-ecc/2, 0).
     double groove_length_deg = 0.0, groove_width_mm = 0.0, groove_depth_mm = 0.0;

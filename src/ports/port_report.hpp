@@ -1,4 +1,5 @@
 // The report of the corner centres for the workshop, port_radius_coordinates.txt, as lines.
+// Source: docs/formulas/ports.md.
 #pragma once
 
 #include "core/design_params.hpp"
@@ -9,8 +10,6 @@
 #include <vector>
 
 namespace kvt {
-
-inline constexpr std::string_view PORT_REPORT_NAME = "port_radius_coordinates.txt";
 
 /// What the report takes from outside the records.
 struct port_report_head {

@@ -1,4 +1,5 @@
 // The corners of one side of a port: by search, or in closed form when the side lies on the x axis.
+// Source: docs/formulas/ports.md, "Fillets".
 #pragma once
 
 #include "ports/port_fields.hpp"

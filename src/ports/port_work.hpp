@@ -21,6 +21,7 @@ struct port_work {
     teller& person;
     std::int16_t language = 1;
     const length_unit& unit = length_unit_of(MILLIMETRES);
+    bool inlet_rebuilt = false;  ///< the outlet built the inlet again, and it was finished
 
     void tell(message id) const { person.show_message(message_text(id, language)); }
     /// Empties an entry that a message refused, and gives it the focus.

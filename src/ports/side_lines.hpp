@@ -1,4 +1,5 @@
 // The sides of a port: the straight lines through its entered corners, and their directions.
+// Source: docs/formulas/ports.md, "Sides".
 #pragma once
 
 #include "geometry/point2.hpp"

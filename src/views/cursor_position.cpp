@@ -4,7 +4,7 @@
 
 namespace kvt {
 
-std::optional<point2> cursor_position(double x, double y, const app_state& state) {
+std::optional<point2> cursor_position(double x, double y, const view_state& state) {
     if (state.view_scale == 0.0) {
         return std::nullopt;
     }

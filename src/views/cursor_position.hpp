@@ -1,8 +1,8 @@
 // cursor_position: the point of the design that lies under a place of the picture.
 #pragma once
 
-#include "core/app_state.hpp"
 #include "geometry/point2.hpp"
+#include "views/view_state.hpp"
 
 #include <optional>
 
@@ -12,6 +12,6 @@ namespace kvt {
 ///     x_mm = (x - view_cx - view_ecc) / view_scale      y_mm = (view_cy - y) / view_scale
 /// Nothing while view_scale is 0: no design has a scale yet. Throws overflow for what a double
 /// can't hold.
-std::optional<point2> cursor_position(double x, double y, const app_state& state);
+std::optional<point2> cursor_position(double x, double y, const view_state& state);
 
 }  // namespace kvt

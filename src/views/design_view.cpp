@@ -36,13 +36,13 @@ void clear_all(design_view& view) {
     }
 }
 
-void set_plot_scale(const design_params& design, app_state& state) {
+void set_plot_scale(const design_params& design, view_state& state) {
     state.view_scale = checked_divide(state.view_size * 0.95, design.maxdiameter);
     state.view_ecc = design.ecc * state.view_scale;
 }
 
 void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors,
-                      const app_state& state, design_view& view) {
+                      const view_state& state, design_view& view) {
     const double half = state.view_size / 2.0;
     draw_inner_outline(rotors, view.Line1, [&](const point2& point) {
         return screen_point{single(state.view_scale * point.x + half + state.view_ecc +

@@ -1,9 +1,9 @@
 // design_view: what the Design view shows, as retained data in twips; a widget only paints it.
 #pragma once
 
-#include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "core/rotor_profiles.hpp"
+#include "views/view_state.hpp"
 
 #include <array>
 #include <cstdint>
@@ -70,7 +70,7 @@ void clear_all(design_view& view);
 
 /// The scale of a new drawing: view_scale = view_size * 0.95 / maxdiameter, twips per mm; view_ecc
 /// = ecc * view_scale.
-void set_plot_scale(const design_params& design, app_state& state);
+void set_plot_scale(const design_params& design, view_state& state);
 
 /// The direction of a difference (dx, dy) for a drawn arc, radians: arctan(dy/dx), plus PI_L if dx
 /// < 0 (with dy above or below 0), plus TWO_PI_L if dx > 0 and dy < 0. Throws division_by_zero when
@@ -84,7 +84,7 @@ double drawing_angle(double dx, double dy);
 /// point; shows Shape1 with diameter view_scale * maxdiameter. Throws overflow for coordinates
 /// beyond single precision, subscript_out_of_range when the plot list is too short.
 void draw_inner_rotor(const design_params& design, const rotor_profiles& rotors,
-                      const app_state& state, design_view& view);
+                      const view_state& state, design_view& view);
 
 /// Where the outer rotor stands in the picture: its centre in twips, y down, and the angle in
 /// radians, y up, that is added to those of its lobes.
@@ -97,12 +97,12 @@ struct outer_rotor_place {
 /// fillet arcs. The end angles are those of drawing_angle from each arc's centre. Arcs drawn before
 /// a failure stay. Throws run_time_error for an angle whose x difference is 0.
 void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors,
-                      const app_state& state, design_view& view);
+                      const view_state& state, design_view& view);
 
 /// The arcs of the outer rotor again, at a place, with the scale view_scale: in the order and by
 /// the rules of the first drawing, but computed from the design alone (lobe centres at radouter +
 /// radinnroot + ecc). Picture1 is not cleared. Throws run_time_error as the first drawing does.
 void redraw_outer_rotor(const design_params& design, const outer_rotor_place& place,
-                        const app_state& state, design_view& view);
+                        const view_state& state, design_view& view);
 
 }  // namespace kvt

@@ -96,7 +96,7 @@ double drawing_angle(double dx, double dy) {
 }
 
 void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors,
-                      const app_state& state, design_view& view) {
+                      const view_state& state, design_view& view) {
     const double half = state.view_size / 2.0;
     outer_rotor_drawing(design, lobe_centre_radius(design, rotors), {half, half, 0.0},
                         state.view_scale, view.Picture1)
@@ -104,7 +104,7 @@ void draw_outer_rotor(const design_params& design, const rotor_profiles& rotors,
 }
 
 void redraw_outer_rotor(const design_params& design, const outer_rotor_place& place,
-                        const app_state& state, design_view& view) {
+                        const view_state& state, design_view& view) {
     const double centre_radius = design.radouter + (design.radinnroot + design.ecc);
     outer_rotor_drawing(design, centre_radius, place, state.view_scale, view.Picture1).run();
 }

@@ -13,7 +13,7 @@ namespace kvt {
 namespace {
 
 /// An element from one point in mm to another.
-drawn_line line_between(point2 from, point2 to, const app_state& state) {
+drawn_line line_between(point2 from, point2 to, const view_state& state) {
     const auto x = [&state](point2 p) {
         return single(state.view_scale * p.x + state.view_cx + state.view_ecc);
     };
@@ -23,7 +23,7 @@ drawn_line line_between(point2 from, point2 to, const app_state& state) {
 
 /// Draws the segments between the points first .. last of an outline.
 void draw_segments(std::span<const double> x, std::span<const double> y, int first, int last,
-                   const app_state& state, line_array& lines) {
+                   const view_state& state, line_array& lines) {
     lines.clear();
     const auto point = [&x, &y](int i) { return point2{checked_at(x, i), checked_at(y, i)}; };
     for (int i = first; i < last; ++i) {
@@ -31,7 +31,7 @@ void draw_segments(std::span<const double> x, std::span<const double> y, int fir
     }
 }
 
-void draw_rays(point2 centre, const std::array<point2, 4>& corners, const app_state& state,
+void draw_rays(point2 centre, const std::array<point2, 4>& corners, const view_state& state,
                line_array& lines) {
     lines.clear();
     for (std::size_t i = 0; i < corners.size(); ++i) {
@@ -41,18 +41,18 @@ void draw_rays(point2 centre, const std::array<point2, 4>& corners, const app_st
 
 }  // namespace
 
-void draw_inlet_port(const port_params& ports, const app_state& state, design_view& view) {
+void draw_inlet_port(const port_params& ports, const view_state& state, design_view& view) {
     draw_segments(ports.inlet_port_x, ports.inlet_port_y, 0, ports.inlet_port_last, state,
                   view.inlet_portline);
 }
 
-void draw_outlet_port(const port_params& ports, const app_state& state, design_view& view) {
+void draw_outlet_port(const port_params& ports, const view_state& state, design_view& view) {
     draw_segments(ports.outlet_port_x, ports.outlet_port_y, 0, ports.outlet_port_last, state,
                   view.outlet_portline);
 }
 
-void draw_port_angles(const port_params& ports, const design_params& design, const app_state& state,
-                      design_view& view) {
+void draw_port_angles(const port_params& ports, const design_params& design,
+                      const view_state& state, design_view& view) {
     draw_rays({0.0, 0.0},
               {{{ports.inlet_p1_x, -ports.inlet_p1_y},
                 {ports.inlet_p2_x, -ports.inlet_p2_y},
@@ -67,7 +67,7 @@ void draw_port_angles(const port_params& ports, const design_params& design, con
               state, view.anglelineout);
 }
 
-void draw_metering_groove(const port_params& ports, const app_state& state, design_view& view) {
+void draw_metering_groove(const port_params& ports, const view_state& state, design_view& view) {
     draw_segments(ports.groove_x, ports.groove_y, 0, ports.groove_main_last, state,
                   view.metering_groove_portline);
     draw_segments(ports.groove_x, ports.groove_y, ports.groove_main_last, ports.groove_last, state,

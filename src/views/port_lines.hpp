@@ -2,10 +2,10 @@
 // to the corners.
 #pragma once
 
-#include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "ports/port_params.hpp"
 #include "views/design_view.hpp"
+#include "views/view_state.hpp"
 
 namespace kvt {
 
@@ -14,20 +14,20 @@ namespace kvt {
 /// One element of inlet_portline a segment of the outline 0 .. inlet_port_last, as it is stored.
 /// The elements of an earlier drawing go first; an outline of no segment leaves none. Throws
 /// overflow for a coordinate too large.
-void draw_inlet_port(const port_params& ports, const app_state& state, design_view& view);
+void draw_inlet_port(const port_params& ports, const view_state& state, design_view& view);
 
 /// Likewise outlet_portline from the outline 0 .. outlet_port_last.
-void draw_outlet_port(const port_params& ports, const app_state& state, design_view& view);
+void draw_outlet_port(const port_params& ports, const view_state& state, design_view& view);
 
 /// Four elements each of angleline, from the inner rotor centre (0, 0) to p1 and p2 of the inlet (y
 /// negated) and of the outlet, and of anglelineout, from the outer centre (-ecc, 0) to p4 and p3 of
 /// both.
-void draw_port_angles(const port_params& ports, const design_params& design, const app_state& state,
-                      design_view& view);
+void draw_port_angles(const port_params& ports, const design_params& design,
+                      const view_state& state, design_view& view);
 
 /// metering_groove_portline from the groove 0 .. groove_main_last, metering_groove_extraline from
 /// there to groove_last.
-void draw_metering_groove(const port_params& ports, const app_state& state, design_view& view);
+void draw_metering_groove(const port_params& ports, const view_state& state, design_view& view);
 
 void clear_metering_groove(design_view& view);
 

@@ -15,7 +15,7 @@ namespace {
 constexpr double FULL_TURN_DEG = 360.0;
 constexpr double HALF_TURN_DEG = 180.0;
 
-void set_angle(const design_params& design, double degrees, app_state& state) {
+void set_angle(const design_params& design, double degrees, view_state& state) {
     state.rotation_angle = degrees;
     // Kept: once, so that a typed 800 stays 440.
     if (state.rotation_angle >= FULL_TURN_DEG) {
@@ -30,20 +30,20 @@ void set_angle(const design_params& design, double degrees, app_state& state) {
 
 }  // namespace
 
-void turn_one_tick(const design_params& design, turning direction, app_state& state) {
+void turn_one_tick(const design_params& design, turning direction, view_state& state) {
     const double step = direction == turning::clockwise ? DEGREES_PER_TICK : -DEGREES_PER_TICK;
     set_angle(design, state.rotation_angle + step, state);
 }
 
-void turn_to_typed(const design_params& design, std::string_view text, app_state& state) {
+void turn_to_typed(const design_params& design, std::string_view text, view_state& state) {
     set_angle(design, floor_to_int(val(text)), state);
 }
 
-std::string rotated_angle_text(const app_state& state) {
+std::string rotated_angle_text(const view_state& state) {
     return number_text(floor_to_int(state.rotation_angle * 10.0) / 10.0);
 }
 
-void redraw_rotated(const design_params& design, const rotor_profiles& rotors, app_state& state,
+void redraw_rotated(const design_params& design, const rotor_profiles& rotors, view_state& state,
                     design_view& view) {
     view.Line1.element0_visible = false;
     view.Picture1.clear();

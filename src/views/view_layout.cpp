@@ -15,7 +15,7 @@ constexpr double LARGEST_VIEW_SIZE = 32767.0;
 
 }  // namespace
 
-std::optional<view_layout> resize_view(double form_height, app_state& state) {
+std::optional<view_layout> resize_view(double form_height, view_state& state) {
     state.view_size = to_int16(std::min(form_height - HEIGHT_BEYOND_PICTURE, LARGEST_VIEW_SIZE));
     if (state.view_size < 0) {
         return std::nullopt;

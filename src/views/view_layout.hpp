@@ -1,7 +1,7 @@
 // view_layout: the resize rule of the Design view: a square picture that follows the form's height.
 #pragma once
 
-#include "core/app_state.hpp"
+#include "views/view_state.hpp"
 
 #include <optional>
 
@@ -19,6 +19,6 @@ struct view_layout {
 /// nothing more when that is negative. Otherwise the form is as high as the picture and 1185, and
 /// as wide as the picture and 390, so width follows height. The drawing keeps its scale until the
 /// next Calculate Profiles. Throws overflow for a height below the range of 16 bits.
-std::optional<view_layout> resize_view(double form_height, app_state& state);
+std::optional<view_layout> resize_view(double form_height, view_state& state);
 
 }  // namespace kvt

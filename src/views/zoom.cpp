@@ -23,7 +23,7 @@ noted_ports note_ports(const design_view& view) {
                 shows_outline(view.metering_groove_extraline)};
 }
 
-void redraw_inner_rotor(const rotor_profiles& rotors, const app_state& state, design_view& view) {
+void redraw_inner_rotor(const rotor_profiles& rotors, const view_state& state, design_view& view) {
     draw_inner_outline(rotors, view.Line1, [&](const point2& point) {
         return screen_point{single(state.view_scale * point.x + state.view_cx + state.view_ecc),
                             single(state.view_scale * point.y + state.view_cy)};
@@ -31,7 +31,7 @@ void redraw_inner_rotor(const rotor_profiles& rotors, const app_state& state, de
 }
 
 void redraw_ports(const noted_ports& noted, const design_params& design, const port_params& ports,
-                  const app_state& state, design_view& view) {
+                  const view_state& state, design_view& view) {
     if (noted.outlet) {
         draw_outlet_port(ports, state, view);
     }
@@ -52,7 +52,7 @@ bool has_rotors(const design_view& view) {
     return view.Line1.element0_visible;
 }
 
-void start_rubber_band(double x, double y, app_state& state, design_view& view) {
+void start_rubber_band(double x, double y, view_state& state, design_view& view) {
     state.zoom_start_x = to_int16(x);
     state.zoom_start_y = to_int16(y);
     const float left = single(x);
@@ -75,7 +75,7 @@ void stretch_rubber_band(double x, double y, design_view& view) {
     lines[3].x2 = right;
 }
 
-bool end_rubber_band(double x, double y, app_state& state, design_view& view) {
+bool end_rubber_band(double x, double y, view_state& state, design_view& view) {
     view.Line3.visible = false;
     state.zoom_end_x = to_int16(x);
     state.zoom_end_y = to_int16(y);
@@ -88,7 +88,7 @@ bool end_rubber_band(double x, double y, app_state& state, design_view& view) {
     return state.zoom_end_x != state.zoom_start_x && state.zoom_end_y != state.zoom_start_y;
 }
 
-void zoom_to_band(const design_params& design, app_state& state) {
+void zoom_to_band(const design_params& design, view_state& state) {
     const double w = state.zoom_end_x - state.zoom_start_x;
     const double h = state.zoom_end_y - state.zoom_start_y;
     state.view_zoom = checked_divide(state.view_size, w > h ? w : h);
@@ -99,7 +99,7 @@ void zoom_to_band(const design_params& design, app_state& state) {
 }
 
 void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
-                   const port_params& ports, app_state& state, design_view& view) {
+                   const port_params& ports, view_state& state, design_view& view) {
     const noted_ports noted = note_ports(view);
     state.angleline_count = static_cast<double>(view.angleline.elements.size());
     clear_all(view);

@@ -1,11 +1,11 @@
 // Zoom of the Design view: the rubber band, the new place of the drawing, and the drawing at it.
 #pragma once
 
-#include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "core/rotor_profiles.hpp"
 #include "ports/port_params.hpp"
 #include "views/design_view.hpp"
+#include "views/view_state.hpp"
 
 namespace kvt {
 
@@ -14,7 +14,7 @@ bool has_rotors(const design_view& view);
 
 /// Mouse down at (x, y) twips, any button: the band starts there and all four lines are shown. The
 /// corner is rounded half to even to 16 bits; throws overflow outside.
-void start_rubber_band(double x, double y, app_state& state, design_view& view);
+void start_rubber_band(double x, double y, view_state& state, design_view& view);
 
 /// Mouse move, also with no button down (the lines are invisible then). x and y may lie outside the
 /// picture. Throws overflow beyond single precision.
@@ -22,13 +22,13 @@ void stretch_rubber_band(double x, double y, design_view& view);
 
 /// Mouse up: hides the band, rounds the corner like the first, and orders both so that start is the
 /// smaller one in each axis. True when the band has a width and a height.
-bool end_rubber_band(double x, double y, app_state& state, design_view& view);
+bool end_rubber_band(double x, double y, view_state& state, design_view& view);
 
 /// The band, ordered, fills the picture with its larger side:
 ///     view_zoom = view_size / w if w > h, else view_size / h
 ///     view_scale = view_scale view_zoom      view_ecc = ecc view_scale
 ///     view_cx = (view_cx - zoom_start_x) view_zoom      view_cy likewise
-void zoom_to_band(const design_params& design, app_state& state);
+void zoom_to_band(const design_params& design, view_state& state);
 
 /// Draws everything that the view shows anew at the present scale and place: the inner rotor
 /// (without clearn_half, which only the first drawing adds), the ports, port angles and groove
@@ -36,6 +36,6 @@ void zoom_to_band(const design_params& design, app_state& state);
 /// elements that angleline had before. The rotors stand at angle 0. Elements drawn before a failure
 /// stay. Throws run_time_error for what the outer rotor's arcs or a coordinate can't hold.
 void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
-                   const port_params& ports, app_state& state, design_view& view);
+                   const port_params& ports, view_state& state, design_view& view);
 
 }  // namespace kvt

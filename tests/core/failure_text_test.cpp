@@ -1,6 +1,7 @@
 // The texts under which a run-time failure reaches the user.
 #include "core/failure_text.hpp"
 
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -18,6 +19,7 @@ constexpr failure_case FAILURES[] = {
     {failure::invalid_procedure_call, "Invalid procedure call or argument",
      "Ungültiger Prozeduraufruf oder ungültiges Argument"},
     {failure::overflow, "Overflow", "Überlauf"},
+    {failure::out_of_memory, "Out of memory", "Nicht genügend Speicher"},
     {failure::subscript_out_of_range, "Subscript out of range",
      "Index außerhalb des gültigen Bereichs"},
     {failure::division_by_zero, "Division by zero", "Division durch Null"},
@@ -35,6 +37,19 @@ TEST(failure_text, names_every_kind_in_both_languages) {
         EXPECT_EQ(failure_text(expected.kind, 1), expected.text);
         EXPECT_EQ(failure_text(expected.kind, 2), expected.german);
     }
+}
+
+TEST(failure_text, of_a_file_names_the_reason_when_it_is_known) {
+    const auto text = [](file_fault fault, std::int16_t language) {
+        return failure_text(run_time_error(failure::path_file_access, "a.KVT", fault), language);
+    };
+    EXPECT_EQ(text({}, 1), "Path/File access error");
+    EXPECT_EQ(text({file_fault::reason::system, ENOSPC}, 1),
+              "Path/File access error (No space left on device)");
+    EXPECT_EQ(text({file_fault::reason::too_large}, 1),
+              "Path/File access error (larger than 1 MB, so it is no file of this program)");
+    EXPECT_EQ(text({file_fault::reason::not_plain}, 2),
+              "Fehler beim Zugriff auf Pfad oder Datei (ein Gerät oder eine Pipe, keine Datei)");
 }
 
 }  // namespace

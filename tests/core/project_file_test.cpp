@@ -165,6 +165,29 @@ TEST(read_project, ignores_lines_behind_59) {
     EXPECT_EQ(saved_again("lines_60"), fixture("lines_59"));
 }
 
+TEST(read_project, takes_the_named_line_behind_59_as_it_stands) {
+    const project_record record = read_fixture("named_59");
+    expect_boxes(record, 59);
+    EXPECT_EQ(record.boxes.UTS_value, " 1.100,5 für Öl = roh ");
+    EXPECT_EQ(read_fixture("lines_59").boxes.UTS_value, "");
+}
+
+TEST(read_project, takes_the_first_of_a_known_name_and_ignores_every_other_line_behind_59) {
+    const project_record record = read_fixture("named_others");
+    expect_boxes(record, 59);
+    EXPECT_EQ(record.boxes.UTS_value, "520");
+}
+
+TEST(read_project, takes_a_line_before_the_59_by_its_place_also_when_it_has_a_name) {
+    EXPECT_FAILURE(read_fixture("named_23"), failure::input_past_end);
+    EXPECT_FAILURE(read_fixture("named_53"), failure::input_past_end);
+    EXPECT_EQ(read_fixture("named_57").boxes.outer_root, "UTS_value= 1.100,5 für Öl = roh ");
+    EXPECT_EQ(read_fixture("named_58").boxes.radial_clear, "UTS_value= 1.100,5 für Öl = roh ");
+    for (const char* name : {"named_57", "named_58"}) {
+        EXPECT_EQ(read_fixture(name).boxes.UTS_value, "") << name;
+    }
+}
+
 TEST(read_project, takes_any_blanks_around_an_integer) {
     EXPECT_EQ(read_fixture("integer_blanks").capacity_unit, 4);
 }
@@ -200,7 +223,7 @@ TEST(read_project, reads_umlauts_and_all_high_bytes) {
 }
 
 TEST(write_project, gives_back_the_bytes_that_were_read) {
-    for (const char* name : {"lines_59", "inches", "high_bytes"}) {
+    for (const char* name : {"lines_59", "inches", "high_bytes", "named_59"}) {
         EXPECT_EQ(saved_again(name), fixture(name)) << name;
     }
 }
@@ -228,6 +251,15 @@ TEST(write_project, writes_the_boxes_of_a_new_program_in_59_lines) {
               "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n 0 \r\n 0 \r\n\r\n"         // to 35
               "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n"           // to 47
               " 0 \r\n\r\n 0 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n0\r\n");  // to 59
+}
+
+TEST(write_project, adds_a_named_line_only_for_a_box_that_is_not_empty) {
+    project_record record = read_fixture("lines_59");
+    const std::string without = write_project(record);
+    record.boxes.UTS_value = "520";
+    EXPECT_EQ(write_project(record), without + "UTS_value=520\r\n");
+    record.boxes.Face_area_value = "90";
+    EXPECT_EQ(write_project(record), without + "UTS_value=520\r\n") << "no box of a project";
 }
 
 TEST(write_project, refuses_a_line_end_in_a_box) {
@@ -263,6 +295,7 @@ TEST(project_file, keeps_random_typed_texts_to_the_byte) {
             record.boxes.*row.box =
                 is_check_line(row.line) ? std::to_string(random.whole(0, 1)) : typed_text(random);
         }
+        record.boxes.UTS_value = typed_text(random);
         std::string name;
         project_record again = read_project(write_project(record), name);
         EXPECT_EQ(again.boxes, record.boxes);
@@ -270,6 +303,72 @@ TEST(project_file, keeps_random_typed_texts_to_the_byte) {
         EXPECT_EQ(name, record.project_name);
         again.project_path = record.project_path;
         EXPECT_EQ(write_project(again), write_project(record));
+    }
+}
+
+/// The text of every box of a project, also of one that a project does not hold.
+void type_everywhere(entries& boxes, random_values& random) {
+    for (const entry_field& field : entry_fields()) {
+        const bool is_check = field.kind == entry_kind::check;
+        boxes.*field.member = is_check ? std::to_string(random.whole(0, 1)) : typed_text(random);
+    }
+    for (const char* of_no_project :
+         {"rotated_angle", "flow_checkbox", "power_checkbox", "stress_checkbox", "ripple_checkbox",
+          "ve_checkbox", "effic_checkbox", "ovr_effic_checkbox"}) {
+        boxes.*find_entry(of_no_project)->member = entries().*find_entry(of_no_project)->member;
+    }
+}
+
+TEST(unsaved_entries, come_back_to_the_byte_with_every_box_as_it_was_typed) {
+    random_values random;
+    for (int left = property_count(500); left > 0; --left) {
+        unsaved_record record;
+        record.project.project_path = "/a/Größe.KVT";
+        record.project.project_name = typed_text(random);
+        record.project.capacity_unit = static_cast<std::int16_t>(random.whole(-32768, 32767));
+        record.session = typed_text(random);
+        type_everywhere(record.project.boxes, random);
+        const std::string written = write_unsaved(record);
+        const unsaved_record again = read_unsaved(written);
+        EXPECT_EQ(again.project.boxes, record.project.boxes);
+        EXPECT_EQ(again.project.project_path, record.project.project_path);
+        EXPECT_EQ(again.project.project_name, record.project.project_name);
+        EXPECT_EQ(again.project.capacity_unit, record.project.capacity_unit);
+        EXPECT_EQ(again.session, record.session);
+        EXPECT_EQ(write_unsaved(again), written);
+    }
+}
+
+TEST(unsaved_entries, are_a_project_of_59_lines_for_the_other_readers) {
+    unsaved_record record;
+    record.project = read_fixture("lines_59");
+    record.session = "one";
+    const std::string written = write_unsaved(record);
+    std::string name;
+    EXPECT_EQ(read_project(written, name).boxes, record.project.boxes);
+    EXPECT_EQ(written.substr(written.find("UTS_value")),
+              "UTS_value=\r\nFace_area_value=100\r\nOD_area_value=100\r\nsession=one\r\n");
+}
+
+TEST(read_unsaved, reads_every_length_that_was_ever_written_and_those_between) {
+    for (const int count : {23, 24, 53, 57, 58, 59, 60}) {
+        const unsaved_record record = read_unsaved(fixture("lines_" + std::to_string(count)));
+        expect_boxes(record.project, count);
+        EXPECT_EQ(record.project.boxes.Face_area_value, "100");
+        EXPECT_EQ(record.session, "");
+    }
+}
+
+TEST(read_unsaved, reads_lines_without_their_number) {
+    EXPECT_EQ(read_unsaved(fixture("integer_word")).project.capacity_unit, 1);
+    EXPECT_EQ(read_unsaved(fixture("integer_too_large")).project.capacity_unit, 1);
+    EXPECT_EQ(read_unsaved(fixture("check_word")).project.boxes.shadow_ports, "0");
+    EXPECT_EQ(read_unsaved(fixture("check_two")).project.boxes.inlet_double_sided, "0");
+}
+
+TEST(read_unsaved, fails_on_fewer_lines_than_any_project_has) {
+    for (const char* name : {"empty", "lines_22"}) {
+        EXPECT_FAILURE(read_unsaved(fixture(name)), failure::input_past_end);
     }
 }
 

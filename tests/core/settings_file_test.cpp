@@ -1,10 +1,13 @@
 // The seven lines of KVT.ini.
 #include "core/settings_file.hpp"
 
+#include "base/text_file.hpp"
 #include "support/property_runs.hpp"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace kvt {
 
@@ -39,26 +42,33 @@ TEST(write_settings, gives_back_the_bytes_that_were_read) {
     EXPECT_EQ(write_settings(state), FULL);
 }
 
-TEST(read_settings, leaves_the_values_of_missing_lines) {
+TEST(read_settings, leaves_empty_values_for_missing_lines) {
     app_state state;
     state.language = GERMAN;
+    state.modelling_package = "Built-in";
     state.auto_update_mode = "auto";
     state.last_update_check = "03-Nov-21";
     read_settings("one\r\n", state);
+    EXPECT_EQ(state.mnufileprev[0], "&1") << "no line of the file is its";
     EXPECT_EQ(state.mnufileprev[1], "one");
-    EXPECT_EQ(state.mnufileprev[2], "&3");
-    EXPECT_EQ(state.language, GERMAN);
-    EXPECT_EQ(state.auto_update_mode, "auto");
-    EXPECT_EQ(state.last_update_check, "03-Nov-21");
+    EXPECT_EQ(state.mnufileprev[2], "");
+    EXPECT_EQ(state.mnufileprev[3], "");
+    EXPECT_EQ(state.modelling_package, "");
+    EXPECT_EQ(state.language, 0);
+    EXPECT_EQ(state.auto_update_mode, "");
+    EXPECT_EQ(state.last_update_check, "");
 }
 
-TEST(read_settings, leaves_everything_of_an_empty_file) {
-    app_state state;
-    state.modelling_package = "Built-in";
-    read_settings("", state);
-    EXPECT_EQ(state.mnufileprev[1], "&2");
-    EXPECT_EQ(state.modelling_package, "Built-in");
-    EXPECT_EQ(state.language, ENGLISH);
+TEST(read_settings, of_every_length_reads_as_if_the_missing_lines_were_empty) {
+    std::string present;
+    for (const std::string& line : split_lines(FULL)) {
+        app_state cut;
+        app_state filled;
+        read_settings(present, cut);
+        read_settings(present + std::string("\r\n\r\n\r\n\r\n\r\n\r\n\r\n"), filled);
+        EXPECT_EQ(write_settings(cut), write_settings(filled));
+        present += line + "\r\n";
+    }
 }
 
 struct language_case {
@@ -91,11 +101,55 @@ TEST(read_settings, keeps_the_date_when_line_7_is_no_date_field) {
     }
 }
 
-TEST(first_settings_line, is_the_first_line_in_utf8_or_empty) {
-    EXPECT_EQ(first_settings_line(FULL), "C:\\pumps\\one.KVT");
-    EXPECT_EQ(first_settings_line("C:\\\xD6l"), "C:\\Öl");
-    EXPECT_EQ(first_settings_line("\r\nC:\\pumps"), "");
-    EXPECT_EQ(first_settings_line(""), "");
+/// The recent entries after both files have been written and read.
+std::vector<std::string> kept(const std::vector<std::string>& recent) {
+    app_state state;
+    std::copy(recent.begin(), recent.end(), state.mnufileprev + 1);
+    app_state again;
+    read_settings(write_settings(state), again);
+    read_own_settings(write_own_settings(state), again);
+    return {again.mnufileprev + 1, again.mnufileprev + 4};
+}
+
+TEST(own_settings, keep_paths_whole_that_the_code_page_can_not_hold) {
+    const std::vector<std::vector<std::string>> cases = {
+        {"/home/Насос.KVT", "/home/Größe.KVT", "/home/泵.KVT"},
+        {"", "/泵.KVT", ""},
+        {"/а.KVT", "/б.KVT", "/?.KVT"},  // all the same in the code page
+        {"/?.KVT", "/а.KVT", "/б.KVT"},
+        {"/a\nb.KVT", "/100%0A.KVT", "/c\rЖ%25.KVT"},
+        {"/broken\xFFutf8", "/а.KVT", "/а.KVT"},
+    };
+    for (const std::vector<std::string>& recent : cases) {
+        EXPECT_EQ(kept(recent), recent);
+    }
+}
+
+TEST(own_settings, are_empty_when_KVT_ini_holds_every_path) {
+    app_state state;
+    read_settings(FULL, state);
+    EXPECT_EQ(write_own_settings(state), "");
+}
+
+TEST(own_settings, are_utf8_and_KVT_ini_gets_what_it_can_hold) {
+    app_state state;
+    state.mnufileprev[1] = "/Größe/Насос.KVT";
+    EXPECT_TRUE(
+        write_settings(state).starts_with("/Gr\xF6\xDF"
+                                          "e/?????.KVT\r\n"));
+    EXPECT_EQ(write_own_settings(state), "recent_1=/Größe/Насос.KVT\r\n");
+}
+
+TEST(read_own_settings, leaves_a_list_alone_that_was_written_without_it) {
+    app_state state;
+    read_settings("/other.KVT\r\n/???.KVT\r\n", state);
+    read_own_settings(
+        "recent_1=/Насос.KVT\r\nrecent_3=/три.KVT\r\nunknown=1\r\nrecent_2\r\nrecent_9=/"
+        "???.KVT\r\n",
+        state);
+    EXPECT_EQ(state.mnufileprev[1], "/other.KVT");
+    EXPECT_EQ(state.mnufileprev[2], "/три.KVT");
+    EXPECT_EQ(state.mnufileprev[3], "");
 }
 
 TEST(settings_file, writes_the_same_bytes_again_for_any_bytes_read) {

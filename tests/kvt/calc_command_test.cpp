@@ -16,12 +16,12 @@ std::vector<std::string> keys(const json& object) {
     return names;
 }
 
-const texts ALL_KEYS = {"ended",        "messages",      "hints",          "entries",
-                        "labels",       "design_params", "rotor_profiles", "port_params",
-                        "report_lines", "perf_results"};
+const texts ALL_KEYS = {"ended",       "messages",     "hints",         "entries",
+                        "labels",      "numbers",      "design_params", "rotor_profiles",
+                        "port_params", "report_lines", "perf_results"};
 const texts KEYS_OF_PORTS(ALL_KEYS.begin(), ALL_KEYS.end() - 1);
 const texts KEYS_OF_PROFILES(ALL_KEYS.begin(), ALL_KEYS.end() - 3);
-const texts KEYS_WITHOUT_RUN = {"ended", "messages", "hints", "entries", "labels"};
+const texts KEYS_WITHOUT_RUN = {"ended", "messages", "hints", "entries", "labels", "numbers"};
 
 TEST(calc_command, ends_ok_without_a_message_for_a_good_design) {
     const kvt_run run = calc_engine_oil({});

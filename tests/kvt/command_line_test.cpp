@@ -1,6 +1,9 @@
 // Tests of the options: what is a usage error, and what help and version say.
 #include "kvt/kvt_run.hpp"
 
+#include <streambuf>
+#include <utility>
+
 namespace kvt {
 namespace {
 
@@ -93,6 +96,29 @@ TEST(command_line, tells_its_version) {
     const kvt_run run = run_kvt({"--version"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "2021.1.1\n");
+}
+
+/// Takes nothing, as a full disk does.
+class full_buffer : public std::streambuf {
+  protected:
+    int_type overflow(int_type) override { return traits_type::eof(); }
+    std::streamsize xsputn(const char*, std::streamsize) override { return 0; }
+};
+
+TEST(command_line, ends_with_1_when_what_it_prints_is_not_taken) {
+    const std::string project = example("engine_oil");
+    const std::vector<std::pair<std::vector<const char*>, int>> cases = {
+        {{"kvt", "calc", project.c_str(), "--stage", "profiles"}, 1},
+        {{"kvt", "--version"}, 1},
+        {{"kvt", "calc", "none.KVT", "--language", "2"}, 3},
+    };
+    for (const auto& [argv, status] : cases) {
+        full_buffer full;
+        std::ostream out(&full);
+        std::ostringstream err;
+        EXPECT_EQ(run_command_line(static_cast<int>(argv.size()), argv.data(), out, err), status);
+        EXPECT_NE(err.str().find("standard output: "), std::string::npos) << err.str();
+    }
 }
 
 }  // namespace

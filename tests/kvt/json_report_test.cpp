@@ -1,6 +1,7 @@
 // Tests of the JSON's shape: names, texts, numbers, and arrays cut to their used length.
 #include "kvt/json_report.hpp"
 
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "core/entries.hpp"
 #include "kvt/kvt_run.hpp"
@@ -146,6 +147,38 @@ TEST(json_report, gives_the_lines_and_arcs_of_the_design_view) {
     for (const char* field : {"x", "y", "radius", "start_angle", "end_angle"}) {
         EXPECT_TRUE(view["Picture1"][0][field].is_number()) << field;
     }
+}
+
+/// Each text of a result is its number, shortened by the rule of its label.
+TEST(json_report, gives_the_number_behind_each_text_of_a_result) {
+    const json report = calc_engine_oil({}).report();
+    const json& numbers = report["numbers"];
+    const json& labels = report["labels"];
+    EXPECT_EQ(numbers.size(), 9U);
+    const std::map<std::string, std::pair<std::string, double>> rules = {
+        {"capacity", {"capacity", 0.0}},
+        {"area_ratio", {"area_ratio", 0.01}},
+        {"max_chamb_vol", {"max_chamb_vol", 1.0}},
+        {"min_chamb_vol", {"min_chamb_vol", 1.0}},
+        {"max_speed", {"max_speed", 1.0}},
+        {"max_shaft_side_load", {"max_shaft_side_load", 0.01}},
+        {"side_load_direction", {"side_load_direction", 0.01}},
+        {"max_cutter_inner", {"max_cutter_inner", 0.0}}};
+    for (const auto& [number, rule] : rules) {
+        const double shown = val(labels.at(rule.first).get<std::string>());
+        const double value = numbers.at(number);
+        EXPECT_GE(value, shown) << number;
+        EXPECT_LE(value, shown + rule.second) << number;
+    }
+    EXPECT_EQ(numbers["ripple_percent"], report["perf_results"]["ripple_percent"]);
+    EXPECT_EQ(numbers["max_shaft_side_load"], report["perf_results"]["side_load"][5][5]);
+}
+
+TEST(json_report, gives_no_number_for_a_result_without_text) {
+    EXPECT_EQ(calc_engine_oil({"--stage", "ports"}).report()["numbers"].size(), 4U);
+    const json refused = calc_engine_oil({"--set", "shaftdiameter=0"}).report();
+    EXPECT_EQ(refused["numbers"].size(), 1U) << "the capacity that the project holds";
+    EXPECT_FALSE(calc_engine_oil({}).report()["perf_results"].contains("max_speed_rpm"));
 }
 
 TEST(json_report, gives_the_hints_apart_from_the_messages) {

@@ -35,6 +35,16 @@ class program_test : public testing::Test {
         return run;
     }
 
+    /// The exit status of a shell command in which $KVT is the program and $PROJECT the example.
+    int status_of(const std::string& script) const {
+        const std::string command = "cd " + quoted(folder.path().string()) +
+                                    " && KVT=" + quoted(KVT_PROGRAM) + " PROJECT=" + project +
+                                    " bash -c " + quoted(script);
+        const int ended = std::system(command.c_str());
+        return WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
+    }
+    std::string told() const { return read_file(folder.file("err")); }
+
     void expect_nothing_left() const { EXPECT_TRUE(fs::is_empty(folder.file("home"))); }
 
     temporary_folder folder;
@@ -91,6 +101,73 @@ TEST_F(program_test, writes_what_the_options_name_and_nothing_else) {
     EXPECT_EQ(left,
               (std::vector<std::string>{"files", "files/engine_oil.KVT", "files/outer_gcode.cnc",
                                         "files/port_radius_coordinates.txt", "report.json"}));
+}
+
+TEST_F(program_test, ends_with_1_when_standard_output_is_full) {
+    const char* full = "standard output: Run-time error 75: Path/File access error\n";
+    for (const char* command : {"calc \"$PROJECT\"", "calc \"$PROJECT\" --json - --full",
+                                "assist \"$PROJECT\" --set volumereqd=20",
+                                "export \"$PROJECT\" --out files --dxf inner", "--help"}) {
+        EXPECT_EQ(status_of(std::string("\"$KVT\" ") + command + " >/dev/full 2>err"), 1)
+            << command;
+        EXPECT_TRUE(told().ends_with(full)) << command << told();
+    }
+    EXPECT_EQ(status_of("\"$KVT\" calc none.KVT >/dev/full 2>err"), 3)
+        << "the first failure counts";
+}
+
+TEST_F(program_test, ends_with_1_when_standard_output_is_closed_and_prints_into_no_file) {
+    EXPECT_EQ(status_of("\"$KVT\" calc \"$PROJECT\" --json report.json >&- 2>err"), 1);
+    EXPECT_NO_THROW(static_cast<void>(json::parse(read_file(folder.file("report.json")))));
+    EXPECT_EQ(status_of("\"$KVT\" export \"$PROJECT\" --out files --dxf inner <&- >&- 2>&-"), 1);
+    EXPECT_EQ(split_lines(read_file(folder.file("files/engine_oil.KVT"))).size(), 59U);
+    EXPECT_TRUE(read_file(folder.file("files/inner.dxf")).ends_with("EOF\r\n"));
+}
+
+TEST_F(program_test, ends_with_1_when_the_reader_of_standard_output_has_gone) {
+    EXPECT_EQ(
+        status_of(
+            "(sleep 0.2; \"$KVT\" calc \"$PROJECT\" --json - --full 2>err; echo $? >status) | "
+            "true; cat status; exit $(cat status)"),
+        1);
+    EXPECT_NE(told().find("standard output: "), std::string::npos);
+}
+
+TEST_F(program_test, reads_no_more_than_1_MB_of_a_project_and_says_so) {
+    std::string bytes = read_file(example("engine_oil"));
+    bytes.append((std::size_t{1} << 20) - bytes.size(), 'x');
+    write_file(folder.file("large.KVT"), bytes);
+    EXPECT_EQ(status_of("\"$KVT\" calc large.KVT --stage profiles >out 2>err"), 0);
+    write_file(folder.file("large.KVT"), bytes + "x");
+    EXPECT_EQ(status_of("\"$KVT\" calc large.KVT >out 2>err"), 3);
+    EXPECT_EQ(told(),
+              "large.KVT: Run-time error 75: Path/File access error (larger than 1 MB, so it "
+              "is no file of this program)\n");
+}
+
+TEST_F(program_test, refuses_devices_and_pipes_without_waiting_for_them) {
+    EXPECT_EQ(status_of("mkfifo pipe.KVT; timeout 20 \"$KVT\" calc pipe.KVT >out 2>err"), 3);
+    EXPECT_EQ(told(),
+              "pipe.KVT: Run-time error 75: Path/File access error (a device or a pipe, not "
+              "a file)\n");
+    EXPECT_EQ(status_of("timeout 20 \"$KVT\" calc /dev/zero --language 2 >out 2>err"), 3);
+    EXPECT_NE(told().find("ein Gerät oder eine Pipe, keine Datei"), std::string::npos);
+    EXPECT_EQ(status_of("cat \"$PROJECT\" | timeout 20 \"$KVT\" calc /dev/stdin >out 2>err"), 3);
+    EXPECT_EQ(status_of("\"$KVT\" calc /dev/stdin --stage profiles <\"$PROJECT\" >out 2>err"), 0)
+        << "a file under another name";
+}
+
+TEST_F(program_test, ends_with_3_and_a_message_without_memory) {
+    if (KVT_IS_SANITIZED) {
+        GTEST_SKIP() << "the sanitizers need more memory than any limit leaves";
+    }
+    // Room for the program itself and for nothing that a design needs.
+    EXPECT_EQ(
+        status_of("for kb in 8000 9000 10000 11000 12000 13000 14000 15000 16000; do "
+                  "(ulimit -v $kb; \"$KVT\" --version >out 2>/dev/null) || continue; "
+                  "(ulimit -v $kb; \"$KVT\" calc \"$PROJECT\" >out 2>err); exit $?; done; exit 99"),
+        3);
+    EXPECT_EQ(told(), "Run-time error 7: Out of memory\n");
 }
 
 }  // namespace

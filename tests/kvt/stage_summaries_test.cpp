@@ -86,6 +86,17 @@ TEST(performance_summary, shows_seven_tables_in_either_language_and_unit) {
     }
 }
 
+/// 746 watts are one horsepower.
+TEST(performance_summary, shows_horsepower_beside_inches) {
+    const std::vector<std::string> table =
+        table_lines(summary_of("inch_hydraulic"), "Pump Drive Power (HP)");
+    ASSERT_EQ(table.size(), 7U);
+    const json report = run_kvt({"calc", example("inch_hydraulic"), "--json", "-"}).report();
+    const double watts = report["perf_results"]["drive_power"][5][5];
+    EXPECT_NEAR(std::stod(words_after(table[6], "").at(6)), watts / 746.0, 0.0005001);
+    EXPECT_GT(watts / 745.7 - watts / 746.0, 0.001) << "else the factor would not show";
+}
+
 TEST(performance_summary, shows_the_headline_results_as_perf_res_does) {
     const json labels = calc_engine_oil({}).report()["labels"];
     const std::string report = summary_of("engine_oil");

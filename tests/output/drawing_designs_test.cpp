@@ -1,11 +1,10 @@
 // What holds for the STEP and DXF files of every design: random designs, every file written into
 // memory and read back.
-#include "app/files/dxf_output.hpp"
-#include "app/files/step_output.hpp"
 #include "base/constants.hpp"
 #include "geometry/outer_flank.hpp"
 #include "output/outer_path.hpp"
 #include "output/step/step_rotors.hpp"
+#include "support/cnc_design.hpp"
 #include "support/dxf_reader.hpp"
 #include "support/random_design.hpp"
 #include "support/step_reader.hpp"
@@ -20,18 +19,6 @@ namespace {
 constexpr int DESIGNS = 60;
 /// Coordinates have 15 significant digits.
 constexpr double AREA_TOLERANCE = 1e-8;
-
-std::string step_bytes(const program& kavetta, step_file file) {
-    text_lines text;
-    append_step_file(text, file, kavetta, "pump.stp");
-    return text.bytes();
-}
-
-std::string dxf_bytes(const program& kavetta, dxf_file file) {
-    text_lines text;
-    append_dxf_file(text, file, kavetta);
-    return text.bytes();
-}
 
 void expect_sound(const step_reader& read) {
     ASSERT_TRUE(read.unresolved().empty());
@@ -93,7 +80,7 @@ void expect_port(const step_solid& solid, double area, double bottom, double top
 }
 
 void expect_ports(const program& kavetta) {
-    const std::string bytes = step_bytes(kavetta, step_file::ports);
+    const std::string bytes = step_bytes(kavetta, "ports");
     const step_reader read(bytes);
     expect_sound(read);
     const std::vector<step_solid> solids = read.solids();
@@ -149,19 +136,19 @@ void expect_dxf_files(const program& kavetta) {
     const double unit = kavetta.app_state.drawing_units == INCHES ? MM_PER_INCH : 1.0;
     const rotor_profiles& rotors = kavetta.rotor_profiles;
     const port_params& ports = kavetta.port_params;
-    const auto content = [&](dxf_file file) { return read_dxf(dxf_bytes(kavetta, file)); };
-    expect_vertices(content(dxf_file::inner), rotors.inner_x, rotors.inner_y, 3600, unit);
+    const auto content = [&](const char* file) { return read_dxf(dxf_bytes(kavetta, file)); };
+    expect_vertices(content("inner"), rotors.inner_x, rotors.inner_y, 3600, unit);
     // No outline of these designs meets x = 0 exactly.
     const auto count = [](std::int16_t last) { return static_cast<std::size_t>(last) + 1; };
-    expect_vertices(content(dxf_file::inlet), ports.inlet_port_x, ports.inlet_port_y,
+    expect_vertices(content("inlet"), ports.inlet_port_x, ports.inlet_port_y,
                     count(ports.inlet_port_last), unit);
-    expect_vertices(content(dxf_file::outlet), ports.outlet_port_x, ports.outlet_port_y,
+    expect_vertices(content("outlet"), ports.outlet_port_x, ports.outlet_port_y,
                     count(ports.outlet_port_last), unit);
     if (kavetta.entries.metering_groove == "1") {
-        expect_vertices(content(dxf_file::groove), ports.groove_x, ports.groove_y,
-                        count(ports.groove_last), unit);
+        expect_vertices(content("groove"), ports.groove_x, ports.groove_y, count(ports.groove_last),
+                        unit);
     }
-    const dxf_content outer = content(dxf_file::outer);
+    const dxf_content outer = content("outer");
     const design_params& design = kavetta.design_params;
     const std::size_t lobes = static_cast<std::size_t>(design.numlobes);
     EXPECT_EQ(outer.vertices.size(), 2U + lobes * (design.fillet == 0.0 ? 300 : 320));
@@ -183,18 +170,18 @@ TEST(drawing_files, of_every_design_read_back_to_its_profiles) {
         const program kavetta = random_design(random);
         SCOPED_TRACE("design " + std::to_string(tried) + ": N " + kavetta.entries.numlobes +
                      " ecc " + kavetta.entries.ecc + " fillet " + kavetta.entries.fillet);
-        const std::string inner = step_bytes(kavetta, step_file::inner);
+        const std::string inner = step_bytes(kavetta, "inner");
         const step_reader read_inner(inner);
         expect_sound(read_inner);
         expect_inner(kavetta, read_inner.solids().at(0));
-        const std::string outer = step_bytes(kavetta, step_file::outer);
+        const std::string outer = step_bytes(kavetta, "outer");
         const step_reader read_outer(outer);
         expect_sound(read_outer);
         expect_outer(kavetta, read_outer.solids().at(0));
         expect_ports(kavetta);
         expect_dxf_files(kavetta);
         if (tried % 10 == 0) {
-            const std::string both = step_bytes(kavetta, step_file::assembly);
+            const std::string both = step_bytes(kavetta, "assembly");
             const step_reader read_both(both);
             expect_sound(read_both);
             ASSERT_EQ(read_both.solids().size(), 2U);

@@ -1,6 +1,4 @@
 // The STEP and DXF files of whole designs against golden files, shortened.
-#include "app/files/dxf_output.hpp"
-#include "app/files/step_output.hpp"
 #include "support/cnc_design.hpp"
 #include "support/shortened_golden.hpp"
 
@@ -17,16 +15,12 @@ class drawing_goldens : public testing::TestWithParam<const char*> {
 
 TEST_P(drawing_goldens, are_written_as_they_stand) {
     kavetta.date = "11/03/21";
-    for (const step_file file : STEP_FILES) {
-        const std::string name = std::string(step_file_name(file)) + ".stp";
-        text_lines text;
-        append_step_file(text, file, kavetta, "C:\\pumps\\" + name);
-        expect_shortened_golden(folder + name, text.bytes());
-    }
-    for (const dxf_file file : DXF_FILES) {
-        text_lines text;
-        append_dxf_file(text, file, kavetta);
-        expect_shortened_golden(folder + std::string(dxf_file_name(file)) + ".dxf", text.bytes());
+    for (const file_group group : {file_group::step, file_group::dxf}) {
+        for (const written_file& file : files_of(group)) {
+            const std::string name = file_name(file);
+            expect_shortened_golden(folder + name,
+                                    file_bytes(kavetta, group, file.name, "C:\\pumps\\" + name));
+        }
     }
 }
 

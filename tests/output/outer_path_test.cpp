@@ -107,10 +107,10 @@ TEST(outer_path, meets_in_corners_where_the_root_arcs_vanish) {
 TEST(outer_path, reads_the_boxes_in_their_unit) {
     entries boxes = sample_entries();
     boxes.radouter = "7.5 mm";
-    EXPECT_EQ(outer_rotor_entries(boxes, false).radouter, 7.5);
-    EXPECT_EQ(outer_rotor_entries(boxes, true).radouter, 7.5 * 25.4);
-    EXPECT_EQ(outer_rotor_entries(boxes, true).outer_root, 22.9 * 25.4);
-    EXPECT_EQ(outer_rotor_entries(boxes, true).numlobes, 7);
+    EXPECT_EQ(outer_rotor_entries(boxes, 1.0).radouter, 7.5);
+    EXPECT_EQ(outer_rotor_entries(boxes, 25.4).radouter, 7.5 * 25.4);
+    EXPECT_EQ(outer_rotor_entries(boxes, 25.4).outer_root, 22.9 * 25.4);
+    EXPECT_EQ(outer_rotor_entries(boxes, 25.4).numlobes, 7);
 }
 
 }  // namespace kvt

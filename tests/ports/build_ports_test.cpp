@@ -218,6 +218,29 @@ TEST(build_ports, a_radius_for_the_inlet_only_comes_back_from_the_outlet) {
     EXPECT_EQ(tested.boxes.Outlet_outer_radius, "22.9");
     // Kept: a side to the right doesn't rebuild the inlet, whose corners keep the refused radius.
     EXPECT_NEAR(std::hypot(tested.ports.inlet_c1_x, tested.ports.inlet_c1_y), 14.5 + 2.5, 1e-9);
+    EXPECT_EQ(tested.ports.port_radius, 0.0);
+    EXPECT_EQ(tested.ports.inlet_built.f, 2.5) << "the outline knows its own radius";
+    EXPECT_EQ(tested.ports.outlet_built.f, 0.0);
+    EXPECT_FALSE(work.inlet_rebuilt);
+}
+
+TEST(build_ports, an_outline_keeps_what_it_was_built_with) {
+    port_design tested;
+    port_work work = tested.work();
+    ASSERT_EQ(build_inlet_port(work), port_end::finished);
+    const port_shape built = tested.ports.inlet_built;
+    EXPECT_EQ(built.R, 14.5);
+    EXPECT_EQ(built.Q, 22.4);
+    EXPECT_EQ(built.f, 1.5);
+    EXPECT_EQ(built.e, 2.85);
+    EXPECT_EQ(built.corners[0].s.x, tested.ports.inlet_port_x[0]);
+    tested.boxes.inlet_inner_radius = "15";
+    tested.boxes.inlet_end_inner = "190";
+    tested.boxes.inlet_end_outer = "188";
+    ASSERT_EQ(build_inlet_port(work), port_end::refused);
+    EXPECT_EQ(tested.ports.inlet_inner_r, 15.0);
+    EXPECT_EQ(tested.ports.inlet_built.R, 14.5);
+    EXPECT_EQ(tested.ports.inlet_built.corners[1].s, built.corners[1].s);
 }
 
 TEST(build_ports, a_start_side_to_the_left_rebuilds_the_inlet_too) {
@@ -235,6 +258,8 @@ TEST(build_ports, a_start_side_to_the_left_rebuilds_the_inlet_too) {
               log_lines{too_large(message::port_radius_too_large_outlet, ENGLISH)});
     EXPECT_EQ(tested.boxes.port_radii, "0.5");
     EXPECT_EQ(tested.boxes.Outlet_outer_radius, "20") << "the radii are left alone";
+    EXPECT_TRUE(work.inlet_rebuilt);
+    EXPECT_EQ(tested.ports.inlet_built.f, 0.5);
     EXPECT_NEAR(std::hypot(tested.ports.inlet_c1_x, tested.ports.inlet_c1_y), 14.5 + 0.5, 1e-9);
     EXPECT_EQ(tested.ports.last_good_port_radius, 0.5);
 }

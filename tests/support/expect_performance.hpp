@@ -3,80 +3,17 @@
 #pragma once
 
 #include "performance/perf_results.hpp"
+#include "performance/result_quantities.hpp"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-#include <string>
+#include <nlohmann/json_fwd.hpp>
+#include <vector>
 
 namespace kvt {
 
-/// The references come from another program with its own order of sums and its own libm.
-inline constexpr double RELATIVE_TOLERANCE = 1e-9;
+/// The numbers of a result that is a number, a list or a grid, the speeds one behind the other;
+/// empty for arrays over an angle.
+std::vector<double> numbers_of(const result_quantity& quantity, const perf_results& results);
 
-inline void expect_close(double value, double expected, const std::string& where) {
-    EXPECT_LE(std::abs(value - expected), RELATIVE_TOLERANCE * std::abs(expected))
-        << where << ": " << value;
-}
-
-/// Number of references compared, so that a test can see that none was skipped.
-inline int expect_scalars_and_grids(const perf_results& results, const nlohmann::json& expected) {
-    int compared = 0;
-    for (const auto& field : perf_values()) {
-        const std::string name(field.name);
-        if (expected.contains(name)) {
-            expect_close(results.*field.member, expected[name], name);
-            ++compared;
-        }
-    }
-    for (const auto& field : perf_lists()) {
-        const std::string name(field.name);
-        for (std::size_t i = 0; expected.contains(name) && i < GRID_SIZE;
-             ++i, compared += i == GRID_SIZE) {
-            expect_close((results.*field.member)[i], expected[name][i],
-                         name + " " + std::to_string(i));
-        }
-    }
-    for (const auto& field : perf_grids()) {
-        const std::string name(field.name);
-        for (std::size_t i = 0; expected.contains(name) && i < GRID_SIZE;
-             ++i, compared += i == GRID_SIZE) {
-            for (std::size_t j = 0; j < GRID_SIZE; ++j) {
-                expect_close((results.*field.member)[i][j], expected[name][i][j],
-                             name + " " + std::to_string(i) + "," + std::to_string(j));
-            }
-        }
-    }
-    return compared;
-}
-
-/// Elements 0, 25, 50 ...
-inline void expect_every_25th(const perf_array& values, const nlohmann::json& expected,
-                              const std::string& name) {
-    ASSERT_FALSE(expected.empty()) << name;
-    for (std::size_t n = 0; n < expected.size(); ++n) {
-        expect_close(values.at(n * 25), expected[n], name + " " + std::to_string(n * 25));
-    }
-}
-
-inline void expect_performance(const perf_results& results, const nlohmann::json& reference) {
-    const nlohmann::json& expected = reference["perf_results"];
-    EXPECT_EQ(expect_scalars_and_grids(results, expected), static_cast<int>(expected.size()));
-    const nlohmann::json& arrays = reference["every_25th"];
-    ASSERT_EQ(arrays.size(), 5U);
-    expect_every_25th(results.chamber_rate, arrays["chamber_rate"], "chamber_rate");
-    expect_every_25th(results.ripple_pressure, arrays["ripple_pressure"], "ripple_pressure");
-    expect_every_25th(results.sliding_velocity[0], arrays["sliding_velocity_0"],
-                      "sliding_velocity");
-    const std::size_t top = GRID_SIZE - 1;
-    expect_every_25th(results.contact_force[0][0], arrays["contact_force_corners"]["0,0"],
-                      "contact_force");
-    expect_every_25th(results.contact_force[top][top], arrays["contact_force_corners"]["5,5"],
-                      "contact_force");
-    expect_every_25th(results.hertz_stress[0][0], arrays["hertz_stress_corners"]["0,0"],
-                      "hertz_stress");
-    expect_every_25th(results.hertz_stress[top][top], arrays["hertz_stress_corners"]["5,5"],
-                      "hertz_stress");
-}
+void expect_performance(const perf_results& results, const nlohmann::json& reference);
 
 }  // namespace kvt

@@ -2,9 +2,10 @@
 // results it must give.
 #pragma once
 
-#include "base/text_file.hpp"
+#include "core/app_state.hpp"
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "performance/delivered_flow.hpp"
 #include "performance/drive_power.hpp"
@@ -20,9 +21,10 @@
 #include "ports/port_params.hpp"
 
 #include <array>
-#include <filesystem>
-#include <nlohmann/json.hpp>
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
+#include <string_view>
 
 namespace kvt {
 
@@ -36,12 +38,12 @@ struct performance_case {
     kvt::entries entries;
     kvt::perf_inputs perf_inputs;
     kvt::perf_results perf_results;
-    nlohmann::json expected;  ///< the reference file
+    std::shared_ptr<const nlohmann::json> expected;  ///< the reference file
 
-    const length_unit& unit() const {
-        const auto load = expected["labels"]["max_shaft_side_load"].get<std::string>();
-        return length_unit_of(load.ends_with("lbsf") ? INCHES : MILLIMETRES);
-    }
+    /// English, with the unit of the reference's texts.
+    app_state state() const;
+    /// The text that the reference has for a label.
+    std::string expected_label(std::string_view name) const;
 
     /// Speed limits and grid, then the eight routines in the order of Calculate Performance.
     void run() {
@@ -62,53 +64,7 @@ struct performance_case {
     }
 };
 
-inline void read_design(const nlohmann::json& from, design_params& design) {
-    design.numlobes = from["numlobes"];
-    design.ecc = from["ecc"];
-    design.radouter = from["radouter"];
-    design.radinnroot = from["radinnroot"];
-    design.clearn_half = from["clearn_half"];
-    design.thick = from["thick"];
-    design.shaftdiameter = from["shaftdiameter"];
-    design.minmaterial = from["minmaterial"];
-    design.maxdiameter = from["maxdiameter"];
-    design.axial_clear = from["axial_clear"];
-    design.radial_clear = from["radial_clear"];
-    design.fillet = from["fillet"];
-    design.outer_root = from["outer_root"];
-    design.coarseness = from["coarseness"];
-}
-
-inline void read_rotors(const nlohmann::json& from, rotor_profiles& rotors) {
-    rotors.base_radius = from["base_radius"];
-    rotors.roll_radius = from["roll_radius"];
-    rotors.trochoid_r = from["trochoid_r"];
-    rotors.trochoid_ratio = from["trochoid_ratio"];
-    rotors.capacity_cc = from["capacity_cc"];
-    rotors.max_chamber_inner_angle = from["max_chamber_inner_angle"];
-    rotors.max_chamber_outer_angle = from["max_chamber_outer_angle"];
-    rotors.min_chamber_inner_angle = from["min_chamber_inner_angle"];
-    rotors.min_chamber_outer_angle = from["min_chamber_outer_angle"];
-}
-
 /// Reads tests/data/reference/NAME_performance.json; perf_inputs are read from its entries.
-inline performance_case load_performance_case(const std::string& name) {
-    performance_case sample;
-    sample.expected = nlohmann::json::parse(read_file(std::filesystem::path(KVT_TEST_DATA) /
-                                                      "reference" / (name + "_performance.json")));
-    read_design(sample.expected["design_params"], sample.design_params);
-    read_rotors(sample.expected["rotor_profiles"], sample.rotor_profiles);
-    for (const port_field<double>& field : port_values()) {
-        sample.port_params.*field.member = sample.expected["port_params"][std::string(field.name)];
-    }
-    for (const entry_field& field : entry_fields()) {
-        const std::string key(field.name);
-        if (sample.expected["entries"].contains(key)) {
-            sample.entries.*field.member = sample.expected["entries"][key].get<std::string>();
-        }
-    }
-    sample.perf_inputs = read_perf_inputs(sample.entries, sample.unit().system);
-    return sample;
-}
+performance_case load_performance_case(const std::string& name);
 
 }  // namespace kvt

@@ -2,6 +2,7 @@
 #include "ui/monkey.hpp"
 
 #include "app/desk/start_up.hpp"
+#include "app/program.hpp"
 #include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
 #include "ui/shell/qt_text.hpp"

@@ -6,8 +6,8 @@
 namespace kvt {
 namespace {
 
-app_state drawn() {
-    app_state state;
+view_state drawn() {
+    view_state state;
     state.view_scale = 100.0;
     state.view_cx = 3000.0;
     state.view_cy = 3000.0;
@@ -29,7 +29,7 @@ TEST(cursor_position, is_in_millimetres_to_the_right_and_upwards) {
 }
 
 TEST(cursor_position, is_nothing_before_a_design_has_a_scale) {
-    EXPECT_FALSE(cursor_position(3250.0, 3000.0, app_state{}));
+    EXPECT_FALSE(cursor_position(3250.0, 3000.0, view_state{}));
 }
 
 }  // namespace

@@ -10,8 +10,8 @@ namespace kvt {
 
 namespace {
 
-app_state state_for(const design_params& design) {
-    app_state state;
+view_state state_for(const design_params& design) {
+    view_state state;
     set_plot_scale(design, state);
     return state;
 }
@@ -37,7 +37,7 @@ TEST(line_array, fails_for_an_element_that_was_not_loaded) {
 }
 
 TEST(plot_scale, gives_the_maximum_diameter_95_percent_of_the_view) {
-    const app_state state = state_for(sample_design());
+    const view_state state = state_for(sample_design());
     EXPECT_EQ(state.view_scale, 3000.0 * 0.95 / 52.0);
     EXPECT_EQ(state.view_ecc, 2.85 * state.view_scale);
 }
@@ -45,7 +45,7 @@ TEST(plot_scale, gives_the_maximum_diameter_95_percent_of_the_view) {
 TEST(inner_rotor_lines, stand_beside_the_outer_rotor_with_y_not_flipped) {
     const design_params design = sample_design();
     const rotor_profiles rotors = inner_rotor_of(design);
-    const app_state state = state_for(design);
+    const view_state state = state_for(design);
     design_view view;
     draw_inner_rotor(design, rotors, state, view);
     const drawn_line& first = view.Line1.elements[0];
@@ -96,7 +96,7 @@ TEST(inner_rotor_lines, of_a_resolution_that_does_not_divide_the_points_round_th
 
 TEST(inner_rotor_lines, fail_when_they_do_not_fit_single_precision) {
     const design_params design = sample_design();
-    app_state state = state_for(design);
+    view_state state = state_for(design);
     state.view_scale = 1e300;
     design_view view;
     EXPECT_FAILURE(draw_inner_rotor(design, inner_rotor_of(design), state, view),

@@ -21,7 +21,7 @@ arc_end end_of(const drawn_arc& arc, double angle) {
 }
 
 std::vector<drawn_arc> arcs_of(const design_params& design) {
-    app_state state;
+    view_state state;
     set_plot_scale(design, state);
     design_view view;
     draw_outer_rotor(design, rotor_pair_of(design), state, view);

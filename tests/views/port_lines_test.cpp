@@ -21,7 +21,7 @@ struct shown_ports {
 
     port_params ports;
     design_params design;
-    app_state state;
+    view_state state;
     design_view view;
 };
 

@@ -18,7 +18,7 @@ namespace {
 struct drawn_pair {
     design_params design = sample_design();
     rotor_profiles rotors;
-    app_state state;
+    view_state state;
     design_view view;
 
     explicit drawn_pair(const design_params& wanted)
@@ -41,13 +41,13 @@ struct drawn_pair {
 };
 
 double typed_angle(const char* text) {
-    app_state state;
+    view_state state;
     turn_to_typed(sample_design(), text, state);
     return state.rotation_angle;
 }
 
 TEST(rotation_angle, goes_up_clockwise_and_wraps_from_359_to_0) {
-    app_state state;
+    view_state state;
     const design_params design = sample_design();
     turn_one_tick(design, turning::clockwise, state);
     EXPECT_EQ(state.rotation_angle, 1.0);
@@ -57,7 +57,7 @@ TEST(rotation_angle, goes_up_clockwise_and_wraps_from_359_to_0) {
 }
 
 TEST(rotation_angle, goes_from_0_to_359_counter_clockwise) {
-    app_state state;
+    view_state state;
     turn_one_tick(sample_design(), turning::counter_clockwise, state);
     EXPECT_EQ(state.rotation_angle, 359.0);
     EXPECT_EQ(rotated_angle_text(state), "359");
@@ -75,12 +75,12 @@ TEST(rotation_angle, typed_is_cut_downwards_and_wrapped_once) {
 }
 
 TEST(rotation_angle, typed_beyond_a_double_fails) {
-    app_state state;
+    view_state state;
     EXPECT_FAILURE(turn_to_typed(sample_design(), "1E400", state), failure::overflow);
 }
 
 TEST(rotation_angle, is_shown_as_taken) {
-    app_state state;
+    view_state state;
     turn_to_typed(sample_design(), "800", state);
     EXPECT_EQ(rotated_angle_text(state), "440");
     state.rotation_angle = 12.375;
@@ -88,7 +88,7 @@ TEST(rotation_angle, is_shown_as_taken) {
 }
 
 TEST(rotation_angle, of_the_outer_rotor_is_slower_by_one_lobe) {
-    app_state state;
+    view_state state;
     turn_to_typed(sample_design(), "60", state);
     EXPECT_EQ(state.outer_rotation_angle, 6.0 * 60.0 / 7.0);
 }

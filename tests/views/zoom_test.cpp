@@ -11,8 +11,8 @@
 namespace kvt {
 namespace {
 
-app_state state_for(const design_params& design) {
-    app_state state;
+view_state state_for(const design_params& design) {
+    view_state state;
     set_plot_scale(design, state);
     state.view_cx = 1500.0;
     state.view_cy = 1500.0;
@@ -20,7 +20,7 @@ app_state state_for(const design_params& design) {
 }
 
 TEST(rubber_band, starts_as_a_point_with_rounded_corner) {
-    app_state state;
+    view_state state;
     design_view view;
     start_rubber_band(100.5, 201.5, state, view);
     EXPECT_EQ(state.zoom_start_x, 100);  // half to even
@@ -32,7 +32,7 @@ TEST(rubber_band, starts_as_a_point_with_rounded_corner) {
 }
 
 TEST(rubber_band, stretches_to_the_mouse_also_while_invisible) {
-    app_state state;
+    view_state state;
     design_view view;
     start_rubber_band(100.0, 200.0, state, view);
     view.Line3.visible = false;
@@ -45,7 +45,7 @@ TEST(rubber_band, stretches_to_the_mouse_also_while_invisible) {
 }
 
 TEST(rubber_band, orders_its_corners_and_hides) {
-    app_state state;
+    view_state state;
     design_view view;
     start_rubber_band(400.0, 300.0, state, view);
     EXPECT_TRUE(end_rubber_band(-100.0, 700.0, state, view));
@@ -57,7 +57,7 @@ TEST(rubber_band, orders_its_corners_and_hides) {
 }
 
 TEST(rubber_band, without_width_or_height_zooms_nothing) {
-    app_state state;
+    view_state state;
     design_view view;
     start_rubber_band(400.0, 300.0, state, view);
     EXPECT_FALSE(end_rubber_band(400.4, 700.0, state, view));
@@ -66,7 +66,7 @@ TEST(rubber_band, without_width_or_height_zooms_nothing) {
 }
 
 TEST(rubber_band, fails_at_corners_beyond_16_bits) {
-    app_state state;
+    view_state state;
     design_view view;
     EXPECT_FAILURE(start_rubber_band(32767.5, 0.0, state, view), failure::overflow);
     EXPECT_FAILURE(start_rubber_band(0.0, -32769.0, state, view), failure::overflow);
@@ -75,7 +75,7 @@ TEST(rubber_band, fails_at_corners_beyond_16_bits) {
 }
 
 TEST(zoom_place, fits_the_larger_side_of_the_band) {
-    app_state state = state_for(sample_design());
+    view_state state = state_for(sample_design());
     const double scale = state.view_scale;
     state.zoom_start_x = 300;
     state.zoom_end_x = 1300;
@@ -98,7 +98,7 @@ TEST(zoom_place, fits_the_larger_side_of_the_band) {
 TEST(zoomed_drawing, has_inner_rotor_arcs_and_circle_at_the_new_place) {
     const design_params design = sample_design();
     const rotor_profiles rotors = rotor_pair_of(design);
-    app_state state = state_for(design);
+    view_state state = state_for(design);
     state.zoom_start_x = 500;
     state.zoom_start_y = 400;
     state.zoom_end_x = 2000;
@@ -123,7 +123,7 @@ TEST(zoomed_drawing, has_inner_rotor_arcs_and_circle_at_the_new_place) {
 TEST(zoomed_drawing, at_the_first_scale_has_the_arcs_of_the_first_drawing) {
     const design_params design = sample_design();
     const rotor_profiles rotors = rotor_pair_of(design);
-    app_state state = state_for(design);
+    view_state state = state_for(design);
     design_view first;
     draw_outer_rotor(design, rotors, state, first);
     design_view again;
@@ -150,7 +150,7 @@ TEST(zoomed_drawing, has_the_ports_that_were_drawn_before) {
     const design_params design = sample_design();
     const rotor_profiles rotors = rotor_pair_of(design);
     const port_params ports = few_points();
-    app_state state = state_for(design);
+    view_state state = state_for(design);
     design_view view;
     draw_inlet_port(ports, state, view);
     draw_outlet_port(ports, state, view);
@@ -175,7 +175,7 @@ TEST(zoomed_drawing, has_the_ports_that_were_drawn_before) {
 
 TEST(zoomed_drawing, has_no_ports_when_none_were_drawn) {
     const design_params design = sample_design();
-    app_state state = state_for(design);
+    view_state state = state_for(design);
     design_view view;
     redraw_zoomed(design, rotor_pair_of(design), few_points(), state, view);
     EXPECT_EQ(state.angleline_count, 1.0);
@@ -189,7 +189,7 @@ TEST(zoomed_drawing, has_no_ports_when_none_were_drawn) {
 
 TEST(zoomed_drawing, fails_where_a_coordinate_exceeds_single_precision) {
     const design_params design = sample_design();
-    app_state state = state_for(design);
+    view_state state = state_for(design);
     state.view_scale = 1e39;
     design_view view;
     EXPECT_FAILURE(redraw_zoomed(design, rotor_pair_of(design), {}, state, view),

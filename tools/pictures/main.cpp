@@ -3,9 +3,11 @@
 // designed; their drawing is the picture. Exit status 1 when the design is refused or a text can't
 // be read.
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
 #include "base/run_time_error.hpp"
+#include "core/user.hpp"
 #include "pictures/explanation_painting.hpp"
 #include "views/port_explanation.hpp"
 #include "views/rotor_explanation.hpp"

@@ -1,6 +1,7 @@
 #include "screenshots/staged_program.hpp"
 
 #include "app/desk/start_up.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"

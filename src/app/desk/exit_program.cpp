@@ -1,10 +1,11 @@
 #include "app/desk/exit_program.hpp"
 
 #include "app/desk/autosave.hpp"
-#include "app/desk/run_command.hpp"
 #include "app/desk/settings_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

@@ -1,7 +1,9 @@
 #include "app/desk/explanation_windows.hpp"
 
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 
@@ -10,10 +12,6 @@ namespace {
 bool& closed_flag(program& kavetta, explanation_window window) {
     return window == explanation_window::gerotor ? kavetta.app_state.explain_closed
                                                  : kavetta.app_state.port_explain_closed;
-}
-
-std::string_view text_of(const program& kavetta, std::string_view form, std::string_view control) {
-    return row_text(*find_caption(form, control), kavetta.app_state.language);
 }
 
 }  // namespace
@@ -25,8 +23,9 @@ std::string_view form_of(explanation_window window) {
 std::filesystem::path load_explanation(program& kavetta, explanation_window window) {
     const std::string_view form = form_of(window);
     closed_flag(kavetta, window) = false;
-    kavetta.captions.set(form, "", text_of(kavetta, form, ""));
-    const std::filesystem::path picture = kavetta.folder / text_of(kavetta, form, "Image1");
+    const std::int16_t language = kavetta.app_state.language;
+    kavetta.captions.set(form, "", form_text(form, "", language));
+    const std::filesystem::path picture = kavetta.folder / form_text(form, "Image1", language);
     std::error_code error;
     if (!std::filesystem::is_regular_file(picture, error)) {
         throw run_time_error(failure::file_not_found, picture.string());

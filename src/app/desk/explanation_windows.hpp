@@ -1,11 +1,13 @@
 // The explanation windows explain and port_explain: what their load and unload do to the program.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <filesystem>
+#include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 enum class explanation_window { gerotor, porting };
 

@@ -1,11 +1,14 @@
 #include "app/desk/layout_commands.hpp"
 
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 namespace kvt {
 
@@ -19,7 +22,7 @@ void write_layout_file(const program& kavetta, const present_windows& windows) {
 layout_reading read_layout_file(program& kavetta) {
     std::string bytes;
     try {
-        bytes = read_file(kavetta.folder / LAYOUT_FILE_NAME);
+        bytes = read_file(kavetta.folder / LAYOUT_FILE_NAME, LARGEST_TEXT);
     } catch (const run_time_error&) {
         bytes.clear();
     }
@@ -75,6 +78,32 @@ void take_over(program& kavetta, const window_rectangles& layout) {
     }
 }
 
+/// What the error path shows.
+start_layout layout_after_failure() {
+    return {{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}, "Form1"};
+}
+
+/// False when the form could not be shown.
+bool shows(user& person, std::string_view form) {
+    try {
+        person.show_form(form);
+        return true;
+    } catch (const run_time_error&) {
+        return false;
+    }
+}
+
+/// The window was not there when the reading failed.
+void forget_explanation(program& kavetta, std::string_view form) {
+    if (form == "explain") {
+        kavetta.app_state.explain_closed = true;
+        kavetta.window_rectangles.explain.reset();
+    } else if (form == "port_explain") {
+        kavetta.app_state.port_explain_closed = true;
+        kavetta.window_rectangles.port_explain.reset();
+    }
+}
+
 }  // namespace
 
 void fit_layout(program& kavetta, user& person, layout_room room) {
@@ -125,10 +154,9 @@ start_layout read_start_layout(program& kavetta) {
     kavetta.app_state.port_explain_closed = true;
     const layout_reading reading = read_layout_file(kavetta);
     start_layout start;
-    start.is_first = !std::filesystem::exists(kavetta.folder / LAYOUT_FILE_NAME);
     if (reading.failed) {
-        start.shown = {"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"};
-        start.focus = "Form1";
+        start = layout_after_failure();
+        start.is_first = !std::filesystem::exists(kavetta.folder / LAYOUT_FILE_NAME);
     } else {
         for (const window_rectangle_field& field : window_rectangle_fields()) {
             start.shown.push_back(field.name);
@@ -143,6 +171,27 @@ start_layout read_start_layout(program& kavetta) {
         start.shown.push_back("port_explain");
     }
     return start;
+}
+
+start_layout show_start_layout(program& kavetta, user& person) {
+    const start_layout start = read_start_layout(kavetta);
+    bool failed = false;
+    for (const std::string_view form : start.shown) {
+        failed = failed || !shows(person, form);
+        if (failed) {
+            forget_explanation(kavetta, form);
+        }
+    }
+    if (!failed) {
+        return start;
+    }
+    set_sizes_after_failure(kavetta.window_rectangles);
+    kavetta.window_rectangles.MDIForm1.reset();
+    const start_layout built_in = layout_after_failure();
+    for (const std::string_view form : built_in.shown) {
+        person.show_form(form);
+    }
+    return built_in;
 }
 
 }  // namespace kvt

@@ -1,13 +1,15 @@
 // The commands of the Screen Layout menu, and the reading of the layout at the start.
 #pragma once
 
-#include "app/program.hpp"
 #include "core/screen_layout.hpp"
 
 #include <string_view>
 #include <vector>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// mnuscreensave: writes screen.ini from the present windows and tells so. Explanation windows are
 /// written while explain_closed and port_explain_closed say that they are open. Throws
@@ -39,8 +41,8 @@ void use_first_layout(program& kavetta, layout_room room);
 /// What the screen does after the layout was read.
 struct start_layout {
     std::vector<std::string_view> shown;  ///< forms in the order in which they are shown
-    bool is_first = false;                ///< there is no layout file yet
     std::string_view focus;  ///< the form that gets the focus; empty: as the platform leaves it
+    bool is_first = false;   ///< there is no layout file yet
 };
 
 /// The load of MDIForm1: marks both explanation windows as closed, reads screen.ini into
@@ -48,5 +50,10 @@ struct start_layout {
 /// first number or in the error path, shows the new-or-open prompt; so start_project comes before
 /// the screen takes the rectangles over. Never fails.
 start_layout read_start_layout(program& kavetta);
+
+/// read_start_layout, then shows its forms. One that can't be shown, e.g. for want of a picture, is
+/// a failure of the reading like any other: the built-in sizes, without a message; the explanation
+/// windows that were shown before it stay.
+start_layout show_start_layout(program& kavetta, user& person);
 
 }  // namespace kvt

@@ -1,9 +1,11 @@
 #include "app/desk/run_command.hpp"
 
-#include "app/files/project_entries.hpp"
+#include "app/desk/autosave.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <string>
 
@@ -28,16 +30,6 @@ std::string fatal_text(const program& kavetta, const run_time_error& error,
 }
 
 }  // namespace
-
-std::filesystem::path save_recovery(const program& kavetta) {
-    const std::filesystem::path recovery = kavetta.folder / RECOVERY_FILE_NAME;
-    try {
-        write_entries(kavetta, recovery.string());
-        return recovery;
-    } catch (const run_time_error&) {
-        return {};
-    }
-}
 
 bool run_command(program& kavetta, user& person, const std::function<bool()>& command) {
     try {

@@ -1,6 +1,8 @@
 #include "app/desk/settings_commands.hpp"
 
-#include "base/text_file.hpp"
+#include "app/program.hpp"
+#include "base/run_time_error.hpp"
+#include "base/whole_file.hpp"
 #include "core/recent_list.hpp"
 #include "core/settings_file.hpp"
 
@@ -9,7 +11,33 @@
 
 namespace kvt {
 
+namespace {
+
+/// A missing file is no failure; one that can't be read leaves the paths as KVT.ini has them.
+std::string own_settings(const std::filesystem::path& folder) {
+    try {
+        return read_file(folder / OWN_SETTINGS_FILE_NAME, LARGEST_TEXT);
+    } catch (const run_time_error&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+void read_settings_files(const std::filesystem::path& folder, app_state& state) {
+    read_settings(read_file(folder / SETTINGS_FILE_NAME, LARGEST_TEXT), state);
+    read_own_settings(own_settings(folder), state);
+}
+
 void save_settings(const program& kavetta) {
+    const std::filesystem::path own = kavetta.folder / OWN_SETTINGS_FILE_NAME;
+    const std::string whole_paths = write_own_settings(kavetta.app_state);
+    if (whole_paths.empty()) {
+        std::error_code ignored;
+        std::filesystem::remove(own, ignored);
+    } else {
+        write_file(own, whole_paths);
+    }
     write_file(kavetta.folder / SETTINGS_FILE_NAME, write_settings(kavetta.app_state));
 }
 
@@ -25,8 +53,9 @@ std::string existing_folder_of(const program& kavetta, const std::string& path) 
 void find_projects_folder(program& kavetta) {
     std::string& folder = kavetta.app_state.projects_folder;
     if (folder.empty()) {
-        folder = existing_folder_of(
-            kavetta, first_settings_line(read_file(kavetta.folder / SETTINGS_FILE_NAME)));
+        app_state settings;
+        read_settings_files(kavetta.folder, settings);
+        folder = existing_folder_of(kavetta, settings.mnufileprev[1]);
     }
 }
 

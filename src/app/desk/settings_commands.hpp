@@ -1,20 +1,27 @@
 // The settings file in the program's folder, and the folder in which the file dialogs start.
 #pragma once
 
-#include "app/program.hpp"
-
+#include <filesystem>
 #include <string>
 
 namespace kvt {
 
-/// Writes KVT.ini whole. Throws run_time_error when it can't be written.
+struct app_state;
+struct program;
+
+/// Reads KVT.ini and, for the paths that it can't hold, Kavetta.ini, which may be missing. Throws
+/// file_not_found without KVT.ini.
+void read_settings_files(const std::filesystem::path& folder, app_state& state);
+
+/// Writes KVT.ini whole, and Kavetta.ini when a path needs it. Throws run_time_error when one can't
+/// be written.
 void save_settings(const program& kavetta);
 
 /// The folder of a path when it exists, else the program's folder with "projects".
 std::string existing_folder_of(const program& kavetta, const std::string& path);
 
-/// Fills projects_folder when it is empty, from the first line of KVT.ini. Throws run_time_error
-/// when KVT.ini can't be read.
+/// Fills projects_folder when it is empty, from the first recent path of the settings. Throws
+/// run_time_error when KVT.ini can't be read.
 void find_projects_folder(program& kavetta);
 
 }  // namespace kvt

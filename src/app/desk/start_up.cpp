@@ -1,12 +1,14 @@
 #include "app/desk/start_up.hpp"
 
 #include "app/desk/autosave.hpp"
+#include "app/desk/settings_commands.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/capacity_unit.hpp"
-#include "core/settings_file.hpp"
+#include "core/user.hpp"
 
 #include <cstdlib>
 #include <system_error>
@@ -71,8 +73,7 @@ void fill_program_folder(const fs::path& folder, const fs::path& share) {
 
 void load_settings(program& kavetta) {
     app_state& state = kavetta.app_state;
-    const std::string settings = read_file(kavetta.folder / SETTINGS_FILE_NAME);
-    read_settings(settings, state);
+    read_settings_files(kavetta.folder, state);
     state.capacity_unit = 1;
     kavetta.labels.unittype = find_capacity_unit(state.capacity_unit)->list_text;
     state.project_has_file = false;
@@ -94,7 +95,9 @@ void start_project(program& kavetta, user& person, std::string_view path) {
         open_project(kavetta, person);
     }
     set_captions(kavetta);
-    start_autosave(kavetta);
+    if (!recovered) {
+        note_new_entries(kavetta);
+    }
 }
 
 }  // namespace kvt

@@ -1,11 +1,13 @@
 // Start-up: the program's folder, the settings, the new-or-open prompt, the captions.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <filesystem>
+#include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// The folder named by KAVETTA_HOME, else ~/.local/share/Kavetta.
 std::filesystem::path program_folder();

@@ -1,8 +1,10 @@
 #include "app/desk/unit_commands.hpp"
 
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "core/capacity_unit.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

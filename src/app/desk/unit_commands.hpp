@@ -2,12 +2,14 @@
 // unit.
 #pragma once
 
-#include "app/program.hpp"
 #include "core/length_unit.hpp"
 
 #include <cstdint>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// The caption routine of a language: sets the captions of all forms, then runs the label routine
 /// of drawing_units.

@@ -1,13 +1,18 @@
 #include "app/files/cnc_output.hpp"
 
-#include "app/files/saved_text.hpp"
+#include "app/files/file_output.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/checked_math.hpp"
+#include "base/fixed_number.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
-#include "output/cnc/cnc_lines.hpp"
-#include "output/cnc/inner_offset.hpp"
+#include "core/user.hpp"
+#include "output/cnc/contour_gap.hpp"
+#include "output/cnc/port_cnc.hpp"
 
+#include <array>
+#include <cmath>
 #include <string_view>
 
 namespace kvt {
@@ -19,9 +24,13 @@ constexpr std::array<std::string_view, 5> RESOLUTIONS = {"0.01", "0.001", "0.000
 /// Decimals of the first resolution.
 constexpr int FIRST_DIGITS = 2;
 
-bool inches(const program& kavetta) {
-    return kavetta.app_state.drawing_units == INCHES;
-}
+/// Files of Form3 that rules name.
+constexpr std::string_view INNER_OFFSET = "inner_offset";
+constexpr std::string_view INNER_OFFSET_CHECKED = "inner_offset_checked";
+constexpr std::string_view INLET_POCKET = "inlet_pocket";
+constexpr std::string_view OUTLET_POCKET = "outlet_pocket";
+constexpr std::string_view INLET_GCODE = "inlet_gcode";
+constexpr std::string_view OUTLET_GCODE = "outlet_gcode";
 
 std::string_view text_of(const program& kavetta, message id) {
     return message_text(id, kavetta.app_state.language);
@@ -59,7 +68,7 @@ class form_checks {
     }
 
   private:
-    bool ticked(std::size_t file) const { return form_.ticked.at(file); }
+    bool ticked(std::string_view file) const { return form_.ticked.contains(file); }
     bool mills_groove() const { return ticked(OUTLET_POCKET) && has_metering_groove(kavetta_); }
     bool refuse(std::string_view text) {
         person_.show_message(text);
@@ -78,9 +87,8 @@ class form_checks {
     }
 
     bool has_tool_sizes() {
-        for (const std::size_t file :
-             {INNER_OFFSET, INNER_OFFSET_CHECKED, OUTER_OFFSET, INLET_POCKET, OUTLET_POCKET}) {
-            if (ticked(file) && form_.toolsize.empty()) {
+        for (const written_file& file : files_of(file_group::cnc)) {
+            if (file.needs_tool && ticked(file.name) && form_.toolsize.empty()) {
                 return refuse(text_of(kavetta_, message::tool_size_required));
             }
         }
@@ -109,7 +117,7 @@ class form_checks {
                       number_text(radouter * 2.0) + " " + form_.toolunits);
     }
 
-    bool tool_fits_port(std::size_t file) {
+    bool tool_fits_port(std::string_view file) {
         const double port_radius = kavetta_.port_params.port_radius;
         if (!ticked(file) || kavetta_.cnc_choices.tool_diameter / 2.0 <= port_radius) {
             return true;
@@ -139,14 +147,8 @@ class form_checks {
     cnc_form& form_;
 };
 
-file_dialog cnc_dialog(const program& kavetta, const cnc_file& file) {
-    const std::int16_t language = kavetta.app_state.language;
-    return save_text_dialog(cnc_text(std::string(file.name) + "_title", language),
-                            cnc_text("filter", language), "cnc");
-}
-
 /// The project file carries the path of some of the files.
-void remember_path(app_state& state, const cnc_file& file, const std::string& path) {
+void remember_path(app_state& state, const written_file& file, const std::string& path) {
     struct remembered {
         std::string_view name;
         std::string app_state::*path;
@@ -164,19 +166,19 @@ void remember_path(app_state& state, const cnc_file& file, const std::string& pa
     }
 }
 
-void ask_and_save(program& kavetta, user& person, std::size_t index) {
-    const cnc_file& file = cnc_files()[index];
-    bool written = false;
-    ask_and_save_text(kavetta, person, cnc_dialog(kavetta, file),
-                      [&](text_lines& text, const std::string& path) {
-                          written = true;
-                          remember_path(kavetta.app_state, file, path);
-                          file.write(cnc_source_of(kavetta), text);
-                      });
-    if (written && index == INNER_OFFSET) {
-        if (const std::string notice = wrong_side_notice(kavetta); !notice.empty()) {
-            person.show_message(notice);
-        }
+void ask_and_save(program& kavetta, user& person, const written_file& file) {
+    note_refused_groove(kavetta, file);
+    if (const std::string note = refused_gcode_note(kavetta, file); !note.empty()) {
+        add_hint(kavetta.hints, note, hint_weight::scraps_part);
+        return;
+    }
+    const std::optional<std::string> path = save_file(kavetta, person, file);
+    if (!path) {
+        return;
+    }
+    remember_path(kavetta.app_state, file, *path);
+    if (const std::string notice = notice_of(kavetta, file); !notice.empty()) {
+        person.show_message(notice);
     }
 }
 
@@ -184,8 +186,8 @@ void ask_and_save(program& kavetta, user& person, std::size_t index) {
 
 cnc_form open_cnc_form(const program& kavetta, char decimal_mark) {
     cnc_form form;
-    const std::string_view row = inches(kavetta) ? "toolunits_inches" : "toolunits_mm";
-    form.toolunits = row_text(*find_caption("Form3", row), kavetta.app_state.language);
+    form.toolunits =
+        form_text("Form3", length_unit_of(kavetta.app_state).toolunits, kavetta.app_state.language);
     for (const std::string_view resolution : RESOLUTIONS) {
         std::string item(resolution);
         item[1] = decimal_mark;
@@ -194,9 +196,37 @@ cnc_form open_cnc_form(const program& kavetta, char decimal_mark) {
     return form;
 }
 
-void tick_cnc_file(const program& kavetta, cnc_form& form, std::size_t file, bool ticked) {
-    form.ticked.at(file) = ticked;
-    if (file != OUTLET_POCKET) {
+void note_refused_groove(program& kavetta, const written_file& file) {
+    const bool of_outlet = file.group == file_group::cnc && file.needs == file_needs::outlet;
+    if (of_outlet && has_metering_groove(kavetta) && !kavetta.port_params.has_groove) {
+        add_hint(kavetta.hints, std::string(text_of(kavetta, message::hint_refused_groove)));
+    }
+}
+
+std::string refused_gcode_note(const program& kavetta, const written_file& file) {
+    if (file.name != INLET_GCODE && file.name != OUTLET_GCODE) {
+        return "";
+    }
+    const port_side side = file.name == INLET_GCODE ? port_side::inlet : port_side::outlet;
+    const double gap = port_gcode_gap(source_of(kavetta), side);
+    if (gap <= CONTOUR_TOLERANCE_MM) {
+        return "";
+    }
+    const std::string shown = std::isfinite(gap) ? fixed_number(gap, 3) : "-";
+    return std::string(text_of(kavetta, message::hint_gcode_leaves_outline)) + shown;
+}
+
+bool mills_groove(const program& kavetta, const written_file& file) {
+    return file.name == OUTLET_POCKET && has_metering_groove(kavetta);
+}
+
+void tick_cnc_file(const program& kavetta, cnc_form& form, const written_file& file, bool ticked) {
+    if (ticked) {
+        form.ticked.emplace(file.name);
+    } else {
+        form.ticked.erase(std::string(file.name));
+    }
+    if (file.name != OUTLET_POCKET) {
         return;
     }
     if (!ticked) {
@@ -220,34 +250,12 @@ bool check_cnc_form(program& kavetta, user& person, cnc_form& form) {
     return form_checks(kavetta, person, form).run();
 }
 
-cnc_source cnc_source_of(const program& kavetta) {
-    return {kavetta.design_params,      kavetta.rotor_profiles,
-            kavetta.port_params,        kavetta.entries,
-            kavetta.cnc_choices,        kavetta.app_state.project_name,
-            kavetta.app_state.language, inches(kavetta)};
-}
-
-std::string wrong_side_notice(const program& kavetta) {
-    int count = 0;
-    try {
-        const double tool_radius =
-            cutter_radius_mm(kavetta.cnc_choices.tool_diameter, inches(kavetta));
-        count = wrong_side_count(kavetta.design_params, kavetta.rotor_profiles, tool_radius);
-    } catch (const run_time_error&) {
-        return "";  // the file ended there too
-    }
-    const std::int16_t language = kavetta.app_state.language;
-    return count == 0 ? ""
-                      : std::string(cnc_text("wrong_side", language)) + number_text(count) +
-                            std::string(cnc_text("wrong_side_advice", language));
-}
-
 bool write_cnc_files(program& kavetta, user& person, cnc_form& form) {
     if (!check_cnc_form(kavetta, person, form)) {
         return false;
     }
-    for (std::size_t file = 0; file < CNC_FILE_COUNT; ++file) {
-        if (form.ticked[file]) {
+    for (const written_file& file : files_of(file_group::cnc)) {
+        if (form.ticked.contains(file.name)) {
             ask_and_save(kavetta, person, file);
         }
     }

@@ -2,18 +2,21 @@
 // writers.
 #pragma once
 
-#include "app/program.hpp"
-#include "output/cnc/cnc_files.hpp"
+#include "output/written_files.hpp"
 
-#include <array>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kvt {
 
+class user;
+struct program;
+
 /// The boxes of Form3. It keeps no memory between openings: each one starts from open_cnc_form.
 struct cnc_form {
-    std::array<bool, CNC_FILE_COUNT> ticked{};  ///< in the order of cnc_files
+    std::set<std::string, std::less<>> ticked;  ///< names of CNC files
     bool Opp_Plot = false;
     std::string toolsize, groovetooltext, machine_res_combo;
     bool groove_entry_shown = false;             ///< groovetooltext, toolunits_groove and Label5
@@ -25,10 +28,9 @@ struct cnc_form {
 /// nothing ticked.
 cnc_form open_cnc_form(const program& kavetta, char decimal_mark = '.');
 
-/// A click on a tick box, by its index in cnc_files. The outlet's pocket box shows the entry of the
-/// groove's tool when metering_groove is ticked too; without the tick the entry is hidden and
-/// emptied.
-void tick_cnc_file(const program& kavetta, cnc_form& form, std::size_t file, bool ticked);
+/// A click on a file's tick box. The outlet's pocket box shows the entry of the groove's tool when
+/// metering_groove is ticked too; without the tick the entry is hidden and emptied.
+void tick_cnc_file(const program& kavetta, cnc_form& form, const written_file& file, bool ticked);
 
 /// The boxes of okbutton: the checks in their order, each with its message, then the ticked writers
 /// in theirs, each with its save dialog. Answers whether the form closes: false when a check
@@ -47,10 +49,15 @@ std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice
 /// points for commas.
 bool check_cnc_form(program& kavetta, user& person, cnc_form& form);
 
-/// The source of the writers: the program's records and choices.
-cnc_source cnc_source_of(const program& kavetta);
+/// Adds the hint that a file of the outlet is written without the metering groove that is ticked,
+/// because the last run of Design Ports did not finish one.
+void note_refused_groove(program& kavetta, const written_file& file);
 
-/// The notice about cutter centres on the wrong side; empty when there are none.
-std::string wrong_side_notice(const program& kavetta);
+/// Why the G-codes of a port are not written: they would leave its outline, by how much. Empty when
+/// they follow it, and for every other file.
+std::string refused_gcode_note(const program& kavetta, const written_file& file);
+
+/// Whether a file has a section for the metering groove's pocket, which needs a tool of its own.
+bool mills_groove(const program& kavetta, const written_file& file);
 
 }  // namespace kvt

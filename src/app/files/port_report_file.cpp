@@ -1,9 +1,8 @@
 #include "app/files/port_report_file.hpp"
 
-#include "app/desk/program_title.hpp"
 #include "app/desk/settings_commands.hpp"
-#include "base/short_date.hpp"
-#include "base/text_file.hpp"
+#include "app/files/file_output.hpp"
+#include "app/program.hpp"
 #include "ports/port_report.hpp"
 
 namespace kvt {
@@ -15,23 +14,19 @@ std::filesystem::path port_report_folder(const program& kavetta) {
 }
 
 std::vector<std::string> port_report(const program& kavetta) {
-    const std::string date = kavetta.date.empty() ? short_date(system_clock()) : kavetta.date;
-    return port_report_lines(kavetta.port_params, kavetta.design_params,
-                             {std::string(FULL_VERSION), date, kavetta.app_state.project_name});
-}
-
-std::string port_report_bytes(const program& kavetta) {
-    text_lines text;
-    for (const std::string& line : port_report(kavetta)) {
-        text.line(line);
-    }
-    return text.bytes();
+    const file_source source = source_of(kavetta);
+    return port_report_lines(source.ports, source.design,
+                             {source.version, source.date, kavetta.app_state.project_name});
 }
 
 void write_port_report(const program& kavetta) {
-    if (!kavetta.folder.empty()) {
-        write_file(port_report_folder(kavetta) / PORT_REPORT_NAME, port_report_bytes(kavetta));
+    if (kavetta.folder.empty()) {
+        return;
     }
+    text_lines text;
+    const written_file& report = files_of(file_group::report).front();
+    report.write(source_of(kavetta), text);
+    write_file(port_report_folder(kavetta) / file_name(report), text.bytes());
 }
 
 }  // namespace kvt

@@ -1,16 +1,19 @@
 #include "app/files/project_commands.hpp"
 
+#include "app/desk/autosave.hpp"
 #include "app/desk/program_title.hpp"
 #include "app/desk/settings_commands.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/files/project_reset.hpp"
+#include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
-#include "base/text_file.hpp"
+#include "base/whole_file.hpp"
 #include "core/failure_text.hpp"
 #include "core/recent_list.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <string>
 
@@ -74,23 +77,69 @@ std::string without_last_four(const std::string& name) {
     return name.substr(0, end);
 }
 
-void write_project_as(program& kavetta, user& person, const std::string& path) {
+/// False when the user would rather change an entry with which the file could not be opened again.
+bool is_saved_all_the_same(const program& kavetta, user& person) {
+    const std::optional<unopenable_entry> entry = find_unopenable_entry(kavetta);
+    if (!entry) {
+        return true;
+    }
+    const std::int16_t language = kavetta.app_state.language;
+    const std::string question =
+        std::string(message_text(message::unopenable_because, language)) +
+        std::string(row_text(*find_caption("Form1", entry->label), language)) +
+        std::string(message_text(message::unopenable_save, language));
+    if (person.ask(question, question_buttons::yes_no) == answer::yes) {
+        return true;
+    }
+    person.set_focus(entry->box);
+    return false;
+}
+
+/// Overwrites the file where it stands when its folder lets it do nothing else and the user agrees.
+/// False when the user doesn't.
+bool write_project_asking(const program& kavetta, user& person, const project_record& record) {
+    const std::string& path = record.project_path;
+    if (!is_only_written_in_place(path)) {
+        write_file(path, write_project(record));
+        return true;
+    }
+    const std::string question =
+        path + std::string(message_text(message::write_in_place, kavetta.app_state.language));
+    if (person.ask(question, question_buttons::yes_no) != answer::yes) {
+        return false;
+    }
+    write_in_place(path, write_project(record));
+    return true;
+}
+
+/// The project gets path and name once it is written. False when it was not.
+bool write_project_as(program& kavetta, user& person, const std::string& path) {
     app_state& state = kavetta.app_state;
+    project_record record = project_record_of(kavetta, path);
+    record.project_name = without_last_four(file_name_of_path(path));
+    if (!write_project_asking(kavetta, person, record)) {
+        return false;
+    }
     state.project_path = path;
-    state.project_name = without_last_four(file_name_of_path(path));
-    write_entries(kavetta, path);
+    state.project_name = record.project_name;
     bind_to_file(kavetta);
     update_recent_list(state, path);
+    note_saved_entries(kavetta);
     show_done_status(kavetta, person, message::project_saved, path);
+    return true;
 }
 
 }  // namespace
 
 void load_entries(program& kavetta, user& person, const std::string& path) {
     app_state& state = kavetta.app_state;
-    const project_record record = read_project(read_file(path), state.project_name);
+    const project_record record = read_project(read_file(path, LARGEST_TEXT), state.project_name);
     assign_project_record(kavetta, record);
-    set_unit_labels(kavetta, length_unit_of(state));
+    reset_results(kavetta, person);
+}
+
+void reset_results(program& kavetta, user& person) {
+    set_unit_labels(kavetta, length_unit_of(kavetta.app_state));
     project_reset(kavetta, person, reset_kind::open_project);
     hide_assist(kavetta);
 }
@@ -101,6 +150,7 @@ void load_project(program& kavetta, user& person, std::string_view path) {
     load_entries(kavetta, person, state.project_path);
     bind_to_file(kavetta);
     update_recent_list(state, state.project_path);
+    note_new_entries(kavetta);
 }
 
 void open_project_file(program& kavetta, user& person, std::string_view path) {
@@ -141,12 +191,20 @@ void save_project(program& kavetta, user& person) {
         save_project_as(kavetta, person);
         return;
     }
-    write_entries(kavetta, kavetta.app_state.project_path);
+    const std::string path = kavetta.app_state.project_path;
+    if (!is_saved_all_the_same(kavetta, person) ||
+        !write_project_asking(kavetta, person, project_record_of(kavetta, path))) {
+        return;
+    }
     bind_to_file(kavetta);
-    show_done_status(kavetta, person, message::project_saved, kavetta.app_state.project_path);
+    note_saved_entries(kavetta);
+    show_done_status(kavetta, person, message::project_saved, path);
 }
 
 bool save_project_as(program& kavetta, user& person) {
+    if (!is_saved_all_the_same(kavetta, person)) {
+        return false;
+    }
     try {
         find_projects_folder(kavetta);
         file_dialog dialog = project_dialog(kavetta, message::save_project_title);
@@ -158,8 +216,7 @@ bool save_project_as(program& kavetta, user& person) {
         if (!path || path->empty()) {
             return false;
         }
-        write_project_as(kavetta, person, *path);
-        return true;
+        return write_project_as(kavetta, person, *path);
     } catch (const run_time_error& error) {
         show_failure_status(kavetta, person, message::save_failed, error);
         return false;
@@ -181,6 +238,7 @@ void new_project(program& kavetta, user& person) {
     kavetta.labels.title = project_title(state.project_name);
     project_reset(kavetta, person, reset_kind::new_project);
     hide_assist(kavetta);
+    note_new_entries(kavetta);
 }
 
 }  // namespace kvt

@@ -1,12 +1,13 @@
 // The commands of the File menu that deal with projects, and Clear Design.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string>
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// New Project: name dialog (Cancel goes on with the name that stood before), Clear Design, project
 /// reset.
@@ -32,12 +33,16 @@ void load_project(program& kavetta, user& person, std::string_view path);
 /// gets neither a path nor a file nor a title. Throws like load_project.
 void load_entries(program& kavetta, user& person, const std::string& path);
 
-/// Save: to project_path when the project has a file, else Save As. Throws run_time_error when it
-/// can't be written.
+/// The end of every load: the labels of the unit, the project reset, the assist switched off.
+void reset_results(program& kavetta, user& person);
+
+/// Save: to project_path when the project has a file, else Save As. Asks first when the file
+/// could not be opened again (see find_unopenable_entry), and when it can only be overwritten where
+/// it stands. Throws run_time_error when it can't be written.
 void save_project(program& kavetta, user& person);
 
-/// Save As. Any run-time failure ends the command with a line in the status bar. True when the file
-/// was written.
+/// Save As, with the questions of Save. Any run-time failure ends the command with a line in the
+/// status bar. True when the file was written.
 bool save_project_as(program& kavetta, user& person);
 
 /// Clear Design: boxes to their defaults; asks whether fluid and material values are kept.

@@ -1,6 +1,8 @@
 #include "app/files/project_reset.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
+#include "core/user.hpp"
 
 #include <array>
 
@@ -28,7 +30,7 @@ void clear_chart_choice(entries& boxes) {
 }  // namespace
 
 void project_reset(program& kavetta, user& person, reset_kind kind) {
-    kavetta.app_state.angleline_count =
+    kavetta.view_state.angleline_count =
         static_cast<double>(kavetta.design_view.angleline.elements.size());
     clear_all(kavetta.design_view);
     apply_chain(kavetta.enabling, chain_event::project_reset);

@@ -1,9 +1,10 @@
 // The common clearing of results when another project takes the place of the present one.
 #pragma once
 
-#include "app/program.hpp"
-
 namespace kvt {
+
+class user;
+struct program;
 
 /// New and Open unload and disable slightly different sets.
 enum class reset_kind { new_project, open_project };

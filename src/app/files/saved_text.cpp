@@ -1,8 +1,10 @@
 #include "app/files/saved_text.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "app/program.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 
@@ -13,7 +15,8 @@ constexpr int OVERWRITE_PROMPT = 2;
 
 }  // namespace
 
-std::optional<run_time_error> save_text(const std::string& path, const text_writer& write) {
+std::optional<run_time_error> save_text(const std::string& path, const text_writer& write,
+                                        disk_write kind) {
     std::optional<run_time_error> failed;
     text_lines text;
     try {
@@ -22,7 +25,7 @@ std::optional<run_time_error> save_text(const std::string& path, const text_writ
         failed = error;
     }
     try {
-        write_file(path, text.bytes());
+        write_file(path, text.bytes(), kind);
     } catch (const run_time_error& error) {
         failed = error;
     }
@@ -41,11 +44,12 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
     return dialog;
 }
 
-void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,
-                       const std::function<void(text_lines&, const std::string& path)>& write) {
+std::optional<std::string> ask_and_save_text(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<void(text_lines&, const std::string& path)>& write) {
     const std::optional<std::string> path = person.choose_file(dialog);
     if (!path || path->empty()) {
-        return;
+        return std::nullopt;
     }
     const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
     if (failed) {
@@ -53,6 +57,7 @@ void ask_and_save_text(const program& kavetta, user& person, const file_dialog& 
         person.show_status(std::string(message_text(message::save_failed, language)) +
                            std::string(failure_text(failed->kind(), language)));
     }
+    return path;
 }
 
 }  // namespace kvt

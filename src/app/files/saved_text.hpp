@@ -1,9 +1,9 @@
 // A file that a writer appends to a text: saved as far as the writer got.
 #pragma once
 
-#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
+#include "core/user.hpp"
 
 #include <functional>
 #include <optional>
@@ -12,20 +12,25 @@
 
 namespace kvt {
 
+struct program;
+
 using text_writer = std::function<void(text_lines&)>;
 
 /// Runs the writer and saves what it appended, also when it failed. Answers the failure of the
 /// writer or of saving.
-std::optional<run_time_error> save_text(const std::string& path, const text_writer& write);
+std::optional<run_time_error> save_text(const std::string& path, const text_writer& write,
+                                        disk_write kind = disk_write::flushed);
 
 /// The dialog of every written file: the program's title with the suffix, the second row of the
 /// filter chosen, and a question before a file is overwritten.
 file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter,
                              std::string_view extension);
 
-/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing; a
-/// failure ends the command with a line in the status bar and no message.
-void ask_and_save_text(const program& kavetta, user& person, const file_dialog& dialog,
-                       const std::function<void(text_lines&, const std::string& path)>& write);
+/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing and
+/// answers nothing, else the path; a failure ends the command with a line in the status bar and no
+/// message.
+std::optional<std::string> ask_and_save_text(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<void(text_lines&, const std::string& path)>& write);
 
 }  // namespace kvt

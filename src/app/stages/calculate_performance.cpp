@@ -1,6 +1,8 @@
 #include "app/stages/calculate_performance.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
+#include "app/stages/performance_labels.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"
 #include "core/text_table.hpp"
@@ -11,7 +13,6 @@
 #include "performance/maximum_speed.hpp"
 #include "performance/perf_entries.hpp"
 #include "performance/perf_grid.hpp"
-#include "performance/perf_res_labels.hpp"
 #include "performance/pressure_ripple.hpp"
 #include "performance/sliding_velocity.hpp"
 
@@ -48,12 +49,12 @@ void run_routines(program& kavetta) {
     calc_drive_power(design, rotors, ports, inputs, results);
     calc_lobe_load_share(design, rotors, results);
     calc_hertz_and_side_load(design, inputs, results);
-    set_load_labels(results, length_unit_of(kavetta.app_state), kavetta.labels);
+    set_performance_labels(results, perf_step::contact, kavetta.app_state, kavetta.labels);
     calc_flow(design, rotors, ports, inputs, results);
     calc_mech_efficiency(rotors, results);
     calc_overall_efficiency(results);
     calc_pressure_ripple(design, rotors, ports, inputs, results);
-    set_ripple_label(results, kavetta.app_state.language, kavetta.labels);
+    set_performance_labels(results, perf_step::ripple, kavetta.app_state, kavetta.labels);
 }
 
 }  // namespace
@@ -63,7 +64,7 @@ void run_performance(program& kavetta, user& person) {
     perf_results& results = kavetta.perf_results;
     set_shared_values(kavetta.design_params, kavetta.rotor_profiles, inputs, results);
     calc_maximum_speed(kavetta.rotor_profiles, kavetta.port_params, inputs, results);
-    set_speed_labels(results, kavetta.app_state.language, kavetta.labels);
+    set_performance_labels(results, perf_step::speed_limits, kavetta.app_state, kavetta.labels);
     set_grid(inputs, results);
     person.show_form("perf_res");
     run_routines(kavetta);

@@ -2,9 +2,10 @@
 // perf_results.
 #pragma once
 
-#include "app/program.hpp"
-
 namespace kvt {
+
+class user;
+struct program;
 
 /// Runs the steps in their fixed order; false when the validation refused an entry, which is
 /// emptied then. Needs the rotor profiles and the ports. A refused run leaves the earlier results

@@ -1,11 +1,13 @@
 #include "app/stages/calculate_profiles.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
 #include "app/stages/design_ports.hpp"
 #include "app/stages/rotor_labels.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"
 #include "base/checked_math.hpp"
+#include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "geometry/area_ratio.hpp"
@@ -58,9 +60,9 @@ bool has_refused_entry(const program& kavetta, user& person) {
 }
 
 void start_view_anew(program& kavetta) {
-    kavetta.app_state.rotation_angle = 0.0;
+    kavetta.view_state.rotation_angle = 0.0;
     kavetta.entries.rotated_angle =
-        number_text(floor_to_int(kavetta.app_state.rotation_angle * 10.0) / 10.0);
+        number_text(floor_to_int(kavetta.view_state.rotation_angle * 10.0) / 10.0);
     clear_rotors(kavetta.design_view);
 }
 
@@ -78,12 +80,12 @@ run_end failure_exit(program& kavetta, user& person, message text) {
 }
 
 void closing_steps(program& kavetta, user& person) {
-    app_state& state = kavetta.app_state;
-    state.view_cx = state.view_size / 2.0;
-    state.view_cy = state.view_size / 2.0;
-    state.view_zoom = 1.0;
+    view_state& view = kavetta.view_state;
+    view.view_cx = view.view_size / 2.0;
+    view.view_cy = view.view_size / 2.0;
+    view.view_zoom = 1.0;
     design_ports_again(kavetta, person);
-    state.zoom_all_requested = 0;
+    kavetta.app_state.zoom_all_requested = 0;
     person.set_busy(false);
 }
 
@@ -113,7 +115,7 @@ run_end outer_rotor_steps(program& kavetta, user& person) {
     if (fillets_too_large(design, fillet_angle(design, rotors))) {
         return failure_exit(kavetta, person, message::fillet_too_large);
     }
-    draw_outer_rotor(design, rotors, kavetta.app_state, kavetta.design_view);
+    draw_outer_rotor(design, rotors, kavetta.view_state, kavetta.design_view);
     fill_outer_rotor(design, rotors);
     calculate_area_ratio(rotors);
     set_area_ratio_label(rotors, kavetta.labels);
@@ -191,8 +193,8 @@ run_end calculate_profiles(program& kavetta, user& person) {
     if (measured_lobe_radius(design, rotors) < design.radouter) {
         tell(kavetta, person, message::inner_shape_errors);
     }
-    set_plot_scale(design, state);
-    draw_inner_rotor(design, rotors, state, kavetta.design_view);
+    set_plot_scale(design, kavetta.view_state);
+    draw_inner_rotor(design, rotors, kavetta.view_state, kavetta.design_view);
     set_rolling_circles(design, rotors);
     rotors.lobe_centre_offset = design.radinnroot + design.ecc;
     apply_outer_root_rules(rotors, unit, state.language, design, boxes, person);

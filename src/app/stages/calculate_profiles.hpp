@@ -2,9 +2,10 @@
 // screen.
 #pragma once
 
-#include "app/program.hpp"
-
 namespace kvt {
+
+class user;
+struct program;
 
 /// How a run ended.
 enum class run_end {

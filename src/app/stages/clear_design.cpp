@@ -2,8 +2,10 @@
 #include "app/desk/program_title.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <array>
 #include <string_view>
@@ -36,10 +38,11 @@ constexpr std::array<box, 4> PORTING_CHECKS = {&entries::outlet_double_sided,
 constexpr std::array<box, 4> RANGE_BOXES = {&entries::speed_hi, &entries::speed_lo,
                                             &entries::pressure_hi, &entries::pressure_lo};
 
-constexpr std::array<box, 9> FLUID_AND_MATERIAL_BOXES = {
+constexpr std::array<box, 10> FLUID_AND_MATERIAL_BOXES = {
     &entries::fluid_density,  &entries::kin_visc,       &entries::vap_press,
     &entries::bulk_mod_text,  &entries::young_inner,    &entries::young_outer,
-    &entries::poissons_inner, &entries::poissons_outer, &entries::friction};
+    &entries::poissons_inner, &entries::poissons_outer, &entries::friction,
+    &entries::UTS_value};
 
 void clear_port_entries(program& kavetta) {
     for (const box member : PORTING_CHECKS) {

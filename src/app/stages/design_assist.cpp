@@ -1,9 +1,11 @@
 #include "app/stages/design_assist.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
 #include "app/stages/design_ports.hpp"
 #include "app/stages/rotor_labels.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "geometry/assist_entries.hpp"
 #include "geometry/assist_search.hpp"
 #include "geometry/capacity.hpp"

@@ -1,12 +1,14 @@
 // Design assist: the switch Des_assist_check, and the run behind the button designer.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <cstdint>
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct app_state;
+struct program;
 
 /// How a run of the assist ended.
 enum class assist_end {

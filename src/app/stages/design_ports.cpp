@@ -2,6 +2,7 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/files/port_report_file.hpp"
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/result_forms.hpp"
@@ -83,13 +84,13 @@ port_work work_of(program& kavetta, user& person) {
 void draw_ports(program& kavetta, const ports_designed& done) {
     design_view& view = kavetta.design_view;
     if (done.inlet || shows_outline(view.inlet_portline)) {
-        draw_inlet_port(kavetta.port_params, kavetta.app_state, view);
+        draw_inlet_port(kavetta.port_params, kavetta.view_state, view);
     }
     if (done.outlet || shows_outline(view.outlet_portline)) {
-        draw_outlet_port(kavetta.port_params, kavetta.app_state, view);
+        draw_outlet_port(kavetta.port_params, kavetta.view_state, view);
     }
     if (shows_outline(view.inlet_portline) || shows_outline(view.outlet_portline)) {
-        draw_port_angles(kavetta.port_params, kavetta.design_params, kavetta.app_state, view);
+        draw_port_angles(kavetta.port_params, kavetta.design_params, kavetta.view_state, view);
     }
 }
 
@@ -104,12 +105,13 @@ bool has_finished(port_end end, user& person) {
 bool design_groove(program& kavetta, port_work& work, user& person) {
     clear_metering_groove(kavetta.design_view);
     if (!has_metering_groove(kavetta)) {
+        kavetta.port_params.has_groove = false;
         return false;
     }
     kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.unit);
     const bool done = has_finished(build_metering_groove(work), person);
     if (done) {
-        draw_metering_groove(kavetta.port_params, kavetta.app_state, kavetta.design_view);
+        draw_metering_groove(kavetta.port_params, kavetta.view_state, kavetta.design_view);
     }
     return done;
 }
@@ -119,6 +121,8 @@ ports_designed build_and_draw(program& kavetta, user& person) {
     ports_designed done;
     done.inlet = has_finished(build_inlet_port(work), person);
     done.outlet = has_finished(build_outlet_port(work), person);
+    done.inlet_rebuilt = !done.inlet && work.inlet_rebuilt;
+    done.inlet = done.inlet || done.inlet_rebuilt;
     draw_ports(kavetta, done);
     if (done.outlet) {
         write_port_report(kavetta);

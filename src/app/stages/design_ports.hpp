@@ -1,9 +1,10 @@
 // Design Ports and Clear Values: the buttons design_ports and clear_ports of portdes.
 #pragma once
 
-#include "app/program.hpp"
-
 namespace kvt {
+
+class user;
+struct program;
 
 /// Which outlines a run of Design Ports finished. A step that refused its port showed a message;
 /// the later ones ran all the same.
@@ -11,6 +12,8 @@ struct ports_designed {
     bool inlet = false;
     bool outlet = false;
     bool groove = false;  ///< stays false without a metering groove
+    bool inlet_rebuilt =
+        false;  ///< the inlet was refused, and finished when the outlet built it again
 
     friend bool operator==(const ports_designed&, const ports_designed&) = default;
 };

@@ -1,7 +1,9 @@
 #include "app/stages/entry_handlers.hpp"
 
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

@@ -2,11 +2,12 @@
 // resolution are checked at once.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// Runs the handler of an entry that the user leaves; entries without a handler do nothing.
 /// Throws run_time_error when numlobes is no number.

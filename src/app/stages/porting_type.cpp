@@ -1,13 +1,18 @@
 #include "app/stages/porting_type.hpp"
 
 #include "app/desk/enabling_chain.hpp"
+#include "app/program.hpp"
 
 namespace kvt {
+
+bool has_metering_groove(const program& kavetta) {
+    return is_ticked(kavetta.entries.metering_groove);
+}
 
 void apply_shadow_rule(program& kavetta) {
     entries& boxes = kavetta.entries;
     const bool both_double_sided =
-        boxes.inlet_double_sided == "1" && boxes.outlet_double_sided == "1";
+        is_ticked(boxes.inlet_double_sided) && is_ticked(boxes.outlet_double_sided);
     kavetta.enabling.shadow_ports = !both_double_sided;
     if (both_double_sided) {
         boxes.shadow_ports = "0";

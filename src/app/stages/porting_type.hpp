@@ -1,17 +1,16 @@
 // The four check boxes of the porting type: what a click on one of them does to the others.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string>
 #include <string_view>
 
 namespace kvt {
 
+struct entries;
+struct program;
+
 /// The box metering_groove is ticked.
-inline bool has_metering_groove(const program& kavetta) {
-    return kavetta.entries.metering_groove == "1";
-}
+bool has_metering_groove(const program& kavetta);
 
 /// Both double-sided boxes together untick and disable shadow_ports; any other combination enables
 /// it.

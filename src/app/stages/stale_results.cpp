@@ -1,5 +1,6 @@
 #include "app/stages/stale_results.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
 #include "views/port_lines.hpp"
 #include "views/zoom.hpp"

@@ -2,11 +2,11 @@
 // only: typing disables nothing.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <string_view>
 
 namespace kvt {
+
+struct program;
 
 enum class stage { profiles, ports, performance };
 

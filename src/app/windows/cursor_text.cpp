@@ -1,5 +1,6 @@
 #include "app/windows/cursor_text.hpp"
 
+#include "app/program.hpp"
 #include "base/fixed_number.hpp"
 #include "base/run_time_error.hpp"
 #include "core/length_unit.hpp"
@@ -27,7 +28,7 @@ std::string cursor_text(const program& kavetta, double x, double y) {
         return {};
     }
     try {
-        const std::optional<point2> place = cursor_position(x, y, kavetta.app_state);
+        const std::optional<point2> place = cursor_position(x, y, kavetta.view_state);
         return place ? text_of(*place, kavetta.app_state) : std::string();
     } catch (const run_time_error&) {
         return {};

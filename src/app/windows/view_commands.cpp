@@ -1,6 +1,8 @@
 #include "app/windows/view_commands.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
+#include "core/user.hpp"
 #include "views/zoom.hpp"
 
 namespace kvt {
@@ -8,27 +10,27 @@ namespace kvt {
 namespace {
 
 void redraw_at_angle(program& kavetta) {
-    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.app_state,
+    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.view_state,
                    kavetta.design_view);
 }
 
 void show_angle(program& kavetta) {
-    kavetta.entries.rotated_angle = rotated_angle_text(kavetta.app_state);
+    kavetta.entries.rotated_angle = rotated_angle_text(kavetta.view_state);
     redraw_at_angle(kavetta);
 }
 
 void zoom_to_present_band(program& kavetta, user& person) {
     person.set_busy(true);
-    zoom_to_band(kavetta.design_params, kavetta.app_state);
+    zoom_to_band(kavetta.design_params, kavetta.view_state);
     redraw_zoomed(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params,
-                  kavetta.app_state, kavetta.design_view);
+                  kavetta.view_state, kavetta.design_view);
 }
 
 }  // namespace
 
 void rubber_band_down(program& kavetta, double x, double y) {
     if (has_rotors(kavetta.design_view)) {
-        start_rubber_band(x, y, kavetta.app_state, kavetta.design_view);
+        start_rubber_band(x, y, kavetta.view_state, kavetta.design_view);
     }
 }
 
@@ -43,11 +45,11 @@ void rubber_band_up(program& kavetta, user& person, double x, double y) {
         kavetta.design_view.Line3.visible = false;
         return;
     }
-    if (end_rubber_band(x, y, kavetta.app_state, kavetta.design_view)) {
+    if (end_rubber_band(x, y, kavetta.view_state, kavetta.design_view)) {
         zoom_to_present_band(kavetta, person);
     }
     person.set_busy(false);
-    if (kavetta.app_state.rotation_angle != 0.0) {
+    if (kavetta.view_state.rotation_angle != 0.0) {
         redraw_at_angle(kavetta);
     }
 }
@@ -59,20 +61,20 @@ void zoom_all(program& kavetta, user& person) {
 
 void rotation_tick(program& kavetta, turning direction) {
     if (has_rotors(kavetta.design_view)) {
-        turn_one_tick(kavetta.design_params, direction, kavetta.app_state);
+        turn_one_tick(kavetta.design_params, direction, kavetta.view_state);
         show_angle(kavetta);
     }
 }
 
 void take_typed_angle(program& kavetta) {
     if (has_rotors(kavetta.design_view)) {
-        turn_to_typed(kavetta.design_params, kavetta.entries.rotated_angle, kavetta.app_state);
+        turn_to_typed(kavetta.design_params, kavetta.entries.rotated_angle, kavetta.view_state);
         show_angle(kavetta);
     }
 }
 
 std::optional<view_layout> resize_design_view(program& kavetta, double form_height) {
-    return resize_view(form_height, kavetta.app_state);
+    return resize_view(form_height, kavetta.view_state);
 }
 
 }  // namespace kvt

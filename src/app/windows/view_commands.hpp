@@ -1,13 +1,15 @@
 // The commands of the Design view: zoom, Zoom All, rotation, resize.
 #pragma once
 
-#include "app/program.hpp"
 #include "views/rotation.hpp"
 #include "views/view_layout.hpp"
 
 #include <optional>
 
 namespace kvt {
+
+class user;
+struct program;
 
 // With no rotors drawn (fresh start, after a project reset or a failed run) the rubber band, the
 // ticks and the typed angle do nothing. Coordinates are twips of the picture and may lie outside

@@ -5,25 +5,18 @@
 #include "base/fixed_number.hpp"
 #include "core/text_table.hpp"
 
-#include <cassert>
 #include <cmath>
 
 namespace kvt {
 
 std::string_view cnc_text(std::string_view line, std::int16_t language) {
-    const text_row* row = find_text(text_kind::fixed_caption, "cnc", line);
-    assert(row != nullptr);
-    return row_text(*row, language);
+    return form_text("cnc", line, language);
 }
 
-double cutter_radius_mm(double diameter, bool inches) {
-    return (inches ? diameter * MM_PER_INCH : diameter) / 2.0;
-}
-
-cnc_lines::cnc_lines(text_lines& text, const cnc_source& source)
+cnc_lines::cnc_lines(text_lines& text, const file_source& source)
     : text_(text),
       decimals_(source.choices.cnc_res_digits),
-      inches_(source.inches),
+      unit_(source.unit),
       language_(source.language) {}
 
 void cnc_lines::comment(std::string_view row, std::string_view rest) {
@@ -31,7 +24,7 @@ void cnc_lines::comment(std::string_view row, std::string_view rest) {
 }
 
 std::string cnc_lines::length(double mm) const {
-    return fixed_number(inches_ ? mm / MM_PER_INCH : mm, decimals_);
+    return fixed_number(unit_.from_mm(mm), decimals_);
 }
 
 std::string cnc_lines::words(point2 point) const {

@@ -3,7 +3,7 @@
 
 #include "base/text_file.hpp"
 #include "geometry/point2.hpp"
-#include "output/cnc/cnc_source.hpp"
+#include "output/file_source.hpp"
 
 #include <string>
 #include <string_view>
@@ -14,12 +14,12 @@ namespace kvt {
 /// The text of a row of the CNC texts in a language.
 std::string_view cnc_text(std::string_view line, std::int16_t language);
 
-/// Appends lines to a text. Lengths come in mm and are divided by 25.4 in files in inches; every
+/// Appends lines to a text. Lengths come in mm and are written in the unit of the file; every
 /// number has cnc_res_digits decimals. Nothing is ever taken back, so a writer that fails leaves
 /// what it wrote.
 class cnc_lines {
   public:
-    cnc_lines(text_lines& text, const cnc_source& source);
+    cnc_lines(text_lines& text, const file_source& source);
 
     void comment(std::string_view line) { text_.line(line); }
     /// A comment of the text table, with what follows it.
@@ -48,7 +48,7 @@ class cnc_lines {
 
     text_lines& text_;
     int decimals_;
-    bool inches_;
+    const length_unit& unit_;
     std::int16_t language_;
 };
 

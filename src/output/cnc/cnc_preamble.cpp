@@ -6,21 +6,21 @@ namespace kvt {
 
 namespace {
 
-void add_project(cnc_lines& lines, const cnc_source& source, std::string_view row) {
+void add_project(cnc_lines& lines, const file_source& source, std::string_view row) {
     lines.comment(row, std::string(source.project_name) + ".//");
 }
 
-void add_cutter_radius(cnc_lines& lines, const cnc_source& source) {
+void add_cutter_radius(cnc_lines& lines, const file_source& source) {
     lines.comment("cutter_radius", number_text(source.choices.tool_diameter / 2.0) + ".//");
 }
 
-void add_units(cnc_lines& lines, const cnc_source& source) {
-    lines.comment(source.inches ? "in_inches" : "in_mm", "");
+void add_units(cnc_lines& lines, const file_source& source) {
+    lines.comment(source.unit.cnc_comment, "");
 }
 
 }  // namespace
 
-void add_rotor_preamble(cnc_lines& lines, const cnc_source& source, const rotor_preamble& head) {
+void add_rotor_preamble(cnc_lines& lines, const file_source& source, const rotor_preamble& head) {
     lines.comment(head.content, "");
     add_project(lines, source, "rotor_of_project");
     if (head.has_cutter) {
@@ -37,7 +37,7 @@ void add_rotor_preamble(cnc_lines& lines, const cnc_source& source, const rotor_
     }
 }
 
-void add_port_preamble(cnc_lines& lines, const cnc_source& source, const port_preamble& head) {
+void add_port_preamble(cnc_lines& lines, const file_source& source, const port_preamble& head) {
     lines.comment(head.content, "");
     add_project(lines, source, "ports_of_project");
     if (head.pocket) {

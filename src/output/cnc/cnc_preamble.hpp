@@ -14,7 +14,7 @@ struct rotor_preamble {
     bool side_checked = false;
 };
 
-void add_rotor_preamble(cnc_lines& lines, const cnc_source& source, const rotor_preamble& head);
+void add_rotor_preamble(cnc_lines& lines, const file_source& source, const rotor_preamble& head);
 
 /// What the head of a port file says.
 struct port_preamble {
@@ -24,6 +24,6 @@ struct port_preamble {
     bool gcode = false;   ///< the sections line has no closing slashes
 };
 
-void add_port_preamble(cnc_lines& lines, const cnc_source& source, const port_preamble& head);
+void add_port_preamble(cnc_lines& lines, const file_source& source, const port_preamble& head);
 
 }  // namespace kvt

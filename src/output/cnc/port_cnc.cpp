@@ -1,10 +1,12 @@
 #include "output/cnc/port_cnc.hpp"
 
 #include "output/cnc/cnc_preamble.hpp"
+#include "output/cnc/contour_gap.hpp"
 #include "output/cnc/pocket_path.hpp"
 #include "output/cnc/port_gcode.hpp"
 #include "output/cnc/port_sections.hpp"
 
+#include <algorithm>
 #include <string>
 
 namespace kvt {
@@ -28,29 +30,32 @@ std::vector<point2> contour_of(const port_params& ports, port_side side, section
     return port_contour(ports, side);
 }
 
-pocket_shape pocket_of(const cnc_source& source, port_side side, section_kind kind) {
+pocket_shape pocket_of(const file_source& source, port_side side, section_kind kind) {
     const port_params& ports = source.ports;
-    const bool inlet = side == port_side::inlet;
     pocket_shape pocket;
     pocket.outline = contour_of(ports, side, kind);
     if (kind == section_kind::groove) {
-        pocket.centre = {-source.design.ecc / 2.0, 0.0};
-        pocket.inner_r = ports.groove_inner_r;
-        pocket.outer_r = ports.groove_outer_r;
-        pocket.fillet_r = ports.groove_corner_r;
-        pocket.tool_radius = cutter_radius_mm(source.choices.groove_tool_diameter, source.inches);
+        const groove_shape& groove = ports.groove_built;
+        pocket.centre = {-groove.shift, 0.0};
+        pocket.inner_r = groove.inner_r;
+        pocket.outer_r = groove.outer_r;
+        pocket.fillet_r = groove.f;
+        pocket.tool_radius = source.unit.half_to_mm(source.choices.groove_tool_diameter);
         return pocket;
     }
-    pocket.inner_r = inlet ? ports.inlet_inner_r : ports.outlet_inner_r;
-    pocket.outer_r = inlet ? ports.inlet_outer_r : ports.outlet_outer_r;
-    pocket.fillet_r = ports.port_radius;
-    pocket.tool_radius = cutter_radius_mm(source.choices.tool_diameter, source.inches);
+    const port_shape& port = side == port_side::inlet ? ports.inlet_built : ports.outlet_built;
+    pocket.inner_r = port.R;
+    pocket.outer_r = port.Q;
+    pocket.fillet_r = port.f;
+    pocket.tool_radius = source.unit.half_to_mm(source.choices.tool_diameter);
     return pocket;
 }
 
-std::vector<port_section> pocket_sections(const cnc_source& source, port_side side) {
+/// The sections of a file: without a groove that the last run of Design Ports did not finish, or
+/// that this file leaves out.
+std::vector<port_section> sections_of(const file_source& source, port_side side, bool with_groove) {
     entries boxes = source.boxes;
-    if (source.choices.leaves_out_groove_pocket) {
+    if (!with_groove || !source.ports.has_groove) {
         boxes.metering_groove = "0";
     }
     return port_sections(boxes, side);
@@ -70,12 +75,15 @@ void add_move(cnc_lines& lines, const tool_move& move) {
     lines.feed_g01(move.end);
 }
 
-void add_gcode_section(const cnc_source& source, port_side side, section_kind kind,
+tool_contour moves_of(const port_params& ports, port_side side, section_kind kind) {
+    return kind == section_kind::groove ? groove_moves(ports)
+                                        : port_moves(ports, side, kind == section_kind::shadow);
+}
+
+void add_gcode_section(const file_source& source, port_side side, section_kind kind,
                        cnc_lines& lines) {
     lines.xy(point2{});
-    const tool_contour contour = kind == section_kind::groove
-                                     ? groove_moves(source.ports, source.design)
-                                     : port_moves(source.ports, side, kind == section_kind::shadow);
+    const tool_contour contour = moves_of(source.ports, side, kind);
     lines.feed_g01(contour.start);
     lines.comment("tool_down", "");
     for (const tool_move& move : contour.moves) {
@@ -86,9 +94,9 @@ void add_gcode_section(const cnc_source& source, port_side side, section_kind ki
 
 }  // namespace
 
-void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_xy(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
-    const std::vector<port_section> sections = port_sections(source.boxes, side);
+    const std::vector<port_section> sections = sections_of(source, side, true);
     add_port_preamble(
         lines, source,
         {.content = content_row(side, "xy"), .section_count = static_cast<int>(sections.size())});
@@ -100,9 +108,10 @@ void write_port_xy(const cnc_source& source, port_side side, text_lines& text) {
     }
 }
 
-void write_port_pocket(const cnc_source& source, port_side side, text_lines& text) {
+void write_port_pocket(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
-    const std::vector<port_section> sections = pocket_sections(source, side);
+    const std::vector<port_section> sections =
+        sections_of(source, side, !source.choices.leaves_out_groove_pocket);
     add_port_preamble(lines, source,
                       {.content = content_row(side, "pocket"),
                        .section_count = static_cast<int>(sections.size()),
@@ -113,9 +122,21 @@ void write_port_pocket(const cnc_source& source, port_side side, text_lines& tex
     }
 }
 
-void write_port_gcode(const cnc_source& source, port_side side, text_lines& text) {
+double port_gcode_gap(const file_source& source, port_side side) {
+    double largest = 0.0;
+    for (const port_section& section : sections_of(source, side, true)) {
+        const std::vector<point2> outline = contour_of(source.ports, side, section.kind);
+        if (!outline.empty()) {
+            const tool_contour moves = moves_of(source.ports, side, section.kind);
+            largest = std::max(largest, contour_gap(moves, outline));
+        }
+    }
+    return largest;
+}
+
+void write_port_gcode(const file_source& source, port_side side, text_lines& text) {
     cnc_lines lines(text, source);
-    const std::vector<port_section> sections = port_sections(source.boxes, side);
+    const std::vector<port_section> sections = sections_of(source, side, true);
     add_port_preamble(lines, source,
                       {.content = content_row(side, "gcode"),
                        .section_count = static_cast<int>(sections.size()),

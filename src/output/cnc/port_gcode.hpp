@@ -1,7 +1,6 @@
 // The outline of a port and of the metering groove as arcs and lines of a milling program.
 #pragma once
 
-#include "core/design_params.hpp"
 #include "geometry/point2.hpp"
 #include "output/port_contours.hpp"
 
@@ -26,13 +25,14 @@ struct tool_contour {
 };
 
 /// Fillet, inner arc, fillet, end side, fillet, outer arc, fillet, start side, from the end of the
-/// start side; without a port_radius no fillets. The outline of the inlet runs counterclockwise:
+/// start side; of what the outline was built with;
+/// without a fillet radius no fillets. The outline of the inlet runs counterclockwise:
 /// G03 but for its inner arc; that of the outlet runs clockwise, and the shadow's the other way
 /// than its port's.
 tool_contour port_moves(const port_params& ports, port_side side, bool shadow);
 
 /// Inner path, fillet, nose line if there is one, fillet, outer path, outer tail, the line across,
 /// inner tail, from groove_a. Throws subscript_out_of_range without a groove.
-tool_contour groove_moves(const port_params& ports, const design_params& design);
+tool_contour groove_moves(const port_params& ports);
 
 }  // namespace kvt

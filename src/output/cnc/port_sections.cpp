@@ -1,6 +1,5 @@
 #include "output/cnc/port_sections.hpp"
 
-#include "base/constants.hpp"
 #include "base/number_text.hpp"
 
 #include <string>
@@ -30,15 +29,14 @@ std::string head_row(port_side side, section_kind kind, section_file file) {
     return port + "_lower";
 }
 
-void add_groove_notes(cnc_lines& lines, const cnc_source& source, section_file file) {
+void add_groove_notes(cnc_lines& lines, const file_source& source, section_file file) {
     if (file == section_file::pocket) {
         lines.comment("groove_cutter_radius",
                       number_text(source.choices.groove_tool_diameter / 2.0) + "//");
     }
     if (file != section_file::gcode) {
-        const double depth = source.ports.groove_depth_mm;
         lines.comment("groove_depth",
-                      number_text(source.inches ? depth / MM_PER_INCH : depth) + "//");
+                      number_text(source.unit.from_mm(source.ports.groove_depth_mm)) + "//");
     }
 }
 
@@ -50,19 +48,19 @@ std::vector<port_section> port_sections(const entries& boxes, port_side side) {
     const auto add = [&](section_kind kind) {
         sections.push_back({kind, inlet ? 2 : static_cast<int>(sections.size()) + 1});
     };
-    if (!inlet && boxes.metering_groove == "1") {
+    if (!inlet && is_ticked(boxes.metering_groove)) {
         add(section_kind::groove);
     }
-    if ((inlet ? boxes.inlet_double_sided : boxes.outlet_double_sided) == "1") {
+    if (is_ticked(inlet ? boxes.inlet_double_sided : boxes.outlet_double_sided)) {
         add(section_kind::upper);
     }
-    if (boxes.shadow_ports == "1") {
+    if (is_ticked(boxes.shadow_ports)) {
         add(section_kind::shadow);
     }
     return sections;
 }
 
-void add_section_head(cnc_lines& lines, const cnc_source& source, port_side side,
+void add_section_head(cnc_lines& lines, const file_source& source, port_side side,
                       const port_section& section, section_file file) {
     const std::string_view text = cnc_text(head_row(side, section.kind, file), source.language);
     lines.comment("section", number_text(section.number) + std::string(text));

@@ -25,7 +25,7 @@ enum class section_file { xy, pocket, gcode };
 
 /// The comment lines at the head of a section. The groove's depth stands there in the unit of the
 /// file.
-void add_section_head(cnc_lines& lines, const cnc_source& source, port_side side,
+void add_section_head(cnc_lines& lines, const file_source& source, port_side side,
                       const port_section& section, section_file file);
 
 }  // namespace kvt

@@ -2,6 +2,7 @@
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
+#include "base/number_text.hpp"
 #include "output/cnc/cnc_preamble.hpp"
 #include "output/cnc/inner_offset.hpp"
 #include "output/outer_path.hpp"
@@ -21,7 +22,7 @@ std::vector<point2> closed_inner_profile(const rotor_profiles& rotors) {
 }
 
 /// A y of 0 stays as it is: no "-0.000".
-void turn_clockwise(const cnc_source& source, std::vector<point2>& points) {
+void turn_clockwise(const file_source& source, std::vector<point2>& points) {
     if (!source.choices.Opp_Plot) {
         return;
     }
@@ -30,18 +31,18 @@ void turn_clockwise(const cnc_source& source, std::vector<point2>& points) {
     }
 }
 
-double tool_radius(const cnc_source& source) {
-    return cutter_radius_mm(source.choices.tool_diameter, source.inches);
+double tool_radius(const file_source& source) {
+    return source.unit.half_to_mm(source.choices.tool_diameter);
 }
 
-void add_cutter_path(const cnc_source& source, cnc_lines& lines, std::vector<point2> centres) {
+void add_cutter_path(const file_source& source, cnc_lines& lines, std::vector<point2> centres) {
     turn_clockwise(source, centres);
     lines.xy(centres);
     lines.xy(centres.front());
 }
 
-design_params outer_design(const cnc_source& source) {
-    return outer_rotor_entries(source.boxes, source.inches);
+design_params outer_design(const file_source& source) {
+    return outer_rotor_entries(source.boxes, source.unit.mm);
 }
 
 /// Arc by arc, so that a failure leaves the arcs before it.
@@ -69,7 +70,7 @@ void add_gcode_arc(cnc_lines& lines, const outer_path_arc& arc) {
 
 }  // namespace
 
-void write_inner_xy(const cnc_source& source, text_lines& text) {
+void write_inner_xy(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "inner_xy"});
     std::vector<point2> points = closed_inner_profile(source.rotors);
@@ -77,14 +78,21 @@ void write_inner_xy(const cnc_source& source, text_lines& text) {
     lines.xy(points);
 }
 
-void write_inner_offset(const cnc_source& source, text_lines& text) {
+void write_inner_offset(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "inner_offset", .has_cutter = true});
     add_cutter_path(source, lines,
                     inner_offset_points(source.design, source.rotors, tool_radius(source)));
 }
 
-void write_inner_offset_checked(const cnc_source& source, text_lines& text) {
+std::string inner_offset_notice(const file_source& source) {
+    const int count = wrong_side_count(source.design, source.rotors, tool_radius(source));
+    return count == 0 ? ""
+                      : std::string(cnc_text("wrong_side", source.language)) + number_text(count) +
+                            std::string(cnc_text("wrong_side_advice", source.language));
+}
+
+void write_inner_offset_checked(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(
         lines, source,
@@ -93,26 +101,26 @@ void write_inner_offset_checked(const cnc_source& source, text_lines& text) {
                     checked_inner_offset_points(source.design, source.rotors, tool_radius(source)));
 }
 
-void write_inner_lathe(const cnc_source& source, text_lines& text) {
+void write_inner_lathe(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "inner_lathe", .lathe = true});
     add_lathe_lines(lines, closed_inner_profile(source.rotors));
 }
 
-void write_outer_xy(const cnc_source& source, text_lines& text) {
+void write_outer_xy(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "outer_xy", .outer = true});
     add_points_of_path(lines, outer_rotor_path(outer_design(source)));
 }
 
-void write_outer_offset(const cnc_source& source, text_lines& text) {
+void write_outer_offset(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source,
                        {.content = "outer_offset", .outer = true, .has_cutter = true});
     add_points_of_path(lines, outer_rotor_offset_path(outer_design(source), tool_radius(source)));
 }
 
-void write_outer_gcode(const cnc_source& source, text_lines& text) {
+void write_outer_gcode(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "outer_gcode", .outer = true});
     lines.xy(point2{});
@@ -124,7 +132,7 @@ void write_outer_gcode(const cnc_source& source, text_lines& text) {
     lines.literal("G01X0.0000Y0.0000");
 }
 
-void write_outer_lathe(const cnc_source& source, text_lines& text) {
+void write_outer_lathe(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "outer_lathe", .outer = true, .lathe = true});
     const outer_path path = outer_rotor_path(outer_design(source));

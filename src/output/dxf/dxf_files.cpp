@@ -1,7 +1,6 @@
 #include "output/dxf/dxf_files.hpp"
 
 #include "base/checked_math.hpp"
-#include "base/constants.hpp"
 #include "base/fixed_number.hpp"
 #include "base/number_text.hpp"
 #include "output/dxf/dxf_polyline.hpp"
@@ -17,23 +16,24 @@ namespace kvt {
 namespace {
 
 constexpr int DECIMALS = 6;
+/// Factor of entries that are not converted.
+constexpr double AS_TYPED = 1.0;
 
-std::string length_number(double mm, bool inches) {
-    return fixed_number(inches ? mm / MM_PER_INCH : mm, DECIMALS);
+std::string length_number(double mm, const length_unit& unit) {
+    return fixed_number(unit.from_mm(mm), DECIMALS);
 }
 
-std::string port_number(double mm, bool inches) {
+std::string port_number(double mm, const length_unit& unit) {
     const std::string text = fixed_number(mm, DECIMALS);
-    return inches ? number_text(val(text) / MM_PER_INCH) : text;
+    return unit.is_of_records() ? text : number_text(unit.from_mm(val(text)));
 }
 
 /// The first `count` points of an outline, then point 0.
 void write_port_outline(text_lines& out, std::span<const double> x, std::span<const double> y,
-                        std::int64_t count, bool inches) {
+                        std::int64_t count, const length_unit& unit) {
     dxf_polyline polyline(out, static_cast<std::size_t>(count) + 1);
     const auto vertex = [&](std::int64_t i) {
-        polyline.vertex(port_number(checked_at(x, i), inches),
-                        port_number(checked_at(y, i), inches));
+        polyline.vertex(port_number(checked_at(x, i), unit), port_number(checked_at(y, i), unit));
     };
     for (std::int64_t i = 0; i < count; ++i) {
         vertex(i);
@@ -53,12 +53,12 @@ std::int64_t count_up_to_zero(std::span<const double> x, std::int16_t last) {
 
 }  // namespace
 
-void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool inches) {
+void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, const length_unit& unit) {
     const std::int32_t point_count = to_int32(rotors.profile_points);
     dxf_polyline polyline(out, static_cast<std::size_t>(point_count) + 1);
     const auto vertex = [&](std::int64_t i) {
-        polyline.vertex(length_number(checked_at(rotors.inner_x, i), inches),
-                        length_number(checked_at(rotors.inner_y, i), inches));
+        polyline.vertex(length_number(checked_at(rotors.inner_x, i), unit),
+                        length_number(checked_at(rotors.inner_y, i), unit));
     };
     for (std::int32_t i = 0; i < point_count; ++i) {
         vertex(i);
@@ -69,7 +69,7 @@ void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool i
 
 void write_dxf_outer_rotor(text_lines& out, const entries& boxes) {
     constexpr std::size_t POINTS_PER_LOBE = 320;
-    const design_params typed = outer_rotor_entries(boxes, false);
+    const design_params typed = outer_rotor_entries(boxes, AS_TYPED);
     dxf_polyline polyline(
         out, POINTS_PER_LOBE * static_cast<std::size_t>(std::clamp(typed.numlobes, 0, 100)));
     for (const point2& point : outer_path_points(outer_rotor_path(typed))) {
@@ -78,19 +78,19 @@ void write_dxf_outer_rotor(text_lines& out, const entries& boxes) {
     polyline.end();
 }
 
-void write_dxf_inlet_port(text_lines& out, const port_params& ports, bool inches) {
+void write_dxf_inlet_port(text_lines& out, const port_params& ports, const length_unit& unit) {
     write_port_outline(out, ports.inlet_port_x, ports.inlet_port_y,
-                       count_up_to_zero(ports.inlet_port_x, ports.inlet_port_last), inches);
+                       count_up_to_zero(ports.inlet_port_x, ports.inlet_port_last), unit);
 }
 
-void write_dxf_outlet_port(text_lines& out, const port_params& ports, bool inches) {
+void write_dxf_outlet_port(text_lines& out, const port_params& ports, const length_unit& unit) {
     write_port_outline(out, ports.outlet_port_x, ports.outlet_port_y,
-                       count_up_to_zero(ports.outlet_port_x, ports.outlet_port_last), inches);
+                       count_up_to_zero(ports.outlet_port_x, ports.outlet_port_last), unit);
 }
 
-void write_dxf_metering_groove(text_lines& out, const port_params& ports, bool inches) {
+void write_dxf_metering_groove(text_lines& out, const port_params& ports, const length_unit& unit) {
     write_port_outline(out, ports.groove_x, ports.groove_y, std::int64_t{ports.groove_last} + 1,
-                       inches);
+                       unit);
 }
 
 }  // namespace kvt

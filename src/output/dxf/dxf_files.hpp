@@ -3,6 +3,7 @@
 
 #include "base/text_file.hpp"
 #include "core/entries.hpp"
+#include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "ports/port_params.hpp"
 
@@ -14,7 +15,7 @@ namespace kvt {
 
 /// Inner rotor profile, points 0 .. P-1 and point 0 again; in inches each value is divided by 25.4
 /// and then written.
-void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, bool inches);
+void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, const length_unit& unit);
 
 /// The outer rotor's path about its own centre, from the boxes of the Design form as they stand,
 /// without conversion. Throws run_time_error for entries that make no rotor.
@@ -24,11 +25,11 @@ void write_dxf_outer_rotor(text_lines& out, const entries& boxes);
 /// Kept: in inches the text in millimetres is read back, divided by 25.4 and written with up to
 /// fifteen digits, so that the last ones say nothing. A port that was never designed has the
 /// closing vertex only.
-void write_dxf_inlet_port(text_lines& out, const port_params& ports, bool inches);
-void write_dxf_outlet_port(text_lines& out, const port_params& ports, bool inches);
+void write_dxf_inlet_port(text_lines& out, const port_params& ports, const length_unit& unit);
+void write_dxf_outlet_port(text_lines& out, const port_params& ports, const length_unit& unit);
 
 /// The metering groove's outline, points 0 .. groove_last, then point 0; numbers like those of a
 /// port.
-void write_dxf_metering_groove(text_lines& out, const port_params& ports, bool inches);
+void write_dxf_metering_groove(text_lines& out, const port_params& ports, const length_unit& unit);
 
 }  // namespace kvt

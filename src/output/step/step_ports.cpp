@@ -10,10 +10,6 @@ namespace kvt {
 
 namespace {
 
-bool is_ticked(const std::string& box) {
-    return box == "1";
-}
-
 /// Twice the area within the points, positive when they run counter-clockwise.
 double twice_area(const std::vector<point2>& points) {
     double sum = 0.0;

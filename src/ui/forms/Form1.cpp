@@ -2,6 +2,7 @@
 
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "core/capacity_unit.hpp"
 #include "ui/forms/assist_area.hpp"

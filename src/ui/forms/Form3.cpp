@@ -1,6 +1,8 @@
 #include "ui/forms/Form3.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ui/parts/entry_validator.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/help_file.hpp"
@@ -17,6 +19,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kvt {
 
 namespace {
@@ -26,10 +30,18 @@ constexpr int BOX_WIDTH = 110;
 constexpr int BUTTON_WIDTH = 90;
 constexpr int ROW_SPACING = 5;
 
-/// The column of the rotors as the form shows it: the checked file stands last. Those of the ports
-/// follow in their order.
-constexpr std::array<std::size_t, 8> ROTOR_FILES = {0, 1, 3, 4, 5, 6, 7, INNER_OFFSET_CHECKED};
-constexpr std::size_t FIRST_PORT_FILE = 8;
+/// The files of the rotors as their column shows them: those that were checked stand last.
+std::vector<const written_file*> rotor_files() {
+    std::vector<const written_file*> files;
+    for (const written_file& file : files_of(file_group::cnc)) {
+        if (file.needs == file_needs::profiles) {
+            files.push_back(&file);
+        }
+    }
+    std::ranges::stable_partition(
+        files, [](const written_file* file) { return !file->name.ends_with("_checked"); });
+    return files;
+}
 
 QLabel* column_head(const char* name) {
     QLabel* head = named_label(name);
@@ -75,15 +87,15 @@ Form3::Form3(form_context context, QWidget* parent)
     connect(&context.runner, &command_runner::ended, this, &QDialog::reject);
 }
 
-QCheckBox* Form3::file_box(std::size_t file) {
+QCheckBox* Form3::file_box(const written_file& file) {
     auto* box = new QCheckBox;
-    box->setObjectName(qt_text(cnc_files()[file].checkbox));
-    connect(box, &QCheckBox::clicked, this, [this, file](bool ticked) {
+    box->setObjectName(qt_text(file.control));
+    connect(box, &QCheckBox::clicked, this, [this, &file](bool ticked) {
         collect();
         tick_cnc_file(context_.kavetta, form_, file, ticked);
         show_form();
     });
-    files_[file] = box;
+    files_[&file] = box;
     return box;
 }
 
@@ -91,14 +103,16 @@ QLayout* Form3::lay_out_files() {
     auto* rotors = new QVBoxLayout;
     rotors->setSpacing(ROW_SPACING);
     rotors->addWidget(column_head("Label2"));
-    for (const std::size_t file : ROTOR_FILES) {
-        rotors->addWidget(file_box(file));
+    for (const written_file* file : rotor_files()) {
+        rotors->addWidget(file_box(*file));
     }
     auto* ports = new QVBoxLayout;
     ports->setSpacing(ROW_SPACING);
     ports->addWidget(column_head("Label3"));
-    for (std::size_t file = FIRST_PORT_FILE; file < CNC_FILE_COUNT; ++file) {
-        ports->addWidget(file_box(file));
+    for (const written_file& file : files_of(file_group::cnc)) {
+        if (file.needs != file_needs::profiles) {
+            ports->addWidget(file_box(file));
+        }
     }
     ports->addStretch(1);
     ports->addWidget(clockwise_);
@@ -159,8 +173,11 @@ QLayout* Form3::lay_out_buttons() {
 }
 
 void Form3::collect() {
-    for (std::size_t file = 0; file < CNC_FILE_COUNT; ++file) {
-        form_.ticked[file] = files_[file]->isChecked();
+    form_.ticked.clear();
+    for (const auto& [file, box] : files_) {
+        if (box->isChecked()) {
+            form_.ticked.emplace(file->name);
+        }
     }
     form_.Opp_Plot = clockwise_->isChecked();
     form_.toolsize = utf8_text(toolsize_->text());

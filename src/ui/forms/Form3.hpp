@@ -4,7 +4,7 @@
 #include "app/files/cnc_output.hpp"
 #include "ui/shell/dialog_form.hpp"
 
-#include <array>
+#include <map>
 
 class QCheckBox;
 class QComboBox;
@@ -28,14 +28,14 @@ class Form3 : public dialog_form {
     QLayout* lay_out_files();
     QLayout* lay_out_entries();
     QLayout* lay_out_buttons();
-    QCheckBox* file_box(std::size_t file);
+    QCheckBox* file_box(const written_file& file);
     void collect();
     void show_form();
     void press_ok();
 
     form_context context_;
     cnc_form form_;
-    std::array<QCheckBox*, CNC_FILE_COUNT> files_{};
+    std::map<const written_file*, QCheckBox*> files_;
     QCheckBox* clockwise_;
     QLineEdit* toolsize_;
     QLineEdit* groovetooltext_;

@@ -1,6 +1,7 @@
 #include "ui/forms/Perffrm.hpp"
 
 #include "app/stages/calculate_performance.hpp"
+#include "core/app_state.hpp"
 #include "core/text_table.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"

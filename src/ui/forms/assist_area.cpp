@@ -1,5 +1,6 @@
 #include "ui/forms/assist_area.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"

@@ -1,5 +1,6 @@
 #include "ui/forms/portdes.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/design_ports.hpp"
 #include "app/stages/porting_type.hpp"
 #include "core/text_table.hpp"

@@ -1,5 +1,6 @@
 #include "ui/forms/progressfrm.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"

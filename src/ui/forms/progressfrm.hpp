@@ -1,14 +1,14 @@
 // progressfrm: how far long work has come.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <QDialog>
 
 class QLabel;
 class QProgressBar;
 
 namespace kvt {
+
+struct program;
 
 /// A window of its own that does not wait for the user. Its texts are those of the language at its
 /// load.

@@ -1,5 +1,6 @@
 #include "ui/forms/viewwinfrm.hpp"
 
+#include "app/program.hpp"
 #include "app/windows/cursor_text.hpp"
 #include "app/windows/view_commands.hpp"
 #include "ui/parts/design_picture.hpp"

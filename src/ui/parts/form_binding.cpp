@@ -1,6 +1,8 @@
 #include "ui/parts/form_binding.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ui/parts/entry_validator.hpp"
 #include "ui/shell/not_built_yet.hpp"
 #include "ui/shell/qt_text.hpp"

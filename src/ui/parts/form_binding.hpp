@@ -10,6 +10,8 @@
 
 namespace kvt {
 
+struct enabling;
+
 /// What every form works on.
 struct form_context {
     kvt::program& kavetta;

@@ -2,6 +2,8 @@
 
 #include "app/desk/exit_program.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
+#include "core/user.hpp"
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Form3.hpp"
@@ -126,7 +128,7 @@ void MDIForm1::show_start(const start_layout& start) {
 void MDIForm1::place_fixed_windows() {
     const window_rectangles& layout = context_.kavetta.window_rectangles;
     for (const window_rectangle_field& field : window_rectangle_fields()) {
-        findChild<mdi_form*>(qt_text(field.name))->place(layout.*field.member);
+        findChild<mdi_form*>(qt_text(field.name))->place(child_place(layout.*field.member));
     }
     // Once even when the size is the one that it had.
     findChild<viewwinfrm*>()->size_picture();
@@ -137,11 +139,11 @@ void MDIForm1::place_children() {
     const window_rectangles& layout = context_.kavetta.window_rectangles;
     auto* explain = findChild<mdi_form*>("explain");
     if (explain != nullptr && layout.explain) {
-        explain->place(*layout.explain);
+        explain->place(child_place(*layout.explain));
     }
     auto* port_explain = findChild<mdi_form*>("port_explain");
     if (port_explain != nullptr && layout.port_explain) {
-        port_explain->place(*layout.port_explain);
+        port_explain->place(child_place(*layout.port_explain));
     }
 }
 

@@ -2,14 +2,15 @@
 // use, then the command, then every form is refreshed.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <QObject>
 
 #include <functional>
 #include <string>
 
 namespace kvt {
+
+class user;
+struct program;
 
 class command_runner : public QObject {
     Q_OBJECT

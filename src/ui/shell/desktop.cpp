@@ -3,6 +3,7 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/layout_commands.hpp"
 #include "app/desk/start_up.hpp"
+#include "app/program.hpp"
 
 namespace kvt {
 
@@ -59,10 +60,7 @@ bool desktop::start(const std::string& path) {
     runner_.act([&](kvt::program& kavetta, user& person) {
         // The first touch of the Design form, in the middle of the layout, brings the prompt.
         start_project(kavetta, person, path);
-        layout = read_start_layout(kavetta);
-        for (const std::string_view form : layout.shown) {
-            person.show_form(form);
-        }
+        layout = show_start_layout(kavetta, person);
     });
     if (runner_.has_ended()) {
         return false;

@@ -1,6 +1,8 @@
 #include "ui/shell/help_file.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QDesktopServices>

@@ -1,9 +1,12 @@
 // help_file: the user's guide, opened by the platform's own viewer.
 #pragma once
 
-#include "app/program.hpp"
+#include <string_view>
 
 namespace kvt {
+
+class user;
+struct program;
 
 /// The help file in the program's folder; both languages use the same one.
 inline constexpr std::string_view HELP_FILE_NAME = "KVT_V2021_Help_EN.pdf";

@@ -1,6 +1,8 @@
 #include "ui/shell/main_menu.hpp"
 
+#include "app/files/file_output.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "ui/shell/not_built_yet.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -55,14 +57,22 @@ void main_menu::add_row(const menu_row& row, QMainWindow& window) {
         menu.addSeparator()->setObjectName(name);
     } else if (row.kind == menu_kind::recent_entries) {
         add_recent_entries(row, menu);
+    } else if (row.kind == menu_kind::files) {
+        add_files(row.files, menu);
     } else {
         add_entry(row, menu);
     }
 }
 
+QAction* main_menu::add_action(std::string_view name, QMenu& menu) {
+    QAction* action = menu.addAction(qt_text(name));
+    action->setObjectName(qt_text(name));
+    actions_[action->objectName()] = action;
+    return action;
+}
+
 void main_menu::add_entry(const menu_row& row, QMenu& menu) {
-    QAction* action = menu.addAction(qt_text(row.name));
-    action->setObjectName(qt_text(row.name));
+    QAction* action = add_action(row.name, menu);
     action->setVisible(!row.is_hidden);
     action->setCheckable(row.is_checkable);
     action->setChecked(row.is_checkable);
@@ -71,7 +81,15 @@ void main_menu::add_entry(const menu_row& row, QMenu& menu) {
         connect(action, &QAction::triggered, this,
                 [this, command = row.command] { context_.runner.run(command); });
     }
-    actions_[action->objectName()] = action;
+}
+
+void main_menu::add_files(file_group group, QMenu& menu) {
+    for (const written_file& file : files_of(group)) {
+        connect(add_action(file.control, menu), &QAction::triggered, this, [this, &file] {
+            context_.runner.act(
+                [&file](program& kavetta, user& person) { save_file(kavetta, person, file); });
+        });
+    }
 }
 
 void main_menu::add_recent_entries(const menu_row& row, QMenu& menu) {

@@ -29,7 +29,9 @@ class main_menu : public QObject {
 
   private:
     void add_row(const menu_row& row, QMainWindow& window);
+    QAction* add_action(std::string_view name, QMenu& menu);
     void add_entry(const menu_row& row, QMenu& menu);
+    void add_files(file_group group, QMenu& menu);
     void add_recent_entries(const menu_row& row, QMenu& menu);
     void refresh_recent_entries();
 

@@ -10,14 +10,6 @@
 
 namespace kvt {
 
-namespace {
-
-int pixels(float twips) {
-    return qRound(twips / static_cast<float>(TWIPS_PER_PIXEL));
-}
-
-}  // namespace
-
 mdi_form::mdi_form(const char* form, form_context context) : context_(context), form_(form) {
     setObjectName(form);
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -49,8 +41,8 @@ void mdi_form::place(const window_rectangle& rectangle) {
     if (isMaximized() || isMinimized() || isShaded()) {
         setWindowState(Qt::WindowNoState);
     }
-    setGeometry(pixels(rectangle.left), pixels(rectangle.top), pixels(rectangle.width),
-                pixels(rectangle.height));
+    setGeometry(pixels_of(rectangle.left), pixels_of(rectangle.top), pixels_of(rectangle.width),
+                pixels_of(rectangle.height));
 }
 
 void mdi_form::moveEvent(QMoveEvent* event) {

@@ -2,9 +2,8 @@
 
 #include "app/desk/exit_program.hpp"
 #include "app/desk/explanation_windows.hpp"
-#include "app/files/dxf_output.hpp"
+#include "app/files/file_output.hpp"
 #include "app/files/project_commands.hpp"
-#include "app/files/step_output.hpp"
 #include "ui/shell/help_file.hpp"
 
 #include <array>
@@ -17,18 +16,6 @@ namespace {
 template <void (*action)(program&, user&)>
 bool going_on(program& kavetta, user& person) {
     action(kavetta, person);
-    return false;
-}
-
-template <step_file file>
-bool step_entry(program& kavetta, user& person) {
-    save_step_file(kavetta, person, file);
-    return false;
-}
-
-template <dxf_file file>
-bool dxf_entry(program& kavetta, user& person) {
-    save_dxf_file(kavetta, person, file);
     return false;
 }
 
@@ -60,20 +47,13 @@ const std::array MENU_ROWS = {
     menu_row{"mnumodelporting", "mnumodel"},
 
     menu_row{"mnustep", "", MENU},
-    menu_row{"mnustepinner", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::inner>},
-    menu_row{"mnustepouter", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::outer>},
-    menu_row{"mnustepassy", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::assembly>},
-    menu_row{"mnustepports", "mnustep", ENTRY, false, NO_KEY, step_entry<step_file::ports>},
+    menu_row{.menu = "mnustep", .kind = menu_kind::files, .files = file_group::step},
     // These two stay hidden: the simulation exchange writes their files by itself.
     menu_row{"mnustepports_inlet_GT", "mnustep", ENTRY, true},
     menu_row{"mnustepport_outlet_GT", "mnustep", ENTRY, true},
 
     menu_row{"mnudxf", "", MENU, false, NO_KEY, nullptr, false, open_dxf_menu},
-    menu_row{"mnudxfinner", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::inner>},
-    menu_row{"mnudxfouter", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::outer>},
-    menu_row{"mnudxfinletport", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::inlet>},
-    menu_row{"mnudxfoutletport", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::outlet>},
-    menu_row{"mnudxfmetering", "mnudxf", ENTRY, false, NO_KEY, dxf_entry<dxf_file::groove>},
+    menu_row{.menu = "mnudxf", .kind = menu_kind::files, .files = file_group::dxf},
 
     menu_row{"mnudata", "", MENU},
     menu_row{"mnudatacnc", "mnudata"},

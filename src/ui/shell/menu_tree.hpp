@@ -1,6 +1,7 @@
 // The menu tree of the main window as one table, and what its entries do.
 #pragma once
 
+#include "output/written_files.hpp"
 #include "ui/shell/command_runner.hpp"
 
 #include <span>
@@ -8,10 +9,11 @@
 
 namespace kvt {
 
-enum class menu_kind { menu, entry, separator, recent_entries };
+/// files: an entry for each file of a group, under the name of its control.
+enum class menu_kind { menu, entry, separator, recent_entries, files };
 
 struct menu_row {
-    std::string_view name;
+    std::string_view name = "";
     std::string_view menu;  ///< the menu it stands in; empty for a menu of the menu bar
     menu_kind kind = menu_kind::entry;
     bool is_hidden = false;
@@ -20,7 +22,8 @@ struct menu_row {
     bool (*command)(program&, user&) =
         nullptr;  ///< true when the program ends; nullptr for what has no command here
     bool is_checkable = false;
-    void (*opening)(program&) = nullptr;  ///< run before a menu is shown
+    void (*opening)(program&) = nullptr;    ///< run before a menu is shown
+    file_group files = file_group::report;  ///< of menu_kind::files
 };
 
 /// Every menu and entry in its order.

@@ -5,6 +5,10 @@
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QScreen>
+
+#include <array>
+#include <vector>
 
 namespace kvt {
 
@@ -12,10 +16,6 @@ namespace {
 
 float twips(int pixels) {
     return static_cast<float>(pixels) * TWIPS_PER_PIXEL;
-}
-
-int pixels(float twips) {
-    return qRound(twips / static_cast<float>(TWIPS_PER_PIXEL));
 }
 
 window_rectangle rectangle_of(const QRect& place) {
@@ -60,9 +60,20 @@ present_windows present_layout(const QMainWindow& window) {
     return windows;
 }
 
-void place_main_window(QMainWindow& window, const window_rectangle& rectangle) {
-    window.move(pixels(rectangle.left), pixels(rectangle.top));
-    window.resize(pixels(rectangle.width), pixels(rectangle.height));
+void place_main_window(QMainWindow& window, const window_rectangle& stored) {
+    std::vector<window_rectangle> screens;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        screens.push_back(rectangle_of(screen->availableGeometry()));
+    }
+    const window_rectangle rectangle = moved_onto(stored, screens);
+    window.move(pixels_of(rectangle.left), pixels_of(rectangle.top));
+    window.resize(pixels_of(rectangle.width), pixels_of(rectangle.height));
+}
+
+window_rectangle child_place(const window_rectangle& rectangle) {
+    // The main window may reach over all screens; its children stand from its corner on.
+    const QSize all = QGuiApplication::primaryScreen()->virtualSize();
+    return moved_onto(rectangle, std::array{rectangle_of(QRect(QPoint(0, 0), all))});
 }
 
 }  // namespace kvt

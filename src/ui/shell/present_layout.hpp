@@ -13,7 +13,11 @@ namespace kvt {
 /// is normal.
 present_windows present_layout(const QMainWindow& window);
 
-/// Puts the main window where its rectangle says; its frame belongs to the place, not to the size.
+/// Puts the main window where its rectangle says, or inside the nearest screen; its frame belongs
+/// to the place, not to the size.
 void place_main_window(QMainWindow& window, const window_rectangle& rectangle);
+
+/// The place of a child window, inside the area that the screens could show of it.
+window_rectangle child_place(const window_rectangle& rectangle);
 
 }  // namespace kvt

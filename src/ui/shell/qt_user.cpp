@@ -1,6 +1,7 @@
 #include "ui/shell/qt_user.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "app/program.hpp"
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"

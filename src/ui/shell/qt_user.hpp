@@ -3,8 +3,8 @@
 #pragma once
 
 #include "app/desk/told_messages.hpp"
-#include "app/program.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 
 #include <QPointer>
 #include <QStatusBar>
@@ -16,6 +16,8 @@ class QMdiSubWindow;
 class QMessageBox;
 
 namespace kvt {
+
+struct program;
 
 class progressfrm;
 

@@ -1,6 +1,7 @@
 #include "ui/shell/status_hints.hpp"
 
 #include "app/desk/command_hints.hpp"
+#include "app/program.hpp"
 #include "app/stages/stale_results.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/hint_button.hpp"

@@ -3,8 +3,6 @@
 // entries any more.
 #pragma once
 
-#include "app/program.hpp"
-
 #include <QObject>
 
 class QLabel;
@@ -13,6 +11,7 @@ class QStatusBar;
 namespace kvt {
 
 class hint_button;
+struct program;
 
 class status_hints : public QObject {
     Q_OBJECT

@@ -1,6 +1,7 @@
 // The enabling chain, and the check boxes of the porting type.
 #include "app/desk/enabling_chain.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 
 #include <gtest/gtest.h>

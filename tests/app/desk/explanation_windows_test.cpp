@@ -1,6 +1,7 @@
 // The explanation windows: flags, titles, pictures.
 #include "app/desk/explanation_windows.hpp"
 
+#include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "support/scripted_user.hpp"

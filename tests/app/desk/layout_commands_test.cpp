@@ -5,11 +5,28 @@
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 
+#include <sys/stat.h>
+
 namespace kvt {
 namespace {
 
 using texts = std::vector<std::string>;
 using forms = std::vector<std::string_view>;
+
+/// A user on whose screen one form can't be shown.
+class user_without : public scripted_user {
+  public:
+    explicit user_without(std::string form) : form_(std::move(form)) {}
+    void show_form(std::string_view form) override {
+        if (form == form_) {
+            throw run_time_error(failure::file_not_found, "its picture");
+        }
+        scripted_user::show_form(form);
+    }
+
+  private:
+    std::string form_;
+};
 
 class layout_commands_test : public project_test {
   protected:
@@ -163,6 +180,50 @@ TEST_F(fitted, is_the_first_layout_where_the_built_in_one_is_too_large) {
     expect_side_by_side(room);
     restore_default_layout(kavetta, person);
     EXPECT_FALSE(read_start_layout(kavetta).is_first);
+}
+
+TEST_F(layout_commands_test, start_shows_the_forms_of_the_layout) {
+    restore_default_layout(kavetta, person);
+    person.log.clear();
+    const start_layout start = show_start_layout(kavetta, person);
+    EXPECT_EQ(start.focus, "");
+    EXPECT_EQ(person.log, (texts{"show Form1", "show portdes", "show viewwinfrm", "show Perffrm",
+                                 "show select_graphs"}));
+}
+
+TEST_F(layout_commands_test, start_without_the_picture_of_an_explanation_gives_the_built_in_sizes) {
+    present_windows windows = some_windows();
+    windows.charts.back() = window_rectangle{6630, 8790, 2100, 2100};
+    kavetta.app_state.explain_closed = kavetta.app_state.port_explain_closed = false;
+    save_layout(kavetta, person, windows);
+    user_without without("port_explain");
+    const start_layout start = show_start_layout(kavetta, without);
+    EXPECT_EQ(start.shown, (forms{"Form1", "viewwinfrm", "Perffrm", "portdes", "select_graphs"}));
+    EXPECT_EQ(start.focus, "Form1");
+    EXPECT_TRUE(without.messages.empty());
+    EXPECT_EQ(kavetta.window_rectangles.Form1, (window_rectangle{8085, 5430, 10, 20}))
+        << "Top and Left as they were read";
+    EXPECT_TRUE(kavetta.window_rectangles.main_window_maximised);
+    EXPECT_TRUE(kavetta.window_rectangles.explain) << "shown before the failure";
+    EXPECT_FALSE(kavetta.window_rectangles.port_explain);
+    EXPECT_TRUE(kavetta.app_state.port_explain_closed);
+}
+
+TEST_F(layout_commands_test, start_takes_a_folder_a_pipe_or_a_huge_file_for_no_layout) {
+    const std::filesystem::path file = folder.path() / "screen.ini";
+    const auto starts_with_the_built_in_layout = [&] {
+        const start_layout start = show_start_layout(kavetta, person);
+        return start.focus == "Form1" && kavetta.window_rectangles == window_rectangles();
+    };
+    std::filesystem::create_directory(file);
+    EXPECT_TRUE(starts_with_the_built_in_layout());
+    std::filesystem::remove(file);
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    EXPECT_TRUE(starts_with_the_built_in_layout());
+    std::filesystem::remove(file);
+    write_file(file, std::string(LARGEST_TEXT + 1, '1'));
+    EXPECT_TRUE(starts_with_the_built_in_layout());
+    EXPECT_TRUE(person.messages.empty());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // Start-up: the program's folder, the settings, the prompt.
 #include "app/desk/start_up.hpp"
 
+#include "app/desk/settings_commands.hpp"
 #include "app/files/project_fixture.hpp"
 #include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
@@ -101,6 +102,24 @@ TEST_F(start_up_test, opens_a_path_in_place_of_the_prompt_and_survives_a_wrong_o
     start_project(kavetta, person, folder.file("not there.KVT"));
     EXPECT_EQ(person.statuses.size(), 2U);
     EXPECT_TRUE(person.messages.empty());
+}
+
+TEST_F(start_up_test, keeps_recent_paths_whole_that_KVT_ini_can_not_hold) {
+    const std::filesystem::path cyrillic = folder.path() / "Насосы";
+    std::filesystem::create_directory(cyrillic);
+    const std::string path = (cyrillic / "Насос.KVT").string();
+    write_file(path, joined(project_lines()));
+    start_project(kavetta, person, path);
+    start_project(kavetta, person, project_file("pump.KVT", project_lines()));
+    program again;
+    again.folder = folder.path();
+    load_settings(again);
+    EXPECT_EQ(again.app_state.mnufileprev[1], path);
+    find_projects_folder(again);
+    EXPECT_EQ(again.app_state.projects_folder, cyrillic.string());
+    again.app_state.mnufileprev[1] = "/a.KVT";
+    save_settings(again);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "Kavetta.ini")) << "nothing to keep";
 }
 
 }  // namespace

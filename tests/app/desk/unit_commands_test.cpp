@@ -1,6 +1,7 @@
 // Language, units and the capacity unit.
 #include "app/desk/unit_commands.hpp"
 
+#include "app/program.hpp"
 #include "core/capacity_unit.hpp"
 #include "support/scripted_user.hpp"
 

@@ -27,8 +27,15 @@ class cnc_output : public testing::Test {
         form.groovetooltext = "1";
     }
     void tick(std::string_view name) {
-        tick_cnc_file(kavetta, form,
-                      static_cast<std::size_t>(find_cnc_file(name) - cnc_files().data()), true);
+        tick_cnc_file(kavetta, form, *find_file(file_group::cnc, name), true);
+    }
+    void untick(std::string_view name) {
+        tick_cnc_file(kavetta, form, *find_file(file_group::cnc, name), false);
+    }
+    void tick_all() {
+        for (const written_file& file : FILES) {
+            tick(file.name);
+        }
     }
     bool write() { return write_cnc_files(kavetta, person, form); }
     /// The message of a refused press, in a language.
@@ -42,6 +49,7 @@ class cnc_output : public testing::Test {
         return person.messages.empty() ? "" : person.messages[0];
     }
 
+    static inline const std::span<const written_file> FILES = files_of(file_group::cnc);
     program kavetta;
     scripted_user person;
     cnc_form form;
@@ -63,13 +71,13 @@ TEST_F(cnc_output, opens_with_the_units_and_five_resolutions) {
 }
 
 TEST_F(cnc_output, shows_the_groove_tool_for_the_outlet_pocket_of_a_groove) {
-    tick_cnc_file(kavetta, form, OUTLET_POCKET, true);
+    tick("outlet_pocket");
     EXPECT_TRUE(form.groove_entry_shown);
-    tick_cnc_file(kavetta, form, OUTLET_POCKET, false);
+    untick("outlet_pocket");
     EXPECT_FALSE(form.groove_entry_shown);
     EXPECT_EQ(form.groovetooltext, "");
     kavetta.entries.metering_groove = "0";
-    tick_cnc_file(kavetta, form, OUTLET_POCKET, true);
+    tick("outlet_pocket");
     EXPECT_FALSE(form.groove_entry_shown);
 }
 
@@ -209,12 +217,12 @@ TEST_F(cnc_output, closes_and_writes_nothing_without_a_tick) {
 }
 
 TEST_F(cnc_output, asks_for_every_file_in_the_order_of_the_writers) {
-    form.ticked.fill(true);
-    person.files.assign(CNC_FILE_COUNT, std::nullopt);
+    tick_all();
+    person.files.assign(FILES.size(), std::nullopt);
     EXPECT_TRUE(write());
-    ASSERT_EQ(person.dialogs.size(), CNC_FILE_COUNT);
-    for (std::size_t i = 0; i < CNC_FILE_COUNT; ++i) {
-        const std::string title = std::string(cnc_files()[i].name) + "_title";
+    ASSERT_EQ(person.dialogs.size(), FILES.size());
+    for (std::size_t i = 0; i < FILES.size(); ++i) {
+        const std::string title = std::string(FILES[i].name) + "_title";
         EXPECT_EQ(person.dialogs[i].title, "Kavetta V2021" + std::string(cnc_text(title, ENGLISH)));
     }
     const file_dialog& dialog = person.dialogs[0];
@@ -229,8 +237,8 @@ TEST_F(cnc_output, asks_for_every_file_in_the_order_of_the_writers) {
 
 TEST_F(cnc_output, has_german_titles) {
     kavetta.app_state.language = GERMAN;
-    form.ticked.fill(true);
-    person.files.assign(CNC_FILE_COUNT, std::nullopt);
+    tick_all();
+    person.files.assign(FILES.size(), std::nullopt);
     EXPECT_TRUE(write());
     EXPECT_EQ(person.dialogs[3].title,
               "Kavetta V2021 - Sparen Sie Innere RotorG-codes Für Drehmaschine (X und C)");
@@ -255,7 +263,7 @@ TEST_F(cnc_output, tells_how_many_cutter_centres_are_on_the_wrong_side) {
     tick("inner_offset_checked");
     person.files = {folder.file("offset.cnc"), folder.file("checked.cnc")};
     EXPECT_TRUE(write());
-    const std::string notice = wrong_side_notice(kavetta);
+    const std::string notice = notice_of(kavetta, *find_file(file_group::cnc, "inner_offset"));
     EXPECT_TRUE(
         notice.starts_with("Cutter positions of this file on the wrong side of the trochoid: "))
         << notice;
@@ -263,8 +271,8 @@ TEST_F(cnc_output, tells_how_many_cutter_centres_are_on_the_wrong_side) {
     // The notice stands behind its file, before the next dialog.
     EXPECT_EQ(person.log[1], "message " + notice);
     kavetta.app_state.language = GERMAN;
-    EXPECT_TRUE(wrong_side_notice(kavetta).starts_with(
-        "Schneiderpositionen dieser Datei auf der falschen Seite"));
+    EXPECT_TRUE(notice_of(kavetta, *find_file(file_group::cnc, "inner_offset"))
+                    .starts_with("Schneiderpositionen dieser Datei auf der falschen Seite"));
 }
 
 TEST_F(cnc_output, saves_what_a_failing_writer_got_to_and_goes_on) {
@@ -285,21 +293,39 @@ TEST_F(cnc_output, never_changes_the_design) {
     const entries boxes = kavetta.entries;
     const zeroed_array outer_xy = kavetta.rotor_profiles.outer_xy;
     const zeroed_array troch_x = kavetta.rotor_profiles.troch_x;
-    form.ticked.fill(true);
-    person.files.assign(CNC_FILE_COUNT, folder.file("any.cnc"));
+    tick_all();
+    person.files.assign(FILES.size(), folder.file("any.cnc"));
     EXPECT_TRUE(write());
     EXPECT_EQ(kavetta.entries, boxes);
     EXPECT_EQ(kavetta.rotor_profiles.outer_xy, outer_xy);
     EXPECT_EQ(kavetta.rotor_profiles.troch_x, troch_x);
 }
 
-TEST(cnc_files, have_a_name_a_tick_box_and_texts_of_their_own) {
-    for (const cnc_file& file : cnc_files()) {
-        EXPECT_EQ(find_cnc_file(file.name), &file);
-        EXPECT_NE(find_caption("Form3", file.checkbox), nullptr) << file.checkbox;
-        EXPECT_FALSE(cnc_text(file.name, ENGLISH).empty());
-    }
-    EXPECT_EQ(find_cnc_file("inner"), nullptr);
+TEST_F(cnc_output, hints_at_a_refused_groove_in_the_files_of_the_outlet_only) {
+    kavetta.port_params.has_groove = false;
+    note_refused_groove(kavetta, *find_file(file_group::cnc, "inlet_xy"));
+    EXPECT_TRUE(kavetta.hints.empty());
+    note_refused_groove(kavetta, *find_file(file_group::cnc, "outlet_xy"));
+    ASSERT_EQ(kavetta.hints.size(), 1U);
+    EXPECT_EQ(kavetta.hints[0].text,
+              "The metering groove was refused: the port files are written without it.");
+    kavetta.hints.clear();
+    kavetta.entries.metering_groove = "0";
+    note_refused_groove(kavetta, *find_file(file_group::cnc, "outlet_xy"));
+    EXPECT_TRUE(kavetta.hints.empty());
+}
+
+TEST_F(cnc_output, writes_no_codes_that_would_leave_their_outline) {
+    EXPECT_EQ(refused_gcode_note(kavetta, *find_file(file_group::cnc, "inlet_gcode")), "");
+    kavetta.port_params.inlet_built.f = 0.0;
+    EXPECT_EQ(refused_gcode_note(kavetta, *find_file(file_group::cnc, "inlet_xy")), "");
+    EXPECT_EQ(refused_gcode_note(kavetta, *find_file(file_group::cnc, "outlet_gcode")), "");
+    tick("inlet_gcode");
+    EXPECT_TRUE(write());
+    EXPECT_TRUE(person.dialogs.empty());
+    ASSERT_EQ(kavetta.hints.size(), 1U);
+    EXPECT_EQ(kavetta.hints[0].weight, hint_weight::scraps_part);
+    EXPECT_TRUE(kavetta.hints[0].text.starts_with("The G-codes cannot follow the outline"));
 }
 
 }  // namespace kvt

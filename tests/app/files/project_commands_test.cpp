@@ -1,15 +1,19 @@
 // Open, Previous design, Save, Save As and New.
 #include "app/files/project_commands.hpp"
 
+#include "app/desk/autosave.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/files/project_fixture.hpp"
 #include "base/run_time_error.hpp"
+#include "support/property_runs.hpp"
+#include "support/unprivileged.hpp"
 
 namespace kvt {
 namespace {
 
 using open_project_test = project_test;
 using save_project_test = project_test;
+using texts_of_boxes = std::vector<std::string>;
 using new_project_test = project_test;
 
 std::vector<std::string> first_lines(std::vector<std::string> lines, std::size_t count) {
@@ -265,7 +269,7 @@ TEST_F(open_project_test, drops_results_of_the_design_before_it) {
     kavetta.design_view.angleline.elements.resize(4);
     person.files = {project_file("pump.KVT", project_lines())};
     open_project(kavetta, person);
-    EXPECT_EQ(kavetta.app_state.angleline_count, 4.0) << "as it was before the reset";
+    EXPECT_EQ(kavetta.view_state.angleline_count, 4.0) << "as it was before the reset";
     EXPECT_EQ(kavetta.design_view.angleline.elements.size(), 1U);
     EXPECT_FALSE(kavetta.enabling.mnudxf || kavetta.enabling.calc_perf ||
                  kavetta.enabling.design_ports);
@@ -380,6 +384,113 @@ TEST_F(save_project_test, save_to_a_path_that_cannot_be_written_fails_for_good) 
     kavetta.app_state.project_has_file = true;
     kavetta.app_state.project_path = folder.file("gone/pump.KVT");
     EXPECT_THROW(save_project(kavetta, person), run_time_error);
+}
+
+TEST_F(save_project_test, keeps_the_boxes_that_have_no_line_and_empties_them_without_one) {
+    kavetta.entries.UTS_value = " 1.100,5 für Öl ";
+    const std::string path = folder.file("projects/uts.KVT");
+    person.files = {path};
+    EXPECT_TRUE(save_project_as(kavetta, person));
+    EXPECT_EQ(line_of(path, 60), "UTS_value= 1.100,5 f\xFCr \xD6l ");
+    kavetta.entries.UTS_value = "other";
+    open_project_file(kavetta, person, path);
+    EXPECT_EQ(kavetta.entries.UTS_value, " 1.100,5 für Öl ");
+    open_project_file(kavetta, person, project_file("pump.KVT", project_lines()));
+    EXPECT_EQ(kavetta.entries.UTS_value, "");
+}
+
+TEST_F(save_project_test, asks_first_when_the_file_could_not_be_opened_again_and_names_the_entry) {
+    open_project_file(kavetta, person, project_file("pump.KVT", project_lines()));
+    const std::string path = kavetta.app_state.project_path;
+    const std::string before = read_file(path);
+    kavetta.entries.ecc = "abc";
+    person.answers = {answer::no, answer::no, answer::yes};
+    save_project(kavetta, person);
+    EXPECT_EQ(person.questions.at(0),
+              "This project could not be opened again because of the entry 'Eccentricity'. Do you "
+              "wish to save it all the same?");
+    EXPECT_EQ(person.log.back(), "focus ecc");
+    EXPECT_EQ(read_file(path), before);
+    EXPECT_TRUE(has_unsaved_changes(kavetta));
+    EXPECT_FALSE(save_project_as(kavetta, person));
+    EXPECT_TRUE(person.dialogs.empty()) << "the question comes before the dialog";
+    save_project(kavetta, person);
+    EXPECT_EQ(line_of(path, 11), "abc");
+}
+
+TEST_F(save_project_test, names_the_entry_in_german) {
+    kavetta.app_state.language = GERMAN;
+    kavetta.entries.radinnroot.clear();
+    person.answers = {answer::no};
+    EXPECT_FALSE(save_project_as(kavetta, person));
+    EXPECT_EQ(person.questions.at(0),
+              "Dieses Projekt ließe sich nicht wieder öffnen, wegen der Eingabe „Radius Innere "
+              "Wurzel“. Möchten Sie es trotzdem speichern?");
+}
+
+TEST_F(save_project_test, finds_an_unopenable_entry_exactly_when_open_would_fail) {
+    const texts_of_boxes typed = {"",     "0",   "2,85", " 3 ",    "abc",    "1e999", "1e300",
+                                  "-1e9", "5 5", "7a",   "1e-400", "9.9e14", "1e15",  "+.5"};
+    random_values random;
+    for (int left = property_count(300); left > 0; --left) {
+        for (std::string entries::*box :
+             {&entries::volumereqd, &entries::ecc, &entries::radinnroot, &entries::thick}) {
+            kavetta.entries.*box = typed.at(
+                static_cast<std::size_t>(random.whole(0, static_cast<int>(typed.size()) - 1)));
+        }
+        kavetta.app_state.capacity_unit = static_cast<std::int16_t>(random.whole(0, 6));
+        const std::string path = folder.file("typed.KVT");
+        write_file(path, write_project(project_record_of(kavetta, path)),
+                   disk_write::left_to_the_system);
+        program opened;
+        std::string failed;
+        try {
+            load_entries(opened, person, path);
+        } catch (const run_time_error& error) {
+            failed = error.what();
+        }
+        const auto entry = find_unopenable_entry(kavetta);
+        EXPECT_EQ(entry.has_value(), !failed.empty())
+            << failed << kavetta.entries.volumereqd << "; " << kavetta.entries.ecc << "; "
+            << kavetta.entries.radinnroot << "; unit " << kavetta.app_state.capacity_unit;
+    }
+}
+
+TEST_F(save_project_test, overwrites_in_a_folder_that_takes_no_file_only_after_a_question) {
+    const std::string path = project_file("pump.KVT", project_lines());
+    open_project_file(kavetta, person, path);
+    const std::string before = read_file(path);
+    const std::filesystem::path projects = folder.path() / "projects";
+    std::filesystem::permissions(path, std::filesystem::perms(0666));
+    std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+    std::filesystem::permissions(projects, std::filesystem::perms(0555));
+    kavetta.entries.ecc = "3";
+    person.answers = {answer::no, answer::yes};
+    {
+        const unprivileged somebody;
+        save_project(kavetta, person);
+        EXPECT_EQ(read_file(path), before);
+        EXPECT_TRUE(has_unsaved_changes(kavetta));
+        save_project(kavetta, person);
+    }
+    std::filesystem::permissions(projects, std::filesystem::perms(0755));
+    EXPECT_EQ(person.questions.at(0),
+              path +
+                  " can only be overwritten where it stands, since its folder takes no other "
+                  "file. A failure meanwhile would leave it incomplete. Do you wish to "
+                  "overwrite it?");
+    EXPECT_EQ(line_of(path, 11), "3");
+    EXPECT_FALSE(has_unsaved_changes(kavetta));
+}
+
+TEST_F(save_project_test, save_as_that_fails_leaves_path_and_name) {
+    open_project_file(kavetta, person, project_file("pump.KVT", project_lines()));
+    const app_state before = kavetta.app_state;
+    person.files = {folder.file("no/other.KVT")};
+    EXPECT_FALSE(save_project_as(kavetta, person));
+    EXPECT_EQ(kavetta.app_state.project_path, before.project_path);
+    EXPECT_EQ(kavetta.app_state.project_name, "pump");
+    EXPECT_EQ(kavetta.labels.title, "Kavetta V2021 - 'pump'");
 }
 
 TEST_F(new_project_test, takes_the_typed_name_and_clears_the_design) {

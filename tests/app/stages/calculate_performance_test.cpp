@@ -1,15 +1,23 @@
 // Calculate Performance as a command: the whole road from the file, the validation in both
 // languages, what is shown.
 #include "app/desk/run_command.hpp"
-#include "base/number_text.hpp"
 #include "app/stages/performance_fixture.hpp"
+#include "base/number_text.hpp"
+#include "base/text_file.hpp"
 #include "support/expect_failure.hpp"
+
+#include <nlohmann/json.hpp>
 
 namespace kvt {
 namespace {
 
 class whole_road_performance_test : public performance_test,
                                     public testing::WithParamInterface<const char*> {};
+
+nlohmann::json reference(const std::string& name) {
+    return nlohmann::json::parse(read_file(std::filesystem::path(KVT_TEST_DATA) / "reference" /
+                                           (name + "_performance.json")));
+}
 
 TEST_P(whole_road_performance_test, gives_the_reference_values_and_labels) {
     prepare(GetParam());

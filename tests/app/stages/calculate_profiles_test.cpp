@@ -1,6 +1,7 @@
 // Tests of the Calculate Profiles run: its order, exits, messages, write-backs and enablings.
 #include "app/stages/calculate_profiles.hpp"
 
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "support/expect_failure.hpp"
@@ -158,12 +159,12 @@ TEST_F(profiles_run, stops_at_the_shaft_check_with_an_empty_view) {
 TEST_F(profiles_run, ends_at_the_curvature_check_through_the_closing_steps) {
     boxes().radouter = "30";
     kavetta.app_state.zoom_all_requested = -1;
-    kavetta.app_state.view_zoom = 4.0;
+    kavetta.view_state.view_zoom = 4.0;
     EXPECT_EQ(run(), run_end::closing);
     EXPECT_EQ(person.messages,
               texts{std::string(message_text(message::inner_rotor_errors, ENGLISH))});
     EXPECT_EQ(kavetta.app_state.zoom_all_requested, 0);
-    EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
     EXPECT_EQ(person.log.back(), "not busy");
 }
 
@@ -228,12 +229,12 @@ TEST_F(profiles_run, reports_a_lobe_that_does_not_reach_the_root_in_english) {
         boxes().fillet = "0";
         boxes().outer_root = "";
         keep_root_radius();
-        kavetta.app_state.view_zoom = 4.0;
+        kavetta.view_state.view_zoom = 4.0;
         EXPECT_EQ(run(), run_end::error);
         ASSERT_FALSE(person.messages.empty());
         EXPECT_EQ(person.messages.back(), SMALL_LOBES);
         EXPECT_EQ(kavetta.labels.area_ratio, "12 %") << "an older label stays";
-        EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+        EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
         EXPECT_EQ(person.log.back(), "not busy");
         EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U)
             << "the inner rotor stays on the screen";
@@ -254,6 +255,59 @@ TEST_F(profiles_run, with_fillets_overflows_from_33_lobes_on) {
     boxes().numlobes = "32";
     boxes().fillet = "0.5";
     EXPECT_EQ(run(), run_end::ok);
+}
+
+TEST_F(profiles_run, keeps_ratio_and_chambers_of_the_run_before_an_error) {
+    keep_root_radius();
+    ASSERT_EQ(run(), run_end::ok);
+    const rotor_profiles before = kavetta.rotor_profiles;
+    boxes().numlobes = "33";
+    boxes().ecc = "1";
+    boxes().radouter = "4";
+    boxes().radinnroot = "60";
+    boxes().maxdiameter = "200";
+    boxes().fillet = "0.5";
+    ASSERT_EQ(run(), run_end::error);
+    EXPECT_EQ(kavetta.labels.area_ratio, "28.65 %");
+    EXPECT_EQ(kavetta.labels.max_chamb_vol, "1038 mm3");
+    EXPECT_EQ(kavetta.labels.min_chamb_vol, "32.77 mm3");
+    const rotor_profiles& after = kavetta.rotor_profiles;
+    EXPECT_EQ(after.area_ratio, before.area_ratio);
+    EXPECT_EQ(after.max_chamber_volume, before.max_chamber_volume);
+    EXPECT_EQ(after.min_chamber_volume, before.min_chamber_volume);
+    EXPECT_GT(after.capacity_cc, 1.0 + before.capacity_cc) << "the capacity comes before the error";
+    EXPECT_EQ(kavetta.labels.capacity, after.capacity.text());
+}
+
+/// Notes the capacity on display when a message comes.
+struct capacity_reader : scripted_user {
+    const program& kavetta;
+    texts shown;
+
+    explicit capacity_reader(const program& read) : kavetta(read) {}
+    void show_message(std::string_view text) override {
+        shown.push_back(kavetta.labels.capacity);
+        scripted_user::show_message(text);
+    }
+};
+
+TEST_F(profiles_run, shows_the_capacity_before_it_warns_of_the_lobes) {
+    boxes().numlobes = "3";
+    boxes().ecc = "2.16";
+    boxes().radouter = "7.56";
+    boxes().radinnroot = "0.79";
+    boxes().clearn = "0.04";
+    boxes().shaftdiameter = "0.5";
+    boxes().minmaterial = "0.5";
+    boxes().fillet = "0";
+    capacity_reader reader(kavetta);
+    calculate_profiles(kavetta, reader);
+    ASSERT_EQ(reader.messages.size(), 2U);
+    EXPECT_EQ(reader.messages[0],
+              "This design creates an inner rotor shape with errors. Try reducing the radius of "
+              "the outer lobes.");
+    // Tip 0.79 + 2 * 2.16 - 0.02 = 5.09, root 0.79: (25.9081 - 0.6241) * 3.1415927 * 10 / 1000.
+    EXPECT_EQ(reader.shown[0], "0.7943");
 }
 
 TEST_F(profiles_run, warns_of_interference_and_ends_ok) {
@@ -309,12 +363,29 @@ TEST_F(profiles_run, tells_everything_else_in_german_for_language_2) {
 }
 
 TEST_F(profiles_run, tells_the_new_root_radius_once_after_a_change_of_the_eccentricity) {
+    // a = (7.5 + 14.25 + 3.25) / (1/4 + 1) = 20 and b = 5 without rounding, so the minimum
+    // 3.25 + 20 + 5 + 3.25 - 7.5 is 24 exactly, and its text reads back as the same number.
+    boxes().numlobes = "5";
+    boxes().ecc = "3.25";
+    boxes().radinnroot = "14.25";
+    boxes().maxdiameter = "56";
+    EXPECT_EQ(run(), run_end::ok);
+    EXPECT_EQ(person.messages, texts{"Minimum value for Outer Rotor Root Radius is 24"});
+    EXPECT_EQ(boxes().outer_root, "24");
+    EXPECT_EQ(kavetta.design_params.outer_root, 24.0);
+    run();
+    EXPECT_EQ(person.messages, texts{});
+}
+
+TEST_F(profiles_run, tells_a_root_radius_again_whose_text_reads_back_below_it) {
+    // a = 24.5 / (1/6 + 1) = 21 and b = 3.5; 2.85 + 21 + 3.5 + 2.85 is 30.200000000000003, and
+    // less 7.5 it is one step of a double above 22.7, the number of its 15-digit text.
     EXPECT_EQ(run(), run_end::ok);
     EXPECT_EQ(person.messages, texts{MINIMUM_22_7});
     EXPECT_EQ(boxes().outer_root, "22.7");
-    const double stored = kavetta.design_params.outer_root;
+    EXPECT_EQ(kavetta.design_params.outer_root, 22.700000000000003);
     run();
-    EXPECT_EQ(person.messages, stored > 22.7 ? texts{MINIMUM_22_7} : texts{});
+    EXPECT_EQ(person.messages, texts{MINIMUM_22_7});
 }
 
 TEST_F(profiles_run, keeps_a_root_radius_typed_between_two_runs) {
@@ -383,19 +454,19 @@ TEST_F(profiles_run, takes_the_inches_of_the_option_buttons) {
 }
 
 TEST_F(profiles_run, returns_the_rotors_to_their_starting_position) {
-    kavetta.app_state.rotation_angle = 33.0;
+    kavetta.view_state.rotation_angle = 33.0;
     boxes().rotated_angle = "33";
     run();
-    EXPECT_EQ(kavetta.app_state.rotation_angle, 0.0);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 0.0);
     EXPECT_EQ(boxes().rotated_angle, "0");
 }
 
 TEST_F(profiles_run, stopped_by_the_validation_leaves_the_view_and_its_angle) {
     run();
-    kavetta.app_state.rotation_angle = 33.0;
+    kavetta.view_state.rotation_angle = 33.0;
     boxes().clearn = "0";
     EXPECT_EQ(run(), run_end::validation);
-    EXPECT_EQ(kavetta.app_state.rotation_angle, 33.0);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 33.0);
     EXPECT_EQ(kavetta.design_view.Line1.elements.size(), 3601U);
 }
 
@@ -412,12 +483,12 @@ TEST_F(profiles_run, asked_for_by_zoom_all_keeps_results_and_enablings) {
 }
 
 TEST_F(profiles_run, sets_the_scale_and_the_centre_of_the_view) {
-    kavetta.app_state.view_size = 6000;
+    kavetta.view_state.view_size = 6000;
     run();
-    EXPECT_EQ(kavetta.app_state.view_scale, 6000.0 * 0.95 / 52.0);
-    EXPECT_EQ(kavetta.app_state.view_cx, 3000.0);
-    EXPECT_EQ(kavetta.app_state.view_cy, 3000.0);
-    EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+    EXPECT_EQ(kavetta.view_state.view_scale, 6000.0 * 0.95 / 52.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, 3000.0);
+    EXPECT_EQ(kavetta.view_state.view_cy, 3000.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
 }
 
 TEST_F(profiles_run, shows_the_hourglass_from_after_the_validation_to_the_end) {

@@ -18,8 +18,7 @@ TEST_F(clear_design_test, sets_the_boxes_to_their_defaults) {
 
     entries expected;
     expected.fillet = "";
-    expected.Face_area_value = expected.OD_area_value = expected.UTS_value =
-        expected.rotated_angle = "9";
+    expected.Face_area_value = expected.OD_area_value = expected.rotated_angle = "9";
     for (const entry_field& field : entry_fields()) {
         if (field.form == "select_graphs") {
             expected.*field.member = "1";
@@ -37,12 +36,14 @@ TEST_F(clear_design_test, sets_the_boxes_to_their_defaults) {
 TEST_F(clear_design_test, keeps_fluid_and_material_on_yes_but_never_the_ranges) {
     kavetta.entries.fluid_density = "860";
     kavetta.entries.friction = "0.08";
+    kavetta.entries.UTS_value = "520";
     kavetta.entries.speed_lo = kavetta.entries.speed_hi = "600";
     kavetta.entries.pressure_lo = kavetta.entries.pressure_hi = "3";
     person.answers = {answer::yes};
     clear_design(kavetta, person);
     EXPECT_EQ(kavetta.entries.fluid_density, "860");
     EXPECT_EQ(kavetta.entries.friction, "0.08");
+    EXPECT_EQ(kavetta.entries.UTS_value, "520");
     EXPECT_EQ(kavetta.entries.speed_lo + kavetta.entries.speed_hi, "");
     EXPECT_EQ(kavetta.entries.pressure_lo + kavetta.entries.pressure_hi, "");
     EXPECT_EQ(person.questions,

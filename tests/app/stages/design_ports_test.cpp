@@ -155,6 +155,29 @@ TEST_F(design_ports_test, goes_on_with_the_outlet_after_a_refused_inlet) {
     EXPECT_TRUE(shows_outline(kavetta.design_view.outlet_portline));
 }
 
+TEST_F(design_ports_test, counts_an_inlet_that_the_outlet_builds_again_with_success) {
+    entries& boxes = kavetta.entries;
+    boxes.metering_groove = "0";
+    boxes.inlet_start_inner = "47.22";
+    boxes.inlet_start_outer = "8.95";
+    boxes.inlet_end_inner = "127.71";
+    boxes.inlet_end_outer = "173.46";
+    boxes.outlet_start_inner = "22.79";
+    boxes.outlet_start_outer = "45.78";
+    boxes.outlet_end_inner = "156.30";
+    boxes.outlet_end_outer = "128.08";
+    boxes.port_radii = "4";
+    const ports_designed done = design_ports(kavetta, person);
+    EXPECT_TRUE(done.inlet && done.outlet);
+    EXPECT_TRUE(done.inlet_rebuilt) << "its own search had run out, and that was told";
+    ASSERT_TRUE(shows_outline(kavetta.design_view.inlet_portline));
+    EXPECT_EQ(kavetta.design_view.inlet_portline.elements.size(),
+              static_cast<std::size_t>(kavetta.port_params.inlet_port_last));
+    person.log.clear();
+    calculate_profiles(kavetta, person);
+    EXPECT_EQ(count("unload perf_res"), 2) << "Calculate Profiles designs the ports again";
+}
+
 TEST_F(design_ports_test, takes_the_groove_lines_away_when_the_groove_is_off) {
     design_ports(kavetta, person);
     set_porting_check(kavetta, &entries::metering_groove, "0");
@@ -200,11 +223,11 @@ TEST_F(design_ports_test, runs_again_after_calculate_profiles_when_an_inlet_is_o
     design_ports(kavetta, person);
     const double old_end_deg = kavetta.port_params.inlet_t2_deg;
     kavetta.entries.inlet_end_inner = "149";
-    kavetta.app_state.view_size = 6000;
+    kavetta.view_state.view_size = 6000;
     ASSERT_EQ(calculate_profiles(kavetta, person), run_end::ok);
     EXPECT_LT(kavetta.port_params.inlet_t2_deg, old_end_deg - 0.5) << "the new entry counts";
     const drawn_line& first = kavetta.design_view.inlet_portline.elements.front();
-    const double scale = kavetta.app_state.view_scale;
+    const double scale = kavetta.view_state.view_scale;
     EXPECT_FLOAT_EQ(first.x1,
                     float(scale * kavetta.port_params.inlet_port_x[0] + 3000.0 + scale * 2.85))
         << "in the new scale";

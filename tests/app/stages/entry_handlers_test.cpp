@@ -1,6 +1,7 @@
 // Tests of what happens when the user leaves an entry.
 #include "app/stages/entry_handlers.hpp"
 
+#include "app/program.hpp"
 #include "core/text_table.hpp"
 #include "support/expect_failure.hpp"
 #include "support/scripted_user.hpp"

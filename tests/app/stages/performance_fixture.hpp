@@ -2,10 +2,10 @@
 #pragma once
 
 #include "app/files/project_commands.hpp"
+#include "app/files/project_fixture.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
-#include "app/files/project_fixture.hpp"
 #include "support/expect_performance.hpp"
 
 #include <filesystem>
@@ -27,11 +27,6 @@ class performance_test : public project_test {
         ASSERT_TRUE(done.inlet && done.outlet);
         ASSERT_TRUE(person.messages.empty());
         person.log.clear();
-    }
-
-    static nlohmann::json reference(const std::string& name) {
-        return nlohmann::json::parse(read_file(std::filesystem::path(KVT_TEST_DATA) / "reference" /
-                                               (name + "_performance.json")));
     }
 };
 

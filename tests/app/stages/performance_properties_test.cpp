@@ -1,5 +1,6 @@
 // What must hold for the performance of every sound design: random rotor pairs with the default
 // ports.
+#include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"

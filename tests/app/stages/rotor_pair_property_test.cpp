@@ -1,5 +1,6 @@
 // Properties that hold for every rotor pair: random designs that Calculate Profiles accepts without
 // a message.
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "base/number_text.hpp"
 #include "geometry/area_ratio.hpp"

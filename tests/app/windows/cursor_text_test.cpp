@@ -1,6 +1,7 @@
 // cursor_text: the place of the mouse in both length units.
 #include "app/windows/cursor_text.hpp"
 
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "support/sample_design.hpp"
 #include "support/scripted_user.hpp"
@@ -15,12 +16,12 @@ class cursor_text_test : public testing::Test {
     void calculate() {
         scripted_user person;
         kavetta.entries = sample_entries();
-        kavetta.app_state.view_size = 6000;
+        kavetta.view_state.view_size = 6000;
         ASSERT_EQ(calculate_profiles(kavetta, person), run_end::ok);
     }
     /// The place of the picture at which a point of the design is drawn.
     std::string text_at(double x_mm, double y_mm) {
-        const app_state& state = kavetta.app_state;
+        const view_state& state = kavetta.view_state;
         return cursor_text(kavetta, state.view_cx + state.view_ecc + x_mm * state.view_scale,
                            state.view_cy - y_mm * state.view_scale);
     }
@@ -46,7 +47,7 @@ TEST_F(cursor_text_test, has_four_decimals_in_inches) {
 
 TEST_F(cursor_text_test, is_empty_for_a_place_beyond_any_number) {
     calculate();
-    kavetta.app_state.view_scale = 1e-300;
+    kavetta.view_state.view_scale = 1e-300;
     EXPECT_EQ(cursor_text(kavetta, 1e300, 0.0), "");
 }
 

@@ -2,6 +2,7 @@
 #include "app/windows/view_commands.hpp"
 
 #include "app/files/project_reset.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
 #include "support/sample_design.hpp"
@@ -33,19 +34,19 @@ class view_commands_test : public testing::Test {
 TEST_F(view_commands_test, a_drag_zooms_with_a_busy_pointer) {
     calculate();
     drag(500.0, 500.0, 2000.0, 2000.0);
-    EXPECT_EQ(kavetta.app_state.view_zoom, 2.0);
-    EXPECT_EQ(kavetta.app_state.view_cx, 2000.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 2.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, 2000.0);
     EXPECT_EQ(kavetta.design_view.Picture1.back().x, 2000.0);
     EXPECT_EQ(person.log, (std::vector<std::string>{"busy", "not busy"}));
 }
 
 TEST_F(view_commands_test, a_second_zoom_goes_on_from_the_first) {
     calculate();
-    const double scale = kavetta.app_state.view_scale;
+    const double scale = kavetta.view_state.view_scale;
     drag(500.0, 500.0, 2000.0, 2000.0);
     drag(0.0, 0.0, 1000.0, 500.0);
-    EXPECT_EQ(kavetta.app_state.view_scale, scale * 2.0 * 3.0);
-    EXPECT_EQ(kavetta.app_state.view_cx, 6000.0);
+    EXPECT_EQ(kavetta.view_state.view_scale, scale * 2.0 * 3.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, 6000.0);
 }
 
 TEST_F(view_commands_test, a_click_changes_nothing) {
@@ -53,7 +54,7 @@ TEST_F(view_commands_test, a_click_changes_nothing) {
     const design_view before = kavetta.design_view;
     drag(700.0, 700.0, 700.0, 700.0);
     EXPECT_EQ(kavetta.design_view.Line1.elements, before.Line1.elements);
-    EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
 }
 
 TEST_F(view_commands_test, a_zoom_keeps_the_angle_and_zoom_all_turns_back) {
@@ -62,15 +63,15 @@ TEST_F(view_commands_test, a_zoom_keeps_the_angle_and_zoom_all_turns_back) {
     take_typed_angle(kavetta);
     drag(500.0, 500.0, 2000.0, 2000.0);
     design_view zoomed = kavetta.design_view;
-    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.app_state,
+    redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.view_state,
                    kavetta.design_view);
     EXPECT_EQ(kavetta.design_view.Line1.elements, zoomed.Line1.elements);
-    EXPECT_EQ(kavetta.app_state.rotation_angle, 30.0);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 30.0);
     zoom_all(kavetta, person);
-    EXPECT_EQ(kavetta.app_state.rotation_angle, 0.0);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 0.0);
     EXPECT_EQ(kavetta.entries.rotated_angle, "0");
-    EXPECT_EQ(kavetta.app_state.view_zoom, 1.0);
-    EXPECT_EQ(kavetta.app_state.view_cx, 1500.0);
+    EXPECT_EQ(kavetta.view_state.view_zoom, 1.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, 1500.0);
 }
 
 TEST_F(view_commands_test, zoom_all_keeps_results_and_enablings) {
@@ -122,13 +123,13 @@ TEST_F(view_commands_test, ticks_and_the_typed_angle_show_the_angle_taken) {
 
 TEST_F(view_commands_test, nothing_happens_with_nothing_drawn) {
     const auto expect_nothing = [this] {
-        const app_state before = kavetta.app_state;
+        const view_state before = kavetta.view_state;
         kavetta.entries.rotated_angle = "45";
         drag(500.0, 500.0, 2000.0, 2000.0);
         rotation_tick(kavetta, turning::clockwise);
         take_typed_angle(kavetta);
-        EXPECT_EQ(kavetta.app_state.view_scale, before.view_scale);
-        EXPECT_EQ(kavetta.app_state.rotation_angle, before.rotation_angle);
+        EXPECT_EQ(kavetta.view_state.view_scale, before.view_scale);
+        EXPECT_EQ(kavetta.view_state.rotation_angle, before.rotation_angle);
         EXPECT_EQ(kavetta.entries.rotated_angle, "45");
         EXPECT_FALSE(kavetta.design_view.Line1.element0_visible);
         EXPECT_FALSE(kavetta.design_view.Line3.visible);
@@ -148,11 +149,11 @@ TEST_F(view_commands_test, a_resize_changes_only_the_next_drawing) {
     calculate();
     const design_view before = kavetta.design_view;
     resize_design_view(kavetta, 7185.0);
-    EXPECT_EQ(kavetta.app_state.view_size, 6000);
+    EXPECT_EQ(kavetta.view_state.view_size, 6000);
     EXPECT_EQ(kavetta.design_view.Line1.elements, before.Line1.elements);
     zoom_all(kavetta, person);
-    EXPECT_EQ(kavetta.app_state.view_cx, 3000.0);
-    EXPECT_EQ(kavetta.app_state.view_scale, 6000.0 * 0.95 / 52.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, 3000.0);
+    EXPECT_EQ(kavetta.view_state.view_scale, 6000.0 * 0.95 / 52.0);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ class cnc_goldens : public testing::TestWithParam<golden_design> {};
 
 TEST_P(cnc_goldens, are_written_byte_by_byte) {
     const program kavetta = calculated(GetParam());
-    for (const cnc_file& file : cnc_files()) {
+    for (const written_file& file : files_of(file_group::cnc)) {
         expect_golden(std::string(GetParam().name) + "/" + std::string(file.name) + ".cnc",
                       cnc_bytes(kavetta, file.name));
     }
@@ -60,7 +60,7 @@ TEST_P(cnc_goldens, are_written_byte_by_byte) {
 TEST_P(cnc_goldens, have_the_same_numbers_below_german_heads) {
     program kavetta = calculated(GetParam());
     std::string heads;
-    for (const cnc_file& file : cnc_files()) {
+    for (const written_file& file : files_of(file_group::cnc)) {
         kavetta.app_state.language = ENGLISH;
         const std::string english = cnc_bytes(kavetta, file.name);
         kavetta.app_state.language = GERMAN;

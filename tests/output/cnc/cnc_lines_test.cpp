@@ -19,37 +19,37 @@ struct cnc_records {
     entries boxes;
     cnc_choices choices{.cnc_res_digits = 3};
     std::int16_t language = ENGLISH;
-    bool inches = false;
+    std::int16_t unit = MILLIMETRES;
 
-    cnc_source source() const {
-        return {design, rotors, ports, boxes, choices, "pump", language, inches};
+    file_source source() const {
+        return {design, rotors, ports, boxes, choices, "pump", language, length_unit_of(unit)};
     }
 };
 
 template <typename writing>
 std::string written(const cnc_records& records, const writing& write) {
     text_lines text;
-    const cnc_source source = records.source();
+    const file_source source = records.source();
     cnc_lines lines(text, source);
     write(lines, source);
     return text.bytes();
 }
 
 std::string rotor_head(const cnc_records& records, const rotor_preamble& head) {
-    return written(records, [&](cnc_lines& lines, const cnc_source& source) {
+    return written(records, [&](cnc_lines& lines, const file_source& source) {
         add_rotor_preamble(lines, source, head);
     });
 }
 
 std::string port_head(const cnc_records& records, const port_preamble& head) {
-    return written(records, [&](cnc_lines& lines, const cnc_source& source) {
+    return written(records, [&](cnc_lines& lines, const file_source& source) {
         add_port_preamble(lines, source, head);
     });
 }
 
 std::string section_head(const cnc_records& records, port_side side, port_section section,
                          section_file file) {
-    return written(records, [&](cnc_lines& lines, const cnc_source& source) {
+    return written(records, [&](cnc_lines& lines, const file_source& source) {
         add_section_head(lines, source, side, section, file);
     });
 }
@@ -58,7 +58,7 @@ std::string section_head(const cnc_records& records, port_side side, port_sectio
 
 TEST(cnc_lines, have_words_without_blanks) {
     EXPECT_EQ(written({},
-                      [](cnc_lines& lines, const cnc_source&) {
+                      [](cnc_lines& lines, const file_source&) {
                           lines.xy(point2{1.5, -2.25});
                           lines.feed_g01({0.0, -0.0001});
                           lines.arc_cw_g02({1.0, 2.0}, 7.5);
@@ -74,9 +74,9 @@ TEST(cnc_lines, have_words_without_blanks) {
 
 TEST(cnc_lines, divide_lengths_but_no_angles_in_inches) {
     cnc_records records;
-    records.inches = true;
+    records.unit = INCHES;
     EXPECT_EQ(written(records,
-                      [](cnc_lines& lines, const cnc_source&) {
+                      [](cnc_lines& lines, const file_source&) {
                           lines.arc_cw_g02({25.4, -12.7}, 2.54);
                           lines.lathe_feed_g01(25.4, 90.0);
                       }),
@@ -86,7 +86,7 @@ TEST(cnc_lines, divide_lengths_but_no_angles_in_inches) {
 
 TEST(cnc_lines, turn_points_into_lathe_lines_by_their_quadrant) {
     EXPECT_EQ(written({},
-                      [](cnc_lines& lines, const cnc_source&) {
+                      [](cnc_lines& lines, const file_source&) {
                           add_lathe_line(lines, {3.0, 4.0});
                           add_lathe_line(lines, {-3.0, 4.0});
                           add_lathe_line(lines, {-3.0, -4.0});
@@ -101,7 +101,7 @@ TEST(cnc_lines, turn_points_into_lathe_lines_by_their_quadrant) {
               "G01X5.000C0.000\r\n"
               "G01X5.000C0.000\r\n");
     EXPECT_FAILURE(written({},
-                           [](cnc_lines& lines, const cnc_source&) {
+                           [](cnc_lines& lines, const file_source&) {
                                add_lathe_line(lines, {0.0, 5.0});
                            }),
                    failure::division_by_zero);
@@ -120,7 +120,7 @@ TEST(cnc_preamble, tells_what_a_rotor_file_holds) {
         "//inner rotor (centre of drive shaft).//\r\n"
         "//The coordinates in this file are in MM.//\r\n"
         "//Cutter side checked for every point.//\r\n");
-    records.inches = true;
+    records.unit = INCHES;
     EXPECT_EQ(rotor_head(records, {.content = "outer_lathe", .outer = true, .lathe = true}),
               "//This file contains the X&C G-Code coordinates for the outer//\r\n"
               "//rotor of project: pump.//\r\n"
@@ -207,7 +207,7 @@ TEST(port_sections, have_heads_by_kind_and_file) {
     EXPECT_EQ(
         section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::gcode),
         "//Section 2: Metering groove profile//\r\n");
-    records.inches = true;
+    records.unit = INCHES;
     EXPECT_EQ(
         section_head(records, port_side::outlet, {section_kind::groove, 2}, section_file::pocket),
         "//Section 2: Metering groove//\r\n"

@@ -2,6 +2,7 @@
 #include "output/cnc/port_cnc.hpp"
 
 #include "core/app_state.hpp"
+#include "output/cnc/contour_gap.hpp"
 #include "output/cnc/port_gcode.hpp"
 #include "ports/build_ports.hpp"
 #include "ports/metering_groove.hpp"
@@ -9,6 +10,7 @@
 #include "support/expect_failure.hpp"
 #include "support/port_design.hpp"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace kvt {
@@ -27,12 +29,11 @@ struct port_files {
         build_metering_groove(work);
     }
 
-    std::vector<cnc_section> sections(void (*write)(const cnc_source&, port_side, text_lines&),
+    std::vector<cnc_section> sections(void (*write)(const file_source&, port_side, text_lines&),
                                       port_side side) const {
         text_lines text;
-        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump", ENGLISH,
-               false},
-              side, text);
+        write({tested.design, tested.rotors, tested.ports, tested.boxes, choices, "pump"}, side,
+              text);
         return cnc_reader(text.bytes(), choices.cnc_res_digits).sections();
     }
 };
@@ -142,14 +143,14 @@ TEST(port_gcode, has_arcs_by_the_sense_of_the_outline) {
 TEST(port_gcode, leaves_out_fillets_of_radius_0) {
     const port_files files("0");
     EXPECT_EQ(port_moves(files.tested.ports, port_side::inlet, false).moves.size(), 4U);
-    EXPECT_EQ(groove_moves(files.tested.ports, files.tested.design).moves.size(), 6U);
+    EXPECT_EQ(groove_moves(files.tested.ports).moves.size(), 6U);
 }
 
 TEST(port_gcode, has_a_nose_line_where_the_groove_is_wider_than_its_corners) {
     const port_files round("1.5");  // the nose is a half circle: 1.5 mm wide, corners 0.75
-    EXPECT_EQ(groove_moves(round.tested.ports, round.tested.design).moves.size(), 7U);
+    EXPECT_EQ(groove_moves(round.tested.ports).moves.size(), 7U);
     const port_files flat("0.3");
-    const tool_contour contour = groove_moves(flat.tested.ports, flat.tested.design);
+    const tool_contour contour = groove_moves(flat.tested.ports);
     ASSERT_EQ(contour.moves.size(), 8U);
     EXPECT_EQ(contour.moves[2].kind, move_kind::line_g01);
     EXPECT_EQ(contour.moves[1].radius, 0.3);
@@ -157,7 +158,7 @@ TEST(port_gcode, has_a_nose_line_where_the_groove_is_wider_than_its_corners) {
 }
 
 TEST(port_gcode, fails_without_a_groove) {
-    EXPECT_FAILURE(groove_moves({}, {}), failure::subscript_out_of_range);
+    EXPECT_FAILURE(groove_moves({}), failure::subscript_out_of_range);
 }
 
 TEST(port_cnc, leaves_out_the_groove_pocket_without_a_tool_for_it) {
@@ -168,6 +169,76 @@ TEST(port_cnc, leaves_out_the_groove_pocket_without_a_tool_for_it) {
     ASSERT_EQ(sections.size(), 1U);
     EXPECT_EQ(sections[0].comments[6], "//This file contains 1 sections.//");
     EXPECT_EQ(files.sections(write_port_xy, port_side::outlet).size(), 2U);
+}
+
+TEST(port_cnc, leaves_out_a_groove_that_was_refused) {
+    port_files files;
+    files.tested.boxes.groove_length = "200";
+    port_work work = files.tested.work();
+    ASSERT_EQ(build_metering_groove(work), port_end::refused);
+    ASSERT_GT(files.tested.ports.groove_last, 0) << "the outline of the earlier groove stands";
+    for (const auto write : {write_port_xy, write_port_pocket, write_port_gcode}) {
+        const std::vector<cnc_section> sections = files.sections(write, port_side::outlet);
+        ASSERT_EQ(sections.size(), 1U);
+        EXPECT_EQ(sections[0].comments[6], "//This file contains 1 sections.//");
+    }
+}
+
+TEST(port_cnc, follows_each_outline_as_it_was_built) {
+    // The radius fits the inlet; the outlet goes back to sharp corners without building the inlet
+    // again.
+    port_files files("0");
+    port_design& tested = files.tested;
+    tested.boxes.port_radii = "2.5";
+    tested.boxes.Outlet_outer_radius = "20";
+    port_work work = tested.work();
+    ASSERT_EQ(build_inlet_port(work), port_end::finished);
+    ASSERT_EQ(build_outlet_port(work), port_end::finished);
+    ASSERT_EQ(tested.ports.port_radius, 0.0);
+    EXPECT_EQ(port_moves(tested.ports, port_side::inlet, false).moves.size(), 8U);
+    EXPECT_EQ(port_moves(tested.ports, port_side::outlet, false).moves.size(), 4U);
+    expect_same_paths(files, port_side::inlet);
+    expect_same_paths(files, port_side::outlet);
+}
+
+TEST(port_cnc, keeps_an_outline_and_its_codes_together_after_a_refusal) {
+    port_files files;
+    port_design& tested = files.tested;
+    tested.boxes.inlet_start_inner = "20";
+    tested.boxes.inlet_inner_radius = "15";
+    tested.boxes.inlet_end_inner = "190";
+    tested.boxes.inlet_end_outer = "188";
+    port_work work = tested.work();
+    ASSERT_EQ(build_inlet_port(work), port_end::refused);
+    ASSERT_EQ(tested.ports.inlet_inner_r, 15.0);
+    EXPECT_EQ(tested.ports.inlet_built.R, 14.5);
+    expect_same_paths(files, port_side::inlet);
+}
+
+TEST(contour_gap, is_that_of_the_worst_point) {
+    // A square of 10 mm, cut as a square, with one side 0.5 mm too far out, and with an arc that
+    // does not reach its end.
+    const std::vector<point2> square = {{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}};
+    const auto line = [](point2 end) { return tool_move{move_kind::line_g01, end, 0.0}; };
+    tool_contour contour{{0, 0}, {line({10, 0}), line({10, 10}), line({0, 10}), line({0, 0})}};
+    EXPECT_EQ(contour_gap(contour, square), 0.0);
+    contour.moves[1] = line({10, 10.5});
+    EXPECT_NEAR(contour_gap(contour, square), 0.5, 1e-12);
+    contour.moves[1] = {move_kind::clockwise_g02, {10, 10}, 4.9};
+    EXPECT_TRUE(std::isinf(contour_gap(contour, square)));
+    contour.moves[1] = {move_kind::clockwise_g02, {10, 10}, 5.0};
+    EXPECT_NEAR(contour_gap(contour, square), 5.0, 1e-6) << "half a circle into the square";
+}
+
+TEST(port_gcode_gap, is_small_for_sound_ports_and_tells_codes_that_leave_their_outline) {
+    port_files files;
+    const file_source source{files.tested.design, files.tested.rotors, files.tested.ports,
+                             files.tested.boxes,  files.choices,       "pump"};
+    EXPECT_LT(port_gcode_gap(source, port_side::inlet), CONTOUR_TOLERANCE_MM);
+    EXPECT_LT(port_gcode_gap(source, port_side::outlet), CONTOUR_TOLERANCE_MM);
+    files.tested.ports.inlet_built.f = 0.0;
+    EXPECT_GT(port_gcode_gap(source, port_side::inlet), 1.0);
+    EXPECT_LT(port_gcode_gap(source, port_side::outlet), CONTOUR_TOLERANCE_MM);
 }
 
 }  // namespace kvt

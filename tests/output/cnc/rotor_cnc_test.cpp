@@ -17,14 +17,14 @@ struct rotor_files {
     port_params ports;
     entries boxes = sample_entries();
     cnc_choices choices{.cnc_res_digits = 3, .tool_diameter = 2.0};
-    bool inches = false;
+    std::int16_t unit = MILLIMETRES;
 
-    std::string bytes(void (*write)(const cnc_source&, text_lines&)) const {
+    std::string bytes(void (*write)(const file_source&, text_lines&)) const {
         text_lines text;
-        write({design, rotors, ports, boxes, choices, "pump", ENGLISH, inches}, text);
+        write({design, rotors, ports, boxes, choices, "pump", ENGLISH, length_unit_of(unit)}, text);
         return text.bytes();
     }
-    std::vector<cnc_move> moves(void (*write)(const cnc_source&, text_lines&)) const {
+    std::vector<cnc_move> moves(void (*write)(const file_source&, text_lines&)) const {
         return cnc_reader(bytes(write), choices.cnc_res_digits).sections().at(0).moves;
     }
 };
@@ -94,7 +94,7 @@ TEST(rotor_cnc, walks_the_same_way_in_codes_and_in_points) {
 TEST(rotor_cnc, ends_the_codes_with_four_decimals_always) {
     rotor_files files;
     files.choices.cnc_res_digits = 6;
-    files.inches = true;
+    files.unit = INCHES;
     const std::string bytes = files.bytes(write_outer_gcode);
     EXPECT_TRUE(bytes.ends_with("\r\nG01X0.0000Y0.0000\r\n"));
     // The entries are inches: the radius of the lobes comes out as it was typed.
@@ -122,8 +122,8 @@ TEST(rotor_cnc, leaves_what_it_wrote_until_a_failure) {
     rotor_files files;
     files.rotors.inner_x[2] = 0.0;
     text_lines text;
-    const cnc_source source{files.design,  files.rotors, files.ports, files.boxes,
-                            files.choices, "pump",       ENGLISH,     false};
+    const file_source source{files.design, files.rotors,  files.ports,
+                             files.boxes,  files.choices, "pump"};
     EXPECT_FAILURE(write_inner_lathe(source, text), failure::division_by_zero);
     const std::vector<cnc_section> sections = cnc_reader(text.bytes(), 3).sections();
     ASSERT_EQ(sections.size(), 1U);

@@ -11,12 +11,15 @@
 namespace kvt {
 namespace {
 
+const length_unit& MM = length_unit_of(MILLIMETRES);
+const length_unit& IN = length_unit_of(INCHES);
+
 TEST(dxf, is_written_line_by_line) {
     port_params ports;
     ports.inlet_port_x[0] = 1.5;
     ports.inlet_port_y[0] = -2.25;
     text_lines out;
-    write_dxf_inlet_port(out, ports, false);
+    write_dxf_inlet_port(out, ports, MM);
     const std::string layer_end = "\r\n 70\r\n64\r\n 62\r\n30\r\n 6\r\nCONTINUOUS\r\n";
     const std::string vertex =
         "VERTEX\r\n 8\r\nLINELAYER\r\n 10\r\n1.500000\r\n 20\r\n-2.250000\r\n 30\r\n0.000000\r\n "
@@ -40,7 +43,7 @@ TEST(dxf, is_written_line_by_line) {
 TEST(dxf_of_the_inner_rotor, repeats_its_first_point_at_the_end) {
     const rotor_profiles rotors = inner_rotor_of(sample_design());
     text_lines out;
-    write_dxf_inner_rotor(out, rotors, false);
+    write_dxf_inner_rotor(out, rotors, MM);
     const dxf_content read = read_dxf(out.bytes());
     EXPECT_EQ(read.sections, (std::vector<std::string>{"HEADER", "TABLES", "BLOCKS", "ENTITIES"}));
     EXPECT_EQ(read.polylines, 1);
@@ -58,7 +61,7 @@ TEST(dxf_of_the_inner_rotor, is_divided_before_it_is_rounded_in_inches) {
     rotors.inner_x[0] = 25.4;
     rotors.inner_y[0] = -10.0;
     text_lines out;
-    write_dxf_inner_rotor(out, rotors, true);
+    write_dxf_inner_rotor(out, rotors, IN);
     EXPECT_EQ(read_dxf(out.bytes()).number_texts,
               (std::vector<std::string>{"1.000000", "-0.393701", "1.000000", "-0.393701"}));
 }
@@ -111,32 +114,32 @@ struct small_outline : testing::Test {
 
 TEST_F(small_outline, is_written_to_its_last_point_and_closed_once_more) {
     set({{1, 2}, {3, 4}, {5, -6}, {1, 2}});
-    write_dxf_outlet_port(out, ports, false);
+    write_dxf_outlet_port(out, ports, MM);
     EXPECT_EQ(vertices(), (std::vector<point2>{{1, 2}, {3, 4}, {5, -6}, {1, 2}, {1, 2}}));
 }
 
 TEST_F(small_outline, of_a_port_ends_before_an_x_of_exactly_0) {
     set({{1, 2}, {3, 4}, {0, 7}, {5, -6}, {1, 2}});
-    write_dxf_outlet_port(out, ports, false);
+    write_dxf_outlet_port(out, ports, MM);
     EXPECT_EQ(vertices(), (std::vector<point2>{{1, 2}, {3, 4}, {1, 2}}));
 }
 
 TEST_F(small_outline, of_a_port_never_goes_beyond_its_last_index) {
     set({{1, 2}, {3, 4}, {1, 2}});
     ports.outlet_port_x[3] = 99.0;  // of an older, longer outline
-    write_dxf_outlet_port(out, ports, false);
+    write_dxf_outlet_port(out, ports, MM);
     EXPECT_EQ(vertices().size(), 4U);
 }
 
 TEST_F(small_outline, of_a_groove_goes_through_an_x_of_0) {
     set({{1, 2}, {0, 7}, {5, -6}, {1, 2}});
-    write_dxf_metering_groove(out, ports, false);
+    write_dxf_metering_groove(out, ports, MM);
     EXPECT_EQ(vertices(), (std::vector<point2>{{1, 2}, {0, 7}, {5, -6}, {1, 2}, {1, 2}}));
 }
 
 TEST_F(small_outline, in_inches_is_rounded_in_millimetres_first) {
     set({{2.54, -12.7}, {1.23456789, 1e-5}, {25.4, 3}});
-    write_dxf_outlet_port(out, ports, true);
+    write_dxf_outlet_port(out, ports, IN);
     const std::vector<std::string> numbers = read_dxf(out.bytes()).number_texts;
     EXPECT_EQ(numbers[0], "0.1");
     EXPECT_EQ(numbers[1], "-0.5");
@@ -146,7 +149,7 @@ TEST_F(small_outline, in_inches_is_rounded_in_millimetres_first) {
 }
 
 TEST_F(small_outline, of_a_port_never_designed_is_the_closing_vertex_only) {
-    write_dxf_inlet_port(out, ports, false);
+    write_dxf_inlet_port(out, ports, MM);
     EXPECT_EQ(vertices(), (std::vector<point2>{{0, 0}}));
 }
 

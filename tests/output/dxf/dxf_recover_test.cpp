@@ -1,6 +1,5 @@
 // DXF files through an independent reader: no errors, nothing to fix, one polyline with the right
 // vertices.
-#include "app/files/dxf_output.hpp"
 #include "base/constants.hpp"
 #include "support/cnc_design.hpp"
 #include "support/dxf_reader.hpp"
@@ -50,12 +49,11 @@ TEST_P(dxf_recover, finds_no_errors_and_the_polyline_of_each_file) {
     const temporary_folder folder;
     std::vector<std::string> paths;
     std::vector<dxf_content> written;
-    for (const dxf_file file : DXF_FILES) {
-        text_lines text;
-        append_dxf_file(text, file, kavetta);
-        paths.push_back(folder.file(std::string(dxf_file_name(file)) + ".dxf"));
-        write_file(paths.back(), text.bytes());
-        written.push_back(read_dxf(text.bytes()));
+    for (const written_file& file : files_of(file_group::dxf)) {
+        const std::string bytes = dxf_bytes(kavetta, file.name);
+        paths.push_back(folder.file(file_name(file)));
+        write_file(paths.back(), bytes);
+        written.push_back(read_dxf(bytes));
     }
     const std::vector<recovered_file> files = recovered(paths, folder);
     ASSERT_EQ(files.size(), paths.size());

@@ -1,7 +1,6 @@
 // STEP files through an independent reader, a solid-modelling kernel, with its repair switched off:
 // every body is one valid closed solid, right side out, of the right size. One file only: the
 // kernel's headers compile slowly.
-#include "app/files/step_output.hpp"
 #include "output/step/step_files.hpp"
 #include "output/step/step_ports.hpp"
 #include "output/step/step_rotors.hpp"
@@ -293,12 +292,6 @@ void expect_outer(const program& kavetta, const TopoDS_Solid& solid) {
     EXPECT_NEAR(volume_of(solid), volume, 2.0 * TOLERANCE * volume);
 }
 
-std::string bytes_of(const program& kavetta, step_file file) {
-    text_lines text;
-    append_step_file(text, file, kavetta, "pump.stp");
-    return text.bytes();
-}
-
 /// A name of tests/data/designs, or "random" for one that is drawn.
 class kernel_reads : public testing::TestWithParam<const char*> {
   protected:
@@ -312,7 +305,7 @@ class kernel_reads : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(kernel_reads, the_inner_rotor_as_a_closed_solid) {
-    const auto solids = solids_of(bytes_of(kavetta, step_file::inner));
+    const auto solids = solids_of(step_bytes(kavetta, "inner"));
     ASSERT_EQ(solids.size(), 1U);
     const std::vector<point2> profile = inner_rotor_contour(kavetta.rotor_profiles);
     expect_prism(solids[0], profile, 0.0, kavetta.design_params.thick);
@@ -321,7 +314,7 @@ TEST_P(kernel_reads, the_inner_rotor_as_a_closed_solid) {
 }
 
 TEST_P(kernel_reads, the_outer_rotor_as_a_closed_solid) {
-    const auto solids = solids_of(bytes_of(kavetta, step_file::outer));
+    const auto solids = solids_of(step_bytes(kavetta, "outer"));
     ASSERT_EQ(solids.size(), 1U);
     const std::vector<point2> profile = outer_rotor_contour(kavetta.rotor_profiles);
     expect_outer(kavetta, solids[0]);
@@ -330,7 +323,7 @@ TEST_P(kernel_reads, the_outer_rotor_as_a_closed_solid) {
 }
 
 TEST_P(kernel_reads, every_port_body_as_a_closed_solid) {
-    const auto solids = solids_of(bytes_of(kavetta, step_file::ports));
+    const auto solids = solids_of(step_bytes(kavetta, "ports"));
     std::size_t at = 0;
     for (const step_port port : STEP_PORTS) {
         const auto body =
@@ -352,7 +345,7 @@ INSTANTIATE_TEST_SUITE_P(designs, kernel_reads,
 
 TEST(kernel_reads_assembly, as_two_solids_that_mesh) {
     const program kavetta = design_with_ports("n07_engine_oil_groove");
-    const auto solids = solids_of(bytes_of(kavetta, step_file::assembly));
+    const auto solids = solids_of(step_bytes(kavetta, "assembly"));
     ASSERT_EQ(solids.size(), 2U);
     expect_prism(solids[0], inner_rotor_contour(kavetta.rotor_profiles), 0.0,
                  kavetta.design_params.thick);
@@ -361,10 +354,10 @@ TEST(kernel_reads_assembly, as_two_solids_that_mesh) {
 
 TEST(kernel_reads_exchange_files, as_single_solids) {
     const program kavetta = design_with_ports("n07_engine_oil_groove");
-    for (const step_file file : GT_STEP_FILES) {
-        const auto solids = solids_of(bytes_of(kavetta, file));
-        ASSERT_EQ(solids.size(), 1U) << step_file_name(file);
-        expect_closed(solids[0], file == step_file::gt_outer ? 6 : 4);
+    for (const written_file& file : files_of(file_group::gt)) {
+        const auto solids = solids_of(file_bytes(kavetta, file.group, file.name, "pump.stp"));
+        ASSERT_EQ(solids.size(), 1U) << file.name;
+        expect_closed(solids[0], file.name == "outer_rotor_GT" ? 6 : 4);
         EXPECT_GT(volume_of(solids[0]), 0.0);
     }
 }

@@ -1,4 +1,5 @@
 // Form1: typing a design, Calculate Profiles, units, languages.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QComboBox>

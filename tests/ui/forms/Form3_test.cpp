@@ -61,9 +61,9 @@ TEST_F(Form3_test, shows_the_files_of_rotors_and_ports) {
               "Inner Rotor, X/Y Co-ords - for specified tool size, side checked");
     EXPECT_EQ(utf8_text(part<QPushButton>("okbutton").text()), "OK");
     EXPECT_EQ(utf8_text(part<QLabel>("toolunits").text()), "mm");
-    for (const cnc_file& file : cnc_files()) {
-        EXPECT_FALSE(part<QCheckBox>(std::string(file.checkbox).c_str()).isChecked())
-            << file.checkbox;
+    for (const written_file& file : files_of(file_group::cnc)) {
+        EXPECT_FALSE(part<QCheckBox>(std::string(file.control).c_str()).isChecked())
+            << file.control;
     }
     EXPECT_EQ(part<QComboBox>("machine_res_combo").count(), 5);
     EXPECT_EQ(part<QComboBox>("machine_res_combo").currentText(), "");

@@ -1,4 +1,5 @@
 // Perffrm: calculating the performance, refusals, units, languages, keys.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QComboBox>

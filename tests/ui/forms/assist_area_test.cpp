@@ -1,5 +1,6 @@
 // assist_area: the switch of the Design assist, its colours and frame lines, and the run behind its
 // button.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QFrame>

@@ -1,4 +1,5 @@
 // explain and port_explain: pictures, titles, the flags that the screen layout reads.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QImage>

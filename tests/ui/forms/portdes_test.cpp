@@ -1,4 +1,5 @@
 // portdes: designing and clearing ports, the check boxes, units, languages, keys.
+#include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "views/port_lines.hpp"

@@ -1,6 +1,7 @@
 // progressfrm: the progress of long work.
 #include "ui/forms/progressfrm.hpp"
 
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QProgressBar>

@@ -1,4 +1,5 @@
 // select_graphs: ticking the results to draw.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QCheckBox>

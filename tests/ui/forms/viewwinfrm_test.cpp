@@ -1,4 +1,5 @@
 // viewwinfrm: the resize rule, the picture, zoom, Zoom All, rotation.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QMdiArea>
@@ -16,7 +17,7 @@ class viewwinfrm_test : public desktop_test {
     QSize picture() { return find<QWidget>("Picture1")->size(); }
     QWidget* sheet() { return find<QWidget>("Picture1"); }
     QTimer* timer(const char* name) { return find<QTimer>(name); }
-    double angle() { return kavetta().app_state.rotation_angle; }
+    double angle() { return kavetta().view_state.rotation_angle; }
 
     void calculate() {
         start(design_file("n07_engine_oil_groove"));
@@ -61,7 +62,7 @@ TEST_F(viewwinfrm_test, stands_in_its_place_of_the_default_layout) {
     start();
     EXPECT_EQ(form()->geometry(), QRect(600, 0, 426, 479));
     EXPECT_EQ(picture(), QSize(400, 400));
-    EXPECT_EQ(kavetta().app_state.view_size, 6000);
+    EXPECT_EQ(kavetta().view_state.view_size, 6000);
 }
 
 TEST_F(viewwinfrm_test, width_follows_height) {
@@ -69,7 +70,7 @@ TEST_F(viewwinfrm_test, width_follows_height) {
     form()->resize(900, 379);
     EXPECT_EQ(form()->size(), QSize(326, 379));
     EXPECT_EQ(picture(), QSize(300, 300));
-    EXPECT_EQ(kavetta().app_state.view_size, 4500);
+    EXPECT_EQ(kavetta().view_state.view_size, 4500);
 }
 
 TEST_F(viewwinfrm_test, a_drag_of_the_width_alone_snaps_back) {
@@ -136,11 +137,11 @@ TEST_F(viewwinfrm_test, closing_hides_it_and_keeps_its_drawing) {
 
 TEST_F(viewwinfrm_test, a_drag_zooms_so_that_its_larger_side_fills_the_picture) {
     calculate();
-    const double scale = kavetta().app_state.view_scale;
+    const double scale = kavetta().view_state.view_scale;
     drag({300, 150}, {350, 250});
-    EXPECT_EQ(kavetta().app_state.view_zoom, 4.0);  // 400 pixels / 100
-    EXPECT_EQ(kavetta().app_state.view_scale, 4.0 * scale);
-    EXPECT_EQ(kavetta().app_state.view_cx, (3000.0 - 4500.0) * 4.0);
+    EXPECT_EQ(kavetta().view_state.view_zoom, 4.0);  // 400 pixels / 100
+    EXPECT_EQ(kavetta().view_state.view_scale, 4.0 * scale);
+    EXPECT_EQ(kavetta().view_state.view_cx, (3000.0 - 4500.0) * 4.0);
     EXPECT_TRUE(kavetta().design_view.Shape1.visible);
     EXPECT_FALSE(kavetta().design_view.Line3.visible);
 }
@@ -148,11 +149,11 @@ TEST_F(viewwinfrm_test, a_drag_zooms_so_that_its_larger_side_fills_the_picture) 
 TEST_F(viewwinfrm_test, a_drag_to_the_upper_left_with_another_button_zooms_to_the_same_band) {
     calculate();
     drag({300, 150}, {350, 250});
-    const double cx = kavetta().app_state.view_cx;
+    const double cx = kavetta().view_state.view_cx;
     press("zoom_all_command");
     drag({350, 250}, {300, 150}, Qt::RightButton);
-    EXPECT_EQ(kavetta().app_state.view_zoom, 4.0);
-    EXPECT_EQ(kavetta().app_state.view_cx, cx);
+    EXPECT_EQ(kavetta().view_state.view_zoom, 4.0);
+    EXPECT_EQ(kavetta().view_state.view_cx, cx);
 }
 
 TEST_F(viewwinfrm_test, shows_a_dotted_band_while_the_mouse_is_held) {
@@ -173,17 +174,17 @@ TEST_F(viewwinfrm_test, shows_a_dotted_band_while_the_mouse_is_held) {
 
 TEST_F(viewwinfrm_test, a_click_without_a_drag_changes_nothing) {
     calculate();
-    const double scale = kavetta().app_state.view_scale;
+    const double scale = kavetta().view_state.view_scale;
     drag({200, 100}, {200, 100});
     drag({200, 100}, {260, 100});
-    EXPECT_EQ(kavetta().app_state.view_scale, scale);
+    EXPECT_EQ(kavetta().view_state.view_scale, scale);
 }
 
 TEST_F(viewwinfrm_test, a_drag_may_end_outside_the_picture) {
     calculate();
-    const double scale = kavetta().app_state.view_scale;
+    const double scale = kavetta().view_state.view_scale;
     drag({100, 100}, {600, -400});
-    EXPECT_EQ(kavetta().app_state.view_scale, scale * 0.8);  // 400 / 500
+    EXPECT_EQ(kavetta().view_state.view_scale, scale * 0.8);  // 400 / 500
     drag({100, 100}, {90000, 90000});
     EXPECT_FALSE(desk().runner().has_ended());
 }
@@ -192,7 +193,7 @@ TEST_F(viewwinfrm_test, before_anything_is_drawn_neither_mouse_nor_angle_do_anyt
     start();
     drag({100, 100}, {200, 200});
     type_angle("30");
-    EXPECT_EQ(kavetta().app_state.view_zoom, 0.0);
+    EXPECT_EQ(kavetta().view_state.view_zoom, 0.0);
     EXPECT_EQ(angle(), 0.0);
     EXPECT_FALSE(find<QWidget>("rotate_rotors_cw")->isEnabled());
     EXPECT_FALSE(find<QWidget>("rotate_rotors_ccw")->isEnabled());
@@ -200,11 +201,11 @@ TEST_F(viewwinfrm_test, before_anything_is_drawn_neither_mouse_nor_angle_do_anyt
 
 TEST_F(viewwinfrm_test, zoom_all_brings_the_whole_pair_back_and_turns_it_to_zero) {
     calculate();
-    const double scale = kavetta().app_state.view_scale;
+    const double scale = kavetta().view_state.view_scale;
     drag({300, 150}, {350, 250});
     type_angle("30");
     press("zoom_all_command");
-    EXPECT_EQ(kavetta().app_state.view_scale, scale);
+    EXPECT_EQ(kavetta().view_state.view_scale, scale);
     EXPECT_EQ(angle(), 0.0);
     EXPECT_EQ(shown("rotated_angle"), "0");
 }
@@ -222,7 +223,7 @@ TEST_F(viewwinfrm_test,
     EXPECT_EQ(shown("rotated_angle"), std::to_string(static_cast<int>(reached)));
     EXPECT_NE(kavetta().design_view.Line1.elements, before);
     EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
-    EXPECT_EQ(kavetta().app_state.outer_rotation_angle, 6.0 * reached / 7.0);
+    EXPECT_EQ(kavetta().view_state.outer_rotation_angle, 6.0 * reached / 7.0);
 }
 
 TEST_F(viewwinfrm_test, the_other_button_goes_below_zero_to_359) {
@@ -315,7 +316,7 @@ TEST_F(viewwinfrm_test, a_failure_in_a_tick_ends_the_program_like_that_of_a_comm
 TEST_F(viewwinfrm_test, the_status_bar_tells_where_the_mouse_is_in_the_length_unit_in_force) {
     calculate();
     hover({200, 200});
-    const app_state& state = kavetta().app_state;
+    const view_state& state = kavetta().view_state;
     const double x_mm = (200 * 15 - state.view_cx - state.view_ecc) / state.view_scale;
     EXPECT_NEAR(x_mm, -2.85, 1e-9);  // the picture's centre is the outer rotor's
     EXPECT_EQ(label("cursor_position"), "-2.85, 0.00 mm");

@@ -1,4 +1,5 @@
 // Leaving an entry: when its handler runs, and when it must not.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 namespace kvt {

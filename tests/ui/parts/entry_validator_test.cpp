@@ -1,4 +1,5 @@
 // What boxes refuse, and that everything else stays as typed.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QClipboard>

@@ -1,4 +1,5 @@
 // The binding by names: every control of the text table exists, shows its texts and its tooltip.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QComboBox>

@@ -1,6 +1,7 @@
 // hint_button: the hints of the last command as one line in the status bar, and the list behind it.
 #include "ui/parts/hint_button.hpp"
 
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QListWidget>

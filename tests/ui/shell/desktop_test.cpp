@@ -1,5 +1,6 @@
 // Start and end of the desktop program.
 #include "app/files/project_entries.hpp"
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QDropEvent>
@@ -206,6 +207,55 @@ TEST_F(start_and_end, unsaved_entries_of_an_earlier_run_are_offered_in_place_of_
     EXPECT_EQ(shown("ecc"), "2.75");
     EXPECT_FALSE(kavetta().app_state.project_has_file);
     EXPECT_EQ(robot.questions.size(), 1U);
+}
+
+TEST_F(start_and_end, after_a_crash_the_question_names_the_project_and_yes_stands_in_it) {
+    start(own_design_file("n04_fuel"));
+    type("ecc", "2.75");
+    desk().autosave_timer().setInterval(0);
+    settle();
+    ASSERT_TRUE(std::filesystem::exists(autosaved()));
+    program_on_screen.reset();  // without an exit
+    robot.answers.emplace_back("Yes");
+    program_on_screen = std::make_unique<desktop>(folder.path());
+    EXPECT_TRUE(desk().start());
+    ASSERT_EQ(robot.questions.size(), 1U);
+    EXPECT_TRUE(
+        robot.questions[0].starts_with("Kavetta found entries that were not saved: 'n04_fuel', "))
+        << robot.questions[0];
+    EXPECT_EQ(window().windowTitle(), "Kavetta V2021 - 'n04_fuel'");
+    EXPECT_EQ(shown("ecc"), "2.75");
+    EXPECT_EQ(shown("numlobes"), "4");
+    robot.files.emplace_back((folder.path() / "projects" / "n04_fuel.KVT").string());
+    robot.answers.emplace_back("Yes");
+    choose("mnufilesave");
+    EXPECT_FALSE(std::filesystem::exists(autosaved()));
+    robot.answers.clear();
+}
+
+TEST_F(start_and_end, a_second_program_leaves_the_unsaved_entries_of_the_first_alone) {
+    start();
+    type("ecc", "2.75");
+    desk().autosave_timer().setInterval(0);
+    settle();
+    ASSERT_TRUE(std::filesystem::exists(autosaved()));
+    const std::unique_ptr<desktop> first = std::move(program_on_screen);
+    start();
+    EXPECT_TRUE(robot.questions.empty());
+    EXPECT_EQ(shown("ecc"), "0");
+    robot.answers.emplace_back("No");
+    choose("mnufileexit");
+    EXPECT_TRUE(std::filesystem::exists(autosaved()));
+}
+
+TEST_F(start_and_end, a_save_that_could_not_be_opened_again_asks_and_no_leads_to_the_entry) {
+    start(own_design_file("n04_fuel"));
+    kavetta().entries.ecc.clear();
+    robot.answers.emplace_back("No");
+    choose("mnufilesave");
+    ASSERT_EQ(robot.questions.size(), 1U);
+    EXPECT_NE(robot.questions[0].find("'Eccentricity'"), std::string::npos) << robot.questions[0];
+    EXPECT_TRUE(box("ecc")->hasFocus());
 }
 
 }  // namespace kvt

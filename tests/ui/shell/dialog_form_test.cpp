@@ -2,6 +2,7 @@
 #include "ui/shell/dialog_form.hpp"
 
 #include "app/desk/unit_commands.hpp"
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form2.hpp"

@@ -1,5 +1,6 @@
 // The menus of the STEP and DXF files: when their entries can be used, their dialogs, the files
 // they leave.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QMenu>

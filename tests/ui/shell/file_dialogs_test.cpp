@@ -1,6 +1,7 @@
 // The file dialogs: filters, start folder, proposed name, default extension.
 #include "ui/shell/file_dialogs.hpp"
 
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QFileDialog>

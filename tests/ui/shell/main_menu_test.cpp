@@ -1,4 +1,5 @@
 // The menu tree: every entry, its state at the start, and what is not built yet.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/shell/not_built_yet.hpp"
 

@@ -1,11 +1,13 @@
 // present_layout: Save Current Layout, Restore Default Layout and the layout of the start.
 #include "ui/shell/present_layout.hpp"
 
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QImage>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScreen>
 
 namespace kvt {
 
@@ -87,7 +89,7 @@ TEST_F(present_layout_test, a_saved_layout_comes_back_at_the_next_start) {
     start();
     EXPECT_EQ(form("Form1")->geometry(), QRect(20, 30, 380, 560));
     EXPECT_EQ(form("viewwinfrm")->geometry(), QRect(450, 15, 326, 379));
-    EXPECT_EQ(kavetta().app_state.view_size, 4500);
+    EXPECT_EQ(kavetta().view_state.view_size, 4500);
     EXPECT_TRUE(window().isMaximized());
 }
 
@@ -205,6 +207,36 @@ TEST_F(present_layout_test, a_later_start_has_the_layout_of_the_file_also_on_a_s
     start();
     settle();
     EXPECT_EQ(form("select_graphs")->x(), 10220 / 15);
+}
+
+TEST_F(present_layout_test, a_window_outside_every_screen_opens_inside) {
+    write_file(file(),
+               block("Design", 8085, 5430, 0, 0) +
+                   block("Port Design", 2895, 10200, 900000, 900000) +
+                   block("View", 7185, 6375, 0, 8995) + block("Performance", 8085, 3525, 0, 5450) +
+                   block("Charts", 2355, 4395, 8100, 10220) +
+                   block("Main Screen", 7500, 10500, 300000, 300000) + chart_blocks() + "\r\n");
+    start();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(window().geometry()))
+        << window().pos().x() << ", " << window().pos().y();
+    EXPECT_EQ(window().size(), QSize(700, 500));
+    EXPECT_TRUE(screen.contains(form("portdes")->geometry().topLeft()));
+    EXPECT_EQ(form("portdes")->size(), QSize(680, 193));
+}
+
+TEST_F(present_layout_test,
+       a_layout_without_the_picture_of_its_explanation_gives_the_built_in_one) {
+    write_file(file(), block("Design", 8400, 5700, 0, 0) +
+                           fixed_blocks().substr(fixed_blocks().find("Port Design")) +
+                           block("Gerotor Explanation", 3000, 4500, 600, 750) + chart_blocks());
+    start();
+    EXPECT_FALSE(desk().runner().has_ended());
+    EXPECT_EQ(robot.messages, std::vector<std::string>());
+    EXPECT_EQ(loaded("explain"), nullptr);
+    EXPECT_TRUE(kavetta().app_state.explain_closed);
+    EXPECT_EQ(form("Form1")->size(), QSize(362, 539));
+    EXPECT_TRUE(window().isMaximized());
 }
 
 }  // namespace kvt

@@ -1,4 +1,5 @@
 // The File menu and Clear Design, as the user meets them.
+#include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
 namespace kvt {

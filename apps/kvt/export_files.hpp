@@ -1,0 +1,19 @@
+// The files of `kvt export`.
+#pragma once
+
+#include "kvt/batch_user.hpp"
+#include "kvt/export_folder.hpp"
+#include "kvt/export_request.hpp"
+
+namespace kvt {
+
+/// Writes the files of the table that were asked for under their names; without a choice all that
+/// the design allows. Files of a port or groove that was not designed are left out, and refused
+/// when they were asked for by name. CNC files go through the checks of the CNC output dialog one
+/// by one: a failed check refuses its file only. Without a tool the files that need one are left
+/// out with a note, without a groove tool the groove's pocket. The port report comes with a
+/// finished outlet.
+void export_files(program& kavetta, batch_user& person, const export_request& request,
+                  export_folder& folder);
+
+}  // namespace kvt

@@ -1,0 +1,70 @@
+#include "app/files/file_output.hpp"
+
+#include "app/desk/program_title.hpp"
+#include "app/program.hpp"
+#include "app/stages/porting_type.hpp"
+#include "base/short_date.hpp"
+#include "core/text_table.hpp"
+#include "core/user.hpp"
+
+#include <filesystem>
+
+namespace kvt {
+
+namespace {
+
+/// The title is the file's own, else the one of all files of its group.
+file_dialog dialog_of(const program& kavetta, const written_file& file) {
+    const file_group_row& group = row_of(file.group);
+    const std::int16_t language = kavetta.app_state.language;
+    const std::string own_title = std::string(file.name) + "_title";
+    const bool has_own = find_caption(group.texts, own_title) != nullptr;
+    return save_text_dialog(form_text(group.texts, has_own ? own_title : "title", language),
+                            form_text(group.texts, "filter", language), group.extension);
+}
+
+}  // namespace
+
+file_source source_of(const program& kavetta, std::string path) {
+    const app_state& state = kavetta.app_state;
+    return {
+        kavetta.design_params,    kavetta.rotor_profiles,
+        kavetta.port_params,      kavetta.entries,
+        kavetta.cnc_choices,      state.project_name,
+        state.language,           length_unit_of(state),
+        std::move(path),          kavetta.date.empty() ? short_date(system_clock()) : kavetta.date,
+        std::string(FULL_VERSION)};
+}
+
+std::optional<std::string> save_file(const program& kavetta, user& person,
+                                     const written_file& file) {
+    return ask_and_save_text(kavetta, person, dialog_of(kavetta, file),
+                             [&](text_lines& text, const std::string& path) {
+                                 file.write(source_of(kavetta, path), text);
+                             });
+}
+
+std::string notice_of(const program& kavetta, const written_file& file) {
+    try {
+        return file.notice == nullptr ? "" : file.notice(source_of(kavetta));
+    } catch (const run_time_error&) {
+        return "";  // the file ended there too
+    }
+}
+
+void open_dxf_menu(program& kavetta) {
+    kavetta.enabling.mnudxfmetering = has_metering_groove(kavetta);
+}
+
+void write_gt_step_files(const program& kavetta, const std::string& folder) {
+    for (const written_file& file : files_of(file_group::gt)) {
+        const std::string path = (std::filesystem::path(folder) / file_name(file)).string();
+        const auto failed =
+            save_text(path, [&](text_lines& text) { file.write(source_of(kavetta, path), text); });
+        if (failed) {
+            throw *failed;
+        }
+    }
+}
+
+}  // namespace kvt

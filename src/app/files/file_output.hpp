@@ -1,0 +1,33 @@
+// The entries of the menus that write one file each, and the files of the simulation exchange.
+#pragma once
+
+#include "app/files/saved_text.hpp"
+#include "output/written_files.hpp"
+
+#include <optional>
+#include <string>
+
+namespace kvt {
+
+/// The source of the writers: the program's records, boxes and choices, with the path of the file
+/// and the date of program::date, else today's.
+file_source source_of(const program& kavetta, std::string path = {});
+
+/// A click on a file's entry: save dialog, then the file as far as its writer got. Answers its
+/// path, nothing when the dialog was cancelled or named no file.
+std::optional<std::string> save_file(const program& kavetta, user& person,
+                                     const written_file& file);
+
+/// What is told once a file is written: that it would scrap the part. Empty for a sound one, and
+/// for one that ended in a failure.
+std::string notice_of(const program& kavetta, const written_file& file);
+
+/// The menu mnudxf opens: mnudxfmetering can be used while metering_groove is ticked.
+void open_dxf_menu(program& kavetta);
+
+/// The files of the simulation exchange, without a dialog, under their names in a folder.
+/// Throws the failure of a writer, whose file is saved as far as it got, or path_not_found or
+/// path_file_access.
+void write_gt_step_files(const program& kavetta, const std::string& folder);
+
+}  // namespace kvt

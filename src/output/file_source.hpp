@@ -1,0 +1,34 @@
+// What a file is written from: the records, the boxes, the choices of the CNC output dialog, and
+// what changes from run to run.
+#pragma once
+
+#include "core/app_state.hpp"
+#include "core/design_params.hpp"
+#include "core/entries.hpp"
+#include "core/length_unit.hpp"
+#include "core/rotor_profiles.hpp"
+#include "output/cnc/cnc_choices.hpp"
+#include "ports/port_params.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace kvt {
+
+/// All records by reference; the writers change none of them.
+struct file_source {
+    const design_params& design;
+    const rotor_profiles& rotors;
+    const port_params& ports;
+    const entries& boxes;
+    const cnc_choices& choices;
+    std::string_view project_name;
+    std::int16_t language = ENGLISH;
+    const length_unit& unit = length_unit_of(MILLIMETRES);  ///< of entries and of most files
+    std::string path = {};     ///< of the file, as the save dialog gave it
+    std::string date = {};     ///< in the form in which it shall stand there
+    std::string version = {};  ///< "2021.1.1"
+};
+
+}  // namespace kvt

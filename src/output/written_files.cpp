@@ -1,0 +1,161 @@
+#include "output/written_files.hpp"
+
+#include "output/cnc/port_cnc.hpp"
+#include "output/cnc/rotor_cnc.hpp"
+#include "output/dxf/dxf_files.hpp"
+#include "output/step/step_files.hpp"
+#include "ports/port_report.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+using enum file_group;
+using enum file_needs;
+
+constexpr auto GROUPS = std::to_array<file_group_row>({
+    {cnc, "cnc", "CNC", "cnc", "cnc"},
+    {dxf, "dxf", "DXF", "dxf", "dxf"},
+    {step, "step", "STEP", "step", "stp"},
+    // Their names are fixed: the simulation reads them.
+    {gt, "gt", "STEP", "", "stp", file_choice::by_flag},
+    {report, "report", "text", "", "txt", file_choice::always},
+});
+
+// Adapters from a row's writer to the writers that take less.
+
+template <void write(const file_source&, port_side, text_lines&), port_side side>
+void of_port(const file_source& source, text_lines& text) {
+    write(source, side, text);
+}
+
+template <void write(text_lines&, const port_params&, const length_unit&)>
+void dxf_port(const file_source& source, text_lines& text) {
+    write(text, source.ports, source.unit);
+}
+
+void dxf_of_inner(const file_source& source, text_lines& text) {
+    write_dxf_inner_rotor(text, source.rotors, source.unit);
+}
+
+void dxf_of_outer(const file_source& source, text_lines& text) {
+    write_dxf_outer_rotor(text, source.boxes);
+}
+
+step_header header_of(const file_source& source) {
+    return {source.path, source.date, source.version};
+}
+
+template <void write(text_lines&, const step_header&, const design_params&, const rotor_profiles&)>
+void step_rotors(const file_source& source, text_lines& text) {
+    write(text, header_of(source), source.design, source.rotors);
+}
+
+template <void write(text_lines&, const step_header&, const design_params&, const port_params&,
+                     const entries&)>
+void step_ports(const file_source& source, text_lines& text) {
+    write(text, header_of(source), source.design, source.ports, source.boxes);
+}
+
+void write_port_report(const file_source& source, text_lines& text) {
+    for (const std::string& line :
+         port_report_lines(source.ports, source.design,
+                           {source.version, source.date, std::string(source.project_name)})) {
+        text.line(line);
+    }
+}
+
+constexpr port_side IN = port_side::inlet;
+constexpr port_side OUT = port_side::outlet;
+constexpr bool TOOL = true;
+
+constexpr auto FILES = std::to_array<written_file>({
+    {cnc, "inner_xy", "inner_rot_xy_checkbox", profiles, write_inner_xy},
+    {cnc, "inner_offset", "inner_rot_xy_tool_checkbox", profiles, write_inner_offset, TOOL,
+     inner_offset_notice},
+    {cnc, "inner_offset_checked", "inner_rot_xy_checked_checkbox", profiles,
+     write_inner_offset_checked, TOOL},
+    {cnc, "inner_lathe", "inner_rot_xc_lathe", profiles, write_inner_lathe},
+    {cnc, "outer_xy", "outer_rot_xy_checkbox", profiles, write_outer_xy},
+    {cnc, "outer_offset", "outer_rot_xy_tool_checkbox", profiles, write_outer_offset, TOOL},
+    {cnc, "outer_gcode", "outer_rot_gcodes_checkbox", profiles, write_outer_gcode},
+    {cnc, "outer_lathe", "outer_rot_xc_lathe", profiles, write_outer_lathe},
+    {cnc, "inlet_xy", "inlet_port_xy_checkbox", inlet, of_port<write_port_xy, IN>},
+    {cnc, "inlet_pocket", "inlet_port_xy_tool_checkbox", inlet, of_port<write_port_pocket, IN>,
+     TOOL},
+    {cnc, "inlet_gcode", "inlet_port_gcodes_checkbox", inlet, of_port<write_port_gcode, IN>},
+    {cnc, "outlet_xy", "outlet_port_xy_checkbox", outlet, of_port<write_port_xy, OUT>},
+    {cnc, "outlet_pocket", "outlet_port_xy_tool_checkbox", outlet, of_port<write_port_pocket, OUT>,
+     TOOL},
+    {cnc, "outlet_gcode", "outlet_port_gcode_checkbox", outlet, of_port<write_port_gcode, OUT>},
+
+    {dxf, "inner", "mnudxfinner", profiles, dxf_of_inner},
+    {dxf, "outer", "mnudxfouter", profiles, dxf_of_outer},
+    {dxf, "inlet", "mnudxfinletport", inlet, dxf_port<write_dxf_inlet_port>},
+    {dxf, "outlet", "mnudxfoutletport", outlet, dxf_port<write_dxf_outlet_port>},
+    {dxf, "groove", "mnudxfmetering", groove, dxf_port<write_dxf_metering_groove>},
+
+    {step, "inner", "mnustepinner", profiles, step_rotors<write_step_inner_rotor>},
+    {step, "outer", "mnustepouter", profiles, step_rotors<write_step_outer_rotor>},
+    {step, "assembly", "mnustepassy", profiles, step_rotors<write_step_assembly>},
+    {step, "ports", "mnustepports", any_port, step_ports<write_step_ports>},
+
+    {gt, "inner_rotor_GT", "", profiles, step_rotors<write_step_inner_rotor>},
+    {gt, "outer_rotor_GT", "", profiles, step_rotors<write_step_outer_rotor>},
+    {gt, "in_port_GT", "", inlet, step_ports<write_step_inlet_port>},
+    {gt, "out_port_GT", "", outlet, step_ports<write_step_outlet_port>},
+
+    {report, "port_radius_coordinates", "", outlet, write_port_report},
+});
+
+}  // namespace
+
+std::span<const file_group_row> file_groups() {
+    return GROUPS;
+}
+
+const file_group_row& row_of(file_group group) {
+    return *std::ranges::find(GROUPS, group, &file_group_row::group);
+}
+
+std::span<const written_file> written_files() {
+    return FILES;
+}
+
+std::span<const written_file> files_of(file_group group) {
+    const auto [first, last] = std::ranges::equal_range(FILES, group, {}, &written_file::group);
+    return {first, last};
+}
+
+const written_file* find_file(file_group group, std::string_view name) {
+    const std::span<const written_file> files = files_of(group);
+    const auto found = std::ranges::find(files, name, &written_file::name);
+    return found == files.end() ? nullptr : &*found;
+}
+
+std::string file_name(const written_file& file) {
+    return std::string(file.name) + "." + std::string(row_of(file.group).extension);
+}
+
+bool is_there(file_needs needs, const port_params& ports, const entries& boxes) {
+    const bool has_inlet = ports.inlet_port_last > 0;
+    const bool has_outlet = ports.outlet_port_last > 0;
+    switch (needs) {
+        case inlet:
+            return has_inlet;
+        case outlet:
+            return has_outlet;
+        case any_port:
+            return has_inlet || has_outlet;
+        case groove:
+            return is_ticked(boxes.metering_groove) && ports.groove_last > 0;
+        case profiles:
+            break;
+    }
+    return true;
+}
+
+}  // namespace kvt

@@ -1,0 +1,319 @@
+// The table of the performance results, and the numbers and texts that its rows make.
+#include "performance/result_quantities.hpp"
+
+#include "base/checked_math.hpp"
+#include "base/constants.hpp"
+#include "base/number_text.hpp"
+#include "performance/perf_units.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+using enum result_place;
+using enum last_digit;
+using enum json_part;
+
+constexpr std::size_t TOP = GRID_SIZE - 1;
+
+double side_load_at_top(const perf_results& results) {
+    return results.side_load[TOP][TOP];
+}
+
+double side_load_angle_at_top(const perf_results& results) {
+    return results.side_load_angle[TOP][TOP];
+}
+
+/// The largest stress over a turn.
+perf_grid largest_stress(const perf_results& results) {
+    perf_grid largest{};
+    for (std::size_t speed = 0; speed < GRID_SIZE; ++speed) {
+        for (std::size_t pressure = 0; pressure < GRID_SIZE; ++pressure) {
+            largest[speed][pressure] = std::ranges::max(results.hertz_stress[speed][pressure]);
+        }
+    }
+    return largest;
+}
+
+/// A number of a summary table: three decimals keep a flow of a millilitre a minute and a watt of
+/// drive power apart from nothing.
+constexpr shown_number in_table(double times, double over = 1.0, double then = 1.0) {
+    return {.times = times, .over = over, .then = then, .digits = rounded, .steps = 1000.0};
+}
+
+constexpr shown_number NUMBER = {};
+constexpr shown_number PERCENTAGE = in_table(100.0);
+
+// The uses, a list a result.
+constexpr std::array PRESSURES = {
+    result_use{summary, 0, "grid_axes", in_table(1.0, BAR_PA), in_table(1.0, BAR_PA, PSI_PER_BAR)}};
+constexpr std::array SPEEDS = {result_use{summary, 0, "grid_axes", in_table(1.0)}};
+constexpr std::array FLOW = {result_use{summary, 1, "flow", in_table(LITRES_MINUTE_PER_M3S),
+                                        in_table(LITRES_MINUTE_PER_M3S* US_GALLONS_PER_LITRE)}};
+constexpr std::array VOL_EFF = {result_use{summary, 2, "vol_eff", PERCENTAGE}};
+constexpr std::array MECH_EFF = {result_use{summary, 3, "mech_eff", PERCENTAGE}};
+constexpr std::array OVERALL_EFF = {result_use{summary, 4, "overall_eff", PERCENTAGE}};
+constexpr std::array DRIVE_POWER = {result_use{summary, 5, "drive_power",
+                                               in_table(1.0 / WATTS_PER_KILOWATT),
+                                               in_table(1.0, WATTS_PER_HORSEPOWER)}};
+constexpr std::array LARGEST_STRESS = {
+    result_use{summary, 6, "hertz_stress", in_table(1.0), in_table(1.0 / KSI_MPA)}};
+constexpr std::array SIDE_LOAD = {result_use{summary, 7, "side_load", in_table(1.0),
+                                             in_table(SIDE_LOAD_POUNDS / SIDE_LOAD_NEWTONS)}};
+constexpr std::array MAX_SPEED = {
+    result_use{.place = perf_res,
+               .rank = 1,
+               .name = "max_speed",
+               .metric = {.digits = cut, .unit = " RPM", .leading_blank = true}},
+    result_use{numbers, 1, "max_speed", NUMBER}};
+constexpr std::array MAX_SIDE_LOAD = {
+    result_use{.place = perf_res,
+               .rank = 2,
+               .name = "max_shaft_side_load",
+               .metric = {.digits = cut, .steps = 100.0, .unit = " N"},
+               .imperial = {.times = SIDE_LOAD_POUNDS,
+                            .over = SIDE_LOAD_NEWTONS,
+                            .digits = cut,
+                            .steps = 10.0,
+                            .unit = " lbsf"},
+               .after = perf_step::contact},
+    result_use{numbers, 2, "max_shaft_side_load", NUMBER}};
+// Kept: half of the angle in degrees; result_quantities_test holds it.
+constexpr std::array SIDE_LOAD_DIRECTION = {
+    result_use{
+        .place = perf_res,
+        .rank = 3,
+        .name = "side_load_direction",
+        .metric = {.times = 180.0, .over = TWO_PI_P, .digits = cut, .steps = 100.0, .unit = " °"},
+        .after = perf_step::contact},
+    result_use{numbers, 3, "side_load_direction", {.times = 180.0, .over = TWO_PI_P}}};
+constexpr std::array MAX_CUTTER = {result_use{.place = perf_res,
+                                              .rank = 4,
+                                              .name = "max_cutter_inner",
+                                              .metric = {.times = -2.0},
+                                              .is_length = true,
+                                              .after = perf_step::contact},
+                                   result_use{numbers, 4, "max_cutter_inner", {.times = -2.0}}};
+constexpr std::array RIPPLE_PERCENT = {result_use{.place = perf_res,
+                                                  .rank = 5,
+                                                  .name = "Label1",
+                                                  .metric = {.unit = " %", .leading_blank = true},
+                                                  .after = perf_step::ripple,
+                                                  .lead_in = message::pressure_ripple},
+                                       result_use{numbers, 5, "ripple_percent", NUMBER}};
+
+constexpr std::size_t WHOLE_TURN = ANGLE_ARRAY_LAST + 1;
+constexpr std::size_t CONTACT_ANGLES = CONTACT_ANGLE_LAST + 1;
+constexpr std::size_t STEPS_OF_A_TURN = RIPPLE_STEPS;
+
+/// A field under its own name.
+#define KVT_RESULT(field, source, part, ...)                                   \
+    result_quantity {                                                          \
+#field, source{&perf_results::field }, part __VA_OPT__(, ) __VA_ARGS__ \
+    }
+#define KVT_ANGLE_ARRAY(field, used_count)                           \
+    result_quantity {                                                \
+#field, angle_array{&perf_results::field, used_count }, full \
+    }
+
+constexpr result_quantity QUANTITIES[] = {
+    KVT_RESULT(dyn_visc, result_value, brief),
+    KVT_RESULT(tip_radius, result_value, brief),
+    KVT_RESULT(flow_max, result_value, brief),
+    KVT_RESULT(flow_min, result_value, brief),
+    KVT_RESULT(vol_eff_max, result_value, brief),
+    KVT_RESULT(vol_eff_min, result_value, brief),
+    KVT_RESULT(power_max, result_value, brief),
+    KVT_RESULT(power_min, result_value, brief),
+    KVT_RESULT(mech_eff_max, result_value, brief),
+    KVT_RESULT(mech_eff_min, result_value, brief),
+    KVT_RESULT(overall_eff_max, result_value, brief),
+    KVT_RESULT(overall_eff_min, result_value, brief),
+    KVT_RESULT(hertz_max, result_value, brief),
+    KVT_RESULT(ripple_max, result_value, brief),
+    KVT_RESULT(ripple_min, result_value, brief),
+    KVT_RESULT(ripple_percent, result_value, brief, RIPPLE_PERCENT),
+    KVT_RESULT(effective_cc, result_value, brief),
+    KVT_RESULT(seal_len_a, result_value, brief),
+    KVT_RESULT(seal_len_b, result_value, brief),
+    KVT_RESULT(seal_len_c, result_value, brief),
+    KVT_RESULT(tip_gap_r, result_value, brief),
+    KVT_RESULT(inner_mean_r, result_value, brief),
+    KVT_RESULT(outer_mean_r, result_value, brief),
+    KVT_RESULT(face_area_inner, result_value, brief),
+    KVT_RESULT(face_area_outer, result_value, brief),
+    KVT_RESULT(combined_modulus, result_value, brief),
+    KVT_RESULT(cutter_r, result_value, brief),
+    KVT_RESULT(port_edge_angle, result_value, brief),
+    KVT_RESULT(port_edge_r, result_value, brief),
+    KVT_RESULT(port_volume, result_value, brief),
+    KVT_RESULT(press_step_bar, result_value, brief),
+    KVT_RESULT(speed_step, result_value, brief),
+    KVT_RESULT(fill_velocity, result_value, brief),
+    KVT_RESULT(tip_speed_rpm, result_value, brief),
+    KVT_RESULT(sector_outer, result_value, brief),
+    KVT_RESULT(sector_inner, result_value, brief),
+    KVT_RESULT(port_area, result_value, brief),
+    KVT_RESULT(port_equiv_r, result_value, brief),
+    KVT_RESULT(port_velocity, result_value, brief),
+    KVT_RESULT(port_flow, result_value, brief),
+    KVT_RESULT(port_speed_rpm, result_value, brief),
+    KVT_RESULT(area_tip, result_value, brief),
+    KVT_RESULT(area_root, result_value, brief),
+    KVT_RESULT(area_shaft, result_value, brief),
+    KVT_RESULT(area_max, result_value, brief),
+    KVT_RESULT(area_outer_root, result_value, brief),
+    KVT_RESULT(area_pitch, result_value, brief),
+    KVT_RESULT(land_share_inner, result_value, brief),
+    KVT_RESULT(land_share_outer, result_value, brief),
+    KVT_RESULT(outlet_span_deg, result_value, brief),
+    KVT_RESULT(od_band, result_value, brief),
+    KVT_RESULT(n_ecc, result_value, brief),
+    KVT_RESULT(trochoid_ratio, result_value, brief),
+    KVT_RESULT(arm_base, result_value, brief),
+    KVT_RESULT(root_arc, result_value, brief),
+    KVT_RESULT(ratio, result_value, brief),
+    KVT_RESULT(width_ecc, result_value, brief),
+    KVT_RESULT(ecc_n, result_value, brief),
+    KVT_RESULT(rate_sum, result_value, brief),
+    KVT_RESULT(port_centre_x, result_value, brief),
+    KVT_RESULT(port_centre_y, result_value, brief),
+    KVT_RESULT(nose_angle, result_value, brief),
+    KVT_RESULT(trapped_volume, result_value, brief),
+    KVT_RESULT(recovery, result_value, brief),
+
+    KVT_RESULT(press_pa, pressure_list, brief, PRESSURES),
+    KVT_RESULT(speed_rpm, speed_list, brief, SPEEDS),
+    KVT_RESULT(leak_tip, pressure_list, full),
+    KVT_RESULT(leak_face, pressure_list, full),
+    KVT_RESULT(tip_drag_power, speed_list, full),
+    KVT_RESULT(face_load_inner, pressure_list, full),
+    KVT_RESULT(face_load_outer, pressure_list, full),
+    KVT_RESULT(friction_torque_inner, pressure_list, full),
+    KVT_RESULT(friction_torque_outer, pressure_list, full),
+    KVT_RESULT(face_shear_inner, speed_list, full),
+    KVT_RESULT(face_shear_outer, speed_list, full),
+    KVT_RESULT(face_power_inner, speed_list, full),
+    KVT_RESULT(face_power_outer, speed_list, full),
+    KVT_RESULT(od_shear, speed_list, full),
+    KVT_RESULT(od_power, speed_list, full),
+    KVT_RESULT(sliding_max, speed_list, full),
+    KVT_RESULT(sliding_mean, speed_list, full),
+    KVT_RESULT(face_gradient, pressure_list, full),
+    KVT_RESULT(face_velocity, pressure_list, full),
+    KVT_RESULT(face_shear_inner_2, speed_list, full),
+    KVT_RESULT(face_shear_outer_2, speed_list, full),
+
+    KVT_RESULT(flow_m3s, result_grid, brief, FLOW),
+    KVT_RESULT(vol_eff, result_grid, brief, VOL_EFF),
+    KVT_RESULT(hyd_power, result_grid, brief),
+    KVT_RESULT(hyd_torque, result_grid, brief),
+    KVT_RESULT(friction_power, result_grid, brief),
+    KVT_RESULT(drive_power, result_grid, brief, DRIVE_POWER),
+    KVT_RESULT(drive_torque, result_grid, brief),
+    KVT_RESULT(mech_eff, result_grid, brief, MECH_EFF),
+    KVT_RESULT(overall_eff, result_grid, brief, OVERALL_EFF),
+    KVT_RESULT(side_load, result_grid, brief, SIDE_LOAD),
+    KVT_RESULT(side_load_angle, result_grid, brief),
+
+    KVT_ANGLE_ARRAY(chamber_rate, STEPS_OF_A_TURN),
+    KVT_ANGLE_ARRAY(ripple_pressure, STEPS_OF_A_TURN),
+    KVT_ANGLE_ARRAY(contact_dist, WHOLE_TURN),
+    KVT_ANGLE_ARRAY(pressure_angle, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(troch_curv_r, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(inner_curv_r, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(equiv_r, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(side_x, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(side_y, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(side_mag, CONTACT_ANGLES),
+    KVT_ANGLE_ARRAY(side_dir, CONTACT_ANGLES),
+    KVT_RESULT(sliding_velocity, speed_angles, full),
+    KVT_RESULT(contact_force, grid_angles, full),
+    KVT_RESULT(hertz_stress, grid_angles, full),
+    KVT_RESULT(hertz_sliding, grid_angles, full),
+
+    // What the places of use show, worked out of the fields.
+    {"max_speed", result_value{&perf_results::max_speed_rpm}, none, MAX_SPEED},
+    {"max_shaft_side_load", worked_out_value{side_load_at_top}, none, MAX_SIDE_LOAD},
+    {"side_load_direction", worked_out_value{side_load_angle_at_top}, none, SIDE_LOAD_DIRECTION},
+    {"max_cutter_inner", result_value{&perf_results::cutter_r}, none, MAX_CUTTER},
+    {"largest_stress", worked_out_grid{largest_stress}, none, LARGEST_STRESS},
+};
+
+#undef KVT_RESULT
+#undef KVT_ANGLE_ARRAY
+
+}  // namespace
+
+std::span<const result_quantity> result_quantities() {
+    return QUANTITIES;
+}
+
+std::vector<used_result> results_at(result_place place) {
+    std::vector<used_result> found;
+    for (const result_quantity& quantity : QUANTITIES) {
+        for (const result_use& use : quantity.uses) {
+            if (use.place == place) {
+                found.push_back({&quantity, &use});
+            }
+        }
+    }
+    std::ranges::stable_sort(found, {}, [](const used_result& result) { return result.use->rank; });
+    return found;
+}
+
+std::optional<used_result> result_at(result_place place, std::string_view quantity) {
+    for (const used_result& result : results_at(place)) {
+        if (result.quantity->name == quantity) {
+            return result;
+        }
+    }
+    return std::nullopt;
+}
+
+double value_of(const result_quantity& quantity, const perf_results& results) {
+    if (const auto* field = std::get_if<result_value>(&quantity.source)) {
+        return results.*(*field);
+    }
+    return std::get<worked_out_value>(quantity.source)(results);
+}
+
+bool is_grid(const result_quantity& quantity) {
+    return std::holds_alternative<result_grid>(quantity.source) ||
+           std::holds_alternative<worked_out_grid>(quantity.source);
+}
+
+perf_grid grid_of(const result_quantity& quantity, const perf_results& results) {
+    if (const auto* field = std::get_if<result_grid>(&quantity.source)) {
+        return results.*(*field);
+    }
+    return std::get<worked_out_grid>(quantity.source)(results);
+}
+
+double shown_value(double value, const result_use& use, unit_system system) {
+    const shown_number& as = system == unit_system::metric ? use.metric : use.imperial;
+    switch (as.digits) {
+        case last_digit::cut:
+            return floor_to_int(value * as.times * as.steps / as.over * as.then) / as.steps;
+        case last_digit::rounded:
+            return round_half_even(value * as.times / as.over * as.then * as.steps) / as.steps;
+        case last_digit::kept:
+            break;
+    }
+    return value * as.times / as.over * as.then;
+}
+
+std::string shown_text(double value, const result_use& use, const length_unit& unit) {
+    if (use.is_length) {
+        const double millimetres = shown_value(value, use, unit_system::metric);
+        return number_text(unit.cut_from_mm(millimetres)) + " " + std::string(unit.long_name);
+    }
+    const double shown = shown_value(value, use, unit.system);
+    const shown_number& as = unit.system == unit_system::metric ? use.metric : use.imperial;
+    return (as.leading_blank ? str(shown) : number_text(shown)) + std::string(as.unit);
+}
+
+}  // namespace kvt
