@@ -1,6 +1,5 @@
 #include "ui/shell/window_menu.hpp"
 
-#include "core/window_rectangles.hpp"
 #include "app/program.hpp"
 #include "core/window_rectangles.hpp"
 #include "ui/shell/qt_text.hpp"
