@@ -55,7 +55,6 @@ COVERED_BY = {
     "src/ui/shell/menu_tree.cpp": "tests/ui/shell/main_menu_test.cpp",
     "src/ui/forms/newprojectname.cpp": "tests/ui/shell/dialog_form_test.cpp",
     "src/ui/shell/not_built_yet.cpp": "tests/ui/shell/main_menu_test.cpp",
-    "src/ui/shell/qt_user.cpp": "tests/ui/shell/desktop_test.cpp",
     "src/views/explanation_parts.cpp": "tests/views/rotor_explanation_test.cpp",
 }
 

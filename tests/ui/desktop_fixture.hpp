@@ -33,6 +33,8 @@ class desktop_test : public testing::Test {
     desktop_test() {
         std::filesystem::create_directories(folder.path() / "projects");
         write_settings('1');
+        // A layout that can't be read gives the built-in one, at any size of the screen.
+        write_file(folder.path() / "screen.ini", "");
     }
 
     void TearDown() override { EXPECT_EQ(robot.surprises, std::vector<std::string>()); }

@@ -95,6 +95,9 @@ void dialog_robot::answer_file(QFileDialog& dialog) {
 
 void dialog_robot::answer_other(QDialog& dialog) {
     if (dialog.objectName() == "newprojectname" && !names.empty()) {
+        if (at_name) {
+            at_name();
+        }
         const std::optional<std::string> name = next(names);
         type_keys(dialog.findChild<QLineEdit*>("txtprojectname"), qt_text(name.value_or("")));
         press(dialog, name ? "cmdOK" : "cmdCancel");

@@ -21,8 +21,9 @@ struct column {
     int percent;
 };
 
-constexpr std::array COLUMNS = {column{"light", 100}, column{"dark", 100}, column{"light", 200},
-                                column{"dark", 200}};
+constexpr std::array COLUMNS = {column{"breeze_light", 100},  column{"breeze_dark", 100},
+                                column{"adwaita_light", 100}, column{"adwaita_dark", 100},
+                                column{"breeze_light", 200},  column{"breeze_dark", 200}};
 constexpr std::array LANGUAGES = {"english", "german"};
 
 struct cell {

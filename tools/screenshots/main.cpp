@@ -1,13 +1,15 @@
 // kvt_screenshots: pictures of the running program.
-//   kvt_screenshots guide SHARE PROJECT.KVT OUT     the pictures of the user's guide, English,
-//   light kvt_screenshots pieces SHARE PROJECT.KVT OUT    every form in both languages, light and
-//   dark kvt_screenshots sheets PIECES OUT               one contact sheet a form from such pieces
+//   kvt_screenshots guide SHARE PROJECT.KVT OUT     the pictures of the user's guide, English
+//   kvt_screenshots pieces SHARE PROJECT.KVT OUT    every form, both languages, palettes of
+//   desktops kvt_screenshots sheets PIECES OUT               one contact sheet a form from such
+//   pieces
 // SHARE is the folder of the delivered files. With QT_SCALE_FACTOR=2 the pictures are those of a
 // dense screen.
 #include "app/stages/design_assist.hpp"
 #include "base/run_time_error.hpp"
 #include "core/app_state.hpp"
 #include "screenshots/contact_sheets.hpp"
+#include "screenshots/desktop_palettes.hpp"
 #include "screenshots/form_pictures.hpp"
 #include "ui/shell/application_style.hpp"
 
@@ -75,11 +77,10 @@ bool take_guide_pictures(const std::string& share, const std::string& project, c
 }
 
 bool take_pieces(const std::string& share, const std::string& project, const QDir& out) {
-    const QPalette light = QApplication::palette();
     const int percent = static_cast<int>(std::lround(qApp->devicePixelRatio() * 100.0));
     bool all_taken = true;
-    for (const bool is_dark : {false, true}) {
-        QApplication::setPalette(is_dark ? kvt::dark_palette() : light);
+    for (const kvt::desktop_palette& desktop : kvt::desktop_palettes()) {
+        QApplication::setPalette(desktop.palette);
         for (const std::int16_t language : {kvt::ENGLISH, kvt::GERMAN}) {
             kvt::staged_program stage(share, project, language);
             all_taken = stage.calculate() && all_taken;
@@ -88,9 +89,8 @@ bool take_pieces(const std::string& share, const std::string& project, const QDi
             pictures["MDIForm1"] = picture_of_workplace(stage);
             kvt::form_pictures pieces;
             for (const auto& [name, picture] : pictures) {
-                const QString piece =
-                    kvt::piece_name(name, language == kvt::ENGLISH ? "english" : "german",
-                                    is_dark ? "dark" : "light", percent);
+                const QString piece = kvt::piece_name(
+                    name, language == kvt::ENGLISH ? "english" : "german", desktop.name, percent);
                 pieces[piece.chopped(4)] = picture;
             }
             all_taken = save(pieces, out) && all_taken;

@@ -7,6 +7,11 @@
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <ranges>
+
 namespace kvt {
 
 namespace {
@@ -27,14 +32,67 @@ layout_reading read_layout_file(program& kavetta) {
 }
 
 /// The child windows that stand from the start.
+auto fixed_forms() {
+    return form_rows() | std::views::filter(is_fixed_child);
+}
+
 start_layout fixed_children() {
     start_layout layout;
-    for (const form_row& form : form_rows()) {
-        if (is_fixed_child(form)) {
-            layout.shown.push_back(form.name);
-        }
+    for (const form_row& form : fixed_forms()) {
+        layout.shown.push_back(form.name);
     }
     return layout;
+}
+
+/// Whole pixels, so that neighbours touch and never overlap.
+float in_pixels(float twips) {
+    return std::floor(twips / TWIPS_PER_PIXEL) * TWIPS_PER_PIXEL;
+}
+
+/// A size of the built-in layout, or its share of the room where that is short.
+float share(float built_in, float of_all, float room) {
+    return in_pixels(std::min(built_in, room * built_in / of_all));
+}
+
+window_rectangles fitted_rectangles(layout_room room) {
+    /// What the view is higher than wide: its buttons, less its borders.
+    constexpr float VIEW_BELOW_PICTURE = 795.0F;
+    constexpr float SMALLEST_VIEW = 1500.0F;
+    const auto told = [](std::string_view form) { return find_form(form)->rectangle; };
+    const float above = told("Form1").width + told("Perffrm").width + told("viewwinfrm").width;
+    const float below = told("portdes").width + told("select_graphs").width;
+    const float design = share(told("Form1").width, above, room.width);
+    const float performance = share(told("Perffrm").width, above, room.width);
+    const float lower = share(told("portdes").height,
+                              told("Form1").height + told("portdes").height, room.height);
+    const float upper = in_pixels(room.height) - lower;
+    const float view = in_pixels(std::max(
+        SMALLEST_VIEW, std::min(room.width - design - performance, upper - VIEW_BELOW_PICTURE)));
+    const float ports = share(told("portdes").width, below, room.width);
+    const float charts = std::min(told("select_graphs").width, in_pixels(room.width) - ports);
+    window_rectangles fitted;
+    fitted.of("Form1") = {upper, design, 0.0F, 0.0F};
+    fitted.of("Perffrm") = {upper, performance, 0.0F, design};
+    fitted.of("viewwinfrm") = {view + VIEW_BELOW_PICTURE, view, 0.0F, design + performance};
+    fitted.of("portdes") = {lower, ports, upper, 0.0F};
+    fitted.of("select_graphs") = {std::min(lower, told("select_graphs").height), charts, upper,
+                                  ports};
+    return fitted;
+}
+
+bool fits(const window_rectangles& layout, layout_room room) {
+    return std::ranges::all_of(fixed_forms(), [&](const form_row& form) {
+        const auto& window = layout.of(form.name);
+        return window->left + window->width <= room.width &&
+               window->top + window->height <= room.height;
+    });
+}
+
+void take_over(program& kavetta, const window_rectangles& layout) {
+    for (const form_row& form : fixed_forms()) {
+        kavetta.window_rectangles.of(form.name) = layout.of(form.name);
+    }
+}
 }
 
 /// What the error path shows.
@@ -67,6 +125,18 @@ void forget_explanation(program& kavetta, std::string_view form) {
 
 }  // namespace
 
+void fit_layout(program& kavetta, user& person, layout_room room) {
+    take_over(kavetta, fitted_rectangles(room));
+    for (const form_row& form : fixed_forms()) {
+        person.show_form(form.name);
+    }
+}
+
+void use_first_layout(program& kavetta, layout_room room) {
+    const window_rectangles built_in;
+    take_over(kavetta, fits(built_in, room) ? built_in : fitted_rectangles(room));
+}
+
 void save_layout(program& kavetta, user& person, window_rectangles windows) {
     if (kavetta.app_state.explain_closed) {
         windows.of("explain").reset();
@@ -80,11 +150,9 @@ void save_layout(program& kavetta, user& person, window_rectangles windows) {
 
 void restore_default_layout(program& kavetta, user& person) {
     const window_rectangles built_in;
-    for (const form_row& form : form_rows()) {
-        if (is_fixed_child(form)) {
-            kavetta.window_rectangles.of(form.name) = form.rectangle;
-            person.show_form(form.name);
-        }
+    take_over(kavetta, built_in);
+    for (const form_row& form : fixed_forms()) {
+        person.show_form(form.name);
     }
     kavetta.window_rectangles.main_window_maximised = true;
     close_forms(form_closer::default_layout, person);
@@ -98,6 +166,8 @@ start_layout read_start_layout(program& kavetta) {
     kavetta.app_state.port_explain_closed = true;
     const layout_reading reading = read_layout_file(kavetta);
     start_layout start = reading.failed ? layout_after_failure() : fixed_children();
+    start.is_first =
+        reading.failed && !std::filesystem::exists(kavetta.folder / LAYOUT_FILE_NAME);
     // Touched windows come before the others of the error path; the order among children doesn't
     // show.
     if (reading.explain) {

@@ -22,10 +22,27 @@ void save_layout(program& kavetta, user& person, window_rectangles windows);
 /// over after the command. Throws run_time_error when the file can't be written.
 void restore_default_layout(program& kavetta, user& person);
 
+/// The room for the windows inside the main window, twips.
+struct layout_room {
+    float height = 0.0F;
+    float width = 0.0F;
+};
+
+/// mnuscreenfit: the five windows side by side in the room as it is, none over another, shown again
+/// where they were closed: Form1, Perffrm and viewwinfrm above, portdes and select_graphs below.
+/// Where the room is short the forms become narrower and lower (they scroll), the view smaller;
+/// where it is large the view grows. The main window stays, and nothing is written.
+void fit_layout(program& kavetta, user& person, layout_room room);
+
+/// The rectangles of the first start, when no layout was saved yet: the built-in ones where they
+/// fit into the room, else those of fit_layout.
+void use_first_layout(program& kavetta, layout_room room);
+
 /// What the screen does after the layout was read.
 struct start_layout {
     std::vector<std::string_view> shown;  ///< forms in the order in which they are shown
     std::string_view focus;  ///< the form that gets the focus; empty: as the platform leaves it
+    bool is_first = false;   ///< there is no layout file yet
 };
 
 /// The load of MDIForm1: marks both explanation windows as closed, reads screen.ini into

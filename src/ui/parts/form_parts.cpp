@@ -3,6 +3,7 @@
 #include "core/app_state.hpp"
 #include "core/length_unit.hpp"
 #include "core/text_table.hpp"
+#include "ui/parts/ink.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 
 namespace kvt {
@@ -23,6 +25,20 @@ constexpr int NUMBER_MARGINS = 10;
 /// Room between a number, its unit and the border of the box, pixels.
 constexpr int UNIT_MARGIN = 5;
 constexpr double COMPACT_SHARE = 8.0 / 9.0;
+
+/// The unit behind a number. Its ink follows the palette of the box: the placeholder colour of a
+/// desktop's dark palette is often that of its light one.
+class box_unit : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setPen(faint_ink(palette().color(QPalette::Base), palette().color(QPalette::Text)));
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text());
+    }
+};
 
 }  // namespace
 
@@ -48,7 +64,8 @@ void accent(QPushButton& button) {
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight));
         palette.setColor(group, QPalette::ButtonText,
-                         palette.color(group, QPalette::HighlightedText));
+                         ink_on(palette.color(group, QPalette::Highlight),
+                                palette.color(group, QPalette::HighlightedText)));
     }
     button.setPalette(palette);
 }
@@ -80,10 +97,9 @@ int compact_box_width(const char* widest) {
 }
 
 QLabel* add_unit(QLineEdit& box, const QString& widest) {
-    auto* unit = new QLabel(&box);
+    auto* unit = new box_unit(&box);
     unit->setObjectName(box.objectName() + "_unit");
     unit->setFont(box.font());
-    unit->setForegroundRole(QPalette::PlaceholderText);
     unit->setAttribute(Qt::WA_TransparentForMouseEvents);
     const int width = unit->fontMetrics().horizontalAdvance(widest) + UNIT_MARGIN;
     unit->setGeometry(box.width() - 1, 0, width, box.height());

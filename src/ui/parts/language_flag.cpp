@@ -10,7 +10,7 @@ const QColor FLAG_BLUE(1, 33, 105);
 const QColor FLAG_RED(200, 16, 46);
 const QColor FLAG_GOLD(255, 206, 0);
 
-/// Room around the flag for the frame of the current language, pixels.
+/// Room around the flag for the frame of the focus, pixels.
 constexpr int FRAME = 3;
 
 void paint_union_flag(QPainter& painter, const QRectF& area) {
@@ -60,9 +60,8 @@ QSize language_flag::sizeHint() const {
 void language_flag::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (isChecked() || hasFocus()) {
-        const QColor frame = palette().color(isChecked() ? QPalette::Highlight : QPalette::Mid);
-        painter.setPen(QPen(frame, 2.0));
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
     }
     const QRectF area = QRectF(rect()).adjusted(FRAME, FRAME, -FRAME, -FRAME);

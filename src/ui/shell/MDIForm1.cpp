@@ -24,6 +24,8 @@
 #include <QStatusBar>
 #include <QUrl>
 
+#include <algorithm>
+#include <functional>
 #include <ranges>
 
 namespace kvt {
@@ -75,9 +77,14 @@ void MDIForm1::connect_commands() {
     };
     on_menu("mnuscreensave", &MDIForm1::save_layout);
     on_menu("mnuscreenrestore", &MDIForm1::restore_layout);
+    on_menu("mnuscreenfit", &MDIForm1::fit_layout);
     on_menu("mnuhelpabout", &MDIForm1::show_about);
     on_menu("mnudatacnc", &MDIForm1::show_cnc_output);
     connect(windows_, &window_menu::chosen, this, &MDIForm1::bring_to_front);
+    connect(&context_.runner, &command_runner::starting, this, [this] {
+        is_first_layout_ = false;
+        statusBar()->clearMessage();  // it belongs to the command before
+    });
     connect(&context_.runner, &command_runner::finished, this, &MDIForm1::refresh);
     connect(&context_.runner, &command_runner::edited, hints_, &status_hints::refresh);
 }
@@ -113,21 +120,32 @@ void MDIForm1::refresh() {
 
 void MDIForm1::show_start(const start_layout& start) {
     place_children();
+    is_first_layout_ = start.is_first;
+    area_->installEventFilter(this);
     place_itself();
     const QString focused = start.focus.empty() ? QString("Form1") : qt_text(start.focus);
     area_->setActiveSubWindow(findChild<mdi_form*>(focused));
 }
 
-void MDIForm1::place_children() {
-    const window_rectangles& layout = context_.kavetta.window_rectangles;
-    for (const form_row& form : form_rows()) {
-        auto* child = findChild<mdi_form*>(qt_text(form.name));
-        if (const auto& place = layout.of(form.name); child != nullptr && place) {
-            child->place(child_place(*place));
-        }
+void MDIForm1::place_child(const form_row& form) {
+    auto* child = findChild<mdi_form*>(qt_text(form.name));
+    const auto& place = context_.kavetta.window_rectangles.of(form.name);
+    if (child != nullptr && place) {
+        child->place(child_place(*place));
     }
+}
+
+void MDIForm1::place_fixed_windows() {
+    std::ranges::for_each(form_rows() | std::views::filter(is_fixed_child),
+                          [this](const form_row& form) { place_child(form); });
     // Once even when the size is the one that it had.
     findChild<viewwinfrm*>()->size_picture();
+}
+
+void MDIForm1::place_children() {
+    place_fixed_windows();
+    std::ranges::for_each(form_rows() | std::views::filter(std::not_fn(is_fixed_child)),
+                          [this](const form_row& form) { place_child(form); });
 }
 
 void MDIForm1::place_itself() {
@@ -166,6 +184,34 @@ void MDIForm1::restore_layout() {
         place_children();
         place_itself();
     });
+}
+
+layout_room MDIForm1::room() const {
+    const QSize size = area_->maximumViewportSize();
+    return {static_cast<float>(size.height() * TWIPS_PER_PIXEL),
+            static_cast<float>(size.width() * TWIPS_PER_PIXEL)};
+}
+
+void MDIForm1::fit_layout() {
+    context_.runner.act([this](program& kavetta, user& person) {
+        kvt::fit_layout(kavetta, person, room());
+        place_fixed_windows();
+    });
+}
+
+/// A window manager gives the window its size some time after the start.
+void MDIForm1::place_first_layout() {
+    if (is_first_layout_) {
+        use_first_layout(context_.kavetta, room());
+        place_fixed_windows();
+    }
+}
+
+bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_ && event->type() == QEvent::Resize && is_first_layout_) {
+        QMetaObject::invokeMethod(this, &MDIForm1::place_first_layout, Qt::QueuedConnection);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {

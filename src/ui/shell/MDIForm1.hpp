@@ -12,6 +12,7 @@ class QMdiArea;
 
 namespace kvt {
 
+struct form_row;
 class mdi_form;
 class status_hints;
 class window_menu;
@@ -34,17 +35,23 @@ class MDIForm1 : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
     void add_form(mdi_form* form, bool is_shown);
     void connect_commands();
+    void place_child(const form_row& form);
     void place_children();
+    void place_fixed_windows();
     void place_itself();
     void bring_to_front(const QString& form);
     void save_layout();
     void restore_layout();
+    void fit_layout();
+    void place_first_layout();
+    layout_room room() const;
     void show_about();
     void show_cnc_output();
     void ask_exit();
@@ -55,6 +62,7 @@ class MDIForm1 : public QMainWindow {
     main_menu* menu_;
     window_menu* windows_;
     status_hints* hints_;
+    bool is_first_layout_ = false;     ///< of the first start, which follows the size of the window
     QList<QPointer<mdi_form>> forms_;  ///< a form that was closed for good is nullptr
 };
 

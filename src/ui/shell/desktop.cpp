@@ -16,9 +16,19 @@ desktop::desktop(const std::filesystem::path& folder)
     autosave_timer_.setObjectName("autosave_timer");
     QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_,
                      [this] { save_unsaved(); });
+    follow_commands();
     person_.attach(
         &window_, [this] { window_.refresh(); },
         [this](std::string_view form) { window_.load_child(form); });
+}
+
+void desktop::follow_commands() {
+    QObject::connect(&runner_, &command_runner::edited, &runner_,
+                     [this] { person_.entry_edited(); });
+    QObject::connect(&runner_, &command_runner::finished, &runner_, [this] {
+        person_.command_ended();
+        qt_language_.follow(program_.app_state.language);
+    });
 }
 
 bool desktop::load() {

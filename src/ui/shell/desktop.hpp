@@ -3,8 +3,10 @@
 
 #include "app/program.hpp"
 #include "ui/parts/entry_focus.hpp"
+#include "ui/parts/quiet_wheel.hpp"
 #include "ui/shell/MDIForm1.hpp"
 #include "ui/shell/command_runner.hpp"
+#include "ui/shell/qt_language.hpp"
 #include "ui/shell/qt_user.hpp"
 #include "ui/shell/splashform.hpp"
 
@@ -37,6 +39,7 @@ class desktop {
     QTimer& autosave_timer() { return autosave_timer_; }
 
   private:
+    void follow_commands();
     bool load();
     void save_unsaved();
 
@@ -44,6 +47,8 @@ class desktop {
     qt_user person_;
     command_runner runner_;
     entry_focus entry_focus_;
+    quiet_wheel quiet_wheel_;
+    qt_language qt_language_;
     MDIForm1 window_;
     std::unique_ptr<splashform> splash_;
     QTimer autosave_timer_;

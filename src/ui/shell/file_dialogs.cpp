@@ -3,6 +3,8 @@
 #include "ui/shell/qt_text.hpp"
 
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace kvt {
 
@@ -38,6 +40,15 @@ void set_up(QFileDialog& box, const file_dialog& dialog) {
     }
 }
 
+/// Names in full: the list has a row a file, its first column as wide as the longest name.
+void show_whole_names(QFileDialog& box) {
+    box.setViewMode(QFileDialog::Detail);
+    if (auto* list = box.findChild<QTreeView*>("treeView")) {
+        list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+        list->setTextElideMode(Qt::ElideNone);
+    }
+}
+
 }  // namespace
 
 QStringList name_filters(std::string_view filter) {
@@ -52,6 +63,7 @@ QStringList name_filters(std::string_view filter) {
 std::optional<std::string> run_file_dialog(const file_dialog& dialog, QWidget* parent) {
     QFileDialog box(parent);
     set_up(box, dialog);
+    show_whole_names(box);
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) {
         return std::nullopt;
     }

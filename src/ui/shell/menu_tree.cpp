@@ -62,6 +62,7 @@ const std::array MENU_ROWS = {
     menu_row{"mnuscreen", "", MENU},
     menu_row{"mnuscreensave", "mnuscreen"},
     menu_row{"mnuscreenrestore", "mnuscreen"},
+    menu_row{"mnuscreenfit", "mnuscreen"},
 
     menu_row{"mnuupdates", "", MENU, true},
     menu_row{"mnuupdatesauto", "mnuupdates", ENTRY, false, NO_KEY, nullptr, true},

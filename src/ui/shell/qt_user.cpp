@@ -19,6 +19,9 @@ namespace kvt {
 
 namespace {
 
+/// How long a line stands in the status bar when no command ends it, milliseconds.
+constexpr int STATUS_TIME_MS = 15000;
+
 /// Behind a message box the window becomes active a little later, and the child window then takes
 /// back its old focus.
 void focus_when_active(QWidget* target) {
@@ -76,7 +79,15 @@ void qt_user::prepare(QMessageBox& box, std::string_view text) const {
     box.setText(with_line_breaks(qt_text(text)));
 }
 
+void qt_user::command_ended() {
+    told_.command_ended(kavetta_.entries, kavetta_.app_state.drawing_units);
+}
+
 void qt_user::show_message(std::string_view text) {
+    if (told_.stood_already(text) && window_ != nullptr && window_->isVisible()) {
+        show_status(text);
+        return;
+    }
     QMessageBox box(parent());
     prepare(box, text);
     box.setIcon(QMessageBox::Warning);
@@ -129,7 +140,7 @@ start_choice qt_user::ask_new_or_open() {
 
 void qt_user::show_status(std::string_view text) {
     if (window_ != nullptr) {
-        window_->statusBar()->showMessage(qt_text(text));
+        window_->statusBar()->showMessage(qt_text(text), STATUS_TIME_MS);
     }
 }
 

@@ -2,6 +2,7 @@
 // windows.
 #pragma once
 
+#include "app/desk/told_messages.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 
@@ -29,6 +30,12 @@ class qt_user : public user {
     void attach(QMainWindow* window, std::function<void()> refresh,
                 std::function<void(std::string_view)> load);
 
+    /// The user has edited an entry, or a command is over: what was told before may be told again.
+    void entry_edited() { told_.entry_edited(); }
+    void command_ended();
+
+    /// A box; a line in the status bar when the text has stood in a box since the last change of an
+    /// entry.
     void show_message(std::string_view text) override;
     answer ask(std::string_view question, question_buttons buttons) override;
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
@@ -53,6 +60,7 @@ class qt_user : public user {
     std::function<void()> refresh_;
     std::function<void(std::string_view)> load_;
     QPointer<progressfrm> progress_;
+    told_messages told_;
     bool busy_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/shell/window_menu.hpp"
 
+#include "app/program.hpp"
 #include "core/form_table.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -9,24 +10,35 @@
 
 namespace kvt {
 
+namespace {
+
+/// Its results stand while the charts can be drawn.
+constexpr auto RESULTS = "perf_res";
+
+}  // namespace
+
 window_menu::window_menu(form_context context, QMainWindow& window)
     : QObject(&window), context_(context) {
     auto* menu = window.findChild<QMenu*>("mnuwindow");
     for (const form_row& row : form_rows()) {
-        if (!is_fixed_child(row)) {
-            continue;
+        if (is_fixed_child(row)) {
+            add_entry(*menu, qt_text(row.name));
         }
-        const QString form = qt_text(row.name);
-        QAction* entry = menu->addAction(form);
-        entry->setObjectName("mnuwindow_" + form);
-        connect(entry, &QAction::triggered, this, [this, form] { emit chosen(form); });
-        entries_.emplace_back(&row, entry);
     }
+    add_entry(*menu, RESULTS);
+}
+
+void window_menu::add_entry(QMenu& menu, const QString& form) {
+    QAction* entry = menu.addAction(form);
+    entry->setObjectName("mnuwindow_" + form);
+    connect(entry, &QAction::triggered, this, [this, form] { emit chosen(form); });
+    entries_.emplace_back(form, entry);
 }
 
 void window_menu::refresh() {
     for (const auto& [form, entry] : entries_) {
-        entry->setText(caption_of(context_.kavetta, form->name, "").replace('&', "&&"));
+        entry->setText(caption_of(context_.kavetta, utf8_text(form), "").replace('&', "&&"));
+        entry->setEnabled(form != RESULTS || context_.kavetta.enabling.create_charts);
     }
 }
 

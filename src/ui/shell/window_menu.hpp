@@ -1,5 +1,5 @@
-// window_menu: the Window menu, which shows the five child windows again and brings one to the
-// front.
+// window_menu: the Window menu, which shows the five child windows and the performance results
+// again and brings one to the front.
 #pragma once
 
 #include "ui/parts/form_binding.hpp"
@@ -11,6 +11,7 @@
 
 class QAction;
 class QMainWindow;
+class QMenu;
 
 namespace kvt {
 
@@ -32,8 +33,10 @@ class window_menu : public QObject {
     void chosen(const QString& form);
 
   private:
+    void add_entry(QMenu& menu, const QString& form);
+
     form_context context_;
-    std::vector<std::pair<const form_row*, QAction*>> entries_;
+    std::vector<std::pair<QString, QAction*>> entries_;  ///< by the name of their window
 };
 
 }  // namespace kvt

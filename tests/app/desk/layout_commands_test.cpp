@@ -121,6 +121,69 @@ TEST_F(layout_commands_test, start_after_a_save_with_a_chart_of_all_shows_the_ex
               (window_rectangle{6630, 8790, 2100, 2100}));
 }
 
+/// The five windows in a room of so many pixels, by the rectangles in force.
+struct fitted : layout_commands_test {
+    static bool overlap(const window_rectangle& a, const window_rectangle& b) {
+        return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
+               b.top < a.top + a.height;
+    }
+    void expect_side_by_side(layout_room room) const {
+        const auto fixed = form_rows() | std::views::filter(is_fixed_child);
+        for (const form_row& one : fixed) {
+            const window_rectangle a = place(one.name);
+            EXPECT_GE(a.left, 0.0F) << one.name;
+            EXPECT_GE(a.top, 0.0F) << one.name;
+            EXPECT_LE(a.left + a.width, room.width) << one.name << " in " << room.width;
+            EXPECT_LE(a.top + a.height, room.height) << one.name << " in " << room.height;
+            EXPECT_GT(a.width, 0.0F) << one.name;
+            EXPECT_GT(a.height, 0.0F) << one.name;
+            for (const form_row& other : fixed) {
+                EXPECT_TRUE(one.name == other.name || !overlap(a, place(other.name)))
+                    << one.name << " and " << other.name << " in " << room.width;
+            }
+        }
+    }
+    window_rectangle place(std::string_view form) const {
+        return kavetta.window_rectangles.of(form).value();
+    }
+};
+
+TEST_F(fitted, puts_all_windows_side_by_side_in_any_room) {
+    for (const float width : {640.0F, 800.0F, 1024.0F, 1366.0F, 1920.0F, 3840.0F}) {
+        for (const float height : {480.0F, 600.0F, 701.0F, 1000.0F, 2000.0F}) {
+            const layout_room room{height * TWIPS_PER_PIXEL, width * TWIPS_PER_PIXEL};
+            fit_layout(kavetta, person, room);
+            expect_side_by_side(room);
+        }
+    }
+}
+
+TEST_F(fitted, keeps_the_view_square_below_its_buttons) {
+    fit_layout(kavetta, person, {12000.0F, 18000.0F});
+    const window_rectangle view = place("viewwinfrm");
+    EXPECT_EQ(view.height - view.width, 795.0F);  // 1185 below the picture, 390 beside it
+}
+
+TEST_F(fitted, shows_closed_windows_again_and_writes_nothing) {
+    kavetta.window_rectangles.main_window_maximised = false;
+    fit_layout(kavetta, person, {12000.0F, 18000.0F});
+    EXPECT_EQ(person.log, (texts{"show Form1", "show portdes", "show viewwinfrm", "show Perffrm",
+                                 "show select_graphs"}));
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "screen.ini"));
+    EXPECT_FALSE(kavetta.window_rectangles.main_window_maximised);
+}
+
+TEST_F(fitted, is_the_first_layout_where_the_built_in_one_is_too_large) {
+    EXPECT_TRUE(read_start_layout(kavetta).is_first);
+    use_first_layout(kavetta, {10995.0F, 15385.0F});  // as large as the built-in one just needs
+    EXPECT_EQ(place("Form1"), find_form("Form1")->rectangle);
+    const layout_room room{10980.0F, 15385.0F};
+    use_first_layout(kavetta, room);
+    expect_side_by_side(room);
+    restore_default_layout(kavetta, person);
+    EXPECT_FALSE(read_start_layout(kavetta).is_first);
+}
+
 TEST_F(layout_commands_test, start_shows_the_forms_of_the_layout) {
     restore_default_layout(kavetta, person);
     person.log.clear();

@@ -5,6 +5,7 @@
 #include "ui/desktop_fixture.hpp"
 
 #include <QFileDialog>
+#include <QTreeView>
 
 namespace kvt {
 
@@ -41,6 +42,25 @@ TEST_F(file_dialogs_test, the_save_dialog_proposes_the_name_and_adds_the_extensi
     EXPECT_EQ(title, "Kavetta V2021 - Save Project");
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "projects" / "mine.KVT"));
     EXPECT_EQ(kavetta().app_state.project_name, "mine");
+}
+
+TEST_F(file_dialogs_test, show_names_in_full) {
+    start();
+    const std::string name = "oil pump " + std::string(60, 'm') + ".KVT";
+    write_file(folder.path() / "projects" / name, "");
+    int needed = 0;
+    int width = 0;
+    robot.at_file_dialog = [&](QFileDialog& dialog) {
+        settle();
+        const auto* list = dialog.findChild<QTreeView*>("treeView");
+        ASSERT_TRUE(list->isVisible());
+        needed = list->fontMetrics().horizontalAdvance(qt_text(name));
+        width = list->columnWidth(0);
+    };
+    robot.files.emplace_back(std::nullopt);
+    choose("mnufileopen");
+    EXPECT_GT(needed, 0);
+    EXPECT_GT(width, needed);
 }
 
 }  // namespace kvt

@@ -5,6 +5,7 @@
 #include "ui/desktop_fixture.hpp"
 
 #include <QImage>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
 
@@ -34,6 +35,23 @@ class present_layout_test : public desktop_test {
             blocks += block(std::string(chart) + " Chart", 4500, 6000, 150, 300);
         }
         return blocks;
+    }
+    /// The five windows are on display, inside their area, none over another.
+    void expect_side_by_side() {
+        const QRect room(QPoint(0, 0), find<QMdiArea>("")->maximumViewportSize());
+        QList<QMdiSubWindow*> forms;
+        for (const form_row& row : form_rows() | std::views::filter(is_fixed_child)) {
+            forms.append(form(std::string(row.name).c_str()));
+        }
+        for (const QMdiSubWindow* one : forms) {
+            EXPECT_TRUE(one->isVisible()) << one->objectName().toStdString();
+            EXPECT_TRUE(room.contains(one->geometry())) << one->objectName().toStdString();
+            for (const QMdiSubWindow* other : forms) {
+                EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()))
+                    << one->objectName().toStdString() << " and "
+                    << other->objectName().toStdString();
+            }
+        }
     }
     void deliver_explanation() {
         QImage picture(300, 200, QImage::Format_RGB32);
@@ -163,6 +181,32 @@ TEST_F(present_layout_test, a_layout_that_cannot_be_written_is_fatal) {
     EXPECT_TRUE(desk().runner().has_ended());
     ASSERT_EQ(robot.messages.size(), 1U);
     EXPECT_TRUE(robot.messages[0].starts_with("Run-time error ")) << robot.messages[0];
+}
+
+TEST_F(present_layout_test, fit_to_window_shows_all_forms_side_by_side) {
+    start();
+    window().showNormal();
+    window().resize(760, 620);
+    form("portdes")->close();
+    choose("mnuscreenfit");
+    expect_side_by_side();
+    EXPECT_EQ(window().size(), QSize(760, 620));
+    EXPECT_EQ(robot.messages, std::vector<std::string>());
+}
+
+TEST_F(present_layout_test, the_first_start_on_a_small_screen_fits_the_window) {
+    std::filesystem::remove(file());
+    start();
+    settle();
+    expect_side_by_side();
+    EXPECT_FALSE(std::filesystem::exists(file()));
+}
+
+TEST_F(present_layout_test, a_later_start_has_the_layout_of_the_file_also_on_a_small_screen) {
+    write_file(file(), fixed_blocks());
+    start();
+    settle();
+    EXPECT_EQ(form("select_graphs")->x(), 10220 / 15);
 }
 
 TEST_F(present_layout_test, a_window_outside_every_screen_opens_inside) {

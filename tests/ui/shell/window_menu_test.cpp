@@ -25,11 +25,28 @@ class window_menu_test : public desktop_test {
 
 }  // namespace
 
-TEST_F(window_menu_test, has_the_titles_of_the_five_windows) {
+TEST_F(window_menu_test, has_the_titles_of_the_five_windows_and_of_the_results) {
     start();
-    const std::vector<std::string> expected = {"Design", "Port Design", "Design View",
-                                               "Performance", "Charts"};
+    const std::vector<std::string> expected = {"Design",      "Port Design", "Design View",
+                                               "Performance", "Charts",      "Performance Results"};
     EXPECT_EQ(titles(), expected);
+}
+
+TEST_F(window_menu_test, shows_the_results_again_while_they_stand) {
+    start(own_design_file("n07_engine_oil_groove"));
+    EXPECT_FALSE(find<QAction>("mnuwindow_perf_res")->isEnabled());
+    press("Calc");
+    press("design_ports");
+    press("calc_perf");
+    ASSERT_NE(loaded("perf_res"), nullptr);
+    loaded("perf_res")->close();
+    settle();
+    EXPECT_EQ(loaded("perf_res"), nullptr);
+    EXPECT_TRUE(find<QAction>("mnuwindow_perf_res")->isEnabled());
+    choose("mnuwindow_perf_res");
+    ASSERT_NE(loaded("perf_res"), nullptr);
+    EXPECT_TRUE(loaded("perf_res")->isVisible());
+    EXPECT_EQ(label_on("perf_res", "max_speed"), kavetta().labels.max_speed);
 }
 
 TEST_F(window_menu_test, shows_the_titles_in_german) {
