@@ -2,16 +2,11 @@
 // Source: docs/formulas/written_files.md, "Pocket".
 #pragma once
 
-#include "output/cnc/pocket_path.hpp"
 #include "output/cnc/pocket_region.hpp"
 
 #include <vector>
 
 namespace kvt {
-
-/// How much nearer to the outline than asked for a point of a moved outline may come, mm: the
-/// corners of the half degree steps.
-inline constexpr double POCKET_TOLERANCE_MM = 0.002;
 
 /// Arcs about the pocket's centre at inner_r + f + i t, i = 1 .. Int((outer_r - inner_r - 2 f) /
 /// t), and on while the last arc and the last contour leave a part of the pocket uncut. Each one

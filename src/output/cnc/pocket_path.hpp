@@ -2,20 +2,11 @@
 // Source: docs/formulas/written_files.md, "Pocket".
 #pragma once
 
-#include "geometry/point2.hpp"
+#include "output/cnc/pocket_region.hpp"
 
 #include <vector>
 
 namespace kvt {
-
-/// A pocket between two arcs, mm. The clearing arcs run about `centre`.
-struct pocket_shape {
-    std::vector<point2> outline;
-    point2 centre;
-    double inner_r = 0.0, outer_r = 0.0;
-    double fillet_r = 0.0;  ///< f, of the corners
-    double tool_radius = 0.0;
-};
 
 /// The centres of the cutter, joined by straight moves, no nearer to the outline than its radius t
 /// (to 0.002 mm):

@@ -1,4 +1,4 @@
-// The region of a pocket that a cutter's centre may reach.
+// A pocket, and the region of it that a cutter's centre may reach.
 // Source: docs/formulas/written_files.md, "Pocket".
 #pragma once
 
@@ -8,6 +8,19 @@
 #include <vector>
 
 namespace kvt {
+
+/// A pocket between two arcs, mm. The clearing arcs run about `centre`.
+struct pocket_shape {
+    std::vector<point2> outline;
+    point2 centre;
+    double inner_r = 0.0, outer_r = 0.0;
+    double fillet_r = 0.0;  ///< f, of the corners
+    double tool_radius = 0.0;
+};
+
+/// How much nearer to the outline than asked for a point of a moved outline may come, mm: the
+/// corners of the half degree steps.
+inline constexpr double POCKET_TOLERANCE_MM = 0.002;
 
 double segment_distance(point2 point, point2 start, point2 end);
 

@@ -1,10 +1,9 @@
 #include "output/cnc/port_cnc.hpp"
 
-#include "output/cnc/cnc_preamble.hpp"
+#include "output/cnc/cnc_heads.hpp"
 #include "output/cnc/contour_gap.hpp"
 #include "output/cnc/pocket_path.hpp"
 #include "output/cnc/port_gcode.hpp"
-#include "output/cnc/port_sections.hpp"
 
 #include <algorithm>
 #include <string>

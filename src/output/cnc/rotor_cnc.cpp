@@ -3,7 +3,7 @@
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
 #include "base/number_text.hpp"
-#include "output/cnc/cnc_preamble.hpp"
+#include "output/cnc/cnc_heads.hpp"
 #include "output/cnc/inner_offset.hpp"
 #include "output/outer_path.hpp"
 

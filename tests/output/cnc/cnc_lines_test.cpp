@@ -1,8 +1,7 @@
 // The lines of the CNC files and their heads.
 #include "output/cnc/cnc_lines.hpp"
 
-#include "output/cnc/cnc_preamble.hpp"
-#include "output/cnc/port_sections.hpp"
+#include "output/cnc/cnc_heads.hpp"
 #include "support/expect_failure.hpp"
 
 #include <gtest/gtest.h>
