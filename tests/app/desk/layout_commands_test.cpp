@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+#include <ranges>
+
 namespace kvt {
 namespace {
 

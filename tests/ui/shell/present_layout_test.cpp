@@ -9,6 +9,8 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
+#include <ranges>
+
 namespace kvt {
 
 namespace {
