@@ -63,8 +63,8 @@ window_rectangles fitted_rectangles(layout_room room) {
     const float below = told("portdes").width + told("select_graphs").width;
     const float design = share(told("Form1").width, above, room.width);
     const float performance = share(told("Perffrm").width, above, room.width);
-    const float lower = share(told("portdes").height,
-                              told("Form1").height + told("portdes").height, room.height);
+    const float lower =
+        share(told("portdes").height, told("Form1").height + told("portdes").height, room.height);
     const float upper = in_pixels(room.height) - lower;
     const float view = in_pixels(std::max(
         SMALLEST_VIEW, std::min(room.width - design - performance, upper - VIEW_BELOW_PICTURE)));
@@ -92,7 +92,6 @@ void take_over(program& kavetta, const window_rectangles& layout) {
     for (const form_row& form : fixed_forms()) {
         kavetta.window_rectangles.of(form.name) = layout.of(form.name);
     }
-}
 }
 
 /// What the error path shows.
@@ -166,8 +165,7 @@ start_layout read_start_layout(program& kavetta) {
     kavetta.app_state.port_explain_closed = true;
     const layout_reading reading = read_layout_file(kavetta);
     start_layout start = reading.failed ? layout_after_failure() : fixed_children();
-    start.is_first =
-        reading.failed && !std::filesystem::exists(kavetta.folder / LAYOUT_FILE_NAME);
+    start.is_first = reading.failed && !std::filesystem::exists(kavetta.folder / LAYOUT_FILE_NAME);
     // Touched windows come before the others of the error path; the order among children doesn't
     // show.
     if (reading.explain) {

@@ -3,6 +3,7 @@
 #include "app/desk/enabling_chain.hpp"
 #include "app/program.hpp"
 #include "app/windows/close_forms.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 

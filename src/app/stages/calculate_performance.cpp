@@ -6,6 +6,7 @@
 #include "app/stages/stale_results.hpp"
 #include "app/windows/close_forms.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "performance/delivered_flow.hpp"
 #include "performance/drive_power.hpp"
 #include "performance/hertz_contact.hpp"

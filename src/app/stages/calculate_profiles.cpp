@@ -10,6 +10,7 @@
 #include "base/constants.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "geometry/area_ratio.hpp"
 #include "geometry/capacity.hpp"
 #include "geometry/chambers.hpp"

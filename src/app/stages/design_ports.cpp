@@ -8,6 +8,7 @@
 #include "app/windows/close_forms.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ports/build_ports.hpp"
 #include "ports/metering_groove.hpp"
 #include "ports/port_entries.hpp"

@@ -1,5 +1,6 @@
 #include "ui/shell/mdi_form.hpp"
 
+#include "core/window_rectangles.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/shell/qt_text.hpp"
 

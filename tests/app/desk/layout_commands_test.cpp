@@ -130,7 +130,7 @@ struct fitted : layout_commands_test {
                b.top < a.top + a.height;
     }
     void expect_side_by_side(layout_room room) const {
-        const auto fixed = form_rows() | std::views::filter(is_fixed_child);
+        auto fixed = form_rows() | std::views::filter(is_fixed_child);
         for (const form_row& one : fixed) {
             const window_rectangle a = place(one.name);
             EXPECT_GE(a.left, 0.0F) << one.name;
