@@ -161,16 +161,15 @@ json json_rotors(const rotor_profiles& rotors, bool full) {
 /// An outline is cut behind its last point; before it was ever built it is empty.
 json json_ports(const port_params& ports, bool full) {
     json object = json::object();
-    for (const port_field<double>& field : port_values()) {
-        object[std::string(field.name)] = ports.*field.member;
+    for (const auto& [name, value] : port_values(ports)) {
+        object[name] = *value;
     }
-    for (const port_field<std::int16_t>& field : port_indexes()) {
-        object[std::string(field.name)] = ports.*field.member;
+    for (const auto& [name, index] : port_indexes(ports)) {
+        object[name] = *index;
     }
     if (full) {
-        for (const port_array& array : port_arrays()) {
-            object[std::string(array.name)] =
-                used_part(ports.*array.member, count_of_last(ports.*array.last));
+        for (const auto& [name, values, last] : port_arrays(ports)) {
+            object[name] = used_part(*values, count_of_last(last));
         }
     }
     return object;

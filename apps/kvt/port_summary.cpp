@@ -6,6 +6,7 @@
 #include "kvt/report_texts.hpp"
 #include "ports/port_fields.hpp"
 
+#include <array>
 #include <vector>
 
 namespace kvt {
@@ -13,27 +14,28 @@ namespace kvt {
 namespace {
 
 using rows = std::vector<std::vector<std::string>>;
-using port_value = double port_params::*;
 
 /// A value that both ports have, under the caption of the Port Design form.
 struct port_row {
     const char* caption;
-    port_value inlet;
-    port_value outlet;
+    double inlet;
+    double outlet;
 };
 
-constexpr port_row ANGLES[] = {
-    {"Label2", &port_params::inlet_start_inner_deg, &port_params::outlet_start_inner_deg},
-    {"Label3", &port_params::inlet_start_outer_deg, &port_params::outlet_start_outer_deg},
-    {"Label4", &port_params::inlet_end_inner_deg, &port_params::outlet_end_inner_deg},
-    {"Label5", &port_params::inlet_end_outer_deg, &port_params::outlet_end_outer_deg},
-};
+std::array<port_row, 4> angles_of(const port_params& ports) {
+    const auto row = [&](const char* caption, std::size_t corner) {
+        return port_row{caption, ports.inlet.corners[corner].angle_deg,
+                        ports.outlet.corners[corner].angle_deg};
+    };
+    return {row("Label2", START_INNER), row("Label3", START_OUTER), row("Label4", END_INNER),
+            row("Label5", END_OUTER)};
+}
 
-constexpr port_row RADII[] = {
-    {"Label13", &port_params::inlet_inner_r, &port_params::outlet_inner_r},
-    {"Label14", &port_params::inlet_outer_r, &port_params::outlet_outer_r},
-    {"Label1", &port_params::port_radius, &port_params::port_radius},
-};
+std::array<port_row, 3> radii_of(const port_params& ports) {
+    return {{{"Label13", ports.inlet.inner_r, ports.outlet.inner_r},
+             {"Label14", ports.inlet.outer_r, ports.outlet.outer_r},
+             {"Label1", ports.port_radius, ports.port_radius}}};
+}
 
 struct summary {
     const program& kavetta;
@@ -54,21 +56,21 @@ std::string degrees(double angle) {
 void add_angles_and_radii(summary& table) {
     const port_params& ports = table.kavetta.port_params;
     table.lines.push_back({"", table.caption("Frame2"), table.caption("Frame3")});
-    for (const port_row& row : ANGLES) {
+    for (const port_row& row : angles_of(ports)) {
         table.lines.push_back(
-            {table.caption(row.caption), degrees(ports.*row.inlet), degrees(ports.*row.outlet)});
+            {table.caption(row.caption), degrees(row.inlet), degrees(row.outlet)});
     }
-    for (const port_row& row : RADII) {
-        table.lines.push_back({table.caption(row.caption), table.length(ports.*row.inlet),
-                               table.length(ports.*row.outlet)});
+    for (const port_row& row : radii_of(ports)) {
+        table.lines.push_back(
+            {table.caption(row.caption), table.length(row.inlet), table.length(row.outlet)});
     }
 }
 
 /// "X 15.103  Y -5.2819" of a corner's fillet centre, as it lies in the drawing.
 std::string centre_text(const summary& table, const port_fields& port, std::size_t corner) {
-    const point2 centre = port.corners[corner].c.get(table.kavetta.port_params);
-    const double y = port.mirrored ? -centre.y : centre.y;
-    return "X " + table.length(centre.x) + "  Y " + table.length(y);
+    const point2 c = port.record(table.kavetta.port_params).corners[corner].c;
+    const point2 centre = port.mirrored ? mirrored(c) : c;
+    return "X " + table.length(centre.x) + "  Y " + table.length(centre.y);
 }
 
 void add_corners(summary& table) {

@@ -1,15 +1,14 @@
 #include "output/port_contours.hpp"
 
 #include "base/checked_math.hpp"
-#include "ports/port_fields.hpp"
 
 namespace kvt {
 
 std::vector<point2> port_contour(const port_params& ports, port_side side) {
-    const port_fields& fields = side == port_side::inlet ? inlet_fields() : outlet_fields();
+    const port_record& port = ports.of(side);
     std::vector<point2> contour;
-    for (std::int64_t i = 0; i <= ports.*fields.last; ++i) {
-        const point2 point = {checked_at(ports.*fields.x, i), checked_at(ports.*fields.y, i)};
+    for (std::int64_t i = 0; i <= port.last; ++i) {
+        const point2 point = {checked_at(port.x, i), checked_at(port.y, i)};
         if (point.x == 0.0) {
             break;
         }

@@ -10,8 +10,6 @@
 
 namespace kvt {
 
-enum class port_side { inlet, outlet };
-
 /// Points 0 .. last of a port's outline, mm about the inner rotor axis; the list stops before the
 /// first x that is exactly 0. Empty for a port that was not designed.
 std::vector<point2> port_contour(const port_params& ports, port_side side);

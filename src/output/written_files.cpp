@@ -141,8 +141,8 @@ std::string file_name(const written_file& file) {
 }
 
 bool is_there(file_needs needs, const port_params& ports, const entries& boxes) {
-    const bool has_inlet = ports.inlet_port_last > 0;
-    const bool has_outlet = ports.outlet_port_last > 0;
+    const bool has_inlet = ports.inlet.last > 0;
+    const bool has_outlet = ports.outlet.last > 0;
     switch (needs) {
         case inlet:
             return has_inlet;

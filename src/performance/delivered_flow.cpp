@@ -11,8 +11,8 @@ namespace {
 
 void set_seal_lengths(const design_params& design, const port_params& ports,
                       perf_results& results) {
-    results.seal_len_a = (design.ecc + ports.outlet_outer_r - ports.outlet_inner_r) / 1000.0;
-    results.seal_len_b = (ports.outlet_outer_r - design.ecc - ports.outlet_inner_r) / 1000.0;
+    results.seal_len_a = (design.ecc + ports.outlet.outer_r - ports.outlet.inner_r) / 1000.0;
+    results.seal_len_b = (ports.outlet.outer_r - design.ecc - ports.outlet.inner_r) / 1000.0;
     results.seal_len_c = design.shaftdiameter * PI_D / 2000.0;
 }
 
@@ -21,7 +21,7 @@ void set_seal_lengths(const design_params& design, const port_params& ports,
 /// delivered_flow_test holds it.
 void set_face_leak(const design_params& design, const port_params& ports, const perf_inputs& inputs,
                    std::size_t j, perf_results& results) {
-    const double land_m = (ports.outlet_inner_r - design.shaftdiameter / 2.0) / 1000.0;
+    const double land_m = (ports.outlet.inner_r - design.shaftdiameter / 2.0) / 1000.0;
     const double gap_m =
         is_balanced(inputs) ? design.axial_clear / 2000.0 : design.axial_clear / 1000.0;
     results.face_gradient[j] = checked_divide(results.press_pa[j], land_m);
@@ -57,15 +57,15 @@ double tip_leak(double tip_gap_r, double tip_radius, double dyn_visc, double pre
 double effective_capacity(const design_params& design, const rotor_profiles& rotors,
                           const port_params& ports) {
     const double r_out =
-        ports.outlet_outer_r > design.outer_root ? design.outer_root : ports.outlet_outer_r;
+        ports.outlet.outer_r > design.outer_root ? design.outer_root : ports.outlet.outer_r;
     const double r_in =
-        ports.outlet_inner_r < design.radinnroot ? design.radinnroot : ports.outlet_inner_r;
+        ports.outlet.inner_r < design.radinnroot ? design.radinnroot : ports.outlet.inner_r;
     const double chamber_arc_deg =
         180.0 - rotors.max_chamber_outer_angle - rotors.min_chamber_outer_angle;
-    const double effective_cc =
-        checked_divide((ports.outlet_end_outer_deg - ports.outlet_start_outer_deg) *
-                           rotors.capacity_cc * (r_out - r_in),
-                       chamber_arc_deg * (design.outer_root - design.radinnroot));
+    const double effective_cc = checked_divide(
+        (ports.outlet.corners[END_OUTER].angle_deg - ports.outlet.corners[START_OUTER].angle_deg) *
+            rotors.capacity_cc * (r_out - r_in),
+        chamber_arc_deg * (design.outer_root - design.radinnroot));
     return effective_cc > rotors.capacity_cc ? rotors.capacity_cc : effective_cc;
 }
 

@@ -64,14 +64,16 @@ void set_face_areas(const design_params& design, const port_params& ports,
     results.area_outer_root = circle_mm2(design.outer_root);
     results.area_pitch = circle_mm2(design.ecc + design.radinnroot);
 
-    results.land_share_inner = land_share(ports.outlet_start_inner_deg, ports.outlet_end_inner_deg,
-                                          ports.inlet_start_inner_deg, ports.inlet_end_inner_deg);
+    results.land_share_inner = land_share(
+        ports.outlet.corners[START_INNER].angle_deg, ports.outlet.corners[END_INNER].angle_deg,
+        ports.inlet.corners[START_INNER].angle_deg, ports.inlet.corners[END_INNER].angle_deg);
     results.face_area_inner =
         checked_finite((((results.area_tip - results.area_root) / 2.0) * results.land_share_inner +
                         (results.area_root - results.area_shaft)) *
                        inputs.Face_area_value / 100.0);
-    results.land_share_outer = land_share(ports.outlet_start_outer_deg, ports.outlet_end_outer_deg,
-                                          ports.inlet_start_outer_deg, ports.inlet_end_outer_deg);
+    results.land_share_outer = land_share(
+        ports.outlet.corners[START_OUTER].angle_deg, ports.outlet.corners[END_OUTER].angle_deg,
+        ports.inlet.corners[START_OUTER].angle_deg, ports.inlet.corners[END_OUTER].angle_deg);
     results.face_area_outer = checked_finite(
         ((results.area_max - results.area_outer_root) +
          ((results.area_outer_root - results.area_pitch) / 2.0) * results.land_share_outer) *
@@ -80,7 +82,8 @@ void set_face_areas(const design_params& design, const port_params& ports,
 
 void set_pressure_friction(const perf_inputs& inputs, const port_params& ports,
                            perf_results& results) {
-    results.outlet_span_deg = ports.outlet_end_outer_deg - ports.outlet_start_outer_deg;
+    results.outlet_span_deg =
+        ports.outlet.corners[END_OUTER].angle_deg - ports.outlet.corners[START_OUTER].angle_deg;
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {
         set_face_loads(inputs.friction, j, results);
         for (std::size_t i = 0; i < GRID_SIZE; ++i) {

@@ -29,10 +29,12 @@ void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports,
     results.tip_speed_rpm =
         checked_divide(results.fill_velocity * 1000.0, results.tip_radius) * (60.0 / TWO_PI_P);
 
-    results.sector_outer = sector_mm2(ports.inlet_outer_r, ports.inlet_start_outer_deg,
-                                      end_or_half_turn(ports.inlet_end_outer_deg));
-    results.sector_inner = sector_mm2(ports.inlet_inner_r, ports.inlet_start_inner_deg,
-                                      end_or_half_turn(ports.inlet_end_inner_deg));
+    results.sector_outer =
+        sector_mm2(ports.inlet.outer_r, ports.inlet.corners[START_OUTER].angle_deg,
+                   end_or_half_turn(ports.inlet.corners[END_OUTER].angle_deg));
+    results.sector_inner =
+        sector_mm2(ports.inlet.inner_r, ports.inlet.corners[START_INNER].angle_deg,
+                   end_or_half_turn(ports.inlet.corners[END_INNER].angle_deg));
     results.port_area = (results.sector_outer - results.sector_inner) / 1000000.0;
     results.port_equiv_r = checked_sqrt(results.port_area / PI_D);
     results.port_velocity =

@@ -89,7 +89,7 @@ opening_march::outlet_system opening_march::outlet() const {
     for (int k = 1; k <= design_.numlobes - 2; ++k) {
         const double index = checked_at(chamber_index_, k);
         if (index - 1800.0 / (numlobes_ - 1.0) <
-            RIPPLE_STEPS - ports_.outlet_start_inner_deg * 10.0) {
+            RIPPLE_STEPS - ports_.outlet.corners[START_INNER].angle_deg * 10.0) {
             system.volume = system.volume + checked_at(chamber_volume_, k);
             system.rate = system.rate + checked_at(results_.chamber_rate, to_int32(index));
         }

@@ -42,22 +42,25 @@ void set_ripple_percent(perf_results& results) {
 
 void set_outlet_edge(const design_params& design, const port_params& ports,
                      const perf_inputs& inputs, perf_results& results) {
-    const double x = (ports.outlet_p3_x + ports.outlet_p2_x) / 2.0;
-    const double y = (ports.outlet_p3_y + ports.outlet_p2_y) / 2.0;
+    const double x =
+        (ports.outlet.corners[END_OUTER].p.x + ports.outlet.corners[END_INNER].p.x) / 2.0;
+    const double y =
+        (ports.outlet.corners[END_OUTER].p.y + ports.outlet.corners[END_INNER].p.y) / 2.0;
     results.port_centre_x = x;
     results.port_centre_y = y;
     results.port_edge_angle = edge_angle(x, y);
     results.port_edge_r = checked_sqrt(x * x + y * y);
-    const double outer_m = ports.outlet_outer_r / 1000.0;
-    const double inner_m = ports.outlet_inner_r / 1000.0;
+    const double outer_m = ports.outlet.outer_r / 1000.0;
+    const double inner_m = ports.outlet.inner_r / 1000.0;
     // Kept: the end angle is that of the outer radius, the start angle that of the inner one;
     // pressure_ripple_test.
-    results.port_volume = (outer_m * outer_m - inner_m * inner_m) * PI_D *
-                          (ports.outlet_end_outer_deg - ports.outlet_start_inner_deg) *
-                          (design.thick / 1000.0) / 360.0;
+    results.port_volume =
+        (outer_m * outer_m - inner_m * inner_m) * PI_D *
+        (ports.outlet.corners[END_OUTER].angle_deg - ports.outlet.corners[START_INNER].angle_deg) *
+        (design.thick / 1000.0) / 360.0;
     if (inputs.metering_groove) {
-        results.nose_angle = edge_angle((ports.groove_n1_x + ports.groove_n2_x) / 2.0,
-                                        (ports.groove_n1_y + ports.groove_n2_y) / 2.0);
+        results.nose_angle = edge_angle((ports.groove_n1.x + ports.groove_n2.x) / 2.0,
+                                        (ports.groove_n1.y + ports.groove_n2.y) / 2.0);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "ports/port_outline.hpp"
 #include "ports/port_sides.hpp"
 
+#include <algorithm>
 #include <string>
 
 namespace kvt {
@@ -18,13 +19,10 @@ enum class pass_end { finished, refused, radius_too_large };
 
 port_shape shape_of(const port_fields& port, const port_work& work) {
     const port_params& ports = work.ports;
-    port_shape shape = {ports.*port.inner_r, ports.*port.outer_r,    ports.port_radius,
-                        work.design.ecc,     ports.side_angle_start, {}};
-    for (std::size_t index = 0; index < shape.corners.size(); ++index) {
-        const corner_fields& fields = port.corners[index];
-        shape.corners[index] = {ports.*fields.t_deg, fields.c.get(ports), fields.s.get(ports),
-                                fields.r.get(ports)};
-    }
+    const port_record& record = port.record(ports);
+    port_shape shape = {record.inner_r,  record.outer_r,         ports.port_radius,
+                        work.design.ecc, ports.side_angle_start, {}};
+    std::ranges::copy(record.corners, shape.corners.begin());
     return shape;
 }
 
@@ -35,12 +33,10 @@ void store_outline(const port_fields& port, port_work& work) {
     if (port.mirrored) {
         built.outline.mirror();
     }
-    port_params& ports = work.ports;
-    built.outline.store(ports.*port.x, ports.*port.y, ports.*port.last);
-    for (std::size_t mark = 0; mark < built.marks.size(); ++mark) {
-        ports.*port.marks[mark] = built.marks[mark];
-    }
-    ports.*port.built = shape;
+    port_record& record = port.record(work.ports);
+    built.outline.store(record.x, record.y, record.last);
+    record.marks = built.marks;
+    record.built = shape;
 }
 
 pass_end one_pass(const port_fields& port, port_work& work) {
@@ -100,8 +96,8 @@ bool take_back_port_radius(const port_work& work) {
 /// texts.
 bool take_back_all_radii(const port_fields& port, const port_work& work) {
     if (val(work.boxes.port_radii) == work.ports.last_good_port_radius) {
-        work.ports.*port.inner_r = work.design.radinnroot;
-        work.ports.*port.outer_r = work.design.outer_root;
+        port.record(work.ports).inner_r = work.design.radinnroot;
+        port.record(work.ports).outer_r = work.design.outer_root;
     }
     const bool radius = take_back_port_radius(work);
     const bool inner = write_back(work.boxes.*port.inner_radius_box,

@@ -7,7 +7,6 @@
 #include "ports/groove_outline.hpp"
 #include "ports/polar.hpp"
 #include "ports/port_entries.hpp"
-#include "ports/port_fields.hpp"
 #include "ports/side_lines.hpp"
 
 #include <cmath>
@@ -22,7 +21,7 @@ void set_path_circles(const port_work& work) {
     ports.groove_width_mm = length_of(work.boxes.groove_width, work.unit);
     ports.groove_length_deg = val(work.boxes.groove_length);
     ports.groove_centre_r =
-        ((ports.outlet_outer_r - e - ports.outlet_inner_r) / 2.0) + ports.outlet_inner_r + e / 2.0;
+        ((ports.outlet.outer_r - e - ports.outlet.inner_r) / 2.0) + ports.outlet.inner_r + e / 2.0;
     ports.groove_inner_r = ports.groove_centre_r - ports.groove_width_mm / 2.0;
     ports.groove_outer_r = ports.groove_centre_r + ports.groove_width_mm / 2.0;
     const double half_width = ports.groove_width_mm / 2.0;
@@ -35,9 +34,10 @@ struct edge_line {
 };
 
 edge_line end_side_of_outlet(const port_params& ports) {
-    const double m = checked_divide(ports.outlet_p3_y - ports.outlet_p2_y,
-                                    ports.outlet_p3_x - ports.outlet_p2_x);
-    return {m, ports.outlet_p2_y - m * ports.outlet_p2_x};
+    const double m =
+        checked_divide(ports.outlet.corners[END_OUTER].p.y - ports.outlet.corners[END_INNER].p.y,
+                       ports.outlet.corners[END_OUTER].p.x - ports.outlet.corners[END_INNER].p.x);
+    return {m, ports.outlet.corners[END_INNER].p.y - m * ports.outlet.corners[END_INNER].p.x};
 }
 
 /// Where the line meets the circle of radius r about (-e/2, 0): the first root, or the second one
@@ -69,8 +69,8 @@ void set_start_points(const port_work& work) {
     const edge_line edge = end_side_of_outlet(ports);
     const point2 a = on_edge(edge, ports.groove_inner_r, e);
     const point2 b = on_edge(edge, ports.groove_outer_r, e);
-    point_fields{&port_params::groove_a_x, &port_params::groove_a_y}.set(ports, a);
-    point_fields{&port_params::groove_b_x, &port_params::groove_b_y}.set(ports, b);
+    ports.groove_a = a;
+    ports.groove_b = b;
     ports.groove_start_inner_deg = path_angle_deg(a, e);
     ports.groove_start_outer_deg = path_angle_deg(b, e);
     ports.nose_inner_deg = ports.groove_start_inner_deg + ports.groove_length_deg;
@@ -82,12 +82,10 @@ void set_tail(const port_work& work) {
     const double shift = work.design.ecc / 2.0;
     ports.overlap_deg =
         checked_divide(ports.groove_width_mm * 216.0, 2.0 * ports.groove_centre_r * PI_D);
-    point_fields{&port_params::groove_tail_outer_x, &port_params::groove_tail_outer_y}.set(
-        ports,
-        on_circle(ports.groove_outer_r, ports.groove_start_outer_deg - ports.overlap_deg, shift));
-    point_fields{&port_params::groove_tail_inner_x, &port_params::groove_tail_inner_y}.set(
-        ports,
-        on_circle(ports.groove_inner_r, ports.groove_start_inner_deg - ports.overlap_deg, shift));
+    ports.groove_tail_outer =
+        on_circle(ports.groove_outer_r, ports.groove_start_outer_deg - ports.overlap_deg, shift);
+    ports.groove_tail_inner =
+        on_circle(ports.groove_inner_r, ports.groove_start_inner_deg - ports.overlap_deg, shift);
 }
 
 /// Sets the nose corners and returns the direction of the line between them, radians.
@@ -96,12 +94,10 @@ double set_nose_line(const port_work& work) {
     const double shift = work.design.ecc / 2.0;
     const point2 n1 = on_circle(ports.groove_inner_r, ports.nose_inner_deg, shift);
     const point2 n2 = on_circle(ports.groove_outer_r, ports.nose_outer_deg, shift);
-    point_fields{&port_params::groove_n1_x, &port_params::groove_n1_y}.set(ports, n1);
-    point_fields{&port_params::groove_n2_x, &port_params::groove_n2_y}.set(ports, n2);
-    point_fields{&port_params::groove_nose_inner_x, &port_params::groove_nose_inner_y}.set(ports,
-                                                                                           n1);
-    point_fields{&port_params::groove_nose_outer_x, &port_params::groove_nose_outer_y}.set(ports,
-                                                                                           n2);
+    ports.groove_n1 = n1;
+    ports.groove_n2 = n2;
+    ports.groove_nose_inner = n1;
+    ports.groove_nose_outer = n2;
     return nose_angle(n1, n2);
 }
 
@@ -118,13 +114,13 @@ groove_shape shape_of(const port_work& work) {
     shape.outer_r = ports.groove_outer_r;
     shape.f = ports.groove_corner_r;
     shape.shift = work.design.ecc / 2.0;
-    shape.a = {ports.groove_a_x, ports.groove_a_y};
-    shape.b = {ports.groove_b_x, ports.groove_b_y};
+    shape.a = ports.groove_a;
+    shape.b = ports.groove_b;
     shape.start_inner_deg = ports.groove_start_inner_deg;
     shape.start_outer_deg = ports.groove_start_outer_deg;
     shape.overlap_deg = ports.overlap_deg;
-    shape.tail_inner = {ports.groove_tail_inner_x, ports.groove_tail_inner_y};
-    shape.tail_outer = {ports.groove_tail_outer_x, ports.groove_tail_outer_y};
+    shape.tail_inner = ports.groove_tail_inner;
+    shape.tail_outer = ports.groove_tail_outer;
     return shape;
 }
 

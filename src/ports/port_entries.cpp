@@ -44,15 +44,17 @@ double length_of(const std::string& text, const length_unit& unit) {
 
 void read_port_angles(const port_fields& port, const rotor_profiles& rotors, entries& boxes,
                       port_params& ports) {
-    for (const corner_fields& corner : port.corners) {
+    for (std::size_t index = 0; index < port.corners.size(); ++index) {
+        const corner_fields& corner = port.corners[index];
+        double& angle_deg = port.record(ports).corners[index].angle_deg;
         std::string& text = boxes.*corner.box;
         if (!text.empty()) {
-            ports.*corner.angle_deg = val(text);
+            angle_deg = val(text);
             continue;
         }
         const double chamber_angle = rotors.*corner.default_angle;
         const double cut = two_decimals_cut(chamber_angle);
-        ports.*corner.angle_deg = corner.is_end ? 180.0 - chamber_angle : chamber_angle;
+        angle_deg = corner.is_end ? 180.0 - chamber_angle : chamber_angle;
         text = number_text(corner.is_end ? 180.0 - cut : cut);
     }
 }
@@ -69,8 +71,8 @@ void fill_port_radii(const port_fields& port, const design_params& design, const
 
 void read_port_radii(const port_fields& port, const entries& boxes, const length_unit& unit,
                      port_params& ports) {
-    ports.*port.inner_r = length_of(boxes.*port.inner_radius_box, unit);
-    ports.*port.outer_r = length_of(boxes.*port.outer_radius_box, unit);
+    port.record(ports).inner_r = length_of(boxes.*port.inner_radius_box, unit);
+    port.record(ports).outer_r = length_of(boxes.*port.outer_radius_box, unit);
     ports.port_radius = length_of(boxes.port_radii, unit);
 }
 

@@ -4,43 +4,20 @@ namespace kvt {
 
 namespace {
 
-#define KVT_POINT(name)                                \
-    point_fields {                                     \
-        &port_params::name##_x, &port_params::name##_y \
-    }
-#define KVT_CORNER(port, n, where, failure, default_angle, is_end)                              \
-    corner_fields {                                                                             \
-        &port_params::port##_t##n##_deg, KVT_POINT(port##_c##n), KVT_POINT(port##_s##n),        \
-            KVT_POINT(port##_r##n), KVT_POINT(port##_p##n), &port_params::port##_##where##_deg, \
-            &entries::port##_##where, #port "_" #where, message::failure,                       \
-            &rotor_profiles::default_angle, is_end                                              \
-    }
-#define KVT_CORNERS(port)                                                                          \
-    {                                                                                              \
-        KVT_CORNER(port, 1, start_inner, start_angle_inner_radius, min_chamber_inner_angle,        \
-                   false),                                                                         \
-            KVT_CORNER(port, 2, end_inner, end_angle_inner_radius, max_chamber_inner_angle, true), \
-            KVT_CORNER(port, 3, end_outer, end_angle_outer_radius, max_chamber_outer_angle, true), \
-            KVT_CORNER(port, 4, start_outer, start_angle_outer_radius, min_chamber_outer_angle,    \
-                       false)                                                                      \
-    }
-#define KVT_MARKS(port)                                                                        \
-    {                                                                                          \
-        &port_params::port##_mark_a, &port_params::port##_mark_b, &port_params::port##_mark_c, \
-            &port_params::port##_mark_d                                                        \
-    }
-
 constexpr port_fields INLET = {
-    .corners = {KVT_CORNERS(inlet)},
-    .inner_r = &port_params::inlet_inner_r,
-    .outer_r = &port_params::inlet_outer_r,
+    .side = port_side::inlet,
+    .corners = {{
+        {&entries::inlet_start_inner, "inlet_start_inner", message::start_angle_inner_radius,
+         &rotor_profiles::min_chamber_inner_angle, false},
+        {&entries::inlet_end_inner, "inlet_end_inner", message::end_angle_inner_radius,
+         &rotor_profiles::max_chamber_inner_angle, true},
+        {&entries::inlet_end_outer, "inlet_end_outer", message::end_angle_outer_radius,
+         &rotor_profiles::max_chamber_outer_angle, true},
+        {&entries::inlet_start_outer, "inlet_start_outer", message::start_angle_outer_radius,
+         &rotor_profiles::min_chamber_outer_angle, false},
+    }},
     .inner_radius_box = &entries::inlet_inner_radius,
     .outer_radius_box = &entries::inlet_outer_radius,
-    .x = &port_params::inlet_port_x,
-    .y = &port_params::inlet_port_y,
-    .last = &port_params::inlet_port_last,
-    .built = &port_params::inlet_built,
-    .marks = {KVT_MARKS(inlet)},
     .out_of_range = message::port_into_outlet,
     .radius_too_large = message::port_radius_too_large_inlet,
     .mirrored = true,
@@ -50,26 +27,24 @@ constexpr port_fields INLET = {
 // Kept: the outlet's start angle on the outer radius stays as entered after its search;
 // build_ports_test holds it.
 constexpr port_fields OUTLET = {
-    .corners = {KVT_CORNERS(outlet)},
-    .inner_r = &port_params::outlet_inner_r,
-    .outer_r = &port_params::outlet_outer_r,
+    .side = port_side::outlet,
+    .corners = {{
+        {&entries::outlet_start_inner, "outlet_start_inner", message::start_angle_inner_radius,
+         &rotor_profiles::min_chamber_inner_angle, false},
+        {&entries::outlet_end_inner, "outlet_end_inner", message::end_angle_inner_radius,
+         &rotor_profiles::max_chamber_inner_angle, true},
+        {&entries::outlet_end_outer, "outlet_end_outer", message::end_angle_outer_radius,
+         &rotor_profiles::max_chamber_outer_angle, true},
+        {&entries::outlet_start_outer, "outlet_start_outer", message::start_angle_outer_radius,
+         &rotor_profiles::min_chamber_outer_angle, false},
+    }},
     .inner_radius_box = &entries::Outlet_inner_radius,
     .outer_radius_box = &entries::Outlet_outer_radius,
-    .x = &port_params::outlet_port_x,
-    .y = &port_params::outlet_port_y,
-    .last = &port_params::outlet_port_last,
-    .built = &port_params::outlet_built,
-    .marks = {KVT_MARKS(outlet)},
     .out_of_range = message::port_into_inlet,
     .radius_too_large = message::port_radius_too_large_outlet,
     .mirrored = false,
     .keeps_start_outer_angle = true,
 };
-
-#undef KVT_POINT
-#undef KVT_CORNER
-#undef KVT_CORNERS
-#undef KVT_MARKS
 
 }  // namespace
 
@@ -79,6 +54,10 @@ const port_fields& inlet_fields() {
 
 const port_fields& outlet_fields() {
     return OUTLET;
+}
+
+const port_fields& fields_of(port_side side) {
+    return side == port_side::inlet ? INLET : OUTLET;
 }
 
 }  // namespace kvt

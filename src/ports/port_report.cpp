@@ -9,8 +9,8 @@ namespace {
 
 void add_centres(const port_fields& port, const port_params& ports,
                  std::vector<std::string>& lines) {
-    for (const corner_fields& corner : port.corners) {
-        const point2 c = corner.c.get(ports);
+    for (const port_corner& corner : port.record(ports).corners) {
+        const point2 c = corner.c;
         lines.push_back("X: " + number_text(c.x) +
                         "; Y: " + number_text(port.mirrored ? c.y * -1.0 : c.y));
     }
@@ -20,9 +20,9 @@ void add_port(const std::string& name, const port_fields& port, const port_param
               double ecc, std::vector<std::string>& lines) {
     lines.push_back(name + " Port Radii Centre Co-ordinates:");
     add_centres(port, ports, lines);
-    lines.push_back(name + " Port Inner Radius: " + number_text(ports.*port.inner_r) +
+    lines.push_back(name + " Port Inner Radius: " + number_text(port.record(ports).inner_r) +
                     "; Centre, X: 0; Y: 0");
-    lines.push_back(name + " Port Outer Radius: " + number_text(ports.*port.outer_r) +
+    lines.push_back(name + " Port Outer Radius: " + number_text(port.record(ports).outer_r) +
                     "; Centre, X: -" + number_text(ecc) + "; Y:0");
     lines.push_back("Port Corner Radii: " + number_text(ports.port_radius));
     lines.emplace_back();

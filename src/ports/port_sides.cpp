@@ -15,10 +15,16 @@ bool is_inner(std::size_t index) {
     return index == START_INNER || index == END_INNER;
 }
 
+/// Radius of the arc that a corner lies on.
+double arc_radius(const port_record& record, std::size_t index) {
+    return is_inner(index) ? record.inner_r : record.outer_r;
+}
+
 /// Radius of the circle on which the fillet centres of a corner lie.
 double centre_radius(const port_fields& port, const port_params& ports, std::size_t index) {
     const double f = ports.port_radius;
-    return is_inner(index) ? f + ports.*port.inner_r : ports.*port.outer_r - f;
+    const port_record& record = port.record(ports);
+    return is_inner(index) ? f + record.inner_r : record.outer_r - f;
 }
 
 double side_angle(const port_params& ports, const corner_fields& corner) {
@@ -27,22 +33,17 @@ double side_angle(const port_params& ports, const corner_fields& corner) {
 
 void store_corner(const port_fields& port, port_work& work, std::size_t index, double t_deg) {
     port_params& ports = work.ports;
-    const corner_fields& fields = port.corners[index];
-    const double arc_r = is_inner(index) ? ports.*port.inner_r : ports.*port.outer_r;
+    port_record& record = port.record(ports);
     const double shift = is_inner(index) ? 0.0 : work.design.ecc;
-    const port_corner corner = corner_at(t_deg, arc_r, centre_radius(port, ports, index),
-                                         ports.port_radius, side_angle(ports, fields), shift);
-    ports.*fields.t_deg = corner.t_deg;
-    fields.c.set(ports, corner.c);
-    fields.s.set(ports, corner.s);
-    fields.r.set(ports, corner.r);
+    port_corner& corner = record.corners[index];
+    corner = corner_at(t_deg, arc_radius(record, index), centre_radius(port, ports, index),
+                       ports.port_radius, side_angle(ports, port.corners[index]), shift);
 }
 
 corner_search search_of(const port_fields& port, const port_params& ports, std::size_t index) {
-    const corner_fields& fields = port.corners[index];
-    const double arc_r = is_inner(index) ? ports.*port.inner_r : ports.*port.outer_r;
-    const corner_input in = {arc_r, ports.*fields.angle_deg, ports.port_radius,
-                             side_angle(ports, fields)};
+    const port_record& record = port.record(ports);
+    const corner_input in = {arc_radius(record, index), record.corners[index].angle_deg,
+                             ports.port_radius, side_angle(ports, port.corners[index])};
     switch (index) {
         case START_INNER:
             return search_start_inner(in);
@@ -57,10 +58,9 @@ corner_search search_of(const port_fields& port, const port_params& ports, std::
 
 /// Polar angle of the tangent point on the side about the centre of the corner's arc, degrees.
 double tangent_angle_deg(const port_fields& port, const port_work& work, std::size_t index) {
-    const corner_fields& fields = port.corners[index];
-    const point2 s = fields.s.get(work.ports);
+    const point2 s = port.record(work.ports).corners[index].s;
     const double angle = atan_deg(s.y, is_inner(index) ? s.x : work.design.ecc + s.x);
-    return fields.is_end && angle < 0.0 ? angle + 180.0 : angle;
+    return port.corners[index].is_end && angle < 0.0 ? angle + 180.0 : angle;
 }
 
 port_end set_searched_corner(const port_fields& port, port_work& work, std::size_t index) {
@@ -77,7 +77,7 @@ port_end set_searched_corner(const port_fields& port, port_work& work, std::size
     }
     store_corner(port, work, index, *t);
     if (index != START_OUTER || !port.keeps_start_outer_angle) {
-        work.ports.*fields.angle_deg = tangent_angle_deg(port, work, index);
+        port.record(work.ports).corners[index].angle_deg = tangent_angle_deg(port, work, index);
     }
     return port_end::finished;
 }
@@ -93,7 +93,7 @@ port_end set_corners(const port_fields& port, port_work& work, std::size_t inner
         return end == port_end::refused ? end : set_searched_corner(port, work, outer);
     }
     for (const std::size_t index : {inner, outer}) {
-        work.ports.*port.corners[index].angle_deg = 0.0;
+        port.record(work.ports).corners[index].angle_deg = 0.0;
         const double t =
             axis_corner_angle(work.ports.port_radius, centre_radius(port, work.ports, index));
         store_corner(port, work, index, port.corners[index].is_end ? 180.0 - t : t);
@@ -104,15 +104,14 @@ port_end set_corners(const port_fields& port, port_work& work, std::size_t inner
 }  // namespace
 
 void set_side_lines(const port_fields& port, const design_params& design, port_params& ports) {
-    for (std::size_t index = 0; index < port.corners.size(); ++index) {
-        const corner_fields& fields = port.corners[index];
-        const double r = is_inner(index) ? ports.*port.inner_r : ports.*port.outer_r;
-        fields.p.set(ports,
-                     on_circle(r, ports.*fields.angle_deg, is_inner(index) ? 0.0 : design.ecc));
+    port_record& record = port.record(ports);
+    auto& corners = record.corners;
+    for (std::size_t index = 0; index < corners.size(); ++index) {
+        const double shift = is_inner(index) ? 0.0 : design.ecc;
+        corners[index].p = on_circle(arc_radius(record, index), corners[index].angle_deg, shift);
     }
-    const auto p = [&](std::size_t index) { return port.corners[index].p.get(ports); };
-    ports.side_angle_start = start_side_angle(p(START_INNER), p(START_OUTER));
-    ports.side_angle_end = end_side_angle(p(END_INNER), p(END_OUTER));
+    ports.side_angle_start = start_side_angle(corners[START_INNER].p, corners[START_OUTER].p);
+    ports.side_angle_end = end_side_angle(corners[END_INNER].p, corners[END_OUTER].p);
 }
 
 port_end set_start_corners(const port_fields& port, port_work& work) {
@@ -124,8 +123,9 @@ port_end set_end_corners(const port_fields& port, port_work& work) {
 }
 
 bool start_fillets_cross(const port_fields& port, const port_params& ports) {
-    const point2 c1 = port.corners[START_INNER].c.get(ports);
-    const point2 c4 = port.corners[START_OUTER].c.get(ports);
+    const port_record& record = port.record(ports);
+    const point2 c1 = record.corners[START_INNER].c;
+    const point2 c4 = record.corners[START_OUTER].c;
     return ports.side_angle_start >= 0.0 ? c1.x > c4.x : c1.y > c4.y;
 }
 

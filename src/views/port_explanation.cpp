@@ -29,12 +29,12 @@ struct explained_port {
 };
 
 explained_port inlet_of(const port_params& ports) {
-    return {{ports.inlet_p1_x, -ports.inlet_p1_y},
-            {ports.inlet_p4_x, -ports.inlet_p4_y},
-            {ports.inlet_p2_x, -ports.inlet_p2_y},
-            {ports.inlet_p3_x, -ports.inlet_p3_y},
-            ports.inlet_inner_r,
-            ports.inlet_outer_r,
+    return {mirrored(ports.inlet.corners[START_INNER].p),
+            mirrored(ports.inlet.corners[START_OUTER].p),
+            mirrored(ports.inlet.corners[END_INNER].p),
+            mirrored(ports.inlet.corners[END_OUTER].p),
+            ports.inlet.inner_r,
+            ports.inlet.outer_r,
             -1.0,
             "Frame2",
             "Label2",
@@ -46,12 +46,12 @@ explained_port inlet_of(const port_params& ports) {
 }
 
 explained_port outlet_of(const port_params& ports) {
-    return {{ports.outlet_p1_x, ports.outlet_p1_y},
-            {ports.outlet_p4_x, ports.outlet_p4_y},
-            {ports.outlet_p2_x, ports.outlet_p2_y},
-            {ports.outlet_p3_x, ports.outlet_p3_y},
-            ports.outlet_inner_r,
-            ports.outlet_outer_r,
+    return {ports.outlet.corners[START_INNER].p,
+            ports.outlet.corners[START_OUTER].p,
+            ports.outlet.corners[END_INNER].p,
+            ports.outlet.corners[END_OUTER].p,
+            ports.outlet.inner_r,
+            ports.outlet.outer_r,
             1.0,
             "Frame3",
             "Label9",
@@ -119,12 +119,9 @@ class port_drawing {
         add(outline_style::groove,
             listed_points(ports_.groove_x, ports_.groove_y, last(ports_.groove_main_last)), true);
         add(outline_style::inlet,
-            listed_points(ports_.inlet_port_x, ports_.inlet_port_y, last(ports_.inlet_port_last)),
-            true);
+            listed_points(ports_.inlet.x, ports_.inlet.y, last(ports_.inlet.last)), true);
         add(outline_style::outlet,
-            listed_points(ports_.outlet_port_x, ports_.outlet_port_y,
-                          last(ports_.outlet_port_last)),
-            true);
+            listed_points(ports_.outlet.x, ports_.outlet.y, last(ports_.outlet.last)), true);
         add(outline_style::axis, {at(-60.0, 0.0), at(60.0, 0.0)}, false);
         add(outline_style::axis, {at(0.0, -30.0), at(0.0, 30.0)}, false);
         add(outline_style::axis, {{0.0, -30.0 * unit_}, {0.0, 30.0 * unit_}}, false);
@@ -191,9 +188,9 @@ class port_drawing {
 
     /// The outlet's corner at the end of its outer radius.
     void name_corner() {
-        const point2 centre{ports_.outlet_c3_x, ports_.outlet_c3_y};
-        const point2 side{ports_.outlet_s3_x, ports_.outlet_s3_y};
-        const point2 arc{ports_.outlet_r3_x, ports_.outlet_r3_y};
+        const point2 centre = ports_.outlet.corners[END_OUTER].c;
+        const point2 side = ports_.outlet.corners[END_OUTER].s;
+        const point2 arc = ports_.outlet.corners[END_OUTER].r;
         const point2 middle =
             point_at(centre, ports_.port_radius, direction(centre, halfway(side, arc)));
         explained_parameter& parameter = name_left("Label1", 21.0);

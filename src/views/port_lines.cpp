@@ -42,29 +42,26 @@ void draw_rays(point2 centre, const std::array<point2, 4>& corners, const view_s
 }  // namespace
 
 void draw_inlet_port(const port_params& ports, const view_state& state, design_view& view) {
-    draw_segments(ports.inlet_port_x, ports.inlet_port_y, 0, ports.inlet_port_last, state,
-                  view.inlet_portline);
+    draw_segments(ports.inlet.x, ports.inlet.y, 0, ports.inlet.last, state, view.inlet_portline);
 }
 
 void draw_outlet_port(const port_params& ports, const view_state& state, design_view& view) {
-    draw_segments(ports.outlet_port_x, ports.outlet_port_y, 0, ports.outlet_port_last, state,
+    draw_segments(ports.outlet.x, ports.outlet.y, 0, ports.outlet.last, state,
                   view.outlet_portline);
 }
 
 void draw_port_angles(const port_params& ports, const design_params& design,
                       const view_state& state, design_view& view) {
-    draw_rays({0.0, 0.0},
-              {{{ports.inlet_p1_x, -ports.inlet_p1_y},
-                {ports.inlet_p2_x, -ports.inlet_p2_y},
-                {ports.outlet_p1_x, ports.outlet_p1_y},
-                {ports.outlet_p2_x, ports.outlet_p2_y}}},
-              state, view.angleline);
-    draw_rays({-design.ecc, 0.0},
-              {{{ports.inlet_p4_x, -ports.inlet_p4_y},
-                {ports.inlet_p3_x, -ports.inlet_p3_y},
-                {ports.outlet_p4_x, ports.outlet_p4_y},
-                {ports.outlet_p3_x, ports.outlet_p3_y}}},
-              state, view.anglelineout);
+    draw_rays(
+        {0.0, 0.0},
+        {{mirrored(ports.inlet.corners[START_INNER].p), mirrored(ports.inlet.corners[END_INNER].p),
+          ports.outlet.corners[START_INNER].p, ports.outlet.corners[END_INNER].p}},
+        state, view.angleline);
+    draw_rays(
+        {-design.ecc, 0.0},
+        {{mirrored(ports.inlet.corners[START_OUTER].p), mirrored(ports.inlet.corners[END_OUTER].p),
+          ports.outlet.corners[START_OUTER].p, ports.outlet.corners[END_OUTER].p}},
+        state, view.anglelineout);
 }
 
 void draw_metering_groove(const port_params& ports, const view_state& state, design_view& view) {

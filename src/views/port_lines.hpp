@@ -11,12 +11,12 @@ namespace kvt {
 
 /// A point in mm, y up, on the screen:
 ///     x = view_scale * x + view_cx + view_ecc      y = view_cy - view_scale * y
-/// One element of inlet_portline a segment of the outline 0 .. inlet_port_last, as it is stored.
+/// One element of inlet_portline a segment of the outline 0 .. inlet.last, as it is stored.
 /// The elements of an earlier drawing go first; an outline of no segment leaves none. Throws
 /// overflow for a coordinate too large.
 void draw_inlet_port(const port_params& ports, const view_state& state, design_view& view);
 
-/// Likewise outlet_portline from the outline 0 .. outlet_port_last.
+/// Likewise outlet_portline from the outline 0 .. outlet.last.
 void draw_outlet_port(const port_params& ports, const view_state& state, design_view& view);
 
 /// Four elements each of angleline, from the inner rotor centre (0, 0) to p1 and p2 of the inlet (y

@@ -88,10 +88,8 @@ void expect_ports(const program& kavetta) {
     const entries& boxes = kavetta.entries;
     const double thick = kavetta.design_params.thick;
     const double above = kavetta.design_params.axial_clear + thick;
-    const double inlet =
-        outline_area(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last);
-    const double outlet =
-        outline_area(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last);
+    const double inlet = outline_area(ports.inlet.x, ports.inlet.y, ports.inlet.last);
+    const double outlet = outline_area(ports.outlet.x, ports.outlet.y, ports.outlet.last);
     const double inlet_below = boxes.inlet_double_sided == "1" ? thick / 2.0 : thick;
     const double outlet_below = boxes.outlet_double_sided == "1" ? thick / 2.0 : thick;
     const bool shadow = boxes.shadow_ports == "1";
@@ -140,10 +138,9 @@ void expect_dxf_files(const program& kavetta) {
     expect_vertices(content("inner"), rotors.inner_x, rotors.inner_y, 3600, unit);
     // No outline of these designs meets x = 0 exactly.
     const auto count = [](std::int16_t last) { return static_cast<std::size_t>(last) + 1; };
-    expect_vertices(content("inlet"), ports.inlet_port_x, ports.inlet_port_y,
-                    count(ports.inlet_port_last), unit);
-    expect_vertices(content("outlet"), ports.outlet_port_x, ports.outlet_port_y,
-                    count(ports.outlet_port_last), unit);
+    expect_vertices(content("inlet"), ports.inlet.x, ports.inlet.y, count(ports.inlet.last), unit);
+    expect_vertices(content("outlet"), ports.outlet.x, ports.outlet.y, count(ports.outlet.last),
+                    unit);
     if (kavetta.entries.metering_groove == "1") {
         expect_vertices(content("groove"), ports.groove_x, ports.groove_y, count(ports.groove_last),
                         unit);

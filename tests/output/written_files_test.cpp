@@ -76,11 +76,11 @@ TEST(written_files, need_finished_ports_and_a_ticked_groove) {
     EXPECT_FALSE(is_there(file_needs::outlet, ports, boxes));
     EXPECT_FALSE(is_there(file_needs::any_port, ports, boxes));
     EXPECT_FALSE(is_there(file_needs::groove, ports, boxes));
-    ports.outlet_port_last = 4;
+    ports.outlet.last = 4;
     EXPECT_FALSE(is_there(file_needs::inlet, ports, boxes));
     EXPECT_TRUE(is_there(file_needs::outlet, ports, boxes));
     EXPECT_TRUE(is_there(file_needs::any_port, ports, boxes));
-    ports.inlet_port_last = 4;
+    ports.inlet.last = 4;
     ports.groove_last = 4;
     EXPECT_TRUE(is_there(file_needs::inlet, ports, boxes));
     EXPECT_TRUE(is_there(file_needs::groove, ports, boxes));

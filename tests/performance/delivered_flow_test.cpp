@@ -56,15 +56,15 @@ TEST_F(delivered_flow_test, halves_the_gap_of_balanced_rotors_in_the_velocity_on
 }
 
 TEST_F(delivered_flow_test, needs_no_more_than_the_rotor_annulus_of_a_wide_port) {
-    sample.port_params.outlet_outer_r = sample.design_params.outer_root;
-    sample.port_params.outlet_inner_r = sample.design_params.radinnroot;
+    sample.port_params.outlet.outer_r = sample.design_params.outer_root;
+    sample.port_params.outlet.inner_r = sample.design_params.radinnroot;
     const double annulus =
         effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params);
-    sample.port_params.outlet_outer_r += 3.0;
-    sample.port_params.outlet_inner_r -= 3.0;
+    sample.port_params.outlet.outer_r += 3.0;
+    sample.port_params.outlet.inner_r -= 3.0;
     EXPECT_EQ(effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params),
               annulus);
-    sample.port_params.outlet_inner_r = sample.design_params.radinnroot + 1.0;
+    sample.port_params.outlet.inner_r = sample.design_params.radinnroot + 1.0;
     EXPECT_LT(effective_capacity(sample.design_params, sample.rotor_profiles, sample.port_params),
               annulus);
 }
@@ -72,23 +72,26 @@ TEST_F(delivered_flow_test, needs_no_more_than_the_rotor_annulus_of_a_wide_port)
 TEST_F(delivered_flow_test, takes_the_whole_capacity_for_the_chamber_arc_and_not_more) {
     const rotor_profiles& rotors = sample.rotor_profiles;
     port_params& ports = sample.port_params;
-    ports.outlet_outer_r = 1000.0;
-    ports.outlet_inner_r = 0.0;
-    ports.outlet_start_outer_deg = rotors.min_chamber_outer_angle;
-    ports.outlet_end_outer_deg = 180.0 - rotors.max_chamber_outer_angle;
+    ports.outlet.outer_r = 1000.0;
+    ports.outlet.inner_r = 0.0;
+    ports.outlet.corners[START_OUTER].angle_deg = rotors.min_chamber_outer_angle;
+    ports.outlet.corners[END_OUTER].angle_deg = 180.0 - rotors.max_chamber_outer_angle;
     EXPECT_NEAR(effective_capacity(sample.design_params, rotors, ports), capacity(), 1e-12);
-    const double arc = ports.outlet_end_outer_deg - ports.outlet_start_outer_deg;
-    ports.outlet_end_outer_deg = ports.outlet_start_outer_deg + arc / 2.0;
+    const double arc =
+        ports.outlet.corners[END_OUTER].angle_deg - ports.outlet.corners[START_OUTER].angle_deg;
+    ports.outlet.corners[END_OUTER].angle_deg =
+        ports.outlet.corners[START_OUTER].angle_deg + arc / 2.0;
     EXPECT_NEAR(effective_capacity(sample.design_params, rotors, ports), capacity() / 2.0, 1e-12)
         << "a shorter port loses in proportion";
-    ports.outlet_end_outer_deg = 179.0;
+    ports.outlet.corners[END_OUTER].angle_deg = 179.0;
     EXPECT_EQ(effective_capacity(sample.design_params, rotors, ports), capacity())
         << "a longer one gains nothing";
 }
 
 /// Ports entered as 180/180 end at 0 in memory: the arc is negative.
 TEST_F(delivered_flow_test, is_zero_for_a_port_that_ends_at_180) {
-    sample.port_params.outlet_end_inner_deg = sample.port_params.outlet_end_outer_deg = 0.0;
+    sample.port_params.outlet.corners[END_INNER].angle_deg =
+        sample.port_params.outlet.corners[END_OUTER].angle_deg = 0.0;
     calculate();
     EXPECT_LT(now().effective_cc, 0.0);
     EXPECT_EQ(now().flow_m3s, perf_grid{});
@@ -120,7 +123,7 @@ TEST_F(delivered_flow_test, finds_its_extremes_anew_in_every_run) {
 }
 
 TEST_F(delivered_flow_test, fails_where_the_port_begins_at_the_shaft) {
-    sample.port_params.outlet_inner_r = sample.design_params.shaftdiameter / 2.0;
+    sample.port_params.outlet.inner_r = sample.design_params.shaftdiameter / 2.0;
     EXPECT_FAILURE(calculate(), failure::division_by_zero);
 }
 

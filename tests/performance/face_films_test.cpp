@@ -41,10 +41,10 @@ TEST_F(face_films_test, count_the_solid_ring_from_three_quarters_of_the_root) {
 /// With ports from 0 to 90 degrees on either side half of the turn is land.
 TEST_F(face_films_test, lie_where_no_port_is) {
     port_params& ports = sample.port_params;
-    ports.outlet_start_inner_deg = ports.inlet_start_inner_deg = 0.0;
-    ports.outlet_end_inner_deg = ports.inlet_end_inner_deg = 90.0;
-    ports.outlet_start_outer_deg = ports.inlet_start_outer_deg = 0.0;
-    ports.outlet_end_outer_deg = ports.inlet_end_outer_deg = 90.0;
+    ports.outlet.corners[START_INNER].angle_deg = ports.inlet.corners[START_INNER].angle_deg = 0.0;
+    ports.outlet.corners[END_INNER].angle_deg = ports.inlet.corners[END_INNER].angle_deg = 90.0;
+    ports.outlet.corners[START_OUTER].angle_deg = ports.inlet.corners[START_OUTER].angle_deg = 0.0;
+    ports.outlet.corners[END_OUTER].angle_deg = ports.inlet.corners[END_OUTER].angle_deg = 90.0;
     calculate();
     EXPECT_EQ(now().land_share_inner, 0.5);
     EXPECT_EQ(now().land_share_outer, 0.5);

@@ -26,12 +26,12 @@ TEST_F(maximum_speed_test, fills_with_the_velocity_of_the_atmosphere) {
 }
 
 TEST_F(maximum_speed_test, counts_a_stored_end_angle_of_zero_as_180) {
-    sample.port_params.inlet_end_inner_deg = 180.0;
-    sample.port_params.inlet_end_outer_deg = 180.0;
+    sample.port_params.inlet.corners[END_INNER].angle_deg = 180.0;
+    sample.port_params.inlet.corners[END_OUTER].angle_deg = 180.0;
     sample.prepare();
     const double with_180 = now().port_area;
-    sample.port_params.inlet_end_inner_deg = 0.0;
-    sample.port_params.inlet_end_outer_deg = 0.0;
+    sample.port_params.inlet.corners[END_INNER].angle_deg = 0.0;
+    sample.port_params.inlet.corners[END_OUTER].angle_deg = 0.0;
     sample.prepare();
     EXPECT_EQ(now().port_area, with_180);
     EXPECT_GT(with_180, 0.0);
@@ -63,11 +63,13 @@ TEST_F(maximum_speed_test, fails_for_a_vapour_pressure_above_the_atmosphere) {
 }
 
 TEST_F(maximum_speed_test, fails_for_a_port_without_area) {
-    sample.port_params.inlet_inner_r = sample.port_params.inlet_outer_r = 10.0;
-    sample.port_params.inlet_start_inner_deg = sample.port_params.inlet_start_outer_deg;
-    sample.port_params.inlet_end_inner_deg = sample.port_params.inlet_end_outer_deg;
+    sample.port_params.inlet.inner_r = sample.port_params.inlet.outer_r = 10.0;
+    sample.port_params.inlet.corners[START_INNER].angle_deg =
+        sample.port_params.inlet.corners[START_OUTER].angle_deg;
+    sample.port_params.inlet.corners[END_INNER].angle_deg =
+        sample.port_params.inlet.corners[END_OUTER].angle_deg;
     EXPECT_FAILURE(sample.prepare(), failure::division_by_zero);
-    sample.port_params.inlet_inner_r = 11.0;
+    sample.port_params.inlet.inner_r = 11.0;
     EXPECT_FAILURE(sample.prepare(), failure::invalid_procedure_call);
 }
 

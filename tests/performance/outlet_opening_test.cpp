@@ -81,7 +81,7 @@ struct plain_march {
             for (int k = 1; k <= n - 2.0; ++k) {
                 const double index = s + (k / (n - 1.0)) * 3600.0;
                 if (index - 1800.0 / (n - 1.0) <
-                    3600.0 - sample.port_params.outlet_start_inner_deg * 10.0) {
+                    3600.0 - sample.port_params.outlet.corners[START_INNER].angle_deg * 10.0) {
                     w = w + chamber_volume(index);
                     d = d + r.chamber_rate[static_cast<std::size_t>(std::nearbyint(index))];
                 }

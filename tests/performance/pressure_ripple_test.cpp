@@ -25,14 +25,14 @@ TEST_F(pressure_ripple_test, adds_half_a_turn_in_every_quadrant) {
     port_params& ports = sample.port_params;
     for (const double x : {-1.0, 1.0}) {
         for (const double y : {-1.0, 1.0}) {
-            ports.outlet_p2_x = ports.outlet_p3_x = 10.0 * x;
-            ports.outlet_p2_y = ports.outlet_p3_y = 10.0 * y;
+            ports.outlet.corners[END_INNER].p.x = ports.outlet.corners[END_OUTER].p.x = 10.0 * x;
+            ports.outlet.corners[END_INNER].p.y = ports.outlet.corners[END_OUTER].p.y = 10.0 * y;
             set_edge();
             EXPECT_NEAR(now().port_edge_angle, 3.1415927 * 1.25, 1e-7);
             EXPECT_NEAR(now().port_edge_r, std::sqrt(200.0), 1e-12);
         }
     }
-    ports.outlet_p2_x = ports.outlet_p3_x = 0.0;
+    ports.outlet.corners[END_INNER].p.x = ports.outlet.corners[END_OUTER].p.x = 0.0;
     EXPECT_FAILURE(set_edge(), failure::division_by_zero);
 }
 
@@ -40,12 +40,12 @@ TEST_F(pressure_ripple_test, adds_half_a_turn_in_every_quadrant) {
 /// 300 PI_D 10 mm3.
 TEST_F(pressure_ripple_test, takes_the_outer_end_and_the_inner_start_for_the_port_volume) {
     port_params& ports = sample.port_params;
-    ports.outlet_outer_r = 20.0;
-    ports.outlet_inner_r = 10.0;
-    ports.outlet_start_inner_deg = 10.0;
-    ports.outlet_start_outer_deg = 77.0;
-    ports.outlet_end_inner_deg = 99.0;
-    ports.outlet_end_outer_deg = 130.0;
+    ports.outlet.outer_r = 20.0;
+    ports.outlet.inner_r = 10.0;
+    ports.outlet.corners[START_INNER].angle_deg = 10.0;
+    ports.outlet.corners[START_OUTER].angle_deg = 77.0;
+    ports.outlet.corners[END_INNER].angle_deg = 99.0;
+    ports.outlet.corners[END_OUTER].angle_deg = 130.0;
     sample.design_params.thick = 10.0;
     set_edge();
     EXPECT_NEAR(now().port_volume, 3.1415927 * 1000.0 / 1e9, 1e-18);
@@ -53,14 +53,14 @@ TEST_F(pressure_ripple_test, takes_the_outer_end_and_the_inner_start_for_the_por
 
 TEST_F(pressure_ripple_test, takes_the_middle_of_the_nose_line_with_a_groove_only) {
     port_params& ports = sample.port_params;
-    ports.groove_n1_x = -10.0;
-    ports.groove_n2_x = -12.0;
-    ports.groove_n1_y = 10.0;
-    ports.groove_n2_y = 12.0;
+    ports.groove_n1.x = -10.0;
+    ports.groove_n2.x = -12.0;
+    ports.groove_n1.y = 10.0;
+    ports.groove_n2.y = 12.0;
     set_edge();
     EXPECT_NEAR(now().nose_angle, 3.1415927 * 1.25, 1e-7);
     sample.perf_inputs.metering_groove = false;
-    ports.groove_n1_y = 0.0;
+    ports.groove_n1.y = 0.0;
     set_edge();
     EXPECT_NEAR(now().nose_angle, 3.1415927 * 1.25, 1e-7) << "not touched";
 }

@@ -89,8 +89,8 @@ TEST_F(side_load_test, adds_the_pressure_on_the_root_between_the_texts_of_the_an
     sample.design_params.thick = 5.0;
     sample.perf_inputs.outlet_start_inner = 100.0;
     sample.perf_inputs.outlet_end_inner = 136.0;
-    sample.port_params.outlet_start_inner_deg = 0.0;
-    sample.port_params.outlet_end_inner_deg = 180.0;
+    sample.port_params.outlet.corners[START_INNER].angle_deg = 0.0;
+    sample.port_params.outlet.corners[END_INNER].angle_deg = 180.0;
     now().press_pa = {1e6, 2e6, 0, 0, 0, 0};
     set_all_contacts(1.0, 1.0);
     calculate();

@@ -99,26 +99,26 @@ TEST(build_ports, a_refusal_leaves_the_old_outline_whole) {
     port_design tested;
     port_work work = tested.work();
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
-    const zeroed_array x = tested.ports.inlet_port_x;
-    const std::int16_t last = tested.ports.inlet_port_last;
+    const zeroed_array x = tested.ports.inlet.x;
+    const std::int16_t last = tested.ports.inlet.last;
     tested.boxes.inlet_end_inner = "190";
     tested.boxes.inlet_end_outer = "188";
     ASSERT_EQ(build_inlet_port(work), port_end::refused);
-    EXPECT_EQ(tested.ports.inlet_port_x, x);
-    EXPECT_EQ(tested.ports.inlet_port_last, last);
+    EXPECT_EQ(tested.ports.inlet.x, x);
+    EXPECT_EQ(tested.ports.inlet.last, last);
 }
 
 TEST(build_ports, a_shorter_outline_leaves_nothing_of_a_longer_one) {
     port_design tested;
     port_work work = tested.work();
     ASSERT_EQ(build_outlet_port(work), port_end::finished);
-    const int longer = tested.ports.outlet_port_last;
+    const int longer = tested.ports.outlet.last;
     tested.boxes.port_radii = "0";
     ASSERT_EQ(build_outlet_port(work), port_end::finished);
-    ASSERT_LT(tested.ports.outlet_port_last, longer);
-    for (int i = tested.ports.outlet_port_last + 1; i <= longer; ++i) {
-        EXPECT_EQ(checked_at(tested.ports.outlet_port_x, i), 0.0);
-        EXPECT_EQ(checked_at(tested.ports.outlet_port_y, i), 0.0);
+    ASSERT_LT(tested.ports.outlet.last, longer);
+    for (int i = tested.ports.outlet.last + 1; i <= longer; ++i) {
+        EXPECT_EQ(checked_at(tested.ports.outlet.x, i), 0.0);
+        EXPECT_EQ(checked_at(tested.ports.outlet.y, i), 0.0);
     }
 }
 
@@ -200,7 +200,7 @@ TEST(build_ports, a_pass_that_would_write_the_same_texts_ends_as_refused) {
     EXPECT_EQ(build_inlet_port(work), port_end::refused);
     EXPECT_EQ(tested.person.log,
               log_lines{"message " + too_large(message::port_radius_too_large_inlet, ENGLISH)});
-    EXPECT_EQ(tested.ports.inlet_port_last, 0);
+    EXPECT_EQ(tested.ports.inlet.last, 0);
 }
 
 TEST(build_ports, a_radius_for_the_inlet_only_comes_back_from_the_outlet) {
@@ -217,10 +217,12 @@ TEST(build_ports, a_radius_for_the_inlet_only_comes_back_from_the_outlet) {
     EXPECT_EQ(tested.boxes.Outlet_inner_radius, "14.15");
     EXPECT_EQ(tested.boxes.Outlet_outer_radius, "22.9");
     // Kept: a side to the right doesn't rebuild the inlet, whose corners keep the refused radius.
-    EXPECT_NEAR(std::hypot(tested.ports.inlet_c1_x, tested.ports.inlet_c1_y), 14.5 + 2.5, 1e-9);
+    EXPECT_NEAR(std::hypot(tested.ports.inlet.corners[START_INNER].c.x,
+                           tested.ports.inlet.corners[START_INNER].c.y),
+                14.5 + 2.5, 1e-9);
     EXPECT_EQ(tested.ports.port_radius, 0.0);
-    EXPECT_EQ(tested.ports.inlet_built.f, 2.5) << "the outline knows its own radius";
-    EXPECT_EQ(tested.ports.outlet_built.f, 0.0);
+    EXPECT_EQ(tested.ports.inlet.built.f, 2.5) << "the outline knows its own radius";
+    EXPECT_EQ(tested.ports.outlet.built.f, 0.0);
     EXPECT_FALSE(work.inlet_rebuilt);
 }
 
@@ -228,19 +230,19 @@ TEST(build_ports, an_outline_keeps_what_it_was_built_with) {
     port_design tested;
     port_work work = tested.work();
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
-    const port_shape built = tested.ports.inlet_built;
+    const port_shape built = tested.ports.inlet.built;
     EXPECT_EQ(built.R, 14.5);
     EXPECT_EQ(built.Q, 22.4);
     EXPECT_EQ(built.f, 1.5);
     EXPECT_EQ(built.e, 2.85);
-    EXPECT_EQ(built.corners[0].s.x, tested.ports.inlet_port_x[0]);
+    EXPECT_EQ(built.corners[0].s.x, tested.ports.inlet.x[0]);
     tested.boxes.inlet_inner_radius = "15";
     tested.boxes.inlet_end_inner = "190";
     tested.boxes.inlet_end_outer = "188";
     ASSERT_EQ(build_inlet_port(work), port_end::refused);
-    EXPECT_EQ(tested.ports.inlet_inner_r, 15.0);
-    EXPECT_EQ(tested.ports.inlet_built.R, 14.5);
-    EXPECT_EQ(tested.ports.inlet_built.corners[1].s, built.corners[1].s);
+    EXPECT_EQ(tested.ports.inlet.inner_r, 15.0);
+    EXPECT_EQ(tested.ports.inlet.built.R, 14.5);
+    EXPECT_EQ(tested.ports.inlet.built.corners[1].s, built.corners[1].s);
 }
 
 TEST(build_ports, a_start_side_to_the_left_rebuilds_the_inlet_too) {
@@ -259,8 +261,10 @@ TEST(build_ports, a_start_side_to_the_left_rebuilds_the_inlet_too) {
     EXPECT_EQ(tested.boxes.port_radii, "0.5");
     EXPECT_EQ(tested.boxes.Outlet_outer_radius, "20") << "the radii are left alone";
     EXPECT_TRUE(work.inlet_rebuilt);
-    EXPECT_EQ(tested.ports.inlet_built.f, 0.5);
-    EXPECT_NEAR(std::hypot(tested.ports.inlet_c1_x, tested.ports.inlet_c1_y), 14.5 + 0.5, 1e-9);
+    EXPECT_EQ(tested.ports.inlet.built.f, 0.5);
+    EXPECT_NEAR(std::hypot(tested.ports.inlet.corners[START_INNER].c.x,
+                           tested.ports.inlet.corners[START_INNER].c.y),
+                14.5 + 0.5, 1e-9);
     EXPECT_EQ(tested.ports.last_good_port_radius, 0.5);
 }
 
@@ -270,13 +274,13 @@ TEST(build_ports, sharp_corners_have_arcs_and_sides_only) {
     port_work work = tested.work();
     ASSERT_EQ(build_outlet_port(work), port_end::finished);
     const port_params& ports = tested.ports;
-    EXPECT_NEAR(ports.outlet_t1_deg, 16.0, 0.0021);
-    EXPECT_NEAR(ports.outlet_t3_deg, 144.0, 0.0021);
-    EXPECT_EQ(ports.outlet_mark_a, 0);
-    EXPECT_NEAR(ports.outlet_mark_b, 2 * (148 - 16), 1);
-    EXPECT_EQ(ports.outlet_mark_c, ports.outlet_mark_b + 20);
-    EXPECT_NEAR(ports.outlet_mark_d, ports.outlet_mark_c + 2 * (144 - 14), 1);
-    EXPECT_EQ(ports.outlet_port_last, ports.outlet_mark_d + 20);
+    EXPECT_NEAR(ports.outlet.corners[START_INNER].t_deg, 16.0, 0.0021);
+    EXPECT_NEAR(ports.outlet.corners[END_OUTER].t_deg, 144.0, 0.0021);
+    EXPECT_EQ(ports.outlet.marks[0], 0);
+    EXPECT_NEAR(ports.outlet.marks[1], 2 * (148 - 16), 1);
+    EXPECT_EQ(ports.outlet.marks[2], ports.outlet.marks[1] + 20);
+    EXPECT_NEAR(ports.outlet.marks[3], ports.outlet.marks[2] + 2 * (144 - 14), 1);
+    EXPECT_EQ(ports.outlet.last, ports.outlet.marks[3] + 20);
 }
 
 TEST(build_ports, a_whole_half_circle_has_no_search_and_touches_the_axis) {
@@ -286,13 +290,16 @@ TEST(build_ports, a_whole_half_circle_has_no_search_and_touches_the_axis) {
     ASSERT_EQ(build_inlet_port(work), port_end::finished);
     // Kept: the closed form takes an arctangent where the arcsine would touch the axis, so the port
     // reaches beyond it.
-    EXPECT_NEAR(tested.ports.inlet_s1_y, 16.0 * std::sin(std::atan(1.5 / 16.0)) - 1.5, 1e-6);
-    EXPECT_LT(tested.ports.inlet_s1_y, 0.0);
-    EXPECT_LT(tested.ports.inlet_s3_y, 0.0);
-    for (std::int64_t i = 0; i <= tested.ports.inlet_port_last; ++i) {
-        ASSERT_LE(checked_at(tested.ports.inlet_port_y, i), -tested.ports.inlet_s1_y + 1e-6) << i;
+    EXPECT_NEAR(tested.ports.inlet.corners[START_INNER].s.y,
+                16.0 * std::sin(std::atan(1.5 / 16.0)) - 1.5, 1e-6);
+    EXPECT_LT(tested.ports.inlet.corners[START_INNER].s.y, 0.0);
+    EXPECT_LT(tested.ports.inlet.corners[END_OUTER].s.y, 0.0);
+    for (std::int64_t i = 0; i <= tested.ports.inlet.last; ++i) {
+        ASSERT_LE(checked_at(tested.ports.inlet.y, i),
+                  -tested.ports.inlet.corners[START_INNER].s.y + 1e-6)
+            << i;
     }
-    EXPECT_EQ(tested.ports.inlet_end_inner_deg, 0.0);
+    EXPECT_EQ(tested.ports.inlet.corners[END_INNER].angle_deg, 0.0);
 }
 
 TEST(build_ports, the_inlet_fills_the_radii_of_both_ports) {

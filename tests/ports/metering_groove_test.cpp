@@ -45,9 +45,10 @@ TEST(metering_groove, starts_and_ends_on_the_end_side_of_the_outlet) {
     ASSERT_EQ(tested.build(), port_end::finished);
     const port_params& ports = tested.ports;
     const auto beside_edge = [&](point2 at) {
-        const double dx = ports.outlet_p3_x - ports.outlet_p2_x;
-        const double dy = ports.outlet_p3_y - ports.outlet_p2_y;
-        return ((at.x - ports.outlet_p2_x) * dy - (at.y - ports.outlet_p2_y) * dx) /
+        const double dx = ports.outlet.corners[END_OUTER].p.x - ports.outlet.corners[END_INNER].p.x;
+        const double dy = ports.outlet.corners[END_OUTER].p.y - ports.outlet.corners[END_INNER].p.y;
+        return ((at.x - ports.outlet.corners[END_INNER].p.x) * dy -
+                (at.y - ports.outlet.corners[END_INNER].p.y) * dx) /
                std::hypot(dx, dy);
     };
     EXPECT_NEAR(beside_edge(tested.at(0)), 0.0, 1e-9);
@@ -91,20 +92,20 @@ TEST(metering_groove, sharp_ports_give_it_a_square_nose) {
     ASSERT_EQ(tested.build(), port_end::finished);
     const port_params& ports = tested.ports;
     EXPECT_EQ(ports.groove_mark_c, ports.groove_mark_b + 1);
-    EXPECT_NEAR(tested.at(ports.groove_mark_b).x, ports.groove_n1_x, 0.001);
-    EXPECT_NEAR(tested.at(ports.groove_mark_c).y, ports.groove_n2_y, 0.001);
+    EXPECT_NEAR(tested.at(ports.groove_mark_b).x, ports.groove_n1.x, 0.001);
+    EXPECT_NEAR(tested.at(ports.groove_mark_c).y, ports.groove_n2.y, 0.001);
 }
 
 TEST(metering_groove, marks_stand_at_the_tail) {
     groove_on_outlet tested;
     ASSERT_EQ(tested.build(), port_end::finished);
     const port_params& ports = tested.ports;
-    EXPECT_EQ(tested.at(ports.groove_mark_d).x, ports.groove_tail_outer_x);
-    EXPECT_EQ(tested.at(ports.groove_mark_a).y, ports.groove_tail_inner_y);
+    EXPECT_EQ(tested.at(ports.groove_mark_d).x, ports.groove_tail_outer.x);
+    EXPECT_EQ(tested.at(ports.groove_mark_a).y, ports.groove_tail_inner.y);
     EXPECT_EQ(ports.groove_mark_a, ports.groove_mark_d + 1);
     EXPECT_DOUBLE_EQ(ports.overlap_deg, 1.5 * 216.0 / (2.0 * ports.groove_centre_r * 3.1415927));
-    EXPECT_EQ(ports.groove_nose_inner_x, ports.groove_n1_x);
-    EXPECT_EQ(ports.groove_nose_outer_y, ports.groove_n2_y);
+    EXPECT_EQ(ports.groove_nose_inner.x, ports.groove_n1.x);
+    EXPECT_EQ(ports.groove_nose_outer.y, ports.groove_n2.y);
 }
 
 void expect_refused(groove_on_outlet& tested, const std::string& told) {

@@ -18,10 +18,10 @@ TEST(port_entries, empty_angles_show_the_chamber_angles_cut_to_two_decimals_and_
     EXPECT_EQ(tested.boxes.inlet_start_outer, "17.23");
     EXPECT_EQ(tested.boxes.inlet_end_inner, "148.59") << "180 - 31.41";
     EXPECT_EQ(tested.boxes.inlet_end_outer, "145.02") << "180 - 34.98";
-    EXPECT_EQ(tested.ports.inlet_start_inner_deg, 20.5678);
-    EXPECT_EQ(tested.ports.inlet_start_outer_deg, 17.2349);
-    EXPECT_EQ(tested.ports.inlet_end_inner_deg, 180.0 - 31.4159);
-    EXPECT_EQ(tested.ports.inlet_end_outer_deg, 180.0 - 34.9876);
+    EXPECT_EQ(tested.ports.inlet.corners[START_INNER].angle_deg, 20.5678);
+    EXPECT_EQ(tested.ports.inlet.corners[START_OUTER].angle_deg, 17.2349);
+    EXPECT_EQ(tested.ports.inlet.corners[END_INNER].angle_deg, 180.0 - 31.4159);
+    EXPECT_EQ(tested.ports.inlet.corners[END_OUTER].angle_deg, 180.0 - 34.9876);
 }
 
 TEST(port_entries, the_next_run_takes_the_cut_text) {
@@ -29,15 +29,15 @@ TEST(port_entries, the_next_run_takes_the_cut_text) {
     tested.boxes = sample_entries();
     read_port_angles(outlet_fields(), tested.rotors, tested.boxes, tested.ports);
     read_port_angles(outlet_fields(), tested.rotors, tested.boxes, tested.ports);
-    EXPECT_EQ(tested.ports.outlet_start_inner_deg, 20.56);
-    EXPECT_EQ(tested.ports.outlet_end_outer_deg, 145.02);
+    EXPECT_EQ(tested.ports.outlet.corners[START_INNER].angle_deg, 20.56);
+    EXPECT_EQ(tested.ports.outlet.corners[END_OUTER].angle_deg, 145.02);
 }
 
 TEST(port_entries, an_angle_of_a_blank_is_typed_and_reads_as_zero) {
     port_design tested;
     tested.boxes.inlet_start_inner = " ";
     read_port_angles(inlet_fields(), tested.rotors, tested.boxes, tested.ports);
-    EXPECT_EQ(tested.ports.inlet_start_inner_deg, 0.0);
+    EXPECT_EQ(tested.ports.inlet.corners[START_INNER].angle_deg, 0.0);
     EXPECT_EQ(tested.boxes.inlet_start_inner, " ");
 }
 
@@ -59,7 +59,7 @@ TEST(port_entries, inches_are_25_4_mm) {
     tested.boxes.Outlet_inner_radius = "0.5";
     tested.boxes.port_radii = "0.1";
     read_port_radii(outlet_fields(), tested.boxes, length_unit_of(INCHES), tested.ports);
-    EXPECT_EQ(tested.ports.outlet_inner_r, 0.5 * 25.4);
+    EXPECT_EQ(tested.ports.outlet.inner_r, 0.5 * 25.4);
     EXPECT_EQ(tested.ports.port_radius, 0.1 * 25.4);
 }
 

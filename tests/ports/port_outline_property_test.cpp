@@ -108,25 +108,25 @@ void expect_tangent(point2 c, double f, double shift, double centre_r, point2 si
 /// The outlet's fillets touch arcs and sides. Returns how many were tested.
 int expect_tangent_fillets(const port_design& tested) {
     const port_params& p = tested.ports;
-    const point2 p1 = {p.outlet_p1_x, p.outlet_p1_y}, p2 = {p.outlet_p2_x, p.outlet_p2_y};
-    const point2 p3 = {p.outlet_p3_x, p.outlet_p3_y}, p4 = {p.outlet_p4_x, p.outlet_p4_y};
+    const point2 p1 = p.outlet.corners[START_INNER].p, p2 = p.outlet.corners[END_INNER].p;
+    const point2 p3 = p.outlet.corners[END_OUTER].p, p4 = p.outlet.corners[START_OUTER].p;
     const double f = p.port_radius;
     const double e = tested.design.ecc;
     int fillets = 0;
-    if (!ended_at_once(p.outlet_t1_deg, tested.boxes.outlet_start_inner)) {
-        expect_tangent({p.outlet_c1_x, p.outlet_c1_y}, f, 0.0, p.outlet_inner_r + f, p1, p4);
+    if (!ended_at_once(p.outlet.corners[START_INNER].t_deg, tested.boxes.outlet_start_inner)) {
+        expect_tangent(p.outlet.corners[START_INNER].c, f, 0.0, p.outlet.inner_r + f, p1, p4);
         ++fillets;
     }
-    if (!ended_at_once(p.outlet_t2_deg, tested.boxes.outlet_end_inner)) {
-        expect_tangent({p.outlet_c2_x, p.outlet_c2_y}, f, 0.0, p.outlet_inner_r + f, p2, p3);
+    if (!ended_at_once(p.outlet.corners[END_INNER].t_deg, tested.boxes.outlet_end_inner)) {
+        expect_tangent(p.outlet.corners[END_INNER].c, f, 0.0, p.outlet.inner_r + f, p2, p3);
         ++fillets;
     }
-    if (!ended_at_once(p.outlet_t3_deg, tested.boxes.outlet_end_outer)) {
-        expect_tangent({p.outlet_c3_x, p.outlet_c3_y}, f, e, p.outlet_outer_r - f, p2, p3);
+    if (!ended_at_once(p.outlet.corners[END_OUTER].t_deg, tested.boxes.outlet_end_outer)) {
+        expect_tangent(p.outlet.corners[END_OUTER].c, f, e, p.outlet.outer_r - f, p2, p3);
         ++fillets;
     }
-    if (!ended_at_once(p.outlet_t4_deg, tested.boxes.outlet_start_outer)) {
-        expect_tangent({p.outlet_c4_x, p.outlet_c4_y}, f, e, p.outlet_outer_r - f, p1, p4);
+    if (!ended_at_once(p.outlet.corners[START_OUTER].t_deg, tested.boxes.outlet_start_outer)) {
+        expect_tangent(p.outlet.corners[START_OUTER].c, f, e, p.outlet.outer_r - f, p1, p4);
         ++fillets;
     }
     return fillets;
@@ -173,15 +173,15 @@ TEST(port_outline_properties, hold_for_random_ports_on_random_rotors) {
                      " " + tested.boxes.outlet_end_outer + " R " + tested.boxes.inlet_inner_radius +
                      " Q " + tested.boxes.inlet_outer_radius + " f " + tested.boxes.port_radii +
                      " e " + tested.boxes.ecc);
-        expect_sound(outline(p.inlet_port_x, p.inlet_port_y, p.inlet_port_last),
-                     largest_step(p, p.inlet_outer_r, {p.inlet_s1_x, p.inlet_s1_y},
-                                  {p.inlet_s4_x, p.inlet_s4_y}, {p.inlet_s2_x, p.inlet_s2_y},
-                                  {p.inlet_s3_x, p.inlet_s3_y}),
+        expect_sound(outline(p.inlet.x, p.inlet.y, p.inlet.last),
+                     largest_step(p, p.inlet.outer_r, p.inlet.corners[START_INNER].s,
+                                  p.inlet.corners[START_OUTER].s, p.inlet.corners[END_INNER].s,
+                                  p.inlet.corners[END_OUTER].s),
                      -1);
-        expect_sound(outline(p.outlet_port_x, p.outlet_port_y, p.outlet_port_last),
-                     largest_step(p, p.outlet_outer_r, {p.outlet_s1_x, p.outlet_s1_y},
-                                  {p.outlet_s4_x, p.outlet_s4_y}, {p.outlet_s2_x, p.outlet_s2_y},
-                                  {p.outlet_s3_x, p.outlet_s3_y}),
+        expect_sound(outline(p.outlet.x, p.outlet.y, p.outlet.last),
+                     largest_step(p, p.outlet.outer_r, p.outlet.corners[START_INNER].s,
+                                  p.outlet.corners[START_OUTER].s, p.outlet.corners[END_INNER].s,
+                                  p.outlet.corners[END_OUTER].s),
                      1);
         fillets += expect_tangent_fillets(tested);
         if (testing::Test::HasFailure()) {

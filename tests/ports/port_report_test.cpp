@@ -11,18 +11,18 @@ TEST(port_report, has_24_lines_with_the_inlet_below_the_axis) {
     design_params design;
     design.ecc = 2.85;
     ports.port_radius = 1.5;
-    ports.inlet_inner_r = 14.5;
-    ports.inlet_outer_r = 22.4;
-    ports.outlet_inner_r = 14.6;
-    ports.outlet_outer_r = 1.0 / 3.0;
-    ports.inlet_c1_x = 1.0;
-    ports.inlet_c1_y = 2.0;
-    ports.inlet_c2_x = -3.5;
-    ports.inlet_c2_y = 4.0;
-    ports.inlet_c4_y = 1e-5;
-    ports.outlet_c1_x = 5.0;
-    ports.outlet_c1_y = 6.0;
-    ports.outlet_c4_y = 0.1 + 0.2;
+    ports.inlet.inner_r = 14.5;
+    ports.inlet.outer_r = 22.4;
+    ports.outlet.inner_r = 14.6;
+    ports.outlet.outer_r = 1.0 / 3.0;
+    ports.inlet.corners[START_INNER].c.x = 1.0;
+    ports.inlet.corners[START_INNER].c.y = 2.0;
+    ports.inlet.corners[END_INNER].c.x = -3.5;
+    ports.inlet.corners[END_INNER].c.y = 4.0;
+    ports.inlet.corners[START_OUTER].c.y = 1e-5;
+    ports.outlet.corners[START_INNER].c.x = 5.0;
+    ports.outlet.corners[START_INNER].c.y = 6.0;
+    ports.outlet.corners[START_OUTER].c.y = 0.1 + 0.2;
     const std::vector<std::string> expected = {
         "Kavetta V2021.1.1 - Port Radius Co-ordinates",
         "Cartesian Co-ordinate Datum is centre of Inner Rotor. Alignment of Cartesian Axes are as "

@@ -27,10 +27,17 @@ TEST(port_sides, unfilleted_corners_lie_on_the_two_circles) {
     read_ports tested(inlet_fields());
     tested.read();
     const port_params& ports = tested.ports;
-    EXPECT_NEAR(std::hypot(ports.inlet_p1_x, ports.inlet_p1_y), 14.5, 1e-12);
-    EXPECT_NEAR(std::hypot(ports.inlet_p2_x, ports.inlet_p2_y), 14.5, 1e-12);
-    EXPECT_NEAR(std::hypot(ports.inlet_p3_x + 2.85, ports.inlet_p3_y), 22.4, 1e-12);
-    EXPECT_NEAR(std::hypot(ports.inlet_p4_x + 2.85, ports.inlet_p4_y), 22.4, 1e-12);
+    EXPECT_NEAR(
+        std::hypot(ports.inlet.corners[START_INNER].p.x, ports.inlet.corners[START_INNER].p.y),
+        14.5, 1e-12);
+    EXPECT_NEAR(std::hypot(ports.inlet.corners[END_INNER].p.x, ports.inlet.corners[END_INNER].p.y),
+                14.5, 1e-12);
+    EXPECT_NEAR(
+        std::hypot(ports.inlet.corners[END_OUTER].p.x + 2.85, ports.inlet.corners[END_OUTER].p.y),
+        22.4, 1e-12);
+    EXPECT_NEAR(std::hypot(ports.inlet.corners[START_OUTER].p.x + 2.85,
+                           ports.inlet.corners[START_OUTER].p.y),
+                22.4, 1e-12);
 }
 
 TEST(port_sides, start_angles_of_zero_take_the_closed_form) {
@@ -41,11 +48,14 @@ TEST(port_sides, start_angles_of_zero_take_the_closed_form) {
     port_work work = tested.work();
     EXPECT_EQ(set_start_corners(inlet_fields(), work), port_end::finished);
     const port_params& ports = tested.ports;
-    EXPECT_NEAR(ports.inlet_c1_y, std::sin(std::atan(1.5 / 16.0)) * 16.0, 1e-12);
-    EXPECT_NEAR(ports.inlet_t1_deg, std::atan(1.5 / 16.0) * 180.0 / 3.1415927, 1e-12);
-    EXPECT_NEAR(ports.inlet_t4_deg, std::atan(1.5 / 20.9) * 180.0 / 3.1415927, 1e-12);
-    EXPECT_EQ(ports.inlet_start_inner_deg, 0.0);
-    EXPECT_EQ(ports.inlet_start_outer_deg, 0.0);
+    EXPECT_NEAR(ports.inlet.corners[START_INNER].c.y, std::sin(std::atan(1.5 / 16.0)) * 16.0,
+                1e-12);
+    EXPECT_NEAR(ports.inlet.corners[START_INNER].t_deg, std::atan(1.5 / 16.0) * 180.0 / 3.1415927,
+                1e-12);
+    EXPECT_NEAR(ports.inlet.corners[START_OUTER].t_deg, std::atan(1.5 / 20.9) * 180.0 / 3.1415927,
+                1e-12);
+    EXPECT_EQ(ports.inlet.corners[START_INNER].angle_deg, 0.0);
+    EXPECT_EQ(ports.inlet.corners[START_OUTER].angle_deg, 0.0);
 }
 
 TEST(port_sides, one_start_angle_of_zero_is_searched) {
@@ -55,7 +65,8 @@ TEST(port_sides, one_start_angle_of_zero_is_searched) {
     port_work work = tested.work();
     const port_end end = set_start_corners(inlet_fields(), work);
     EXPECT_EQ(end, port_end::finished);
-    EXPECT_NE(tested.ports.inlet_start_inner_deg, 0.0) << "the angle of the tangent point";
+    EXPECT_NE(tested.ports.inlet.corners[START_INNER].angle_deg, 0.0)
+        << "the angle of the tangent point";
 }
 
 TEST(port_sides, end_angles_of_180_become_0_in_the_record) {
@@ -65,34 +76,33 @@ TEST(port_sides, end_angles_of_180_become_0_in_the_record) {
     tested.read();
     port_work work = tested.work();
     EXPECT_EQ(set_end_corners(outlet_fields(), work), port_end::finished);
-    EXPECT_EQ(tested.ports.outlet_end_inner_deg, 0.0);
-    EXPECT_EQ(tested.ports.outlet_end_outer_deg, 0.0);
+    EXPECT_EQ(tested.ports.outlet.corners[END_INNER].angle_deg, 0.0);
+    EXPECT_EQ(tested.ports.outlet.corners[END_OUTER].angle_deg, 0.0);
     EXPECT_EQ(tested.boxes.outlet_end_inner, "180") << "the entry stays";
-    EXPECT_NEAR(tested.ports.outlet_t2_deg, 180.0 - std::atan(1.5 / 16.1) * 180.0 / 3.1415927,
-                1e-12);
-    EXPECT_NEAR(tested.ports.outlet_t3_deg, 180.0 - std::atan(1.5 / 20.7) * 180.0 / 3.1415927,
-                1e-12);
+    EXPECT_NEAR(tested.ports.outlet.corners[END_INNER].t_deg,
+                180.0 - std::atan(1.5 / 16.1) * 180.0 / 3.1415927, 1e-12);
+    EXPECT_NEAR(tested.ports.outlet.corners[END_OUTER].t_deg,
+                180.0 - std::atan(1.5 / 20.7) * 180.0 / 3.1415927, 1e-12);
 }
 
 TEST(port_sides, angles_become_those_of_the_tangent_points_but_for_the_outlet_s_outer_start) {
     for (const port_fields* fields : {&inlet_fields(), &outlet_fields()}) {
         read_ports tested(*fields);
         tested.read();
-        const double entered = tested.ports.*fields->corners[START_OUTER].angle_deg;
+        const auto& corners = fields->record(tested.ports).corners;
+        const double entered = corners[START_OUTER].angle_deg;
         port_work work = tested.work();
         EXPECT_EQ(set_start_corners(*fields, work), port_end::finished);
         EXPECT_EQ(set_end_corners(*fields, work), port_end::finished);
-        const point2 s1 = fields->corners[START_INNER].s.get(tested.ports);
-        const point2 s3 = fields->corners[END_OUTER].s.get(tested.ports);
-        const point2 s4 = fields->corners[START_OUTER].s.get(tested.ports);
+        const point2 s1 = corners[START_INNER].s;
+        const point2 s3 = corners[END_OUTER].s;
+        const point2 s4 = corners[START_OUTER].s;
         const auto degrees = [](double y, double x) {
             return std::atan(y / x) * 180.0 / 3.1415927;
         };
-        EXPECT_EQ(tested.ports.*fields->corners[START_INNER].angle_deg, degrees(s1.y, s1.x));
-        EXPECT_EQ(tested.ports.*fields->corners[END_OUTER].angle_deg,
-                  degrees(s3.y, 2.85 + s3.x) + 180.0);
-        const double outer_start = tested.ports.*fields->corners[START_OUTER].angle_deg;
-        EXPECT_EQ(outer_start,
+        EXPECT_EQ(corners[START_INNER].angle_deg, degrees(s1.y, s1.x));
+        EXPECT_EQ(corners[END_OUTER].angle_deg, degrees(s3.y, 2.85 + s3.x) + 180.0);
+        EXPECT_EQ(corners[START_OUTER].angle_deg,
                   fields->keeps_start_outer_angle ? entered : degrees(s4.y, 2.85 + s4.x));
     }
 }
@@ -100,15 +110,15 @@ TEST(port_sides, angles_become_those_of_the_tangent_points_but_for_the_outlet_s_
 TEST(port_sides, fillets_cross_in_x_on_a_side_to_the_right_and_in_y_on_one_to_the_left) {
     port_params ports;
     ports.side_angle_start = 0.5;
-    ports.inlet_c1_x = 2.0;
-    ports.inlet_c4_x = 1.0;
+    ports.inlet.corners[START_INNER].c.x = 2.0;
+    ports.inlet.corners[START_OUTER].c.x = 1.0;
     EXPECT_TRUE(start_fillets_cross(inlet_fields(), ports));
     ports.side_angle_start = -0.5;
     EXPECT_FALSE(start_fillets_cross(inlet_fields(), ports));
-    ports.inlet_c1_y = 1.0;
+    ports.inlet.corners[START_INNER].c.y = 1.0;
     EXPECT_TRUE(start_fillets_cross(inlet_fields(), ports));
     ports.side_angle_start = 0.0;
-    ports.inlet_c1_x = 1.0;
+    ports.inlet.corners[START_INNER].c.x = 1.0;
     EXPECT_FALSE(start_fillets_cross(inlet_fields(), ports)) << "equal centres don't cross";
 }
 

@@ -69,7 +69,7 @@ inline void type_random_ports(random_values& random, entries& boxes) {
 /// A steep end side can put the start of a groove on the other side of the pump; such a groove is
 /// no pocket.
 inline bool groove_stands_at_its_port(const port_params& ports) {
-    return ports.groove_a_y > 0.0 && ports.groove_b_y > 0.0;
+    return ports.groove_a.y > 0.0 && ports.groove_b.y > 0.0;
 }
 
 /// A program whose profiles and ports (and groove, when it has one) are done without a message.

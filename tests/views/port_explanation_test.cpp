@@ -108,9 +108,8 @@ TEST_F(port_explanation, radii_lead_from_their_axes_to_the_arcs) {
 
 TEST_F(port_explanation, the_fillet_radius_points_at_a_corner_of_the_outlet) {
     const point2 end = named("Label1").leader.back();
-    EXPECT_NEAR(distance_between(end, {pump.ports.outlet_c3_x, pump.ports.outlet_c3_y}), 1.5,
-                EXACT);
-    EXPECT_LT(distance_between(end, {pump.ports.outlet_p3_x, pump.ports.outlet_p3_y}), 1.5)
+    EXPECT_NEAR(distance_between(end, pump.ports.outlet.corners[END_OUTER].c), 1.5, EXACT);
+    EXPECT_LT(distance_between(end, pump.ports.outlet.corners[END_OUTER].p), 1.5)
         << "on the side of the corner without its fillet";
 }
 
@@ -119,7 +118,7 @@ TEST_F(port_explanation, the_length_of_the_groove_is_its_angle_from_the_port_to_
     EXPECT_NEAR(arc.to_deg - arc.from_deg, 12.0, EXACT);
     EXPECT_EQ(arc.centre, (point2{-pump.design.ecc / 2.0, 0.0}));
     const point2 start = named("Label10").extensions.at(0).from;
-    EXPECT_NEAR(distance_between(start, {pump.ports.groove_b_x, pump.ports.groove_b_y}), 0.0, 1e-5);
+    EXPECT_NEAR(distance_between(start, pump.ports.groove_b), 0.0, 1e-5);
 }
 
 TEST_F(port_explanation, width_and_depth_of_the_groove_have_one_scale) {
@@ -131,8 +130,8 @@ TEST_F(port_explanation, the_outlines_are_those_of_the_ports) {
     const auto inlet =
         std::ranges::find(drawing.outlines, outline_style::inlet, &explained_outline::style);
     ASSERT_NE(inlet, drawing.outlines.end());
-    ASSERT_EQ(inlet->points.size(), static_cast<std::size_t>(pump.ports.inlet_port_last) + 1);
-    EXPECT_EQ(inlet->points[5], (point2{pump.ports.inlet_port_x[5], pump.ports.inlet_port_y[5]}));
+    ASSERT_EQ(inlet->points.size(), static_cast<std::size_t>(pump.ports.inlet.last) + 1);
+    EXPECT_EQ(inlet->points[5], (point2{pump.ports.inlet.x[5], pump.ports.inlet.y[5]}));
 }
 
 }  // namespace kvt

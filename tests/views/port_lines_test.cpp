@@ -35,9 +35,9 @@ zeroed_array array_of(std::initializer_list<double> numbers) {
 
 TEST(port_lines, an_element_is_a_segment_with_y_upwards) {
     shown_ports shown;
-    shown.ports.inlet_port_x = array_of({1.0, 2.0, 1.0});
-    shown.ports.inlet_port_y = array_of({-3.0, -4.0, -3.0});
-    shown.ports.inlet_port_last = 2;
+    shown.ports.inlet.x = array_of({1.0, 2.0, 1.0});
+    shown.ports.inlet.y = array_of({-3.0, -4.0, -3.0});
+    shown.ports.inlet.last = 2;
     draw_inlet_port(shown.ports, shown.state, shown.view);
     const line_array& lines = shown.view.inlet_portline;
     ASSERT_EQ(lines.elements.size(), 2U);
@@ -49,10 +49,10 @@ TEST(port_lines, an_element_is_a_segment_with_y_upwards) {
 
 TEST(port_lines, a_shorter_outline_leaves_no_elements_of_a_longer_one) {
     shown_ports shown;
-    shown.ports.outlet_port_last = 9;
+    shown.ports.outlet.last = 9;
     draw_outlet_port(shown.ports, shown.state, shown.view);
     EXPECT_EQ(shown.view.outlet_portline.elements.size(), 9U);
-    shown.ports.outlet_port_last = 3;
+    shown.ports.outlet.last = 3;
     draw_outlet_port(shown.ports, shown.state, shown.view);
     EXPECT_EQ(shown.view.outlet_portline.elements.size(), 3U);
 }
@@ -60,17 +60,17 @@ TEST(port_lines, a_shorter_outline_leaves_no_elements_of_a_longer_one) {
 TEST(port_lines, angle_lines_lead_from_the_rotor_centres_to_the_corners) {
     shown_ports shown;
     port_params& ports = shown.ports;
-    ports.inlet_p1_x = 1.0;
-    ports.inlet_p1_y = 5.0;
-    ports.inlet_p2_x = 2.0;
-    ports.inlet_p3_x = 3.0;
-    ports.inlet_p4_x = 4.0;
-    ports.inlet_p4_y = 1.0;
-    ports.outlet_p1_x = 5.0;
-    ports.outlet_p1_y = 5.0;
-    ports.outlet_p2_x = 6.0;
-    ports.outlet_p3_x = 7.0;
-    ports.outlet_p4_x = 8.0;
+    ports.inlet.corners[START_INNER].p.x = 1.0;
+    ports.inlet.corners[START_INNER].p.y = 5.0;
+    ports.inlet.corners[END_INNER].p.x = 2.0;
+    ports.inlet.corners[END_OUTER].p.x = 3.0;
+    ports.inlet.corners[START_OUTER].p.x = 4.0;
+    ports.inlet.corners[START_OUTER].p.y = 1.0;
+    ports.outlet.corners[START_INNER].p.x = 5.0;
+    ports.outlet.corners[START_INNER].p.y = 5.0;
+    ports.outlet.corners[END_INNER].p.x = 6.0;
+    ports.outlet.corners[END_OUTER].p.x = 7.0;
+    ports.outlet.corners[START_OUTER].p.x = 8.0;
     draw_port_angles(ports, shown.design, shown.state, shown.view);
     const line_array& inner = shown.view.angleline;
     ASSERT_EQ(inner.elements.size(), 4U);
@@ -101,7 +101,7 @@ TEST(port_lines, the_groove_is_split_where_it_enters_the_port) {
 
 TEST(port_lines, clearing_hides_all_six_arrays) {
     shown_ports shown;
-    shown.ports.inlet_port_last = shown.ports.outlet_port_last = 5;
+    shown.ports.inlet.last = shown.ports.outlet.last = 5;
     shown.ports.groove_main_last = 4;
     shown.ports.groove_last = 6;
     draw_inlet_port(shown.ports, shown.state, shown.view);
@@ -122,8 +122,8 @@ TEST(port_lines, clearing_hides_all_six_arrays) {
 
 TEST(port_lines, coordinates_too_large_fail) {
     shown_ports shown;
-    shown.ports.inlet_port_x[1] = 1e300;
-    shown.ports.inlet_port_last = 1;
+    shown.ports.inlet.x[1] = 1e300;
+    shown.ports.inlet.last = 1;
     EXPECT_FAILURE(draw_inlet_port(shown.ports, shown.state, shown.view), failure::overflow);
 }
 

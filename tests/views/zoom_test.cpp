@@ -134,13 +134,13 @@ TEST(zoomed_drawing, at_the_first_scale_has_the_arcs_of_the_first_drawing) {
 /// Ports with outlines of a few points.
 port_params few_points() {
     port_params ports;
-    ports.inlet_port_last = 4;
-    ports.outlet_port_last = 3;
+    ports.inlet.last = 4;
+    ports.outlet.last = 3;
     ports.groove_main_last = 2;
     ports.groove_last = 5;
     for (std::size_t i = 0; i < 6; ++i) {
-        ports.inlet_port_x[i] = 1.0 + static_cast<double>(i);
-        ports.outlet_port_y[i] = 2.0 + static_cast<double>(i);
+        ports.inlet.x[i] = 1.0 + static_cast<double>(i);
+        ports.outlet.y[i] = 2.0 + static_cast<double>(i);
         ports.groove_x[i] = 3.0 + static_cast<double>(i);
     }
     return ports;

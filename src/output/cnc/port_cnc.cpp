@@ -42,7 +42,7 @@ pocket_shape pocket_of(const file_source& source, port_side side, section_kind k
         pocket.tool_radius = source.unit.half_to_mm(source.choices.groove_tool_diameter);
         return pocket;
     }
-    const port_shape& port = side == port_side::inlet ? ports.inlet_built : ports.outlet_built;
+    const port_shape& port = ports.of(side).built;
     pocket.inner_r = port.R;
     pocket.outer_r = port.Q;
     pocket.fillet_r = port.f;

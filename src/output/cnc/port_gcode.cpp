@@ -29,9 +29,8 @@ class port_points {
 }  // namespace
 
 tool_contour port_moves(const port_params& ports, port_side side, bool shadow) {
-    const port_fields& fields = side == port_side::inlet ? inlet_fields() : outlet_fields();
-    const port_shape& built = ports.*fields.built;
-    const port_points port(built, fields.mirrored, shadow);
+    const port_shape& built = ports.of(side).built;
+    const port_points port(built, fields_of(side).mirrored, shadow);
     const move_kind convex =
         port.clockwise() ? move_kind::clockwise_g02 : move_kind::counterclockwise_g03;
     const move_kind inner =

@@ -154,13 +154,13 @@ void write_dxf_outer_rotor(text_lines& out, const entries& boxes) {
 }
 
 void write_dxf_inlet_port(text_lines& out, const port_params& ports, const length_unit& unit) {
-    write_port_outline(out, ports.inlet_port_x, ports.inlet_port_y,
-                       count_up_to_zero(ports.inlet_port_x, ports.inlet_port_last), unit);
+    write_port_outline(out, ports.inlet.x, ports.inlet.y,
+                       count_up_to_zero(ports.inlet.x, ports.inlet.last), unit);
 }
 
 void write_dxf_outlet_port(text_lines& out, const port_params& ports, const length_unit& unit) {
-    write_port_outline(out, ports.outlet_port_x, ports.outlet_port_y,
-                       count_up_to_zero(ports.outlet_port_x, ports.outlet_port_last), unit);
+    write_port_outline(out, ports.outlet.x, ports.outlet.y,
+                       count_up_to_zero(ports.outlet.x, ports.outlet.last), unit);
 }
 
 void write_dxf_metering_groove(text_lines& out, const port_params& ports, const length_unit& unit) {

@@ -22,11 +22,11 @@ double twice_area(const std::vector<point2>& points) {
 }
 
 std::vector<point2> inlet_contour(const port_params& ports) {
-    return port_contour(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last);
+    return port_contour(ports.inlet.x, ports.inlet.y, ports.inlet.last);
 }
 
 std::vector<point2> outlet_contour(const port_params& ports) {
-    return port_contour(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last);
+    return port_contour(ports.outlet.x, ports.outlet.y, ports.outlet.last);
 }
 
 std::optional<step_prism> lower_body(const char* product, std::vector<point2> contour,

@@ -317,7 +317,7 @@ TEST_F(cnc_output, hints_at_a_refused_groove_in_the_files_of_the_outlet_only) {
 
 TEST_F(cnc_output, writes_no_codes_that_would_leave_their_outline) {
     EXPECT_EQ(refused_gcode_note(kavetta, *find_file(file_group::cnc, "inlet_gcode")), "");
-    kavetta.port_params.inlet_built.f = 0.0;
+    kavetta.port_params.inlet.built.f = 0.0;
     EXPECT_EQ(refused_gcode_note(kavetta, *find_file(file_group::cnc, "inlet_xy")), "");
     EXPECT_EQ(refused_gcode_note(kavetta, *find_file(file_group::cnc, "outlet_gcode")), "");
     tick("inlet_gcode");

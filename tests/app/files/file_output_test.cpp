@@ -60,10 +60,8 @@ TEST_F(dxf_output, asks_for_the_name_of_each_file_in_both_languages) {
 TEST_F(dxf_output, writes_the_profile_of_each_entry) {
     EXPECT_EQ(vertices("inner"), 3601U);
     EXPECT_EQ(vertices("outer"), 2U + 7U * 320U);
-    EXPECT_EQ(vertices("inlet"),
-              2U + static_cast<std::size_t>(kavetta.port_params.inlet_port_last));
-    EXPECT_EQ(vertices("outlet"),
-              2U + static_cast<std::size_t>(kavetta.port_params.outlet_port_last));
+    EXPECT_EQ(vertices("inlet"), 2U + static_cast<std::size_t>(kavetta.port_params.inlet.last));
+    EXPECT_EQ(vertices("outlet"), 2U + static_cast<std::size_t>(kavetta.port_params.outlet.last));
     EXPECT_EQ(vertices("groove"), 2U + static_cast<std::size_t>(kavetta.port_params.groove_last));
 }
 

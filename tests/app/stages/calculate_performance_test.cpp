@@ -218,7 +218,7 @@ TEST_F(calculate_performance_test, gives_no_flow_for_ports_that_end_at_180) {
     }
     const ports_designed done = design_ports(kavetta, person);
     ASSERT_TRUE(done.outlet);
-    ASSERT_EQ(kavetta.port_params.outlet_end_outer_deg, 0.0);
+    ASSERT_EQ(kavetta.port_params.outlet.corners[END_OUTER].angle_deg, 0.0);
     ASSERT_TRUE(calculate_performance(kavetta, person));
     EXPECT_EQ(kavetta.perf_results.flow_max, 0.0);
     EXPECT_GT(kavetta.perf_results.port_area, 0.0) << "the inlet's 0 counts as 180";

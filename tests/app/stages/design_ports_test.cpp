@@ -55,8 +55,8 @@ TEST_F(design_ports_test, draws_every_segment_of_the_outlines) {
     const port_params& ports = kavetta.port_params;
     const design_view& view = kavetta.design_view;
     const auto segments = [](int last) { return static_cast<std::size_t>(last); };
-    EXPECT_EQ(view.inlet_portline.elements.size(), segments(ports.inlet_port_last));
-    EXPECT_EQ(view.outlet_portline.elements.size(), segments(ports.outlet_port_last));
+    EXPECT_EQ(view.inlet_portline.elements.size(), segments(ports.inlet.last));
+    EXPECT_EQ(view.outlet_portline.elements.size(), segments(ports.outlet.last));
     EXPECT_EQ(view.metering_groove_portline.elements.size(), segments(ports.groove_main_last));
     EXPECT_EQ(view.metering_groove_extraline.elements.size(),
               segments(ports.groove_last - ports.groove_main_last));
@@ -72,7 +72,7 @@ TEST_F(design_ports_test, takes_decimal_commas_in_all_sixteen_entries) {
     EXPECT_EQ(design_ports(kavetta, person), ALL);
     EXPECT_EQ(kavetta.entries.inlet_start_inner, "14.5");
     EXPECT_EQ(kavetta.port_params.groove_depth_mm, 1.25);
-    EXPECT_EQ(kavetta.port_params.outlet_outer_r, 22.15);
+    EXPECT_EQ(kavetta.port_params.outlet.outer_r, 22.15);
 }
 
 TEST_F(design_ports_test, tells_the_first_groove_entry_that_is_zero_in_both_languages) {
@@ -104,7 +104,7 @@ TEST_F(design_ports_test, tells_the_first_groove_entry_that_is_zero_in_both_lang
             EXPECT_EQ(kavetta.entries.*box, "");
         }
     }
-    EXPECT_EQ(kavetta.port_params.inlet_port_x, old.inlet_port_x) << "the old outlines remain";
+    EXPECT_EQ(kavetta.port_params.inlet.x, old.inlet.x) << "the old outlines remain";
     EXPECT_EQ(kavetta.port_params.port_radius, old.port_radius);
 }
 
@@ -172,7 +172,7 @@ TEST_F(design_ports_test, counts_an_inlet_that_the_outlet_builds_again_with_succ
     EXPECT_TRUE(done.inlet_rebuilt) << "its own search had run out, and that was told";
     ASSERT_TRUE(shows_outline(kavetta.design_view.inlet_portline));
     EXPECT_EQ(kavetta.design_view.inlet_portline.elements.size(),
-              static_cast<std::size_t>(kavetta.port_params.inlet_port_last));
+              static_cast<std::size_t>(kavetta.port_params.inlet.last));
     person.log.clear();
     calculate_profiles(kavetta, person);
     EXPECT_EQ(count("unload perf_res"), 2) << "Calculate Profiles designs the ports again";
@@ -201,8 +201,8 @@ TEST_F(design_ports_test, check_boxes_never_change_the_outlines) {
     kavetta.entries.inlet_double_sided = "1";
     kavetta.entries.shadow_ports = "0";
     design_ports(kavetta, person);
-    EXPECT_EQ(kavetta.port_params.inlet_port_x, old.inlet_port_x);
-    EXPECT_EQ(kavetta.port_params.outlet_port_y, old.outlet_port_y);
+    EXPECT_EQ(kavetta.port_params.inlet.x, old.inlet.x);
+    EXPECT_EQ(kavetta.port_params.outlet.y, old.outlet.y);
 }
 
 TEST_F(design_ports_test, converts_the_groove_depth_from_inches) {
@@ -219,17 +219,17 @@ TEST_F(design_ports_test, converts_the_groove_depth_from_inches) {
 }
 
 TEST_F(design_ports_test, runs_again_after_calculate_profiles_when_an_inlet_is_on_display) {
-    EXPECT_EQ(kavetta.port_params.inlet_port_last, 0) << "the first run found no inlet on display";
+    EXPECT_EQ(kavetta.port_params.inlet.last, 0) << "the first run found no inlet on display";
     design_ports(kavetta, person);
-    const double old_end_deg = kavetta.port_params.inlet_t2_deg;
+    const double old_end_deg = kavetta.port_params.inlet.corners[END_INNER].t_deg;
     kavetta.entries.inlet_end_inner = "149";
     kavetta.view_state.view_size = 6000;
     ASSERT_EQ(calculate_profiles(kavetta, person), run_end::ok);
-    EXPECT_LT(kavetta.port_params.inlet_t2_deg, old_end_deg - 0.5) << "the new entry counts";
+    EXPECT_LT(kavetta.port_params.inlet.corners[END_INNER].t_deg, old_end_deg - 0.5)
+        << "the new entry counts";
     const drawn_line& first = kavetta.design_view.inlet_portline.elements.front();
     const double scale = kavetta.view_state.view_scale;
-    EXPECT_FLOAT_EQ(first.x1,
-                    float(scale * kavetta.port_params.inlet_port_x[0] + 3000.0 + scale * 2.85))
+    EXPECT_FLOAT_EQ(first.x1, float(scale * kavetta.port_params.inlet.x[0] + 3000.0 + scale * 2.85))
         << "in the new scale";
     EXPECT_TRUE(kavetta.enabling.calc_perf) << "a plain repeat does the whole first step";
     EXPECT_EQ(kavetta.app_state.recalc_quiet, 0);
@@ -306,7 +306,7 @@ TEST_F(design_ports_test, clear_values_empties_the_form_and_the_view_but_not_the
         EXPECT_EQ(lines->elements.size(), 1U);
         EXPECT_FALSE(lines->element0_visible);
     }
-    EXPECT_EQ(kavetta.port_params.inlet_port_x, old.inlet_port_x);
+    EXPECT_EQ(kavetta.port_params.inlet.x, old.inlet.x);
     EXPECT_EQ(kavetta.port_params.groove_last, old.groove_last);
 }
 

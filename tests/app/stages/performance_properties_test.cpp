@@ -80,8 +80,9 @@ class performance_properties : public testing::Test {
         } catch (const run_time_error&) {
             return false;
         }
-        return person.messages.empty() && kavetta->port_params.outlet_end_outer_deg > 0.0 &&
-               kavetta->port_params.outlet_end_outer_deg < 180.0;
+        return person.messages.empty() &&
+               kavetta->port_params.outlet.corners[END_OUTER].angle_deg > 0.0 &&
+               kavetta->port_params.outlet.corners[END_OUTER].angle_deg < 180.0;
     }
 
     /// Calls check for as many sound designs as the run takes, with their performance calculated.

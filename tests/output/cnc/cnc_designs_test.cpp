@@ -167,10 +167,10 @@ void expect_pocket_file(random_values& random, const program& kavetta, const std
         const port_params& ports = kavetta.port_params;
         std::vector<point2> sharp;
         if (groove) {
-            sharp = {{ports.groove_tail_inner_x, ports.groove_tail_inner_y},
-                     {ports.groove_tail_outer_x, ports.groove_tail_outer_y},
-                     {ports.groove_n1_x, ports.groove_n1_y},
-                     {ports.groove_n2_x, ports.groove_n2_y}};
+            sharp = {{ports.groove_tail_inner},
+                     {ports.groove_tail_outer},
+                     {ports.groove_n1},
+                     {ports.groove_n2}};
         }
         expect_cleared(random, pocket, path, tool_radius, sharp);
     }

@@ -72,14 +72,14 @@ TEST(port_cnc, writes_point_0_twice_behind_the_outline) {
     const std::vector<cnc_section> sections = files.sections(write_port_xy, port_side::inlet);
     ASSERT_EQ(sections.size(), 1U);
     const std::vector<cnc_move>& moves = sections[0].moves;
-    ASSERT_EQ(moves.size(), static_cast<std::size_t>(files.tested.ports.inlet_port_last) + 2U);
+    ASSERT_EQ(moves.size(), static_cast<std::size_t>(files.tested.ports.inlet.last) + 2U);
     EXPECT_EQ(moves.back().end, moves.front().end);
     EXPECT_EQ(moves[moves.size() - 2].end, moves.front().end);
 }
 
 TEST(port_cnc, stops_an_outline_at_the_first_x_of_0) {
     port_files files;
-    files.tested.ports.inlet_port_x[20] = 0.0;
+    files.tested.ports.inlet.x[20] = 0.0;
     EXPECT_EQ(port_contour(files.tested.ports, port_side::inlet).size(), 20U);
     EXPECT_EQ(files.sections(write_port_xy, port_side::inlet)[0].moves.size(), 21U);
 }
@@ -215,8 +215,8 @@ TEST(port_cnc, keeps_an_outline_and_its_codes_together_after_a_refusal) {
     tested.boxes.inlet_end_outer = "188";
     port_work work = tested.work();
     ASSERT_EQ(build_inlet_port(work), port_end::refused);
-    ASSERT_EQ(tested.ports.inlet_inner_r, 15.0);
-    EXPECT_EQ(tested.ports.inlet_built.R, 14.5);
+    ASSERT_EQ(tested.ports.inlet.inner_r, 15.0);
+    EXPECT_EQ(tested.ports.inlet.built.R, 14.5);
     expect_same_paths(files, port_side::inlet);
 }
 
@@ -241,7 +241,7 @@ TEST(port_gcode_gap, is_small_for_sound_ports_and_tells_codes_that_leave_their_o
                              files.tested.boxes,  files.choices,       "pump"};
     EXPECT_LT(port_gcode_gap(source, port_side::inlet), CONTOUR_TOLERANCE_MM);
     EXPECT_LT(port_gcode_gap(source, port_side::outlet), CONTOUR_TOLERANCE_MM);
-    files.tested.ports.inlet_built.f = 0.0;
+    files.tested.ports.inlet.built.f = 0.0;
     EXPECT_GT(port_gcode_gap(source, port_side::inlet), 1.0);
     EXPECT_LT(port_gcode_gap(source, port_side::outlet), CONTOUR_TOLERANCE_MM);
 }

@@ -112,8 +112,8 @@ TEST(port_sets, have_codes_that_follow_their_outlines_or_are_refused) {
             design(tested);
         }
         for (const port_side side : {port_side::inlet, port_side::outlet}) {
-            const bool built = (side == port_side::inlet ? tested.ports.inlet_port_last
-                                                         : tested.ports.outlet_port_last) > 0;
+            const bool built =
+                (side == port_side::inlet ? tested.ports.inlet.last : tested.ports.outlet.last) > 0;
             if (built) {
                 replay(tested, side, count);
                 ASSERT_FALSE(testing::Test::HasFatalFailure())

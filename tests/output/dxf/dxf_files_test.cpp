@@ -16,8 +16,8 @@ const length_unit& IN = length_unit_of(INCHES);
 
 TEST(dxf, is_written_line_by_line) {
     port_params ports;
-    ports.inlet_port_x[0] = 1.5;
-    ports.inlet_port_y[0] = -2.25;
+    ports.inlet.x[0] = 1.5;
+    ports.inlet.y[0] = -2.25;
     text_lines out;
     write_dxf_inlet_port(out, ports, MM);
     const std::string layer_end = "\r\n 70\r\n64\r\n 62\r\n30\r\n 6\r\nCONTINUOUS\r\n";
@@ -103,11 +103,11 @@ struct small_outline : testing::Test {
     void set(std::initializer_list<point2> points) {
         std::size_t i = 0;
         for (const point2& point : points) {
-            ports.outlet_port_x[i] = ports.groove_x[i] = point.x;
-            ports.outlet_port_y[i] = ports.groove_y[i] = point.y;
+            ports.outlet.x[i] = ports.groove_x[i] = point.x;
+            ports.outlet.y[i] = ports.groove_y[i] = point.y;
             ++i;
         }
-        ports.outlet_port_last = ports.groove_last = static_cast<std::int16_t>(points.size() - 1);
+        ports.outlet.last = ports.groove_last = static_cast<std::int16_t>(points.size() - 1);
     }
     std::vector<point2> vertices() const { return read_dxf(out.bytes()).vertices; }
 };
@@ -126,7 +126,7 @@ TEST_F(small_outline, of_a_port_ends_before_an_x_of_exactly_0) {
 
 TEST_F(small_outline, of_a_port_never_goes_beyond_its_last_index) {
     set({{1, 2}, {3, 4}, {1, 2}});
-    ports.outlet_port_x[3] = 99.0;  // of an older, longer outline
+    ports.outlet.x[3] = 99.0;  // of an older, longer outline
     write_dxf_outlet_port(out, ports, MM);
     EXPECT_EQ(vertices().size(), 4U);
 }

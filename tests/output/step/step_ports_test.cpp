@@ -30,10 +30,8 @@ struct port_bodies : testing::Test {
     entries boxes;
 
     port_bodies() {
-        set_outline(ports.inlet_port_x, ports.inlet_port_y, ports.inlet_port_last, {3.0, -8.0}, 4.0,
-                    false);
-        set_outline(ports.outlet_port_x, ports.outlet_port_y, ports.outlet_port_last, {3.0, 8.0},
-                    5.0, true);
+        set_outline(ports.inlet.x, ports.inlet.y, ports.inlet.last, {3.0, -8.0}, 4.0, false);
+        set_outline(ports.outlet.x, ports.outlet.y, ports.outlet.last, {3.0, 8.0}, 5.0, true);
         set_outline(ports.groove_x, ports.groove_y, ports.groove_last, {-9.0, 8.0}, 2.0, true);
         ports.groove_depth_mm = 1.5;
         boxes.metering_groove = "1";
@@ -89,11 +87,11 @@ TEST_F(port_bodies, hold_the_groove_only_when_it_is_ticked) {
 TEST_F(port_bodies, walk_clockwise_outlines_backwards_from_point_0) {
     const std::vector<point2> contour = body(step_port::outlet_lower)->contour;
     ASSERT_EQ(contour.size(), 40U);
-    EXPECT_EQ(contour[0], (point2{ports.outlet_port_x[0], ports.outlet_port_y[0]}));
-    EXPECT_EQ(contour[1], (point2{ports.outlet_port_x[39], ports.outlet_port_y[39]}));
-    EXPECT_EQ(contour[39], (point2{ports.outlet_port_x[1], ports.outlet_port_y[1]}));
+    EXPECT_EQ(contour[0], (point2{ports.outlet.x[0], ports.outlet.y[0]}));
+    EXPECT_EQ(contour[1], (point2{ports.outlet.x[39], ports.outlet.y[39]}));
+    EXPECT_EQ(contour[39], (point2{ports.outlet.x[1], ports.outlet.y[1]}));
     EXPECT_EQ(body(step_port::inlet_lower)->contour[1],
-              (point2{ports.inlet_port_x[1], ports.inlet_port_y[1]}));
+              (point2{ports.inlet.x[1], ports.inlet.y[1]}));
     for (const step_port port :
          {step_port::inlet_lower, step_port::outlet_lower, step_port::groove}) {
         EXPECT_GT(signed_area(body(port)->contour), 0.0);
@@ -101,7 +99,7 @@ TEST_F(port_bodies, walk_clockwise_outlines_backwards_from_point_0) {
 }
 
 TEST_F(port_bodies, are_left_out_without_their_outline) {
-    ports.inlet_port_last = 0;
+    ports.inlet.last = 0;
     ports.groove_last = 5;  // too few points for a wall
     EXPECT_FALSE(body(step_port::inlet_lower));
     EXPECT_FALSE(body(step_port::groove));
@@ -110,7 +108,7 @@ TEST_F(port_bodies, are_left_out_without_their_outline) {
 
 TEST_F(port_bodies, keep_the_offset_of_their_kind_in_a_file_of_some) {
     boxes.shadow_ports = "1";
-    ports.inlet_port_last = 0;
+    ports.inlet.last = 0;
     text_lines out;
     write_step_ports(out, {"ports.stp", "", "2021.1.1"}, design, ports, boxes);
     const step_reader read(out.bytes());
