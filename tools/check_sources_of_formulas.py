@@ -21,7 +21,6 @@ WITHOUT_FORMULA = {
     "src/output/cnc/cnc_choices.hpp": "what the CNC dialog was told",
     "src/output/file_source.hpp": "what the writers get",
     "src/output/written_files.hpp": "the table of the files",
-    "src/performance/extremes.hpp": "the smallest and the largest of some values",
     "src/ports/port_work.hpp": "what the steps of Design Ports get",
 }
 

@@ -2,7 +2,7 @@
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
-#include "performance/extremes.hpp"
+#include "performance/perf_grid.hpp"
 #include "performance/perf_units.hpp"
 
 namespace kvt {

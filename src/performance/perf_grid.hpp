@@ -18,4 +18,15 @@ void set_shared_values(const design_params& design, const rotor_profiles& rotors
 /// equal steps. Kept: one bar is 101300 Pa and 14.5 psi are one bar.
 void set_grid(const perf_inputs& inputs, perf_results& results);
 
+/// The extremes of a grid, by strict comparison with start values: a value strictly above largest
+/// replaces it, one strictly below smallest replaces that.
+inline void take_extremes(double value, double& largest, double& smallest) {
+    if (value > largest) {
+        largest = value;
+    }
+    if (value < smallest) {
+        smallest = value;
+    }
+}
+
 }  // namespace kvt
