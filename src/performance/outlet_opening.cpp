@@ -10,10 +10,6 @@ namespace kvt {
 
 namespace {
 
-/// Kept: the chamber volumes count from this step too, whatever the ports; outlet_opening_test
-/// holds it.
-constexpr int FIRST_STEP = 1400;
-
 /// Flow through a round pipe of radius r and length l, m3/s (Hagen-Poiseuille); d is the pressure
 /// difference.
 double pipe_flow(double radius_m, double dyn_visc, double difference, double length_m) {

@@ -31,6 +31,10 @@ class opening_march {
     double outlet_pressure() const { return outlet_pressure_; }
 
   private:
+    /// Kept: the chamber volumes count from this step too, whatever the ports; outlet_opening_test
+    /// holds it.
+    static constexpr int FIRST_STEP = 1400;
+
     struct outlet_system {
         double volume;  ///< port and open chambers
         double rate;    ///< change of the open chambers in this step
@@ -50,7 +54,7 @@ class opening_march {
     double numlobes_;
     double outlet_pressure_;
     double chamber_pressure_ = 0.0;
-    int s_ = 1400;
+    int s_ = FIRST_STEP;
     int row_ = 0;
     bool started_ = false;
     std::array<double, LOBE_ARRAY_LAST + 1>
