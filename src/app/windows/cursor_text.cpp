@@ -5,7 +5,7 @@
 #include "base/run_time_error.hpp"
 #include "core/length_unit.hpp"
 #include "core/text_table.hpp"
-#include "views/cursor_position.hpp"
+#include "views/twips.hpp"
 #include "views/zoom.hpp"
 
 namespace kvt {
