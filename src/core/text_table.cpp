@@ -5,6 +5,7 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <tuple>
 #include <utility>
 
 namespace kvt {
@@ -70,31 +71,40 @@ constexpr auto control_of(const text_row& row) {
     return std::pair(row.form, row.name);
 }
 
+constexpr auto place_of(const text_row* row) {
+    return std::tuple(row->form, row->name, row->kind);
+}
+
+/// Every row in the order of form, control and kind.
+consteval auto sorted_rows() {
+    std::array<const text_row*, ROWS.size()> rows{};
+    std::ranges::transform(ROWS, rows.begin(), [](const text_row& row) { return &row; });
+    std::ranges::sort(rows, {}, place_of);
+    return rows;
+}
+
+constexpr auto SORTED_ROWS = sorted_rows();
+
 /// The first caption row of each control, in the order of form and control.
 struct caption_list {
     std::array<const text_row*, FORM_ROWS.size()> rows{};
     std::size_t count = 0;
 };
 
-consteval caption_list sorted_captions() {
+consteval caption_list first_captions() {
     caption_list list;
-    for (const text_row& row : ROWS) {
-        if (is_caption(row)) {
-            list.rows[list.count++] = &row;
+    for (const text_row* row : SORTED_ROWS) {
+        if (!is_caption(*row)) {
+            continue;
+        }
+        if (list.count == 0 || control_of(*list.rows[list.count - 1]) != control_of(*row)) {
+            list.rows[list.count++] = row;
         }
     }
-    const auto last = list.rows.begin() + static_cast<std::ptrdiff_t>(list.count);
-    std::sort(list.rows.begin(), last, [](const text_row* a, const text_row* b) {
-        return std::pair(control_of(*a), a->kind) < std::pair(control_of(*b), b->kind);
-    });
-    const auto end = std::unique(list.rows.begin(), last, [](const text_row* a, const text_row* b) {
-        return control_of(*a) == control_of(*b);
-    });
-    list.count = static_cast<std::size_t>(end - list.rows.begin());
     return list;
 }
 
-constexpr caption_list CAPTIONS = sorted_captions();
+constexpr caption_list CAPTIONS = first_captions();
 
 }  // namespace
 
@@ -111,10 +121,9 @@ std::string_view message_text(message id, std::int16_t language) {
 }
 
 const text_row* find_text(text_kind kind, std::string_view form, std::string_view name) {
-    const auto found = std::ranges::find_if(ROWS, [&](const text_row& row) {
-        return row.kind == kind && row.form == form && row.name == name;
-    });
-    return found == ROWS.end() ? nullptr : &*found;
+    const auto place = std::tuple(form, name, kind);
+    const auto found = std::ranges::lower_bound(SORTED_ROWS, place, {}, place_of);
+    return found == SORTED_ROWS.end() || place_of(*found) != place ? nullptr : *found;
 }
 
 std::span<const text_row* const> caption_rows() {
