@@ -57,8 +57,8 @@ performance_case load_performance_case(const std::string& name) {
         std::filesystem::path(KVT_TEST_DATA) / "reference" / (name + "_performance.json")));
     read_design(expected["design_params"], sample.design_params);
     read_rotors(expected["rotor_profiles"], sample.rotor_profiles);
-    for (const auto& [name, value] : port_values(sample.port_params)) {
-        *value = expected["port_params"][name];
+    for (const auto& [field, value] : port_values(sample.port_params)) {
+        *value = expected["port_params"][field];
     }
     for (const entry_field& field : entry_fields()) {
         const std::string key(field.name);
