@@ -21,6 +21,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,7 +41,8 @@ struct program {
     kvt::enabling enabling;
     kvt::window_rectangles window_rectangles;
     kvt::design_view design_view;
-    kvt::cnc_choices cnc_choices;  ///< of the last run of the CNC output dialog
+    kvt::cnc_choices cnc_choices;                      ///< of the last run of the CNC output dialog
+    std::optional<kvt::cnc_entries> last_cnc_entries;  ///< its boxes; nothing before the first run
 
     kvt::stage_entries stage_entries;
 

@@ -35,6 +35,11 @@ constexpr std::string_view OUTLET_POCKET = "outlet_pocket";
 constexpr std::string_view INLET_GCODE = "inlet_gcode";
 constexpr std::string_view OUTLET_GCODE = "outlet_gcode";
 
+/// Entries of Form3 that a refusal points at.
+constexpr std::string_view RESOLUTION = "machine_res_combo";
+constexpr std::string_view TOOL = "toolsize";
+constexpr std::string_view GROOVE_TOOL = "groovetooltext";
+
 std::string_view text_of(const program& kavetta, message id) {
     return message_text(id, kavetta.app_state.language);
 }
@@ -73,8 +78,9 @@ class form_checks {
   private:
     bool ticked(std::string_view file) const { return form_.ticked.contains(file); }
     bool mills_groove() const { return ticked(OUTLET_POCKET) && has_metering_groove(kavetta_); }
-    bool refuse(std::string_view text) {
+    bool refuse(std::string_view control, std::string_view text) {
         person_.show_message(text);
+        person_.set_focus(control);
         return false;
     }
     /// The entry is emptied and gets the focus.
@@ -86,17 +92,17 @@ class form_checks {
     }
 
     bool has_resolution() {
-        return !form_.machine_res_combo.empty() || refuse(resolution_message(kavetta_));
+        return !form_.machine_res_combo.empty() || refuse(RESOLUTION, resolution_message(kavetta_));
     }
 
     bool has_tool_sizes() {
         for (const written_file& file : files_of(file_group::cnc)) {
             if (file.needs_tool && ticked(file.name) && form_.toolsize.empty()) {
-                return refuse(text_of(kavetta_, message::tool_size_required));
+                return refuse(TOOL, text_of(kavetta_, message::tool_size_required));
             }
         }
         if (mills_groove() && form_.groovetooltext.empty()) {
-            return refuse(text_of(kavetta_, message::groove_tool_size_required));
+            return refuse(GROOVE_TOOL, text_of(kavetta_, message::groove_tool_size_required));
         }
         return true;
     }
@@ -116,8 +122,8 @@ class form_checks {
         if (!offset || radouter - kavetta_.cnc_choices.tool_diameter / 2.0 >= 0.0) {
             return true;
         }
-        return refuse(std::string(text_of(kavetta_, message::tool_too_great_for_rotor)) +
-                      number_text(radouter * 2.0) + " " + form_.toolunits);
+        return refuse(TOOL, std::string(text_of(kavetta_, message::tool_too_great_for_rotor)) +
+                                number_text(radouter * 2.0) + " " + form_.toolunits);
     }
 
     bool tool_fits_port(std::string_view file) {
@@ -126,7 +132,7 @@ class form_checks {
             return true;
         }
         return refuse_entry(
-            form_.toolsize, "toolsize",
+            form_.toolsize, TOOL,
             tool_too_great(kavetta_, message::tool_too_great_for_port_radius, port_radius * 2.0));
     }
 
@@ -135,14 +141,14 @@ class form_checks {
         if (!mills_groove() || kavetta_.cnc_choices.groove_tool_diameter <= width) {
             return true;
         }
-        return refuse_entry(form_.groovetooltext, "groovetooltext",
+        return refuse_entry(form_.groovetooltext, GROOVE_TOOL,
                             tool_too_great(kavetta_, message::tool_too_great_for_groove, width));
     }
 
     bool set_resolution() {
         std::int16_t& digits = kavetta_.cnc_choices.cnc_res_digits;
         digits = resolution_digits(form_.machine_res_combo, digits);
-        return digits != 0 || refuse(resolution_message(kavetta_));
+        return digits != 0 || refuse(RESOLUTION, resolution_message(kavetta_));
     }
 
     program& kavetta_;
@@ -240,6 +246,17 @@ void tick_cnc_file(const program& kavetta, cnc_form& form, const written_file& f
     }
 }
 
+void use_last_cnc_entries(const program& kavetta, cnc_form& form) {
+    if (!kavetta.last_cnc_entries) {
+        return;
+    }
+    static_cast<cnc_entries&>(form) = *kavetta.last_cnc_entries;
+    form.groove_entry_shown = has_metering_groove(kavetta) && form.ticked.contains(OUTLET_POCKET);
+    if (!form.groove_entry_shown) {
+        form.groovetooltext.clear();
+    }
+}
+
 std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice) {
     for (std::size_t i = 0; i < RESOLUTIONS.size(); ++i) {
         if (commas_to_points(text) == RESOLUTIONS[i]) {
@@ -257,6 +274,7 @@ bool write_cnc_files(program& kavetta, user& person, cnc_form& form) {
     if (!check_cnc_form(kavetta, person, form)) {
         return false;
     }
+    kavetta.last_cnc_entries = form;
     for (const written_file& file : files_of(file_group::cnc)) {
         if (form.ticked.contains(file.name)) {
             ask_and_save(kavetta, person, file);

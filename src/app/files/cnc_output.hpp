@@ -2,9 +2,9 @@
 // writers.
 #pragma once
 
+#include "output/cnc/cnc_choices.hpp"
 #include "output/written_files.hpp"
 
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,11 +14,9 @@ namespace kvt {
 class user;
 struct program;
 
-/// The boxes of Form3. It keeps no memory between openings: each one starts from open_cnc_form.
-struct cnc_form {
-    std::set<std::string, std::less<>> ticked;  ///< names of CNC files
-    bool Opp_Plot = false;
-    std::string toolsize, groovetooltext, machine_res_combo;
+/// The boxes of Form3. Each opening starts from open_cnc_form; what was used last comes back on
+/// demand only.
+struct cnc_form : cnc_entries {
     bool groove_entry_shown = false;             ///< groovetooltext, toolunits_groove and Label5
     std::string toolunits;                       ///< of both entries: "mm" or "Inches"
     std::vector<std::string> machine_res_items;  ///< the list of the combo box
@@ -31,6 +29,10 @@ cnc_form open_cnc_form(const program& kavetta, char decimal_mark = '.');
 /// A click on a file's tick box. The outlet's pocket box shows the entry of the groove's tool when
 /// metering_groove is ticked too; without the tick the entry is hidden and emptied.
 void tick_cnc_file(const program& kavetta, cnc_form& form, const written_file& file, bool ticked);
+
+/// Sets the boxes as they were at the last press of okbutton that passed the checks; nothing before
+/// the first one. The entry of the groove's tool comes back with a metering groove only.
+void use_last_cnc_entries(const program& kavetta, cnc_form& form);
 
 /// The boxes of okbutton: the checks in their order, each with its message, then the ticked writers
 /// in theirs, each with its save dialog. Answers whether the form closes: false when a check
@@ -45,8 +47,8 @@ bool write_cnc_files(program& kavetta, user& person, cnc_form& form);
 /// any other text.
 std::int16_t resolution_digits(const std::string& text, std::int16_t last_choice);
 
-/// The first check that fails shows its message and answers false; toolsize and groovetooltext get
-/// points for commas.
+/// The first check that fails shows its message, gives its entry the focus and answers false;
+/// toolsize and groovetooltext get points for commas.
 bool check_cnc_form(program& kavetta, user& person, cnc_form& form);
 
 /// Adds the hint that a file of the outlet is written without the metering groove that is ticked,

@@ -2,8 +2,20 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <set>
+#include <string>
 
 namespace kvt {
+
+/// What the user sets in the dialog, as typed.
+struct cnc_entries {
+    std::set<std::string, std::less<>> ticked;  ///< names of CNC files
+    bool Opp_Plot = false;
+    std::string toolsize, groovetooltext, machine_res_combo;
+
+    friend bool operator==(const cnc_entries&, const cnc_entries&) = default;
+};
 
 /// Diameters are in the unit of the entries, as typed.
 struct cnc_choices {

@@ -161,9 +161,15 @@ QLayout* Form3::lay_out_buttons() {
     auto* cancel = new QPushButton;
     cancel->setObjectName("cancelbutton");
     cancel->setAutoDefault(false);
+    auto* last = new QPushButton;
+    last->setObjectName("last_values");
+    last->setAutoDefault(false);
+    last->setEnabled(context_.kavetta.last_cnc_entries.has_value());
+    connect(last, &QPushButton::clicked, this, &Form3::press_last_values);
     connect(ok, &QPushButton::clicked, this, &Form3::press_ok);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* buttons = new QHBoxLayout;
+    buttons->addWidget(last);
     buttons->addStretch(1);
     for (QPushButton* button : {ok, cancel}) {
         button->setMinimumWidth(BUTTON_WIDTH);
@@ -186,6 +192,11 @@ void Form3::collect() {
 }
 
 void Form3::show_form() {
+    for (const auto& [file, box] : files_) {
+        box->setChecked(form_.ticked.contains(file->name));
+    }
+    clockwise_->setChecked(form_.Opp_Plot);
+    resolution_->setEditText(qt_text(form_.machine_res_combo));
     toolsize_->setText(qt_text(form_.toolsize));
     groovetooltext_->setText(qt_text(form_.groovetooltext));
     for (QWidget* part :
@@ -198,11 +209,24 @@ void Form3::show_form() {
 void Form3::press_ok() {
     collect();
     bool closes = false;
+    is_pressed_ = true;
     context_.runner.act(
         [&](program& kavetta, user& person) { closes = write_cnc_files(kavetta, person, form_); });
+    is_pressed_ = false;
     show_form();
     if (closes) {
         accept();
+    }
+}
+
+void Form3::press_last_values() {
+    use_last_cnc_entries(context_.kavetta, form_);
+    show_form();
+}
+
+void Form3::refresh() {
+    if (is_pressed_) {
+        show_form();
     }
 }
 

@@ -20,6 +20,9 @@ class Form3 : public dialog_form {
   public:
     Form3(form_context context, QWidget* parent);
 
+    /// While okbutton is at work: the boxes as its checks have left them.
+    void refresh() override;
+
   protected:
     /// F1 opens the help file.
     void keyPressEvent(QKeyEvent* event) override;
@@ -32,9 +35,11 @@ class Form3 : public dialog_form {
     void collect();
     void show_form();
     void press_ok();
+    void press_last_values();
 
     form_context context_;
     cnc_form form_;
+    bool is_pressed_ = false;  ///< okbutton is at work
     std::map<const written_file*, QCheckBox*> files_;
     QCheckBox* clockwise_;
     QLineEdit* toolsize_;

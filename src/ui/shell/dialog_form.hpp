@@ -15,6 +15,9 @@ class dialog_form : public QDialog {
   public:
     dialog_form(const char* form, const program& kavetta, QWidget* parent);
 
+    /// Shows the state of a command that was started from the dialog, before its message appears.
+    virtual void refresh() {}
+
   protected:
     /// Shows captions and tooltips in all named controls; call it when they exist.
     void show_texts();

@@ -5,6 +5,7 @@
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"
+#include "ui/shell/dialog_form.hpp"
 #include "ui/shell/file_dialogs.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -66,6 +67,9 @@ void qt_user::refresh() const {
     if (refresh_) {
         refresh_();
     }
+    if (auto* dialog = qobject_cast<dialog_form*>(QApplication::activeModalWidget())) {
+        dialog->refresh();
+    }
 }
 
 QString qt_user::button_text(message id) const {
@@ -84,7 +88,10 @@ void qt_user::command_ended() {
 }
 
 void qt_user::show_message(std::string_view text) {
-    if (told_.stood_already(text) && window_ != nullptr && window_->isVisible()) {
+    // Behind a dialog nobody sees the status bar.
+    const bool can_be_quiet =
+        window_ != nullptr && window_->isVisible() && QApplication::activeModalWidget() == nullptr;
+    if (told_.stood_already(text) && can_be_quiet) {
         show_status(text);
         return;
     }

@@ -144,6 +144,25 @@ TEST_F(cnc_output, writes_points_for_commas_back_even_when_a_later_check_fails) 
     EXPECT_EQ(kavetta.cnc_choices.tool_diameter, 15.1);
 }
 
+TEST_F(cnc_output, points_at_the_entry_that_it_refuses) {
+    const auto focus_after_refusal = [&] {
+        EXPECT_FALSE(write());
+        return person.log.back();
+    };
+    tick("inner_offset");
+    form.toolsize = "15,1";
+    EXPECT_EQ(focus_after_refusal(), "focus toolsize");
+    form.toolsize = "";
+    EXPECT_EQ(focus_after_refusal(), "focus toolsize");
+    form.machine_res_combo = "";
+    EXPECT_EQ(focus_after_refusal(), "focus machine_res_combo");
+    form.machine_res_combo = "0.001";
+    form.toolsize = "1";
+    form.groovetooltext = "";
+    tick("outlet_pocket");
+    EXPECT_EQ(focus_after_refusal(), "focus groovetooltext");
+}
+
 TEST_F(cnc_output, refuses_a_tool_larger_than_the_corners_and_empties_its_entry) {
     form.toolsize = "3.1";
     for (const char* name : {"inlet_pocket", "outlet_pocket"}) {

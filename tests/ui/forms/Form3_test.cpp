@@ -34,6 +34,7 @@ class Form3_test : public desktop_test {
         dialog_.reset();
         desktop_test::TearDown();
     }
+    void close_dialog() { dialog_.reset(); }
     template <typename control>
     control& part(const char* name) {
         auto* found = dialog().findChild<control*>(name);
@@ -92,6 +93,65 @@ TEST_F(Form3_test, stays_open_behind_a_message_and_shows_what_the_check_changed)
                   "size"});
     EXPECT_TRUE(dialog().isVisible());
     EXPECT_EQ(part<QLineEdit>("toolsize").text(), "");
+}
+
+TEST_F(Form3_test, shows_the_point_for_the_comma_before_the_message_of_the_rotor_stands) {
+    click("inner_rot_xy_tool_checkbox");
+    choose_resolution("0.001");
+    part<QLineEdit>("toolsize").setText("15,1");
+    std::string beside_message;
+    robot.at_message = [&] {
+        beside_message = utf8_text(part<QLineEdit>("toolsize").text());
+        EXPECT_TRUE(part<QCheckBox>("inner_rot_xy_tool_checkbox").isChecked());
+        EXPECT_EQ(part<QComboBox>("machine_res_combo").currentText(), "0.001");
+    };
+    click("okbutton");
+    EXPECT_EQ(beside_message, "15.1");
+    EXPECT_EQ(part<QLineEdit>("toolsize").text(), "15.1") << "neither entry is cleared";
+}
+
+TEST_F(Form3_test, refuses_with_a_box_each_time_and_points_at_the_entry) {
+    click("inner_rot_xy_checkbox");
+    click("okbutton");
+    click("okbutton");
+    EXPECT_EQ(robot.messages.size(), 2U) << "the status bar lies behind the dialog";
+    EXPECT_EQ(dialog().focusWidget(), &part<QComboBox>("machine_res_combo"));
+    choose_resolution("0.01");
+    click("outer_rot_xy_tool_checkbox");
+    click("okbutton");
+    EXPECT_EQ(dialog().focusWidget(), &part<QLineEdit>("toolsize"));
+    EXPECT_EQ(robot.messages.back(), "You must enter a tool size for this option");
+}
+
+TEST_F(Form3_test, brings_back_what_was_used_last) {
+    EXPECT_FALSE(part<QPushButton>("last_values").isEnabled()) << "nothing was used yet";
+    click("inner_rot_xy_tool_checkbox");
+    click("outlet_port_xy_tool_checkbox");
+    click("Opp_Plot");
+    part<QLineEdit>("toolsize").setText("2,5");
+    part<QLineEdit>("groovetooltext").setText("0.5");
+    choose_resolution("0.0001");
+    robot.files = {std::nullopt, std::nullopt};
+    click("okbutton");
+    EXPECT_FALSE(dialog().isVisible());
+
+    close_dialog();
+    EXPECT_EQ(part<QLineEdit>("toolsize").text(), "") << "an opening starts with empty boxes";
+    click("outer_rot_xy_checkbox");
+    click("last_values");
+    EXPECT_TRUE(part<QCheckBox>("inner_rot_xy_tool_checkbox").isChecked());
+    EXPECT_TRUE(part<QCheckBox>("outlet_port_xy_tool_checkbox").isChecked());
+    EXPECT_FALSE(part<QCheckBox>("outer_rot_xy_checkbox").isChecked());
+    EXPECT_TRUE(part<QCheckBox>("Opp_Plot").isChecked());
+    EXPECT_EQ(part<QLineEdit>("toolsize").text(), "2.5");
+    EXPECT_TRUE(part<QLineEdit>("groovetooltext").isVisible());
+    EXPECT_EQ(part<QLineEdit>("groovetooltext").text(), "0.5");
+    EXPECT_EQ(part<QComboBox>("machine_res_combo").currentText(), "0.0001");
+
+    close_dialog();
+    kavetta().entries.metering_groove = "0";
+    click("last_values");
+    EXPECT_FALSE(part<QLineEdit>("groovetooltext").isVisible()) << "no groove to mill";
 }
 
 TEST_F(Form3_test, writes_the_ticked_file_and_closes) {
