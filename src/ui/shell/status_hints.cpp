@@ -1,5 +1,6 @@
 #include "ui/shell/status_hints.hpp"
 
+#include "app/desk/autosave.hpp"
 #include "app/desk/command_hints.hpp"
 #include "app/program.hpp"
 #include "app/stages/stale_results.hpp"
@@ -17,10 +18,12 @@ status_hints::status_hints(const program& kavetta, QStatusBar& bar)
       kavetta_(kavetta),
       hints_(new hint_button),
       cursor_position_(named_label("cursor_position")),
-      stale_hint_(named_label("stale_hint")) {
+      stale_hint_(named_label("stale_hint")),
+      unsaved_mark_(named_label("unsaved_mark")) {
     bar.addPermanentWidget(hints_);
     bar.addPermanentWidget(cursor_position_);
     bar.addPermanentWidget(stale_hint_);
+    bar.addPermanentWidget(unsaved_mark_);
 }
 
 void status_hints::refresh() {
@@ -33,6 +36,9 @@ void status_hints::refresh() {
     const QString hint = qt_text(stale_hint(kavetta_));
     stale_hint_->setText(hint);
     stale_hint_->setVisible(!hint.isEmpty());
+    unsaved_mark_->setText(caption_of(kavetta_, "MDIForm1", "unsaved_mark"));
+    unsaved_mark_->setToolTip(tooltip_of(kavetta_, "MDIForm1", "unsaved_mark"));
+    unsaved_mark_->setVisible(has_unsaved_changes(kavetta_));
 }
 
 void status_hints::show_cursor(const QString& place) {

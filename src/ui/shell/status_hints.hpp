@@ -1,6 +1,6 @@
 // status_hints: what stands at the right of the status bar, whatever is told beside it: the hints
-// of the last command, where the mouse is in the design, and which results don't belong to the
-// entries any more.
+// of the last command, where the mouse is in the design, which results don't belong to the entries
+// any more, and whether there is something to save.
 #pragma once
 
 #include <QObject>
@@ -17,10 +17,10 @@ class status_hints : public QObject {
     Q_OBJECT
 
   public:
-    /// Adds the button hints and the labels cursor_position and stale_hint to the bar.
+    /// Adds the button hints and the labels cursor_position, stale_hint and unsaved_mark to the bar.
     status_hints(const program& kavetta, QStatusBar& bar);
 
-    /// Looks which hints stand and which results are stale now.
+    /// Looks which hints stand, which results are stale and whether the entries are saved.
     void refresh();
     void show_cursor(const QString& place);
 
@@ -29,6 +29,7 @@ class status_hints : public QObject {
     hint_button* hints_;
     QLabel* cursor_position_;
     QLabel* stale_hint_;
+    QLabel* unsaved_mark_;
 };
 
 }  // namespace kvt

@@ -51,4 +51,27 @@ TEST_F(status_hints_test, a_change_of_the_length_unit_makes_results_stale) {
     EXPECT_TRUE(is_shown());
 }
 
+TEST_F(status_hints_test, a_quiet_mark_tells_what_nobody_has_saved) {
+    const std::string project = own_design_file("n07_engine_oil_groove");
+    start(project);
+    const auto* mark = find<QLabel>("unsaved_mark");
+    EXPECT_FALSE(mark->isVisible()) << "as it was opened";
+    type("ecc", "2.8");
+    EXPECT_TRUE(mark->isVisible());
+    EXPECT_EQ(utf8_text(mark->text()), "● Unsaved");
+    choose("mnufilesave");
+    EXPECT_FALSE(mark->isVisible());
+    press("dimens2");
+    EXPECT_TRUE(mark->isVisible());
+}
+
+TEST_F(status_hints_test, the_mark_speaks_german_and_stays_away_from_a_program_without_a_project) {
+    write_settings('2');
+    start();
+    EXPECT_FALSE(find<QLabel>("unsaved_mark")->isVisible());
+    type("ecc", "2.8");
+    EXPECT_EQ(label("unsaved_mark"), "● Nicht gespeichert");
+    EXPECT_TRUE(find<QLabel>("unsaved_mark")->isVisible());
+}
+
 }  // namespace kvt
