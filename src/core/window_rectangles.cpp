@@ -49,6 +49,17 @@ float inside(float place, float window_length, float start, float length) {
 
 }  // namespace
 
+window_rectangle built_in_area() {
+    window_rectangle area;
+    for (const form_row& form : form_rows()) {
+        if (is_fixed_child(form)) {
+            area.height = std::max(area.height, form.rectangle.top + form.rectangle.height);
+            area.width = std::max(area.width, form.rectangle.left + form.rectangle.width);
+        }
+    }
+    return area;
+}
+
 int pixels_of(float twips) {
     const float pixels = twips / static_cast<float>(TWIPS_PER_PIXEL);
     return static_cast<int>(std::lround(std::clamp(pixels, -MOST_PIXELS, MOST_PIXELS)));

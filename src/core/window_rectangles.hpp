@@ -28,6 +28,9 @@ class window_rectangles {
     std::array<std::optional<window_rectangle>, FORM_COUNT> places_;
 };
 
+/// What the fixed child windows take up at their built-in places, from the corner of the area on.
+window_rectangle built_in_area();
+
 /// The nearest whole pixel, half away from zero, held within what a window can have.
 int pixels_of(float twips);
 

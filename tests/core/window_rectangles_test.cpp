@@ -67,5 +67,9 @@ TEST(window_rectangles, hold_nothing_of_windows_that_are_not_there) {
     EXPECT_EQ(layout.of("FLOW_graphview2"), std::nullopt);
 }
 
+TEST(window_rectangles, built_in_places_reach_to_the_view_and_the_charts) {
+    EXPECT_EQ(built_in_area(), (window_rectangle{10995, 15370, 0, 0}));  // 8100+2895, 8995+6375
+}
+
 }  // namespace
 }  // namespace kvt

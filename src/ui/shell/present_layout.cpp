@@ -78,8 +78,12 @@ void place_main_window(QMainWindow& window, const window_rectangle& stored) {
 window_rectangle child_place(const window_rectangle& rectangle) {
     // The main window may reach over all screens; its children stand from its corner on. A smaller
     // one scrolls to the built-in layout, which stays as it is on every screen.
-    const QSize all = QGuiApplication::primaryScreen()->virtualSize().expandedTo(QSize(1100, 740));
-    return moved_onto(rectangle, std::array{rectangle_of(QRect(QPoint(0, 0), all))});
+    const window_rectangle built_in = built_in_area();
+    window_rectangle area = rectangle_of(QGuiApplication::primaryScreen()->virtualGeometry());
+    area.top = area.left = 0.0F;
+    area.height = std::max(area.height, built_in.height);
+    area.width = std::max(area.width, built_in.width);
+    return moved_onto(rectangle, std::array{area});
 }
 
 }  // namespace kvt

@@ -4,6 +4,7 @@
 #include "app/desk/command_hints.hpp"
 #include "app/program.hpp"
 #include "app/stages/stale_results.hpp"
+#include "ui/parts/form_binding.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/hint_button.hpp"
 #include "ui/shell/qt_text.hpp"

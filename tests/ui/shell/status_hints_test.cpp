@@ -58,7 +58,7 @@ TEST_F(status_hints_test, a_quiet_mark_tells_what_nobody_has_saved) {
     EXPECT_FALSE(mark->isVisible()) << "as it was opened";
     type("ecc", "2.8");
     EXPECT_TRUE(mark->isVisible());
-    EXPECT_EQ(utf8_text(mark->text()), "● Unsaved");
+    EXPECT_EQ(utf8_text(mark->text()), "• Unsaved");
     choose("mnufilesave");
     EXPECT_FALSE(mark->isVisible());
     press("dimens2");
@@ -70,7 +70,7 @@ TEST_F(status_hints_test, the_mark_speaks_german_and_stays_away_from_a_program_w
     start();
     EXPECT_FALSE(find<QLabel>("unsaved_mark")->isVisible());
     type("ecc", "2.8");
-    EXPECT_EQ(label("unsaved_mark"), "● Nicht gespeichert");
+    EXPECT_EQ(label("unsaved_mark"), "• Nicht gespeichert");
     EXPECT_TRUE(find<QLabel>("unsaved_mark")->isVisible());
 }
 
