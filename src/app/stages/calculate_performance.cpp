@@ -2,6 +2,7 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/program.hpp"
+#include "app/stages/performance_hint.hpp"
 #include "app/stages/performance_labels.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/close_forms.hpp"
@@ -72,6 +73,7 @@ void run_performance(program& kavetta, user& person) {
 }
 
 bool calculate_performance(program& kavetta, user& person) {
+    add_performance_hint(kavetta, kavetta.hints);
     close_forms(form_closer::performance, person);
     clean_up_perf_entries(kavetta.entries);
     if (has_refused_entry(kavetta, person)) {
