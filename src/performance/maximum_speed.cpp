@@ -29,12 +29,9 @@ void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports,
     results.tip_speed_rpm =
         checked_divide(results.fill_velocity * 1000.0, results.tip_radius) * (60.0 / TWO_PI_P);
 
-    results.sector_outer =
-        sector_mm2(ports.inlet.outer_r, ports.inlet.corners[START_OUTER].angle_deg,
-                   end_or_half_turn(ports.inlet.corners[END_OUTER].angle_deg));
-    results.sector_inner =
-        sector_mm2(ports.inlet.inner_r, ports.inlet.corners[START_INNER].angle_deg,
-                   end_or_half_turn(ports.inlet.corners[END_INNER].angle_deg));
+    const inlet_sectors inlet = sectors_of_inlet(ports);
+    results.sector_outer = inlet.outer_mm2;
+    results.sector_inner = inlet.inner_mm2;
     results.port_area = (results.sector_outer - results.sector_inner) / 1000000.0;
     results.port_equiv_r = checked_sqrt(results.port_area / PI_D);
     results.port_velocity =
@@ -47,6 +44,13 @@ void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports,
     if (limit_of_speed(results)) {
         results.max_speed_rpm = std::min(results.tip_speed_rpm, results.port_speed_rpm);
     }
+}
+
+inlet_sectors sectors_of_inlet(const port_params& ports) {
+    return {sector_mm2(ports.inlet.outer_r, ports.inlet.corners[START_OUTER].angle_deg,
+                       end_or_half_turn(ports.inlet.corners[END_OUTER].angle_deg)),
+            sector_mm2(ports.inlet.inner_r, ports.inlet.corners[START_INNER].angle_deg,
+                       end_or_half_turn(ports.inlet.corners[END_INNER].angle_deg))};
 }
 
 std::optional<speed_limit> limit_of_speed(const perf_results& results) {

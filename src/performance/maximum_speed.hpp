@@ -23,6 +23,13 @@ namespace kvt {
 void calc_maximum_speed(const rotor_profiles& rotors, const port_params& ports,
                         const perf_inputs& inputs, perf_results& results);
 
+/// The sectors of the inlet's radii, mm2: what lies between them is the area of the port.
+struct inlet_sectors {
+    double outer_mm2 = 0.0;
+    double inner_mm2 = 0.0;
+};
+inlet_sectors sectors_of_inlet(const port_params& ports);
+
 /// What holds the speed down; nothing when both limits are equal.
 enum class speed_limit { tip_velocity, port_velocity };
 std::optional<speed_limit> limit_of_speed(const perf_results& results);

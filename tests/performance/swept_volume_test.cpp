@@ -1,18 +1,23 @@
-// The capacity against the swept volume that the two profiles really have, by exact areas of a
-// chamber over a full turn.
+// The capacity against the volume that a pair without clearance sweeps, by the rates at its
+// contacts and by exact areas of a chamber over a full turn; the tables of the page how-sure.
 //
 // A chamber is the polygon of the outer profile from the contact point of one lobe to that of the
 // next, and of the inner profile back. The common normal of a contact goes through the pitch point
 // at x = (N - 1) ecc, so the contact point of a lobe lies on its circle towards that point; the
 // chamber ends there on a straight line over the clearance.
+#include "base/fixed_number.hpp"
+#include "base/number_text.hpp"
+#include "base/whole_file.hpp"
 #include "support/performance_case.hpp"
 #include "support/sample_design.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <complex>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <numbers>
+#include <string>
 #include <vector>
 
 namespace kvt {
@@ -54,13 +59,12 @@ class rotor_pair {
 
     /// What the pump moves in one turn of the inner rotor: every chamber from its smallest to its
     /// largest area, mm3. The chambers pass N - 1 times a turn, each in a turn of the outer rotor.
-    double swept_volume(double thick) const {
-        constexpr int POSITIONS = 720;
+    double swept_volume(double thick, int positions = 720) const {
         const double one_passage = TURN * numlobes_ / (numlobes_ - 1.0);
         double smallest = chamber_area(0.0);
         double largest = smallest;
-        for (int n = 1; n < POSITIONS; ++n) {
-            const double area = chamber_area(one_passage * n / POSITIONS);
+        for (int n = 1; n < positions; ++n) {
+            const double area = chamber_area(one_passage * n / positions);
             smallest = std::min(smallest, area);
             largest = std::max(largest, area);
         }
@@ -170,29 +174,42 @@ double volume_of_the_rates(const design_params& design) {
     return (lobes - 1.0) * grown * design.thick;
 }
 
-struct measured {
-    const char* sample;
-    double swept_cc;     ///< with the clearance
-    double reads_above;  ///< capacity_cc over it, percent
-    double
-        without_clearance;  ///< the same over the swept volume of a pair without clearance, percent
-};
-
-double percent_above(double capacity_cc, double swept_cc) {
-    return (capacity_cc / swept_cc - 1.0) * 100.0;
+/// capacity_cc without the clearance: the ring between tip and root circle, mm3 a turn.
+double capacity_of_tight_pair(const design_params& design) {
+    const double root = design.radinnroot;
+    const double tip = root + 2.0 * design.ecc;
+    return (tip * tip - root * root) * std::numbers::pi * design.thick;
 }
 
-class swept_volume_test : public testing::TestWithParam<measured> {
+double percent_above(double capacity, double swept) {
+    return (capacity / swept - 1.0) * 100.0;
+}
+
+std::string percent_text(double above) {
+    return fixed_number(std::abs(above), 2) + (above < 0.0 ? " % below" : " % above");
+}
+
+bool page_has(const std::string& line) {
+    const std::string page =
+        read_file(std::filesystem::path(KVT_TEST_DATA) / "../../docs/formulas/how-sure.md");
+    return page.find("\n" + line + "\n") != std::string::npos;
+}
+
+class swept_volume_test : public testing::TestWithParam<const char*> {
   protected:
-    performance_case sample = load_performance_case(GetParam().sample);
+    performance_case sample = load_performance_case(GetParam());
+    double rates_cc = volume_of_the_rates(sample.design_params) / 1000.0;
 };
 
 TEST_P(swept_volume_test, differs_from_the_capacity_as_the_page_says) {
-    const double swept_cc =
-        rotor_pair(sample.design_params).swept_volume(sample.design_params.thick) / 1000.0;
-    EXPECT_NEAR(swept_cc, GetParam().swept_cc, 0.001);
-    EXPECT_NEAR(percent_above(sample.rotor_profiles.capacity_cc, swept_cc), GetParam().reads_above,
-                0.02);
+    const design_params& design = sample.design_params;
+    const double capacity_cc = sample.rotor_profiles.capacity_cc;
+    const std::string line =
+        "| " + std::string(GetParam()) + " | " + std::to_string(design.numlobes) + " | " +
+        fixed_number(rates_cc, 4) + " | " + fixed_number(capacity_cc, 4) + " | " +
+        percent_text(percent_above(capacity_cc, rates_cc)) + " | " +
+        percent_text(percent_above(capacity_of_tight_pair(design) / 1000.0, rates_cc)) + " |";
+    EXPECT_TRUE(page_has(line)) << line;
 }
 
 /// Two ways to the same volume: the polygons have 3600 points, so a few hundredths of a percent
@@ -201,10 +218,7 @@ TEST_P(swept_volume_test, agrees_with_the_rates_at_the_contacts) {
     design_params tight = sample.design_params;
     tight.clearn_half = 0.0;
     const double polygons = rotor_pair(tight).swept_volume(tight.thick);
-    const double rates = volume_of_the_rates(tight);
-    EXPECT_NEAR(polygons / rates, 1.0, 0.0005);
-    EXPECT_NEAR(percent_above(sample.rotor_profiles.capacity_cc, rates / 1000.0),
-                GetParam().without_clearance, 0.02);
+    EXPECT_NEAR(polygons / 1000.0 / rates_cc, 1.0, 0.0005);
 }
 
 /// The contact points of the tool lie on the inner profile but for the clearance, which is
@@ -215,13 +229,52 @@ TEST_P(swept_volume_test, measures_chambers_that_end_at_the_contacts) {
     EXPECT_LT(gap, sample.design_params.clearn_half * 1.6);
 }
 
-INSTANTIATE_TEST_SUITE_P(samples, swept_volume_test,
-                         testing::Values(measured{"n03_transfer_sharp", 1.1920, 16.56, 16.62},
-                                         measured{"n04_fuel", 1.4913, 5.83, 6.07},
-                                         measured{"n07_engine_oil_groove", 6.0294, -0.26, 0.42},
-                                         measured{"n07_inch_hydraulic", 8.7922, 0.20, 0.71},
-                                         measured{"n09_crank_oil", 13.3996, -0.57, 0.06}),
-                         [](const auto& row) { return std::string(row.param.sample); });
+INSTANTIATE_TEST_SUITE_P(samples, swept_volume_test, testing::ValuesIn(SAMPLES),
+                         [](const auto& row) { return std::string(row.param); });
+
+/// Tight pairs whose lobes have other proportions than those of the samples, mm.
+struct shape {
+    const char* name;
+    int numlobes;
+    double ecc, radouter, radinnroot;
+};
+
+class shape_of_lobes_test : public testing::TestWithParam<shape> {
+  protected:
+    static design_params tight_pair(const shape& of) {
+        design_params design = sample_design();
+        design.numlobes = of.numlobes;
+        design.ecc = of.ecc;
+        design.radouter = of.radouter;
+        design.radinnroot = of.radinnroot;
+        design.outer_root = of.radinnroot + 3.0 * of.ecc;
+        design.fillet = 0.0;
+        design.clearn_half = 0.0;
+        return design;
+    }
+};
+
+TEST_P(shape_of_lobes_test, counts_as_much_as_the_number_of_lobes) {
+    const design_params design = tight_pair(GetParam());
+    const double rates = volume_of_the_rates(design);
+    EXPECT_NEAR(rotor_pair(design).swept_volume(design.thick, 180) / rates, 1.0, 0.0005)
+        << "a pair that can be made";
+    const std::string line =
+        "| " + std::string(GetParam().name) + " | " + std::to_string(design.numlobes) + " | " +
+        number_text(design.ecc) + " | " + number_text(design.radouter) + " | " +
+        number_text(design.radinnroot) + " | " +
+        percent_text(percent_above(capacity_of_tight_pair(design), rates)) + " |";
+    EXPECT_TRUE(page_has(line)) << line;
+}
+
+INSTANTIATE_TEST_SUITE_P(shapes, shape_of_lobes_test,
+                         testing::Values(shape{"slim lobes far apart", 4, 1.5, 4.0, 6.0},
+                                         shape{"thick lobes", 4, 2.2, 6.0, 5.0},
+                                         shape{"slim lobes", 7, 2.85, 5.0, 16.65},
+                                         shape{"slim lobes far apart", 7, 1.5, 3.0, 15.0},
+                                         shape{"thick lobes", 7, 2.85, 7.5, 14.15},
+                                         shape{"slim lobes", 9, 2.0, 3.5, 16.0}),
+                         [](const auto& row) { return "number_" + std::to_string(row.index); });
 
 }  // namespace
 }  // namespace kvt

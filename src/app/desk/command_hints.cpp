@@ -1,6 +1,7 @@
 #include "app/desk/command_hints.hpp"
 
 #include "app/program.hpp"
+#include "app/stages/performance_hint.hpp"
 
 namespace kvt {
 
@@ -28,7 +29,11 @@ bool run_with_hints(program& kavetta, user& person, const std::function<bool()>&
 }
 
 std::vector<hint> hints_on_display(const program& kavetta) {
-    return kavetta.hints;
+    std::vector<hint> hints = kavetta.hints;
+    if (kavetta.enabling.calc_perf) {
+        add_performance_hint(kavetta, hints);
+    }
+    return hints;
 }
 
 std::string hint_summary(const std::vector<hint>& hints, std::int16_t language) {

@@ -18,7 +18,8 @@ struct program;
 /// as one box behind it, in their order. Answers what the command answered.
 bool run_with_hints(program& kavetta, user& person, const std::function<bool()>& command);
 
-/// The hints that stand in the status bar now.
+/// The hints that stand in the status bar now: those of the last command, and, while Calculate
+/// Performance can be pressed, what would make it fail.
 std::vector<hint> hints_on_display(const program& kavetta);
 
 /// The one line of the status bar: the first hint, and how many stand behind it: "Hint: ... (+2)";

@@ -2,9 +2,11 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/program.hpp"
+#include "app/stages/performance_hint.hpp"
 #include "app/stages/performance_labels.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/close_forms.hpp"
+#include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "performance/delivered_flow.hpp"
@@ -14,6 +16,7 @@
 #include "performance/maximum_speed.hpp"
 #include "performance/perf_entries.hpp"
 #include "performance/perf_grid.hpp"
+#include "performance/performance_obstacle.hpp"
 #include "performance/pressure_ripple.hpp"
 #include "performance/sliding_velocity.hpp"
 
@@ -58,6 +61,12 @@ void run_routines(program& kavetta) {
     set_performance_labels(results, perf_step::ripple, kavetta.app_state, kavetta.labels);
 }
 
+/// A run to its end whose results say nothing: no flow, or ports that leave none.
+bool means_nothing(const program& kavetta) {
+    return kavetta.perf_results.flow_max == 0.0 ||
+           port_obstacle(kavetta.design_params, kavetta.port_params);
+}
+
 }  // namespace
 
 void run_performance(program& kavetta, user& person) {
@@ -77,8 +86,16 @@ bool calculate_performance(program& kavetta, user& person) {
     if (has_refused_entry(kavetta, person)) {
         return false;
     }
-    read_inputs(kavetta);
-    run_performance(kavetta, person);
+    try {
+        read_inputs(kavetta);
+        run_performance(kavetta, person);
+    } catch (const run_time_error&) {
+        add_performance_hint(kavetta, kavetta.hints);
+        throw;
+    }
+    if (means_nothing(kavetta)) {
+        add_performance_hint(kavetta, kavetta.hints);
+    }
     apply_chain(kavetta.enabling, chain_event::performance_calculated);
     note_stage(kavetta, stage::performance);
     return true;

@@ -206,6 +206,39 @@ TEST_F(cnc_output, compares_inches_as_typed_with_a_radius_in_millimetres) {
     EXPECT_TRUE(person.messages.empty());
 }
 
+/// Everything is wrong at once, and put right in the order in which it is told.
+TEST_F(cnc_output, tells_rotor_then_ports_then_groove_then_resolution) {
+    const auto told_first = [this] {
+        person.messages.clear();
+        EXPECT_FALSE(write());
+        EXPECT_EQ(person.messages.size(), 1U);
+        return person.messages.empty() ? "" : person.messages[0];
+    };
+    for (const char* name : {"inner_offset", "inlet_pocket", "outlet_pocket"}) {
+        tick(name);
+    }
+    form.machine_res_combo = "0.5";
+    form.toolsize = "15.1";
+    form.groovetooltext = "1.6";
+    EXPECT_TRUE(told_first().starts_with("This tool diameter is too great for this rotor."));
+    EXPECT_EQ(form.toolsize, "15.1") << "a tool too great for the rotor is not emptied";
+    form.toolsize = "3.1";
+    EXPECT_TRUE(told_first().starts_with("Max tool size to cut the designed port radius is 3mm."));
+    EXPECT_EQ(form.groovetooltext, "1.6") << "the groove was not looked at";
+    untick("inlet_pocket");
+    form.toolsize = "3.1";
+    EXPECT_TRUE(told_first().starts_with("Max tool size to cut the designed port radius is 3mm."));
+    EXPECT_EQ(form.groovetooltext, "1.6");
+    form.toolsize = "3";
+    EXPECT_TRUE(told_first().starts_with("Max tool size to cut the designed metering groove is"));
+    form.groovetooltext = "1.5";
+    EXPECT_TRUE(told_first().starts_with("Enter a resolution for the CNC machine"));
+    EXPECT_TRUE(person.dialogs.empty());
+    form.machine_res_combo = "0.01";
+    person.files = {std::nullopt, std::nullopt};
+    EXPECT_TRUE(write());
+}
+
 TEST(resolution_digits, knows_ten_texts_and_keeps_the_last_choice_for_others) {
     EXPECT_EQ(resolution_digits("0.01", 0), 2);
     EXPECT_EQ(resolution_digits("0,001", 0), 3);

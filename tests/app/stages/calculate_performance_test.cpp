@@ -6,6 +6,7 @@
 #include "base/text_file.hpp"
 #include "support/expect_failure.hpp"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace kvt {
@@ -181,6 +182,7 @@ TEST_F(calculate_performance_test,
     prepare("n07_engine_oil_groove");
     kavetta.entries.vap_press = "761";
     EXPECT_FAILURE(calculate_performance(kavetta, person), failure::invalid_procedure_call);
+    EXPECT_EQ(std::ranges::count(person.log, "show perf_res"), 0) << "the speed limits come first";
     const entries typed = kavetta.entries;
     EXPECT_TRUE(run_command(kavetta, person, [this] {
         calculate_performance(kavetta, person);
@@ -202,6 +204,7 @@ TEST_F(calculate_performance_test,
     prepare("n04_fuel");
     kavetta.entries.kin_visc = "1E12";
     EXPECT_FAILURE(calculate_performance(kavetta, person), failure::subscript_out_of_range);
+    EXPECT_EQ(person.log.back(), "show perf_res") << "shown before the routines";
     EXPECT_FALSE(kavetta.enabling.create_charts);
     EXPECT_GT(kavetta.perf_results.power_max, 0.0);
     EXPECT_FALSE(kavetta.labels.max_shaft_side_load.empty());

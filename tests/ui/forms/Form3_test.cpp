@@ -1,6 +1,7 @@
 // The CNC output dialog on the screen: its boxes, its hidden entry, its messages, its files.
 #include "ui/forms/Form3.hpp"
 
+#include "base/fixed_number.hpp"
 #include "support/scripted_user.hpp"
 #include "ui/desktop_fixture.hpp"
 
@@ -163,6 +164,20 @@ TEST_F(Form3_test, writes_the_ticked_file_and_closes) {
     EXPECT_EQ(robot.titles,
               std::vector<std::string>{"Kavetta V2021 - Save Outer Rotor Profile - G Codes"});
     EXPECT_TRUE(read_file(folder.file("outer.cnc")).ends_with("G01X0.0000Y0.0000\r\n"));
+}
+
+TEST_F(Form3_test, writes_the_inner_rotor_clockwise_when_that_is_ticked) {
+    click("inner_rot_xy_checkbox");
+    click("Opp_Plot");
+    choose_resolution("0.001");
+    robot.files = {folder.file("inner.cnc")};
+    click("okbutton");
+    EXPECT_TRUE(kavetta().cnc_choices.Opp_Plot);
+    const rotor_profiles& rotors = kavetta().rotor_profiles;
+    ASSERT_GT(rotors.inner_y[1], 0.0);
+    const std::string second_line = "\r\nX" + fixed_number(rotors.inner_x[1], 3) + "Y" +
+                                    fixed_number(-rotors.inner_y[1], 3) + "\r\n";
+    EXPECT_NE(read_file(folder.file("inner.cnc")).find(second_line), std::string::npos);
 }
 
 TEST_F(Form3_test, is_opened_by_its_menu_entry_once_there_are_profiles) {

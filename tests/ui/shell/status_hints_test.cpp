@@ -1,5 +1,6 @@
 // status_hints: the hint of stale results follows the typing.
 #include "ui/desktop_fixture.hpp"
+#include "ui/parts/hint_button.hpp"
 
 namespace kvt {
 
@@ -72,6 +73,23 @@ TEST_F(status_hints_test, the_mark_speaks_german_and_stays_away_from_a_program_w
     type("ecc", "2.8");
     EXPECT_EQ(label("unsaved_mark"), "• Nicht gespeichert");
     EXPECT_TRUE(find<QLabel>("unsaved_mark")->isVisible());
+}
+
+TEST_F(status_hints_test, name_the_entry_that_leaves_no_delivery_before_the_press) {
+    start(own_design_file("n09_crank_oil"));
+    press("Calc");
+    press("design_ports");
+    EXPECT_FALSE(find<hint_button>("hints")->isVisible());
+    type("outlet_end_inner", "180");
+    type("outlet_end_outer", "180");
+    press("design_ports");
+    EXPECT_TRUE(find<hint_button>("hints")->isVisible());
+    EXPECT_EQ(utf8_text(find<hint_button>("hints")->text()),
+              "Hint: Outlet end angles of 180 leave no delivery");
+    type("outlet_end_inner", "150");
+    type("outlet_end_outer", "150");
+    press("design_ports");
+    EXPECT_FALSE(find<hint_button>("hints")->isVisible());
 }
 
 }  // namespace kvt
