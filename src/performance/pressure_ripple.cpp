@@ -51,7 +51,7 @@ void set_outlet_edge(const design_params& design, const port_params& ports,
     const double outer_m = ports.outlet_outer_r / 1000.0;
     const double inner_m = ports.outlet_inner_r / 1000.0;
     // Kept: the end angle is that of the outer radius, the start angle that of the inner one;
-    // pressure_ripple_test.
+    // pressure_ripple_test holds it.
     results.port_volume = (outer_m * outer_m - inner_m * inner_m) * PI_D *
                           (ports.outlet_end_outer_deg - ports.outlet_start_inner_deg) *
                           (design.thick / 1000.0) / 360.0;
