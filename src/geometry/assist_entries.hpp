@@ -29,7 +29,7 @@ fixed4 required_capacity_cc(const entries& boxes, std::int16_t capacity_unit);
 
 /// Writes ecc and radinnroot in the unit of the entries with four decimals.
 /// Kept: in millimetres ecc has the text of a double, which for four decimals shows the same
-/// digits.
+/// digits; assist_entries_test holds it.
 void write_root_and_eccentricity(const design_params& design, const length_unit& unit,
                                  entries& boxes);
 
@@ -37,7 +37,7 @@ void write_root_and_eccentricity(const design_params& design, const length_unit&
 void write_lobe_radius(const design_params& design, const length_unit& unit, entries& boxes);
 
 /// Kept: millimetres in inch mode too; the next Calculate Profiles corrects the entry by its own
-/// rules.
+/// rules. assist_entries_test holds it.
 void write_assist_outer_root(const design_params& design, entries& boxes);
 
 }  // namespace kvt

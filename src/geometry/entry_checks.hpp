@@ -28,7 +28,7 @@ struct refused_entry {
 };
 
 /// The first entry that is not above 0, in the order of the form's checks, or nothing.
-/// Kept: ecc is tested as a text, so "0.0" and negative values pass.
+/// Kept: ecc is tested as a text, so "0.0" and negative values pass; entry_checks_test holds it.
 std::optional<refused_entry> first_refused_entry(const entries& boxes);
 
 /// Reads the entries into millimetres and sets inner_plot_len = (P + P) / coarseness + 1.

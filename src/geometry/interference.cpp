@@ -15,7 +15,8 @@ constexpr int FILLET_LAST = 100;
 constexpr std::int64_t INNER_LAST = PROFILE_POINTS - 1;
 constexpr double CUT = 10000.0;
 
-/// A list of points in polar form. Kept: the arctangent has no quadrant correction on either side.
+/// A list of points in polar form. Kept: the arctangent has no quadrant correction on either side;
+/// interference_test holds it.
 struct polar_list {
     std::vector<double> radius, angle;
 };

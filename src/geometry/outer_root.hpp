@@ -15,7 +15,7 @@ namespace kvt {
 /// Keeps the typed root radius when ecc and radinnroot are those of the stored design, else drops
 /// it (0, text "0"). Kept: the texts are compared with the stored millimetres as they stand, so in
 /// inches a run almost never matches and the root radius is found anew; where it matches (after
-/// Open) the inches are taken as millimetres.
+/// Open) the inches are taken as millimetres. outer_root_test holds it.
 void keep_or_drop_outer_root(entries& boxes, design_params& design);
 
 /// The limits of the root radius, mm.

@@ -15,7 +15,8 @@ void set_shared_values(const design_params& design, const rotor_profiles& rotors
                        const perf_inputs& inputs, perf_results& results);
 
 /// press_pa and speed_rpm, elements 0 .. 5, from the lowest to the highest value of each range in
-/// equal steps. Kept: one bar is 101300 Pa and 14.5 psi are one bar.
+/// equal steps. Kept: one bar is 101300 Pa and 14.5 psi are one bar; perf_grid_test holds
+/// it.
 void set_grid(const perf_inputs& inputs, perf_results& results);
 
 /// The extremes of a grid, by strict comparison with start values: a value strictly above largest

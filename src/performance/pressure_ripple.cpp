@@ -53,7 +53,7 @@ void set_outlet_edge(const design_params& design, const port_params& ports,
     const double outer_m = ports.outlet.outer_r / 1000.0;
     const double inner_m = ports.outlet.inner_r / 1000.0;
     // Kept: the end angle is that of the outer radius, the start angle that of the inner one;
-    // pressure_ripple_test.
+    // pressure_ripple_test holds it.
     results.port_volume =
         (outer_m * outer_m - inner_m * inner_m) * PI_D *
         (ports.outlet.corners[END_OUTER].angle_deg - ports.outlet.corners[START_INNER].angle_deg) *

@@ -10,9 +10,9 @@ namespace kvt {
 /// radius entries of both ports that read as 0. A radius too large is told, port_radii goes back to
 /// last_good_port_radius (to 0 when it says that already) and both radii to those of the rotors,
 /// and the routine starts again. Kept: Val(port_radii), in the unit of the entries, is compared
-/// with last_good_port_radius in mm. A pass that would write the texts that stand there already
-/// ends as refused instead. Throws run_time_error for a vertical side and other quotients by 0.
-/// Source: docs/formulas/ports.md.
+/// with last_good_port_radius in mm; build_ports_test holds it. A pass that would write the texts
+/// that stand there already ends as refused instead. Throws run_time_error for a vertical side and
+/// other quotients by 0. Source: docs/formulas/ports.md.
 port_end build_inlet_port(port_work& work);
 
 /// Builds the outlet likewise, above the x axis, and sets last_good_port_radius. A radius too large

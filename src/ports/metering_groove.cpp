@@ -130,8 +130,8 @@ void store_outline(port_params& ports, const groove_outline& built) {
     ports.groove_mark_a = built.mark_a;
     ports.groove_mark_b = built.mark_b;
     if (built.mark_c) {
-        ports.groove_mark_c =
-            *built.mark_c;  // Kept: without a nose line the mark of an earlier groove stays
+        ports.groove_mark_c = *built.mark_c;  // Kept: without a nose line the mark of an earlier
+                                              // groove stays; metering_groove_test holds it
     }
     ports.groove_mark_d = built.mark_d;
 }

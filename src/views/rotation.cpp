@@ -17,7 +17,7 @@ constexpr double HALF_TURN_DEG = 180.0;
 
 void set_angle(const design_params& design, double degrees, view_state& state) {
     state.rotation_angle = degrees;
-    // Kept: once, so that a typed 800 stays 440.
+    // Kept: once, so that a typed 800 stays 440; rotation_test holds it.
     if (state.rotation_angle >= FULL_TURN_DEG) {
         state.rotation_angle = state.rotation_angle - FULL_TURN_DEG;
     }

@@ -188,6 +188,26 @@ TEST(build_ports, texts_in_inches_are_written_back_cut_to_three_decimals) {
     EXPECT_EQ(tested.ports.port_radius, 0.049 * 25.4);
 }
 
+/// 0.18 typed as inches is 4.572 mm, and equal to the last good 0.18 mm all the same: it goes to 0.
+TEST(build_ports, inches_are_compared_as_typed_with_the_last_good_radius_in_millimetres) {
+    port_design tested;
+    tested.inches = true;
+    for (const entry_field& field : entry_fields()) {
+        const bool is_length = field.name == "ecc" || field.name == "radouter" ||
+                               field.name == "radinnroot" || field.name == "inlet_inner_radius" ||
+                               field.name == "inlet_outer_radius";
+        if (is_length) {
+            tested.boxes.*field.member = number_text(val(tested.boxes.*field.member) / 25.4);
+        }
+    }
+    tested.boxes.port_radii = "0.18";
+    tested.ports.last_good_port_radius = 0.18;
+    port_work work = tested.work();
+    build_inlet_port(work);
+    EXPECT_EQ(tested.boxes.port_radii, "0");
+    EXPECT_EQ(tested.ports.last_good_port_radius, 0.0);
+}
+
 TEST(build_ports, a_pass_that_would_write_the_same_texts_ends_as_refused) {
     // The arcs lie the wrong way round, so the fillets cross whatever the radius is.
     port_design tested;

@@ -303,6 +303,14 @@ class named_tests_test(tree_test):
         self.write("src/core/a.hpp", "/// Kept: 7 stays; reset_test\n/// holds it.\n")
         self.expect_one(self.check(), "reset_test")
 
+    def test_a_kept_oddity_without_a_test_is_reported_with_its_line(self):
+        self.write("src/core/a.hpp", "int a;\n/// Kept: 7 stays\n/// as it is.\nint b;\n// shaft_test holds it.\n")
+        self.expect_one(self.check(), "src/core/a.hpp:2", "names no test")
+
+    def test_a_kept_oddity_may_name_its_test_some_lines_below(self):
+        self.write("src/core/a.hpp", "/// Kept: 7 stays.\n/// Throws nothing.\n/// shaft_test holds it.\nint b;\n")
+        self.assertEqual(list(self.check()), [])
+
     def test_pages_are_read_too(self):
         self.write("docs/style.md", "gone_test holds it.\n")
         self.expect_one(self.check(), "docs/style.md:1", "gone_test")

@@ -115,7 +115,8 @@ class form_checks {
         kavetta_.cnc_choices.Opp_Plot = form_.Opp_Plot;
     }
 
-    /// Kept: neither the comparison nor the number of the message is converted to inches.
+    /// Kept: neither the comparison nor the number of the message is converted to inches;
+    /// cnc_output_test holds it.
     bool tool_fits_rotor() {
         const double radouter = kavetta_.design_params.radouter;
         const bool offset = ticked(INNER_OFFSET) || ticked(INNER_OFFSET_CHECKED);

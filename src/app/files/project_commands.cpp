@@ -167,7 +167,7 @@ void open_project(program& kavetta, user& person) {
         find_projects_folder(kavetta);
         file_dialog dialog = project_dialog(kavetta, message::open_project_title);
         // Kept: once the folder is known, Open leaves the start folder to the platform's own
-        // memory; Save As doesn't.
+        // memory; Save As doesn't. project_commands_test holds it.
         dialog.folder = first_time ? kavetta.app_state.projects_folder : "";
         dialog.flags = HIDE_READ_ONLY;
         const std::optional<std::string> path = person.choose_file(dialog);

@@ -78,7 +78,7 @@ void assign_dimensions(program& kavetta, const project_record& record) {
     kavetta.entries.axial_clear = record.boxes.axial_clear;
     kavetta.entries.radial_clear = record.boxes.radial_clear;
     // Kept: as typed, also in inches, so the first Calculate Profiles finds both unchanged and
-    // keeps the root radius.
+    // keeps the root radius; project_commands_test holds it.
     kavetta.design_params.ecc = number_of_text(commas_to_points(record.boxes.ecc));
     kavetta.design_params.radinnroot = number_of_text(commas_to_points(record.boxes.radinnroot));
 }

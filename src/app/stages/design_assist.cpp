@@ -23,7 +23,8 @@ const length_unit& unit_of(const program& kavetta) {
     return length_unit_of(kavetta.app_state);
 }
 
-/// Kept: cm3 per revolution for now, whatever the unit beside the label says.
+/// Kept: cm3 per revolution for now, whatever the unit beside the label says; design_assist_test
+/// holds it.
 void show_candidate(program& kavetta, fixed4 capacity_cc) {
     kavetta.labels.capacity = capacity_cc.text();
     write_root_and_eccentricity(kavetta.design_params, unit_of(kavetta), kavetta.entries);

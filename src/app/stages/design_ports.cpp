@@ -57,7 +57,7 @@ void put_points_for_commas(entries& boxes) {
     }
 }
 
-/// Kept: only an exact 0 is missing; a negative value passes.
+/// Kept: only an exact 0 is missing; a negative value passes. design_ports_test holds it.
 bool misses_groove_entry(program& kavetta, user& person) {
     for (const auto& [entry, control, missing] : GROOVE_ENTRIES) {
         if (val(kavetta.entries.*entry) == 0.0) {

@@ -39,6 +39,7 @@ void leave_maxdiameter(program& kavetta, user& person) {
 }
 
 /// Kept: "", "0" and "7" are compared as texts, so "7.0" stays; 7 doesn't divide the 3600 points.
+/// entry_handlers_test holds it.
 void leave_coarseness(program& kavetta) {
     std::string& text = kavetta.entries.coarseness;
     if (text.empty() || text == "0" || text == "7" || val(text) > LARGEST_COARSENESS) {

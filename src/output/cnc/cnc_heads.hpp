@@ -40,7 +40,7 @@ struct port_section {
 
 /// The sections in the order of the file: the lower housing, the groove (outlet only), the upper
 /// housing of a double-sided port, the shadow port. The outlet counts them; Kept: on the inlet
-/// every further one is section 2.
+/// every further one is section 2; cnc_lines_test holds it.
 std::vector<port_section> port_sections(const entries& boxes, port_side side);
 
 /// Which file a head stands in.

@@ -54,7 +54,8 @@ class cnc_lines {
 };
 
 /// The lathe line of a point: its radius, and its angle from the x axis by arctan(y / x) * 180 /
-/// PI_D with 180 or 360 added by the quadrant. Kept: a point with x < 0 and y = 0 reads C0. Throws
+/// PI_D with 180 or 360 added by the quadrant. Kept: a point with x < 0 and y = 0 reads C0;
+/// cnc_lines_test holds it. Throws
 /// division_by_zero when x is 0.
 void add_lathe_line(cnc_lines& lines, point2 point);
 

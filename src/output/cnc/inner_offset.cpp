@@ -50,7 +50,8 @@ double literal_angle(const rotor_profiles& rotors, std::int64_t i, const normal_
     const point2 here = trochoid_at(rotors, i);
     double angle = angle_by_quadrant(i, normal);
     if (axis_distance(moved(here, angle, distance)) > axis_distance(here)) {
-        // Kept: both tests run one after the other, so the angle is always a here.
+        // Kept: both tests run one after the other, so the angle is always a here;
+        // inner_offset_test holds it.
         if (normal.a == angle) {
             angle = normal.b;
         }

@@ -13,7 +13,7 @@ namespace kvt {
 // run-time failure leaves what was written until then.
 
 /// The outlines as X/Y lines, each with its point 0 once more behind it. Kept: an outline repeats
-/// point 0 itself, so it stands there twice.
+/// point 0 itself, so it stands there twice; port_cnc_test holds it.
 void write_port_xy(const file_source& source, port_side side, text_lines& text);
 
 /// The path of a cutter that clears the pockets (pocket_path). The groove has its own cutter.

@@ -31,7 +31,7 @@ void write_outer_xy(const file_source& source, text_lines& text);
 /// The points of the cutter's path.
 void write_outer_offset(const file_source& source, text_lines& text);
 /// The arcs of the path as G02 and G03. Kept: the last line has four decimals whatever the
-/// resolution.
+/// resolution; rotor_cnc_test holds it.
 void write_outer_gcode(const file_source& source, text_lines& text);
 /// The points as lathe lines.
 void write_outer_lathe(const file_source& source, text_lines& text);

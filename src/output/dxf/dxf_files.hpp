@@ -24,8 +24,8 @@ void write_dxf_outer_rotor(text_lines& out, const entries& boxes);
 
 /// A port's outline: point 0 .. last, but none from the first x of exactly 0 on, then point 0.
 /// Kept: in inches the text in millimetres is read back, divided by 25.4 and written with up to
-/// fifteen digits, so that the last ones say nothing. A port that was never designed has the
-/// closing vertex only.
+/// fifteen digits, so that the last ones say nothing; dxf_files_test holds it. A port that was
+/// never designed has the closing vertex only.
 void write_dxf_inlet_port(text_lines& out, const port_params& ports, const length_unit& unit);
 void write_dxf_outlet_port(text_lines& out, const port_params& ports, const length_unit& unit);
 

@@ -13,7 +13,8 @@ namespace {
 constexpr std::size_t BYTES_PER_POINT = 520;
 
 /// Knot k = 0 .. m - 3 of a half with m control points: c + k 0.5/(F/2), c being 0.5 on the first
-/// half, 0 on the second. Kept: the last knot ends before the other half's first one.
+/// half, 0 on the second. Kept: the last knot ends before the other half's first one;
+/// step_wall_test holds it.
 std::string knots_text(std::size_t control_count, double c, double point_count) {
     std::string text;
     for (std::size_t k = 0; k + 2 < control_count; ++k) {

@@ -239,6 +239,24 @@ TEST_F(cnc_output, tells_rotor_then_ports_then_groove_then_resolution) {
     EXPECT_TRUE(write());
 }
 
+/// 14.9 inches would never pass lobes of 7.5 mm.
+TEST_F(cnc_output, compares_inches_as_typed_with_the_lobes_in_millimetres) {
+    kavetta.app_state.drawing_units = INCHES;
+    form = open_cnc_form(kavetta);
+    form.machine_res_combo = "0.001";
+    tick("inner_offset");
+    form.toolsize = "15.1";
+    EXPECT_EQ(refusal(ENGLISH),
+              "This tool diameter is too great for this rotor. Maximum tool size allowed is 15 "
+              "Inches");
+    kavetta.app_state.language = ENGLISH;
+    form.toolsize = "14.9";
+    person.messages.clear();
+    person.files = {std::nullopt};
+    EXPECT_TRUE(write());
+    EXPECT_TRUE(person.messages.empty());
+}
+
 TEST(resolution_digits, knows_ten_texts_and_keeps_the_last_choice_for_others) {
     EXPECT_EQ(resolution_digits("0.01", 0), 2);
     EXPECT_EQ(resolution_digits("0,001", 0), 3);

@@ -1,0 +1,74 @@
+// Fuzz target: KVT.ini and Kavetta.ini beside it, whose lines stand behind a line "====": the
+// recent paths come back whole, whatever bytes they have.
+#include "core/settings_file.hpp"
+#include "require.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace kvt {
+
+namespace {
+
+struct both_files {
+    std::string settings;
+    std::string own;
+};
+
+both_files files_of(const std::string& bytes) {
+    const std::string border = "====\r\n";
+    const std::size_t at = bytes.find(border);
+    if (at == std::string::npos) {
+        return {bytes, bytes};
+    }
+    return {bytes.substr(0, at), bytes.substr(at + border.size())};
+}
+
+app_state read_both(const both_files& files) {
+    app_state state;
+    read_settings(files.settings, state);
+    read_own_settings(files.own, state);
+    return state;
+}
+
+both_files write_both(const app_state& state) {
+    return {write_settings(state), write_own_settings(state)};
+}
+
+void require_same_paths(const app_state& state, const app_state& again) {
+    for (std::size_t entry = 1; entry <= 3; ++entry) {
+        require(again.mnufileprev[entry] == state.mnufileprev[entry], "a recent path survives");
+    }
+}
+
+void check_read(const std::string& bytes) {
+    const app_state state = read_both(files_of(bytes));
+    const both_files written = write_both(state);
+    const app_state again = read_both(written);
+    require_same_paths(state, again);
+    const both_files twice = write_both(again);
+    require(twice.settings == written.settings && twice.own == written.own,
+            "writing again gives the same bytes");
+}
+
+/// A path of the system has any bytes but 0.
+void check_paths(const std::string& bytes) {
+    app_state state;
+    const std::size_t third = bytes.size() / 3;
+    state.mnufileprev[1] = bytes.substr(0, third);
+    state.mnufileprev[2] = bytes.substr(third, third);
+    state.mnufileprev[3] = bytes.substr(2 * third);
+    require_same_paths(state, read_both(write_both(state)));
+}
+
+}  // namespace
+
+}  // namespace kvt
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(data, data + size);
+    kvt::check_read(bytes);
+    kvt::check_paths(bytes);
+    return 0;
+}
