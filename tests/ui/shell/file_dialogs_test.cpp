@@ -51,7 +51,6 @@ TEST_F(file_dialogs_test, show_names_in_full) {
     int needed = 0;
     int width = 0;
     robot.at_file_dialog = [&](QFileDialog& dialog) {
-        settle();
         const auto* list = dialog.findChild<QTreeView*>("treeView");
         ASSERT_TRUE(list->isVisible());
         needed = list->fontMetrics().horizontalAdvance(qt_text(name));

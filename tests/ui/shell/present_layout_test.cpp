@@ -178,6 +178,7 @@ TEST_F(present_layout_test, restore_unloads_the_explanation_windows) {
 
 TEST_F(present_layout_test, a_layout_that_cannot_be_written_is_fatal) {
     start();
+    std::filesystem::remove(file());
     std::filesystem::create_directory(file());
     choose("mnuscreensave");
     EXPECT_TRUE(desk().runner().has_ended());
