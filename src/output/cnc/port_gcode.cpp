@@ -84,9 +84,8 @@ tool_contour groove_moves(const port_params& ports) {
 }
 
 std::vector<circle> port_circles(const port_params& ports, port_side side, bool shadow) {
-    const port_fields& fields = side == port_side::inlet ? inlet_fields() : outlet_fields();
-    const port_shape& built = ports.*fields.built;
-    const port_points port(built, fields.mirrored, shadow);
+    const port_shape& built = ports.of(side).built;
+    const port_points port(built, fields_of(side).mirrored, shadow);
     std::vector<circle> circles{{{}, built.R}, {port.outer_centre(), built.Q}};
     for (const std::size_t corner : {START_INNER, END_INNER, END_OUTER, START_OUTER}) {
         circles.push_back({port.fillet_centre(corner), built.f});
