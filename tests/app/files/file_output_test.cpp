@@ -74,6 +74,7 @@ TEST_F(dxf_output, takes_the_outer_rotor_from_the_boxes_as_they_stand) {
 }
 
 TEST_F(dxf_output, saves_what_a_failing_writer_got_to_without_a_message) {
+    kavetta.app_state.drawing_units = INCHES;  // the entries as typed
     kavetta.entries.numlobes = "0";
     const std::string bytes = saved("outer");
     EXPECT_TRUE(bytes.ends_with(" 30\r\n0.000000\r\n 0\r\n"));
