@@ -88,7 +88,7 @@ void write_gt_step_files(const program& kavetta, const std::string& folder) {
         const auto failed =
             save_text(path, [&](text_lines& text) { file.write(source_of(kavetta, path), text); });
         if (failed) {
-            throw *failed;
+            throw failed->error;
         }
     }
 }

@@ -47,4 +47,14 @@ TEST_F(exports_ui, a_changed_entry_asks_before_the_save_dialog_and_before_form3)
     EXPECT_TRUE(std::filesystem::exists(folder.file("pump.dxf")));
 }
 
+TEST_F(exports_ui, a_file_whose_writer_failed_is_called_incomplete) {
+    start(design_file("n07_inch_hydraulic"));
+    press("Calc");
+    type("outer_root", kavetta().entries.fillet);  // no room for the fillets' centres
+    robot.files.emplace_back(folder.file("outer.dxf"));
+    choose("mnudxfouter");  // of an imperial project: the entries as typed
+    EXPECT_EQ(status(), "Incomplete: " + folder.file("outer.dxf") + ": Division by zero");
+    EXPECT_TRUE(std::filesystem::exists(folder.file("outer.dxf")));
+}
+
 }  // namespace kvt
