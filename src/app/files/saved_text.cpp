@@ -1,6 +1,7 @@
 #include "app/files/saved_text.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "app/desk/settings_commands.hpp"
 #include "app/program.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
@@ -62,7 +63,9 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
 std::optional<std::string> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write) {
-    const std::optional<std::string> path = person.choose_file(dialog);
+    file_dialog beside_project = dialog;
+    beside_project.folder = project_folder(kavetta);
+    const std::optional<std::string> path = person.choose_file(beside_project);
     if (!path || path->empty()) {
         return std::nullopt;
     }

@@ -38,7 +38,7 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
 std::string incomplete_line(const std::string& path, std::string_view reason,
                             std::int16_t language);
 
-/// The dialog's answer, then save_text. A cancelled dialog or an
+/// The dialog's answer, starting in the project's folder, then save_text. A cancelled dialog or an
 /// empty name writes nothing and answers nothing, else the path; a failure ends the command with a
 /// line in the status bar and no message.
 std::optional<std::string> ask_and_save_text(

@@ -137,7 +137,7 @@ ports_designed build_and_draw(program& kavetta, user& person) {
     note_outlines(kavetta, done);
     draw_ports(kavetta, done);
     if (done.outlet) {
-        write_port_report(kavetta);
+        write_port_report(kavetta, person);
     }
     done.groove = design_groove(kavetta, work, person);
     return done;
