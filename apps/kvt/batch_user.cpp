@@ -23,6 +23,11 @@ answer batch_user::ask(std::string_view question, question_buttons) {
     return answer::yes;
 }
 
+bool batch_user::ask_to_go_on(std::string_view failure) {
+    show_message(failure);
+    return false;
+}
+
 std::optional<std::string> batch_user::choose_file(const file_dialog&) {
     return std::nullopt;
 }

@@ -28,6 +28,7 @@ class batch_user : public user {
 
     void show_message(std::string_view text) override;
     answer ask(std::string_view question, question_buttons buttons) override;
+    bool ask_to_go_on(std::string_view failure) override;
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;

@@ -9,7 +9,12 @@ namespace kvt {
 void export_folder::write(std::string_view name, const text_writer& writer) {
     const std::string path = path_of(name);
     if (const auto failed = save_text(path, writer, disk_write::left_to_the_system)) {
-        note(path, run_time_error_line(*failed, language_));
+        const std::string reason = run_time_error_line(failed->error, language_);
+        if (failed->is_there) {
+            err_ << incomplete_line(path, reason, language_) << '\n';
+        } else {
+            note(path, reason);
+        }
         refuse();
         return;
     }

@@ -18,6 +18,9 @@ class asker {
     virtual ~asker() = default;
 
     virtual answer ask(std::string_view question, question_buttons buttons) = 0;
+    /// Tells a failure that ends the program unless the user would rather go on. No answer is
+    /// false: the program ends.
+    virtual bool ask_to_go_on(std::string_view failure) = 0;
     /// The New Project dialog: the typed name for OK, nothing for Cancel.
     virtual std::optional<std::string> ask_project_name() = 0;
     /// The prompt Form2, new or open.

@@ -25,10 +25,11 @@ struct file_source {
     const cnc_choices& choices;
     std::string_view project_name;
     std::int16_t language = ENGLISH;
-    const length_unit& unit = length_unit_of(MILLIMETRES);  ///< of entries and of most files
-    std::string path = {};     ///< of the file, as the save dialog gave it
-    std::string date = {};     ///< in the form in which it shall stand there
-    std::string version = {};  ///< "2021.1.1"
+    const length_unit& unit = length_unit_of(MILLIMETRES);  ///< of most files
+    std::string path = {};                 ///< of the file, as the save dialog gave it
+    std::string date = {};                 ///< in the form in which it shall stand there
+    std::string version = {};              ///< "2021.1.1"
+    const length_unit& boxes_unit = unit;  ///< of the lengths in boxes
 };
 
 }  // namespace kvt

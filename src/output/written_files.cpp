@@ -42,7 +42,7 @@ void dxf_of_inner(const file_source& source, text_lines& text) {
 }
 
 void dxf_of_outer(const file_source& source, text_lines& text) {
-    write_dxf_outer_rotor(text, source.boxes);
+    write_dxf_outer_rotor(text, source.boxes, source.boxes_unit.mm / source.unit.mm);
 }
 
 step_header header_of(const file_source& source) {

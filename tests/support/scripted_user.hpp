@@ -25,6 +25,8 @@ class scripted_user : public user {
     std::deque<std::optional<std::string>> files;
     std::deque<std::optional<std::string>> project_names;
     std::deque<start_choice> start_choices;
+    /// For failures; without an entry the program ends.
+    std::deque<bool> going_on;
 
     void show_message(std::string_view text) override {
         messages.emplace_back(text);
@@ -34,6 +36,10 @@ class scripted_user : public user {
         questions.emplace_back(question);
         log.push_back("ask " + std::string(question));
         return next(answers);
+    }
+    bool ask_to_go_on(std::string_view failure) override {
+        show_message(failure);
+        return !going_on.empty() && next(going_on);
     }
     std::optional<std::string> choose_file(const file_dialog& dialog) override {
         dialogs.push_back(dialog);

@@ -14,6 +14,9 @@ namespace kvt {
 
 namespace {
 
+/// Set while a test looks at a file dialog; it may let events happen.
+constexpr auto LOOKED_AT = "looked_at";
+
 template <typename value>
 value next(std::deque<value>& script) {
     value first = script.front();
@@ -39,7 +42,7 @@ void dialog_robot::look_again() {
 void dialog_robot::look() {
     look_again();
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible()) {
+    if (dialog == nullptr || !dialog->isVisible() || dialog->property(LOOKED_AT).toBool()) {
         return;
     }
     // A message box has no name.
@@ -55,7 +58,25 @@ void dialog_robot::look() {
     }
 }
 
+void dialog_robot::answer_failure(QMessageBox& box) {
+    messages.push_back(utf8_text(box.text()));
+    default_buttons.push_back(utf8_text(box.defaultButton()->text()));
+    const QString wanted =
+        failure_answers.empty() ? box.escapeButton()->text() : qt_text(next(failure_answers));
+    for (QAbstractButton* button : box.buttons()) {
+        if (button->text() == wanted) {
+            QTest::mouseClick(button, Qt::LeftButton);
+            return;
+        }
+    }
+    QTest::keyClick(&box, Qt::Key_Escape);
+}
+
 void dialog_robot::answer_box(QMessageBox& box) {
+    if (box.objectName() == "failure") {
+        answer_failure(box);
+        return;
+    }
     if (box.buttons().size() == 1) {
         messages.push_back(utf8_text(box.text()));
         if (at_message) {
@@ -79,7 +100,9 @@ void dialog_robot::answer_box(QMessageBox& box) {
 void dialog_robot::answer_file(QFileDialog& dialog) {
     titles.push_back(utf8_text(dialog.windowTitle()));
     if (at_file_dialog) {
+        dialog.setProperty(LOOKED_AT, true);
         at_file_dialog(dialog);
+        dialog.setProperty(LOOKED_AT, false);
     }
     if (files.empty()) {
         be_surprised(dialog);

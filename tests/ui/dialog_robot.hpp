@@ -33,6 +33,10 @@ class dialog_robot : public QObject {
 
     // The script.
     std::deque<std::string> answers;  ///< the text of the button to press, question by question
+    /// The buttons to press in the boxes of failures, whose texts stand among the messages; without
+    /// one the program ends. "" is Esc.
+    std::deque<std::string> failure_answers;
+    std::vector<std::string> default_buttons;      ///< of those boxes
     std::deque<std::optional<std::string>> files;  ///< the path to choose; nothing cancels
     std::deque<std::optional<std::string>> names;  ///< project names; nothing cancels
     std::deque<std::string> prompts;               ///< "new", "open" or "" (closed) for Form2
@@ -46,6 +50,7 @@ class dialog_robot : public QObject {
   private:
     void look_again();
     void look();
+    void answer_failure(QMessageBox& box);
     void answer_box(QMessageBox& box);
     void answer_file(QFileDialog& dialog);
     void answer_other(QDialog& dialog);

@@ -32,6 +32,10 @@ class silent_user : public kvt::user {
     kvt::answer ask(std::string_view, kvt::question_buttons) override {
         return kvt::answer::cancel;
     }
+    bool ask_to_go_on(std::string_view failure) override {
+        show_message(failure);
+        return false;
+    }
     std::optional<std::string> choose_file(const kvt::file_dialog&) override {
         return std::nullopt;
     }

@@ -8,6 +8,7 @@
 #include "core/user.hpp"
 
 #include <string>
+#include <utility>
 
 namespace kvt {
 
@@ -32,13 +33,19 @@ std::string fatal_text(const program& kavetta, const run_time_error& error,
 }  // namespace
 
 bool run_command(program& kavetta, user& person, const std::function<bool()>& command) {
+    program before = kavetta;
     try {
         return command();
     } catch (const run_time_error& error) {
         const std::filesystem::path recovery = save_recovery(kavetta);
         person.set_busy(false);
-        person.show_message(fatal_text(kavetta, error, recovery));
-        return true;
+        if (!person.ask_to_go_on(fatal_text(kavetta, error, recovery))) {
+            return true;
+        }
+        person.unload_form("progressfrm");
+        before.hints = std::move(kavetta.hints);
+        kavetta = std::move(before);
+        return false;
     }
 }
 

@@ -1,5 +1,6 @@
 // The top of every command of the desktop program: a run-time failure that no command handled saves
-// the entries to a recovery project, tells the user, and ends the program.
+// the entries to a recovery project, tells the user, and ends the program or takes the command
+// back.
 #pragma once
 
 #include <functional>
@@ -10,7 +11,8 @@ class user;
 struct program;
 
 /// Runs a command. True when the program ends: the command said so, or a run-time failure reached
-/// the top.
+/// the top and the user ends it. When the user goes on after one, all records and entries are as
+/// they were before the command; the hints that led there stay.
 bool run_command(program& kavetta, user& person, const std::function<bool()>& command);
 
 }  // namespace kvt

@@ -22,6 +22,17 @@ std::string own_settings(const std::filesystem::path& folder) {
     }
 }
 
+/// Of the settings as they were saved last; empty when they are gone or can't be read.
+std::string second_recent_path(const std::filesystem::path& folder) {
+    try {
+        app_state settings;
+        read_settings_files(folder, settings);
+        return settings.mnufileprev[1];
+    } catch (const run_time_error&) {
+        return {};
+    }
+}
+
 }  // namespace
 
 void read_settings_files(const std::filesystem::path& folder, app_state& state) {
@@ -50,12 +61,16 @@ std::string existing_folder_of(const program& kavetta, const std::string& path) 
     return (kavetta.folder / "projects").string();
 }
 
+std::string project_folder(const program& kavetta) {
+    const app_state& state = kavetta.app_state;
+    return state.projects_folder.empty() ? existing_folder_of(kavetta, state.project_path)
+                                         : state.projects_folder;
+}
+
 void find_projects_folder(program& kavetta) {
     std::string& folder = kavetta.app_state.projects_folder;
     if (folder.empty()) {
-        app_state settings;
-        read_settings_files(kavetta.folder, settings);
-        folder = existing_folder_of(kavetta, settings.mnufileprev[1]);
+        folder = existing_folder_of(kavetta, second_recent_path(kavetta.folder));
     }
 }
 

@@ -17,11 +17,15 @@ void read_settings_files(const std::filesystem::path& folder, app_state& state);
 /// be written.
 void save_settings(const program& kavetta);
 
+/// The folder of the open project: projects_folder; when that is empty the folder of the project's
+/// path, else the program's folder with "projects".
+std::string project_folder(const program& kavetta);
+
 /// The folder of a path when it exists, else the program's folder with "projects".
 std::string existing_folder_of(const program& kavetta, const std::string& path);
 
-/// Fills projects_folder when it is empty, from the first recent path of the settings. Throws
-/// run_time_error when KVT.ini can't be read.
+/// Fills projects_folder when it is empty, from the first recent path of the settings; without
+/// them it is the program's folder with "projects".
 void find_projects_folder(program& kavetta);
 
 }  // namespace kvt

@@ -1,6 +1,7 @@
 #include "app/files/cnc_output.hpp"
 
 #include "app/files/file_output.hpp"
+#include "app/files/written_results.hpp"
 #include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/checked_math.hpp"
@@ -215,7 +216,7 @@ std::string refused_gcode_note(const program& kavetta, const written_file& file)
         return "";
     }
     const port_side side = file.name == INLET_GCODE ? port_side::inlet : port_side::outlet;
-    const double gap = port_gcode_gap(source_of(kavetta), side);
+    const double gap = port_gcode_gap(source_of(kavetta, file), side);
     if (gap <= CONTOUR_TOLERANCE_MM) {
         return "";
     }
@@ -269,7 +270,7 @@ bool check_cnc_form(program& kavetta, user& person, cnc_form& form) {
 }
 
 bool write_cnc_files(program& kavetta, user& person, cnc_form& form) {
-    if (!check_cnc_form(kavetta, person, form)) {
+    if (!has_results(kavetta, person, form.ticked) || !check_cnc_form(kavetta, person, form)) {
         return false;
     }
     kavetta.last_cnc_entries = form;

@@ -34,11 +34,12 @@ void tick_cnc_file(const program& kavetta, cnc_form& form, const written_file& f
 /// the first one. The entry of the groove's tool comes back with a metering groove only.
 void use_last_cnc_entries(const program& kavetta, cnc_form& form);
 
-/// The boxes of okbutton: the checks in their order, each with its message, then the ticked writers
-/// in theirs, each with its save dialog. Answers whether the form closes: false when a check
-/// failed; nothing is written then. A file whose dialog is cancelled is skipped; a run-time failure
-/// ends its file, which is saved as far as it got. Kept: the check of the port radius compares the
-/// diameter as typed, in inches too, with millimetres; cnc_output_test holds it.
+/// The boxes of okbutton: whether the open project has the results of each ticked file, the checks
+/// in their order, each with its message, then the ticked writers in theirs, each with its save
+/// dialog. Answers whether the form closes: false when a check failed; nothing is written then. A
+/// file whose dialog is cancelled is skipped; a run-time failure ends its file, which is saved as
+/// far as it got. Kept: the check of the port radius compares the diameter as typed, in inches too,
+/// with millimetres; cnc_output_test holds it.
 bool write_cnc_files(program& kavetta, user& person, cnc_form& form);
 
 // The parts of okbutton, shared with the batch program.

@@ -49,10 +49,10 @@ void note_old_groove(program& kavetta, const written_file& file) {
 
 void note_outer_file(program& kavetta, const written_file& file) {
     if (file.name == "outer_gcode") {
-        const strayed_arcs strayed = outer_gcode_strayed_arcs(source_of(kavetta));
+        const strayed_arcs strayed = outer_gcode_strayed_arcs(source_of(kavetta, file));
         add_counted(kavetta, "arcs_stray", strayed.count, strayed.largest_mm, "arcs_stray_advice");
     } else if (file.name == "outer_offset") {
-        const cutter_gouges gouges = outer_offset_gouges(source_of(kavetta));
+        const cutter_gouges gouges = outer_offset_gouges(source_of(kavetta, file));
         add_counted(kavetta, "gouges", gouges.count, gouges.depth_mm, "gouges_advice");
     }
 }

@@ -2,6 +2,7 @@
 
 #include "app/desk/program_title.hpp"
 #include "app/files/file_hints.hpp"
+#include "app/files/written_results.hpp"
 #include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/short_date.hpp"
@@ -24,32 +25,58 @@ file_dialog dialog_of(const program& kavetta, const written_file& file) {
                             form_text(group.texts, "filter", language), group.extension);
 }
 
+file_source source_with(const program& kavetta, const entries& boxes, const length_unit& boxes_unit,
+                        std::string path) {
+    const app_state& state = kavetta.app_state;
+    return {kavetta.design_params,
+            kavetta.rotor_profiles,
+            kavetta.port_params,
+            boxes,
+            kavetta.cnc_choices,
+            state.project_name,
+            state.language,
+            length_unit_of(state),
+            std::move(path),
+            kavetta.date.empty() ? short_date(system_clock()) : kavetta.date,
+            std::string(FULL_VERSION),
+            boxes_unit};
+}
+
 }  // namespace
 
 file_source source_of(const program& kavetta, std::string path) {
-    const app_state& state = kavetta.app_state;
-    return {
-        kavetta.design_params,    kavetta.rotor_profiles,
-        kavetta.port_params,      kavetta.entries,
-        kavetta.cnc_choices,      state.project_name,
-        state.language,           length_unit_of(state),
-        std::move(path),          kavetta.date.empty() ? short_date(system_clock()) : kavetta.date,
-        std::string(FULL_VERSION)};
+    return source_with(kavetta, kavetta.entries, length_unit_of(kavetta.app_state),
+                       std::move(path));
+}
+
+file_source source_of(const program& kavetta, const written_file& file, std::string path) {
+    if (const noted_entries* older = older_entries(kavetta, file)) {
+        return source_with(kavetta, older->boxes, length_unit_of(older->drawing_units),
+                           std::move(path));
+    }
+    return source_of(kavetta, std::move(path));
 }
 
 std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file) {
     std::optional<std::string> path = ask_and_save_text(
-        kavetta, person, dialog_of(kavetta, file),
-        [&](text_lines& text, const std::string& to) { file.write(source_of(kavetta, to), text); });
+        kavetta, person, dialog_of(kavetta, file), [&](text_lines& text, const std::string& to) {
+            file.write(source_of(kavetta, file, to), text);
+        });
     if (path) {
         note_scrapped_part(kavetta, file);
     }
     return path;
 }
 
+void save_file_of_menu(program& kavetta, user& person, const written_file& file) {
+    if (may_write(kavetta, person, file)) {
+        save_file(kavetta, person, file);
+    }
+}
+
 std::string notice_of(const program& kavetta, const written_file& file) {
     try {
-        return file.notice == nullptr ? "" : file.notice(source_of(kavetta));
+        return file.notice == nullptr ? "" : file.notice(source_of(kavetta, file));
     } catch (const run_time_error&) {
         return "";  // the file ended there too
     }
@@ -65,7 +92,7 @@ void write_gt_step_files(const program& kavetta, const std::string& folder) {
         const auto failed =
             save_text(path, [&](text_lines& text) { file.write(source_of(kavetta, path), text); });
         if (failed) {
-            throw *failed;
+            throw failed->error;
         }
     }
 }

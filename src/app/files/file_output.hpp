@@ -13,9 +13,15 @@ namespace kvt {
 /// and the date of program::date, else today's.
 file_source source_of(const program& kavetta, std::string path = {});
 
-/// A click on a file's entry: save dialog, then the file as far as its writer got. Answers its
-/// path, nothing when the dialog was cancelled or named no file. Adds the hints of the written file
-/// (note_scrapped_part).
+/// The same for one file: where its results were made from older entries, those stand in place of
+/// the boxes, in the unit that they had.
+file_source source_of(const program& kavetta, const written_file& file, std::string path = {});
+
+/// A click on a file's entry of the menus: save_file once may_write allows it.
+void save_file_of_menu(program& kavetta, user& person, const written_file& file);
+
+/// A file's save dialog, then the file as far as its writer got. Answers its path, nothing when the
+/// dialog was cancelled or named no file. Adds the hints of the written file (note_scrapped_part).
 std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file);
 
 /// What is told once a file is written: that it would scrap the part. Empty for a sound one, and

@@ -3,15 +3,28 @@
 #include "app/desk/settings_commands.hpp"
 #include "app/files/file_output.hpp"
 #include "app/program.hpp"
+#include "base/run_time_error.hpp"
+#include "core/failure_text.hpp"
+#include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ports/port_report.hpp"
+
+#include <iostream>
 
 namespace kvt {
 
-std::filesystem::path port_report_folder(const program& kavetta) {
-    const app_state& state = kavetta.app_state;
-    return state.projects_folder.empty() ? existing_folder_of(kavetta, state.project_path)
-                                         : state.projects_folder;
+namespace {
+
+void tell_unwritten(const program& kavetta, user& person, const std::filesystem::path& path,
+                    const run_time_error& error) {
+    const std::int16_t language = kavetta.app_state.language;
+    const std::string line = std::string(message_text(message::save_failed, language)) +
+                             path.string() + ": " + failure_text(error, language);
+    person.show_status(line);
+    std::cerr << line << '\n';
 }
+
+}  // namespace
 
 std::vector<std::string> port_report(const program& kavetta) {
     const file_source source = source_of(kavetta);
@@ -19,14 +32,20 @@ std::vector<std::string> port_report(const program& kavetta) {
                              {source.version, source.date, kavetta.app_state.project_name});
 }
 
-void write_port_report(const program& kavetta) {
+void write_port_report(const program& kavetta, user& person) {
     if (kavetta.folder.empty()) {
         return;
     }
     text_lines text;
     const written_file& report = files_of(file_group::report).front();
     report.write(source_of(kavetta), text);
-    write_file(port_report_folder(kavetta) / file_name(report), text.bytes());
+    const std::filesystem::path path =
+        std::filesystem::path(project_folder(kavetta)) / file_name(report);
+    try {
+        write_file(path, text.bytes());
+    } catch (const run_time_error& error) {
+        tell_unwritten(kavetta, person, path, error);
+    }
 }
 
 }  // namespace kvt

@@ -8,6 +8,7 @@
 #include "app/files/project_reset.hpp"
 #include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
+#include "base/code_page.hpp"
 #include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/failure_text.hpp"
@@ -16,6 +17,7 @@
 #include "core/user.hpp"
 
 #include <string>
+#include <utility>
 
 namespace kvt {
 
@@ -38,7 +40,7 @@ file_dialog project_dialog(const program& kavetta, message title_end) {
 void show_failure_status(const program& kavetta, user& person, message id,
                          const run_time_error& error) {
     person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
-                       std::string(failure_text(error.kind(), kavetta.app_state.language)));
+                       failure_text(error, kavetta.app_state.language));
 }
 
 void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {
@@ -55,13 +57,28 @@ void remember_projects_folder(program& kavetta) {
     kavetta.app_state.projects_folder = existing_folder_of(kavetta, kavetta.app_state.project_path);
 }
 
-/// Open from step 4 on: load, settings at once so that the list survives a crash, folder of the
-/// next dialog.
-void load_and_remember(program& kavetta, user& person, std::string_view path) {
-    load_project(kavetta, person, path);
-    save_settings(kavetta);
+/// load_project, or nothing at all: what it has assigned before it fails is taken back.
+void load_whole_project(program& kavetta, user& person, std::string_view path) {
+    program before = kavetta;
+    try {
+        load_project(kavetta, person, path);
+    } catch (const run_time_error&) {
+        kavetta = std::move(before);
+        throw;
+    }
     remember_projects_folder(kavetta);
     show_done_status(kavetta, person, message::project_opened, path);
+}
+
+/// Open from step 4 on. The settings are saved at once so that the list survives a crash; when that
+/// fails the project is open all the same.
+void load_and_remember(program& kavetta, user& person, std::string_view path) {
+    load_whole_project(kavetta, person, path);
+    try {
+        save_settings(kavetta);
+    } catch (const run_time_error& error) {
+        show_failure_status(kavetta, person, message::save_failed, error);
+    }
 }
 
 /// The name without its last four characters, whatever they are; empty for four characters or
@@ -75,6 +92,15 @@ std::string without_last_four(const std::string& name) {
         }
     }
     return name.substr(0, end);
+}
+
+/// Line 2 has "?" for what the code page doesn't hold. A name that Save As took from the file's
+/// name is found there whole.
+void restore_name_of_file(app_state& state) {
+    const std::string name = without_last_four(file_name_of_path(state.project_path));
+    if (state.project_name == utf8_of_code_page(code_page_of_utf8(name))) {
+        state.project_name = name;
+    }
 }
 
 /// False when the user would rather change an entry with which the file could not be opened again.
@@ -124,6 +150,7 @@ bool write_project_as(program& kavetta, user& person, const std::string& path) {
     state.project_name = record.project_name;
     bind_to_file(kavetta);
     update_recent_list(state, path);
+    remember_projects_folder(kavetta);
     note_saved_entries(kavetta);
     show_done_status(kavetta, person, message::project_saved, path);
     return true;
@@ -148,6 +175,7 @@ void load_project(program& kavetta, user& person, std::string_view path) {
     app_state& state = kavetta.app_state;
     state.project_path = path;
     load_entries(kavetta, person, state.project_path);
+    restore_name_of_file(state);
     bind_to_file(kavetta);
     update_recent_list(state, state.project_path);
     note_new_entries(kavetta);
@@ -163,12 +191,9 @@ void open_project_file(program& kavetta, user& person, std::string_view path) {
 
 void open_project(program& kavetta, user& person) {
     try {
-        const bool first_time = kavetta.app_state.projects_folder.empty();
         find_projects_folder(kavetta);
         file_dialog dialog = project_dialog(kavetta, message::open_project_title);
-        // Kept: once the folder is known, Open leaves the start folder to the platform's own
-        // memory; Save As doesn't. project_commands_test holds it.
-        dialog.folder = first_time ? kavetta.app_state.projects_folder : "";
+        dialog.folder = kavetta.app_state.projects_folder;
         dialog.flags = HIDE_READ_ONLY;
         const std::optional<std::string> path = person.choose_file(dialog);
         if (path && !path->empty()) {
@@ -181,9 +206,11 @@ void open_project(program& kavetta, user& person) {
 
 void previous_design(program& kavetta, user& person, int index) {
     const std::string path = kavetta.app_state.mnufileprev[index];
-    load_project(kavetta, person, path);
-    remember_projects_folder(kavetta);
-    show_done_status(kavetta, person, message::project_opened, path);
+    try {
+        load_whole_project(kavetta, person, path);
+    } catch (const run_time_error& error) {
+        show_failure_status(kavetta, person, message::open_failed, error);
+    }
 }
 
 void save_project(program& kavetta, user& person) {
@@ -192,8 +219,13 @@ void save_project(program& kavetta, user& person) {
         return;
     }
     const std::string path = kavetta.app_state.project_path;
-    if (!is_saved_all_the_same(kavetta, person) ||
-        !write_project_asking(kavetta, person, project_record_of(kavetta, path))) {
+    try {
+        if (!is_saved_all_the_same(kavetta, person) ||
+            !write_project_asking(kavetta, person, project_record_of(kavetta, path))) {
+            return;
+        }
+    } catch (const run_time_error& error) {
+        show_failure_status(kavetta, person, message::save_failed, error);
         return;
     }
     bind_to_file(kavetta);

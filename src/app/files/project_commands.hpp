@@ -14,18 +14,19 @@ struct program;
 void new_project(program& kavetta, user& person);
 
 /// Open: dialog, then load. Any run-time failure ends the command with a line in the status bar and
-/// no message; what was assigned before it stays.
+/// no message, and everything stays as it was.
 void open_project(program& kavetta, user& person);
 
 /// Open from its fourth step on, without the dialog (a path given at the start, a dropped file).
 /// The same handler.
 void open_project_file(program& kavetta, user& person, std::string_view path);
 
-/// Previous design: loads recent entry 0 .. 3. Has no handler: throws run_time_error.
+/// Previous design: loads recent entry 0 .. 3, with the handler of Open.
 void previous_design(program& kavetta, user& person, int index);
 
 /// What Open and Previous design share: read the file, assign everything, set the title, reset the
-/// project, update the recent list, switch the assist off. Throws run_time_error; what was assigned
+/// project, update the recent list, switch the assist off. A name that line 2 can't hold is that of
+/// the file. Throws run_time_error; what was assigned
 /// before it stays.
 void load_project(program& kavetta, user& person, std::string_view path);
 
@@ -38,7 +39,8 @@ void reset_results(program& kavetta, user& person);
 
 /// Save: to project_path when the project has a file, else Save As. Asks first when the file
 /// could not be opened again (see find_unopenable_entry), and when it can only be overwritten where
-/// it stands. Throws run_time_error when it can't be written.
+/// it stands. When it can't be written a line in the status bar says why, and the project stays
+/// open and unsaved.
 void save_project(program& kavetta, user& person);
 
 /// Save As, with the questions of Save. Any run-time failure ends the command with a line in the

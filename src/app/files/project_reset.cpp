@@ -25,6 +25,7 @@ void project_reset(program& kavetta, user& person, reset_kind kind) {
     clear_all(kavetta.design_view);
     apply_chain(kavetta.enabling, chain_event::project_reset);
     kavetta.app_state.profiles_calculated = 0;
+    kavetta.stage_entries = {};
     close_forms(
         kind == reset_kind::new_project ? form_closer::new_project : form_closer::open_project,
         person);

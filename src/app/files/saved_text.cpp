@@ -1,6 +1,7 @@
 #include "app/files/saved_text.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "app/desk/settings_commands.hpp"
 #include "app/program.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
@@ -13,23 +14,38 @@ namespace {
 /// Value of the dialog's flags: ask before overwriting.
 constexpr int OVERWRITE_PROMPT = 2;
 
+std::string failure_line(const std::string& path, const text_failure& failed,
+                         std::int16_t language) {
+    const std::string_view reason = failure_text(failed.error.kind(), language);
+    if (failed.is_there) {
+        return incomplete_line(path, reason, language);
+    }
+    return std::string(message_text(message::save_failed, language)) + std::string(reason);
+}
+
 }  // namespace
 
-std::optional<run_time_error> save_text(const std::string& path, const text_writer& write,
-                                        disk_write kind) {
-    std::optional<run_time_error> failed;
+std::optional<text_failure> save_text(const std::string& path, const text_writer& write,
+                                      disk_write kind) {
+    std::optional<text_failure> failed;
     text_lines text;
     try {
         write(text);
     } catch (const run_time_error& error) {
-        failed = error;
+        failed = text_failure{error, true};
     }
     try {
         write_file(path, text.bytes(), kind);
     } catch (const run_time_error& error) {
-        failed = error;
+        failed = text_failure{error, false};
     }
     return failed;
+}
+
+std::string incomplete_line(const std::string& path, std::string_view reason,
+                            std::int16_t language) {
+    return std::string(message_text(message::file_incomplete, language)) + path + ": " +
+           std::string(reason);
 }
 
 file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter,
@@ -47,15 +63,15 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
 std::optional<std::string> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write) {
-    const std::optional<std::string> path = person.choose_file(dialog);
+    file_dialog beside_project = dialog;
+    beside_project.folder = project_folder(kavetta);
+    const std::optional<std::string> path = person.choose_file(beside_project);
     if (!path || path->empty()) {
         return std::nullopt;
     }
     const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
     if (failed) {
-        const std::int16_t language = kavetta.app_state.language;
-        person.show_status(std::string(message_text(message::save_failed, language)) +
-                           std::string(failure_text(failed->kind(), language)));
+        person.show_status(failure_line(*path, *failed, kavetta.app_state.language));
     }
     return path;
 }

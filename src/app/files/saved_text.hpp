@@ -5,6 +5,7 @@
 #include "base/text_file.hpp"
 #include "core/file_chooser.hpp"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -17,19 +18,29 @@ struct program;
 
 using text_writer = std::function<void(text_lines&)>;
 
+/// Why a file is not whole.
+struct text_failure {
+    run_time_error error;
+    bool is_there;  ///< the file stands, as far as its writer got
+};
+
 /// Runs the writer and saves what it appended, also when it failed. Answers the failure of the
 /// writer or of saving.
-std::optional<run_time_error> save_text(const std::string& path, const text_writer& write,
-                                        disk_write kind = disk_write::flushed);
+std::optional<text_failure> save_text(const std::string& path, const text_writer& write,
+                                      disk_write kind = disk_write::flushed);
 
 /// The dialog of every written file: the program's title with the suffix, the second row of the
 /// filter chosen, and a question before a file is overwritten.
 file_dialog save_text_dialog(std::string_view title_suffix, std::string_view filter,
                              std::string_view extension);
 
-/// The dialog's answer, then save_text. A cancelled dialog or an empty name writes nothing and
-/// answers nothing, else the path; a failure ends the command with a line in the status bar and no
-/// message.
+/// "Incomplete: PATH: REASON", "Unvollständig: ..." for language 2.
+std::string incomplete_line(const std::string& path, std::string_view reason,
+                            std::int16_t language);
+
+/// The dialog's answer, starting in the project's folder, then save_text. A cancelled dialog or an
+/// empty name writes nothing and answers nothing, else the path; a failure ends the command with a
+/// line in the status bar and no message.
 std::optional<std::string> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write);

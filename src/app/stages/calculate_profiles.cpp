@@ -151,6 +151,7 @@ run_end handled_steps(program& kavetta, user& person) {
         const run_end end = outer_rotor_steps(kavetta, person);
         if (end == run_end::ok) {
             note_profile_faults(kavetta);
+            note_result(kavetta, &stage_entries::rotors);
         }
         if (end != run_end::failure) {
             closing_steps(kavetta, person);
@@ -177,6 +178,7 @@ run_end calculate_profiles(program& kavetta, user& person) {
         return run_end::validation;
     }
     person.set_busy(true);
+    kavetta.stage_entries.rotors.reset();
     start_view_anew(kavetta);
     keep_or_drop_outer_root(boxes,
                             design);  // compares with the stored design, so before it is read anew

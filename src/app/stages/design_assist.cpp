@@ -64,6 +64,7 @@ assist_end design_assist(program& kavetta, user& person) {
         return assist_end::refused;
     }
     person.set_busy(true);
+    kavetta.stage_entries.rotors.reset();
     read_assist_entries(kavetta.entries, unit_of(kavetta), kavetta.design_params);
     if (!find_fitting_root(kavetta, person)) {
         person.set_busy(false);

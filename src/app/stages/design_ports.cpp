@@ -113,10 +113,20 @@ bool design_groove(program& kavetta, port_work& work, user& person) {
     kavetta.port_params.groove_depth_mm = length_of(kavetta.entries.groove_depth, work.unit);
     const bool done = has_finished(build_metering_groove(work), person);
     if (done) {
+        note_result(kavetta, &stage_entries::groove);
         draw_metering_groove(kavetta.port_params, kavetta.view_state, kavetta.design_view);
         note_groove_faults(kavetta);
     }
     return done;
+}
+
+void note_outlines(program& kavetta, const ports_designed& done) {
+    if (done.inlet) {
+        note_result(kavetta, &stage_entries::inlet);
+    }
+    if (done.outlet) {
+        note_result(kavetta, &stage_entries::outlet);
+    }
 }
 
 ports_designed build_and_draw(program& kavetta, user& person) {
@@ -126,9 +136,10 @@ ports_designed build_and_draw(program& kavetta, user& person) {
     done.outlet = has_finished(build_outlet_port(work), person);
     done.inlet_rebuilt = !done.inlet && work.inlet_rebuilt;
     done.inlet = done.inlet || done.inlet_rebuilt;
+    note_outlines(kavetta, done);
     draw_ports(kavetta, done);
     if (done.outlet) {
-        write_port_report(kavetta);
+        write_port_report(kavetta, person);
     }
     done.groove = design_groove(kavetta, work, person);
     return done;

@@ -1,4 +1,5 @@
-// stage_entries: the entries as each stage of the work found them when it ran last.
+// stage_entries: the entries as each stage of the work found them when it ran last, and as the
+// results in the records were made from.
 #pragma once
 
 #include "core/entries.hpp"
@@ -15,6 +16,13 @@ struct noted_entries {
 
 struct stage_entries {
     std::optional<noted_entries> profiles, ports, performance;
+
+    /// What whole results of the open project were made from; nothing while the records hold none:
+    /// no run yet, one that failed, or those of the project before.
+    std::optional<noted_entries> rotors, inlet, outlet, groove;
 };
+
+/// One of the results that files are written from.
+using result_note = std::optional<noted_entries> stage_entries::*;
 
 }  // namespace kvt

@@ -5,6 +5,8 @@
 #include "views/port_lines.hpp"
 #include "views/zoom.hpp"
 
+#include <algorithm>
+
 namespace kvt {
 
 namespace {
@@ -30,25 +32,30 @@ bool reads(stage which, const entry_field& field) {
 }
 
 bool has_changed(const program& kavetta, stage which, const std::optional<noted_entries>& note) {
-    if (!note) {
-        return false;
-    }
-    if (note->drawing_units != kavetta.app_state.drawing_units) {
-        return true;
-    }
-    for (const entry_field& field : entry_fields()) {
-        if (reads(which, field) && note->boxes.*field.member != kavetta.entries.*field.member) {
-            return true;
-        }
-    }
-    return false;
+    return note && has_changed_since(kavetta, which, *note);
+}
+
+noted_entries present_entries(const program& kavetta) {
+    return {kavetta.entries, kavetta.app_state.drawing_units};
 }
 
 }  // namespace
 
 void note_stage(program& kavetta, stage ran) {
-    note_of(kavetta.stage_entries, ran) =
-        noted_entries{kavetta.entries, kavetta.app_state.drawing_units};
+    note_of(kavetta.stage_entries, ran) = present_entries(kavetta);
+}
+
+void note_result(program& kavetta, result_note result) {
+    kavetta.stage_entries.*result = present_entries(kavetta);
+}
+
+bool has_changed_since(const program& kavetta, stage which, const noted_entries& note) {
+    if (note.drawing_units != kavetta.app_state.drawing_units) {
+        return true;
+    }
+    return std::ranges::any_of(entry_fields(), [&](const entry_field& field) {
+        return reads(which, field) && note.boxes.*field.member != kavetta.entries.*field.member;
+    });
 }
 
 stale_stages find_stale_stages(const program& kavetta) {

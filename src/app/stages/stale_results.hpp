@@ -2,6 +2,8 @@
 // only: typing disables nothing.
 #pragma once
 
+#include "app/stages/stage_entries.hpp"
+
 #include <string_view>
 
 namespace kvt {
@@ -13,6 +15,12 @@ enum class stage { profiles, ports, performance };
 /// Notes the entries that a stage has just read, after it has cleaned them and filled in its
 /// defaults.
 void note_stage(program& kavetta, stage ran);
+
+/// Notes that a result stands whole in the records, made from the entries as they are now.
+void note_result(program& kavetta, result_note result);
+
+/// Whether an entry that the stage reads, or the unit of length, is another one than noted.
+bool has_changed_since(const program& kavetta, stage which, const noted_entries& note);
 
 /// A stage is stale when its results are on display and an entry that it reads, or the unit of
 /// length, has changed since it ran. Calculate Profiles reads the entries of Form1 but volumereqd,

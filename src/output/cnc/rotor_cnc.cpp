@@ -42,7 +42,7 @@ void add_cutter_path(const file_source& source, cnc_lines& lines, std::vector<po
 }
 
 design_params outer_design(const file_source& source) {
-    return outer_rotor_entries(source.boxes, source.unit.mm);
+    return outer_rotor_entries(source.boxes, source.boxes_unit.mm);
 }
 
 /// Arc by arc, so that a failure leaves the arcs before it.

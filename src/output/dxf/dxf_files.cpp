@@ -91,8 +91,6 @@ void dxf_polyline::end() {
 }
 
 constexpr int DECIMALS = 6;
-/// Factor of entries that are not converted.
-constexpr double AS_TYPED = 1.0;
 
 std::string length_number(double mm, const length_unit& unit) {
     return fixed_number(unit.from_mm(mm), DECIMALS);
@@ -142,9 +140,9 @@ void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, const 
     polyline.end();
 }
 
-void write_dxf_outer_rotor(text_lines& out, const entries& boxes) {
+void write_dxf_outer_rotor(text_lines& out, const entries& boxes, double scale) {
     constexpr std::size_t POINTS_PER_LOBE = 320;
-    const design_params typed = outer_rotor_entries(boxes, AS_TYPED);
+    const design_params typed = outer_rotor_entries(boxes, scale);
     dxf_polyline polyline(
         out, POINTS_PER_LOBE * static_cast<std::size_t>(std::clamp(typed.numlobes, 0, 100)));
     for (const point2& point : outer_path_points(outer_rotor_path(typed))) {

@@ -18,9 +18,10 @@ namespace kvt {
 /// and then written.
 void write_dxf_inner_rotor(text_lines& out, const rotor_profiles& rotors, const length_unit& unit);
 
-/// The outer rotor's path about its own centre, from the boxes of the Design form as they stand,
-/// without conversion. Throws run_time_error for entries that make no rotor.
-void write_dxf_outer_rotor(text_lines& out, const entries& boxes);
+/// The outer rotor's path about its own centre, from boxes of the Design form without conversion,
+/// times scale: 1 unless the boxes are in another unit than the file. Throws run_time_error for
+/// entries that make no rotor.
+void write_dxf_outer_rotor(text_lines& out, const entries& boxes, double scale = 1.0);
 
 /// A port's outline: point 0 .. last, but none from the first x of exactly 0 on, then point 0.
 /// Kept: in inches the text in millimetres is read back, divided by 25.4 and written with up to

@@ -126,13 +126,14 @@ QLayout* Form3::lay_out_files() {
 QLayout* Form3::lay_out_entries() {
     const auto refused = [this] {
         context_.person.show_status(
-            message_text(message::character_refused, context_.kavetta.app_state.language));
+            message_text(message::number_refused, context_.kavetta.app_state.language));
     };
-    validate_entry(*toolsize_, refused);
-    validate_entry(*groovetooltext_, refused);
+    validate_number(*toolsize_, refused);
+    validate_number(*groovetooltext_, refused);
     resolution_->setObjectName("machine_res_combo");
     resolution_->setEditable(true);
     resolution_->setFixedWidth(BOX_WIDTH);
+    validate_number(*resolution_->lineEdit(), refused);
     for (const std::string& item : form_.machine_res_items) {
         resolution_->addItem(qt_text(item));
     }

@@ -53,6 +53,7 @@ viewwinfrm::viewwinfrm(form_context context) : mdi_form("viewwinfrm", context) {
     bind(content, true);
     connect_picture();
     connect(&context_.runner, &command_runner::starting, this, &viewwinfrm::stop_turning);
+    connect(&context_.runner, &command_runner::stopped, this, &viewwinfrm::stop_turning);
 }
 
 QWidget* viewwinfrm::bottom_row() {

@@ -58,9 +58,9 @@ void form_binding::bind_entries() {
                              });
             // A project file dropped on a box is one dropped on the window.
             box->setAcceptDrops(false);
-            validate_entry(*box, [context = context_] {
+            validate_number(*box, [context = context_] {
                 const std::int16_t language = context.kavetta.app_state.language;
-                context.person.show_status(message_text(message::character_refused, language));
+                context.person.show_status(message_text(message::number_refused, language));
             });
         } else if (auto* check = root_.findChild<QAbstractButton*>(qt_text(field.name))) {
             QObject::connect(check, &QAbstractButton::clicked, check,

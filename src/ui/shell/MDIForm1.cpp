@@ -2,6 +2,7 @@
 
 #include "app/desk/exit_program.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/files/written_results.hpp"
 #include "app/program.hpp"
 #include "core/user.hpp"
 #include "ui/forms/Aboutform.hpp"
@@ -255,11 +256,13 @@ void MDIForm1::show_about() {
     });
 }
 
-/// The entry in use is left first, as before a command. The dialog itself is none: its OK button
-/// starts one.
+/// Whether there is something to write is a command of its own, so the entry in use is left first.
+/// The dialog itself is none: its OK button starts one.
 void MDIForm1::show_cnc_output() {
-    context_.runner.act([](program&, user&) {});
-    if (context_.runner.is_running() || context_.runner.has_ended()) {
+    bool opens = false;
+    context_.runner.act(
+        [&opens](program& kavetta, user& person) { opens = may_open_cnc_form(kavetta, person); });
+    if (!opens || context_.runner.is_running() || context_.runner.has_ended()) {
         return;
     }
     Form3 form(context_, this);

@@ -17,7 +17,9 @@ void command_runner::run(const command& action) {
     if (!running_ && !ended_) {
         emit starting();
     }
-    run_left_entry();
+    if (!run_left_entry()) {
+        return;
+    }
     run_with(entry_in_use_, [&action](program& kavetta, user& person) {
         return run_with_hints(kavetta, person, [&] { return action(kavetta, person); });
     });
@@ -44,26 +46,29 @@ void command_runner::leave(const std::string& name) {
     QMetaObject::invokeMethod(this, &command_runner::run_left_entry, Qt::QueuedConnection);
 }
 
-void command_runner::run_left_entry() {
-    if (!left_entry_.empty() && !running_) {
-        run_with(std::exchange(left_entry_, {}), [](program&, user&) { return false; });
-    }
+bool command_runner::run_left_entry() {
+    return left_entry_.empty() || running_ ||
+           run_with(std::exchange(left_entry_, {}), [](program&, user&) { return false; });
 }
 
-void command_runner::run_with(const std::string& entry, const command& action) {
+bool command_runner::run_with(const std::string& entry, const command& action) {
     if (running_ || ended_) {
-        return;
+        return false;
     }
     running_ = true;
+    bool is_done = false;
     ended_ = run_command(program_, person_, [&] {
         leave_entry(program_, person_, entry);
-        return action(program_, person_);
+        const bool ends = action(program_, person_);
+        is_done = true;
+        return ends;
     });
     running_ = false;
     emit finished();
     if (ended_) {
         emit ended();
     }
+    return is_done;
 }
 
 bool command_runner::step(const std::function<void(program&)>& action) {
@@ -71,16 +76,21 @@ bool command_runner::step(const std::function<void(program&)>& action) {
         return false;
     }
     running_ = true;
+    bool is_done = false;
     ended_ = run_command(program_, person_, [&] {
         action(program_);
+        is_done = true;
         return false;
     });
     running_ = false;
-    if (ended_) {
+    if (!is_done) {
+        emit stopped();
         emit finished();
+    }
+    if (ended_) {
         emit ended();
     }
-    return !ended_;
+    return is_done;
 }
 
 }  // namespace kvt

@@ -21,14 +21,16 @@ class command_runner : public QObject {
 
     command_runner(program& kavetta, user& person);
 
-    /// Runs a command unless one is running or the program has ended.
+    /// Runs a command unless one is running, the program has ended, or the handler of the entry
+    /// that was left has just failed.
     void run(const command& action);
     /// The same for a command after which the program goes on.
     void act(const std::function<void(program&, user&)>& action);
 
     /// Runs a step of the Design view, e.g. a tick of a held button, under the same rule. No entry
     /// is left for it and no form shown anew: the view takes it over itself. True when it ran and
-    /// the program goes on; a fatal failure ends the program like that of a command.
+    /// the program goes on; a failure is that of a command, and one that is gone on after ends what
+    /// makes the steps.
     bool step(const std::function<void(program&)>& action);
 
     /// An entry was edited: who follows the typing shows its state anew.
@@ -49,14 +51,17 @@ class command_runner : public QObject {
     /// entry that was left.
     void starting();
     void edited();
+    /// A step has failed: what makes steps stops.
+    void stopped();
     /// Forms show the program's state anew.
     void finished();
     /// The program ends; nothing is asked any more.
     void ended();
 
   private:
-    void run_left_entry();
-    void run_with(const std::string& entry, const command& action);
+    /// False when the handler failed: then nothing follows it.
+    bool run_left_entry();
+    bool run_with(const std::string& entry, const command& action);
 
     program& program_;
     user& person_;

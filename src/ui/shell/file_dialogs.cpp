@@ -1,10 +1,15 @@
 #include "ui/shell/file_dialogs.hpp"
 
+#include "app/files/file_ending.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QTreeView>
+
+#include <utility>
 
 namespace kvt {
 
@@ -20,13 +25,50 @@ QString name_pattern(const QString& pattern) {
     return pattern == pattern.toLower() ? pattern : pattern + " " + pattern.toLower();
 }
 
+/// A file dialog whose names end in the extension before it looks whether the file exists. Names
+/// are read from its own box, so it is not the desktop's dialog.
+class ending_dialog : public QFileDialog {
+  public:
+    ending_dialog(std::string extension, QWidget* parent)
+        : QFileDialog(parent), extension_(std::move(extension)) {
+        setOption(QFileDialog::DontUseNativeDialog);
+    }
+
+  protected:
+    void accept() override {
+        complete_name();
+        QFileDialog::accept();
+    }
+
+  private:
+    bool exists(const QString& name) const {
+        return QFileInfo::exists(directory().absoluteFilePath(name));
+    }
+
+    /// A folder is gone into, and Open takes a file without the ending when there is one.
+    void complete_name() {
+        auto* box = findChild<QLineEdit*>("fileNameEdit");
+        const QString typed = box->text();
+        const QString ending = qt_text(with_ending(utf8_text(typed), extension_));
+        const bool is_folder = QFileInfo(directory().absoluteFilePath(typed)).isDir();
+        const bool is_opened = acceptMode() == AcceptOpen && (exists(typed) || !exists(ending));
+        if (ending == typed || is_folder || is_opened) {
+            return;
+        }
+        // A marked row of the list would count more than the name.
+        findChild<QAbstractItemView*>("listView")->selectionModel()->clearSelection();
+        box->setText(ending);
+    }
+
+    std::string extension_;
+};
+
 void set_up(QFileDialog& box, const file_dialog& dialog) {
     box.setWindowTitle(qt_text(dialog.title));
     box.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     box.setOption(QFileDialog::DontConfirmOverwrite,
                   dialog.saving && (dialog.flags & OVERWRITE_PROMPT) == 0);
-    box.setDefaultSuffix(qt_text(dialog.default_extension));
     const QStringList filters = name_filters(dialog.filter);
     box.setNameFilters(filters);
     if (dialog.filter_index >= 1 && dialog.filter_index <= filters.size()) {
@@ -61,7 +103,7 @@ QStringList name_filters(std::string_view filter) {
 }
 
 std::optional<std::string> run_file_dialog(const file_dialog& dialog, QWidget* parent) {
-    QFileDialog box(parent);
+    ending_dialog box(dialog.default_extension, parent);
     set_up(box, dialog);
     show_whole_names(box);
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) {

@@ -13,7 +13,9 @@ namespace kvt {
 /// extension match.
 QStringList name_filters(std::string_view filter);
 
-/// Shows the dialog. The chosen full path, or nothing when it was cancelled.
+/// Shows the dialog. A name that doesn't end in the dialog's extension gets it (see with_ending),
+/// but for a folder, and in an Open dialog for a file that is there. The chosen full path, or
+/// nothing when it was cancelled.
 std::optional<std::string> run_file_dialog(const file_dialog& dialog, QWidget* parent);
 
 }  // namespace kvt

@@ -86,8 +86,9 @@ void main_menu::add_entry(const menu_row& row, QMenu& menu) {
 void main_menu::add_files(file_group group, QMenu& menu) {
     for (const written_file& file : files_of(group)) {
         connect(add_action(file.control, menu), &QAction::triggered, this, [this, &file] {
-            context_.runner.act(
-                [&file](program& kavetta, user& person) { save_file(kavetta, person, file); });
+            context_.runner.act([&file](program& kavetta, user& person) {
+                save_file_of_menu(kavetta, person, file);
+            });
         });
     }
 }

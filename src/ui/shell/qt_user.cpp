@@ -122,6 +122,23 @@ answer qt_user::ask(std::string_view question, question_buttons buttons) {
     return cancel == nullptr || box.clickedButton() == no ? answer::no : answer::cancel;
 }
 
+bool qt_user::ask_to_go_on(std::string_view failure) {
+    if (window_ == nullptr || !window_->isVisible()) {
+        show_message(failure);
+        return false;
+    }
+    QMessageBox box(parent());
+    prepare(box, failure);
+    box.setObjectName("failure");
+    box.setIcon(QMessageBox::Critical);
+    QPushButton* go_on = box.addButton(button_text(message::go_on_button), QMessageBox::AcceptRole);
+    QPushButton* end = box.addButton(button_text(message::end_button), QMessageBox::RejectRole);
+    box.setDefaultButton(go_on);
+    box.setEscapeButton(end);
+    box.exec();
+    return box.clickedButton() == go_on;
+}
+
 std::optional<std::string> qt_user::choose_file(const file_dialog& dialog) {
     refresh();
     return run_file_dialog(dialog, parent());

@@ -38,6 +38,9 @@ class qt_user : public user {
     /// entry.
     void show_message(std::string_view text) override;
     answer ask(std::string_view question, question_buttons buttons) override;
+    /// The main button is Go On; closing the box ends, and so does a failure before there is a main
+    /// window to go on in.
+    bool ask_to_go_on(std::string_view failure) override;
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;

@@ -1,7 +1,6 @@
-// Exit, and what a failure without a handler does.
+// Exit: its question, Save As, the settings.
 #include "app/desk/exit_program.hpp"
 
-#include "app/desk/run_command.hpp"
 #include "app/files/project_fixture.hpp"
 #include "base/run_time_error.hpp"
 
@@ -9,7 +8,6 @@ namespace kvt {
 namespace {
 
 using exit_test = project_test;
-using run_command_test = project_test;
 
 TEST_F(exit_test, writes_the_settings_and_ends_on_no) {
     kavetta.app_state.mnufileprev[1] = "/a/b.KVT";
@@ -54,33 +52,6 @@ TEST_F(exit_test, fails_for_good_when_the_settings_cannot_be_written) {
     kavetta.folder = folder.path() / "gone";
     person.answers = {answer::no};
     EXPECT_THROW(exit_program(kavetta, person), run_time_error);
-}
-
-TEST_F(run_command_test, saves_the_entries_tells_the_error_and_ends_the_program) {
-    kavetta.entries.thick = "12,5";
-    const bool ends = run_command(
-        kavetta, person, []() -> bool { throw run_time_error(failure::division_by_zero); });
-    EXPECT_TRUE(ends);
-    EXPECT_EQ(line_of(folder.file("recovery.KVT"), 6), "12,5");
-    ASSERT_EQ(person.messages.size(), 1U);
-    EXPECT_NE(person.messages[0].find("11"), std::string::npos) << person.messages[0];
-    EXPECT_NE(person.messages[0].find("Division by zero"), std::string::npos) << person.messages[0];
-    EXPECT_NE(person.messages[0].find(folder.file("recovery.KVT")), std::string::npos)
-        << person.messages[0];
-}
-
-TEST_F(run_command_test, says_so_when_even_the_recovery_project_cannot_be_written) {
-    kavetta.folder = folder.path() / "gone";
-    EXPECT_TRUE(run_command(kavetta, person,
-                            []() -> bool { throw run_time_error(failure::type_mismatch); }));
-    ASSERT_EQ(person.messages.size(), 1U);
-    EXPECT_EQ(person.messages[0].find("recovery"), std::string::npos) << person.messages[0];
-}
-
-TEST_F(run_command_test, passes_the_answer_of_the_command_on) {
-    EXPECT_FALSE(run_command(kavetta, person, [] { return false; }));
-    EXPECT_TRUE(run_command(kavetta, person, [] { return true; }));
-    EXPECT_TRUE(person.log.empty());
 }
 
 }  // namespace

@@ -74,12 +74,13 @@ TEST_F(dxf_output, takes_the_outer_rotor_from_the_boxes_as_they_stand) {
 }
 
 TEST_F(dxf_output, saves_what_a_failing_writer_got_to_without_a_message) {
+    kavetta.app_state.drawing_units = INCHES;  // the entries as typed
     kavetta.entries.numlobes = "0";
     const std::string bytes = saved("outer");
     EXPECT_TRUE(bytes.ends_with(" 30\r\n0.000000\r\n 0\r\n"));
     EXPECT_TRUE(person.messages.empty());
-    EXPECT_EQ(person.statuses,
-              std::vector<std::string>{"The file could not be saved: Division by zero"});
+    EXPECT_EQ(person.statuses, std::vector<std::string>{"Incomplete: " + folder.file("pump.dxf") +
+                                                        ": Division by zero"});
 }
 
 TEST_F(dxf_output, opens_the_menu_with_the_groove_as_it_is_ticked) {
@@ -177,7 +178,11 @@ TEST_F(step_output, saves_what_a_failing_writer_got_to_without_a_message) {
     const std::vector<std::string> lines = saved_lines("inner");
     EXPECT_EQ(lines.back(), "DATA;");
     EXPECT_TRUE(person.messages.empty());
-    EXPECT_EQ(person.statuses, std::vector<std::string>{"The file could not be saved: Overflow"});
+    EXPECT_EQ(person.statuses,
+              std::vector<std::string>{"Incomplete: " + folder.file("pump.stp") + ": Overflow"});
+    kavetta.app_state.language = GERMAN;
+    saved_lines("inner");
+    EXPECT_EQ(person.statuses.back(), "Unvollständig: " + folder.file("pump.stp") + ": Überlauf");
 }
 
 TEST_F(step_output, tells_a_file_that_cannot_be_written_in_the_status_bar_only) {
@@ -212,7 +217,8 @@ TEST(saved_text, is_whole_or_as_far_as_its_writer_got) {
         throw run_time_error(failure::division_by_zero);
     });
     ASSERT_TRUE(failed);
-    EXPECT_EQ(failed->kind(), failure::division_by_zero);
+    EXPECT_EQ(failed->error.kind(), failure::division_by_zero);
+    EXPECT_TRUE(failed->is_there);
     EXPECT_EQ(read_file(folder.file("b")), "one\r\n");
 }
 

@@ -1,10 +1,10 @@
 // Tests of the report file: its folder, its bytes, and when it is written.
 #include "app/files/port_report_file.hpp"
 
+#include "app/desk/settings_commands.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
 #include "base/text_file.hpp"
-#include "support/expect_failure.hpp"
 #include "support/open_design.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -66,14 +66,33 @@ TEST_F(port_report_file, goes_to_the_folder_of_the_project_when_no_folder_is_kno
     std::filesystem::create_directories(folder / "pumps");
     kavetta.app_state.projects_folder.clear();
     kavetta.app_state.project_path = (folder / "pumps/pump.KVT").string();
-    EXPECT_EQ(port_report_folder(kavetta), folder / "pumps");
+    EXPECT_EQ(project_folder(kavetta), folder / "pumps");
     kavetta.app_state.project_path.clear();
-    EXPECT_EQ(port_report_folder(kavetta), folder / "projects");
+    EXPECT_EQ(project_folder(kavetta), folder / "projects");
 }
 
-TEST_F(port_report_file, that_cannot_be_written_is_a_run_time_failure) {
+TEST_F(port_report_file, that_cannot_be_written_is_told_and_the_ports_are_designed) {
     kavetta.app_state.projects_folder = (folder / "none").string();
-    EXPECT_FAILURE(design_ports(kavetta, person), failure::path_not_found);
+    testing::internal::CaptureStderr();
+    const ports_designed done = design_ports(kavetta, person);
+    const std::string line =
+        "The file could not be saved: " + (folder / "none/port_radius_coordinates.txt").string() +
+        ": Path not found";
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), line + "\n");
+    EXPECT_EQ(person.statuses, std::vector<std::string>{line});
+    EXPECT_TRUE(done.inlet);
+    EXPECT_TRUE(done.outlet);
+    EXPECT_TRUE(person.messages.empty());
+    EXPECT_EQ(person.log.back(), "not busy");
+}
+
+TEST_F(port_report_file, is_written_beside_the_project_also_after_save_as) {
+    std::filesystem::create_directories(folder / "pumps");
+    person.files = {folder.file("pumps/pump.KVT")};
+    ASSERT_TRUE(save_project_as(kavetta, person));
+    design_ports(kavetta, person);
+    EXPECT_TRUE(std::filesystem::exists(folder / "pumps/port_radius_coordinates.txt"));
+    EXPECT_FALSE(std::filesystem::exists(file()));
 }
 
 TEST_F(port_report_file, carries_today_s_date_when_none_is_given) {

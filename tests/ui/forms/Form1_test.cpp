@@ -165,14 +165,61 @@ TEST_F(Form1_test, starts_in_german_when_the_settings_say_so) {
 TEST_F(Form1_test, a_text_that_is_no_whole_number_of_lobes_is_fatal_and_saves_the_entries) {
     start();
     type("ecc", "2.75");
-    type("numlobes", "4x");
+    type("numlobes", "4-");
     press("Calc");
     EXPECT_TRUE(desk().runner().has_ended());
     ASSERT_EQ(robot.messages.size(), 1U);
     EXPECT_NE(robot.messages[0].find("Run-time error 13"), std::string::npos) << robot.messages[0];
     const std::string recovered = read_file(folder.path() / "recovery.KVT");
-    EXPECT_NE(recovered.find("4x\r\n"), std::string::npos);
+    EXPECT_NE(recovered.find("4-\r\n"), std::string::npos);
     EXPECT_NE(recovered.find("2.75\r\n"), std::string::npos);
+}
+
+TEST_F(Form1_test, a_failure_is_gone_on_after_with_everything_as_before_the_command) {
+    start(design_file("n04_fuel"));
+    press("Calc");
+    const std::string ratio = label("area_ratio");
+    const std::string ecc = shown("ecc");
+    type("ecc", "1,75");
+    type("numlobes", "4-");
+    robot.failure_answers = {"Go On"};
+    press("Calc");
+    EXPECT_FALSE(desk().runner().has_ended());
+    ASSERT_EQ(robot.messages.size(), 1U);
+    EXPECT_NE(robot.messages[0].find("Run-time error 13: Type mismatch. Kavetta ends now."),
+              std::string::npos)
+        << robot.messages[0];
+    EXPECT_EQ(robot.default_buttons, std::vector<std::string>{"Go On"});
+    EXPECT_EQ(shown("ecc"), "1,75");
+    EXPECT_EQ(shown("numlobes"), "4-");
+    EXPECT_EQ(label("area_ratio"), ratio);
+    EXPECT_NE(read_file(folder.path() / "recovery.KVT").find("4-\r\n"), std::string::npos);
+    type("numlobes", "4");
+    type("ecc", ecc);
+    press("Calc");
+    EXPECT_EQ(robot.default_buttons.size(), 1U) << "no further failure";
+    EXPECT_NE(label("area_ratio"), "");
+}
+
+TEST_F(Form1_test, a_failure_has_german_buttons_in_german_and_no_answer_ends) {
+    write_settings('2');
+    start(design_file("n04_fuel"));
+    type("numlobes", "4-");
+    robot.failure_answers = {"Weiter", "Beenden"};
+    press("Calc");
+    EXPECT_FALSE(desk().runner().has_ended());
+    press("Calc");
+    EXPECT_TRUE(desk().runner().has_ended());
+    EXPECT_EQ(robot.messages.size(), 2U);
+    EXPECT_EQ(robot.default_buttons, (std::vector<std::string>{"Weiter", "Weiter"}));
+}
+
+TEST_F(Form1_test, closing_the_box_of_a_failure_is_no_answer_and_ends) {
+    start(design_file("n04_fuel"));
+    type("numlobes", "4-");
+    robot.failure_answers = {""};
+    press("Calc");
+    EXPECT_TRUE(desk().runner().has_ended());
 }
 
 TEST_F(Form1_test, tab_reaches_every_entry_in_reading_order) {

@@ -296,7 +296,7 @@ TEST_F(viewwinfrm_test, takes_a_typed_angle) {
     EXPECT_EQ(shown("rotated_angle"), "12");
     type_angle("800");
     EXPECT_EQ(shown("rotated_angle"), "440");
-    type_angle("abc");
+    type_angle("-");
     EXPECT_EQ(shown("rotated_angle"), "0");
     type_angle("-10");
     EXPECT_EQ(shown("rotated_angle"), "350");
@@ -311,6 +311,21 @@ TEST_F(viewwinfrm_test, a_failure_in_a_tick_ends_the_program_like_that_of_a_comm
     ASSERT_EQ(robot.messages.size(), 1U);
     EXPECT_NE(robot.messages[0].find("Run-time error 11"), std::string::npos) << robot.messages[0];
     EXPECT_NE(read_file(folder.path() / "recovery.KVT").find("2.75\r\n"), std::string::npos);
+}
+
+TEST_F(viewwinfrm_test, a_failure_in_a_tick_that_is_gone_on_after_stops_the_turning) {
+    calculate();
+    const double before = kavetta().rotor_profiles.inner_plot_xy[0];
+    kavetta().rotor_profiles.inner_plot_xy[0] = 0.0;
+    robot.failure_answers = {"Go On"};
+    hold("rotate_rotors_cw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return robot.messages.size() == 1U; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !timer("Timer_rotate_cw")->isActive(); }));
+    EXPECT_FALSE(desk().runner().has_ended());
+    EXPECT_EQ(angle(), 0.0);
+    kavetta().rotor_profiles.inner_plot_xy[0] = before;
+    type_angle("30");
+    EXPECT_EQ(robot.messages.size(), 1U);
 }
 
 TEST_F(viewwinfrm_test, the_status_bar_tells_where_the_mouse_is_in_the_length_unit_in_force) {

@@ -73,7 +73,7 @@ TEST_F(start_and_end, a_path_takes_the_place_of_the_prompt) {
 TEST_F(start_and_end,
        a_path_that_does_not_exist_leaves_the_empty_form_and_a_line_in_the_status_bar) {
     start((folder.path() / "none.KVT").string());
-    EXPECT_EQ(status(), "The file could not be opened: File not found");
+    EXPECT_EQ(status(), "The file could not be opened: File not found (No such file or directory)");
     EXPECT_EQ(shown("numlobes"), "3");
 }
 
@@ -158,7 +158,7 @@ TEST_F(start_and_end, other_files_and_several_at_once_are_not_taken) {
     EXPECT_FALSE(drop(&window(), {"/a/picture.png"}));
     EXPECT_FALSE(drop(&window(), {"/a/one.KVT", "/a/two.KVT"}));
     EXPECT_TRUE(drop(&window(), {qt_text((folder.path() / "none.kvt").string())}));
-    EXPECT_EQ(status(), "The file could not be opened: File not found");
+    EXPECT_EQ(status(), "The file could not be opened: File not found (No such file or directory)");
 }
 
 TEST_F(start_and_end, an_entry_does_not_take_a_dropped_project_for_itself) {

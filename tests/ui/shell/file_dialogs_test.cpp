@@ -44,6 +44,70 @@ TEST_F(file_dialogs_test, the_save_dialog_proposes_the_name_and_adds_the_extensi
     EXPECT_EQ(kavetta().app_state.project_name, "mine");
 }
 
+TEST_F(file_dialogs_test, a_point_in_the_name_is_not_its_ending) {
+    start(own_design_file("n04_fuel"));
+    const std::string projects = (folder.path() / "projects").string();
+    robot.files = {projects + "/Pump 2.5", projects + "/lower.kvt"};
+    choose("mnufilesaveas");
+    EXPECT_TRUE(std::filesystem::exists(projects + "/Pump 2.5.KVT"));
+    EXPECT_EQ(kavetta().app_state.project_name, "Pump 2.5");
+    choose("mnufilesaveas");
+    EXPECT_TRUE(std::filesystem::exists(projects + "/lower.kvt"));
+    press("Calc");
+    robot.files = {projects + "/rotor v1.2", projects + "/ROTOR.STP"};
+    choose("mnudxfinner");
+    EXPECT_TRUE(std::filesystem::exists(projects + "/rotor v1.2.dxf"));
+    choose("mnustepinner");
+    EXPECT_TRUE(std::filesystem::exists(projects + "/ROTOR.STP"));
+}
+
+TEST_F(file_dialogs_test, the_question_before_overwriting_is_about_the_name_with_its_ending) {
+    start(own_design_file("n04_fuel"));
+    const std::string projects = (folder.path() / "projects").string();
+    write_file(projects + "/Pump 2.5.KVT", "there");
+    write_file(projects + "/Pump 3.5", "there");
+    robot.files = {projects + "/Pump 2.5", std::nullopt, projects + "/Pump 3.5"};
+    robot.answers = {"&No"};
+    choose("mnufilesaveas");
+    EXPECT_EQ(robot.questions.size(), 1U);
+    EXPECT_EQ(read_file(projects + "/Pump 2.5.KVT"), "there");
+    choose("mnufilesaveas");
+    EXPECT_EQ(robot.questions.size(), 1U);
+    EXPECT_TRUE(std::filesystem::exists(projects + "/Pump 3.5.KVT"));
+    EXPECT_EQ(read_file(projects + "/Pump 3.5"), "there");
+}
+
+TEST_F(file_dialogs_test, open_finds_a_project_without_its_ending_typed) {
+    start();
+    const std::string path = own_design_file("n04_fuel");
+    robot.files = {path.substr(0, path.size() - 4)};
+    choose("mnufileopen");
+    EXPECT_EQ(kavetta().app_state.project_path, path);
+    const std::string other = (folder.path() / "projects" / "n04_fuel.bak").string();
+    std::filesystem::copy_file(path, other);
+    robot.files = {other};
+    choose("mnufileopen");
+    EXPECT_EQ(kavetta().app_state.project_path, other);
+}
+
+TEST_F(file_dialogs_test, every_dialog_starts_in_the_folder_of_the_project) {
+    const std::filesystem::path pumps = folder.path() / "pumps";
+    std::filesystem::create_directories(pumps);
+    start();
+    std::filesystem::copy_file(design_file("n04_fuel"), pumps / "pump.KVT");
+    robot.files = {(pumps / "pump.KVT").string(), std::nullopt, std::nullopt, std::nullopt};
+    choose("mnufileopen");
+    press("Calc");
+    std::vector<std::string> folders;
+    robot.at_file_dialog = [&](QFileDialog& dialog) {
+        folders.push_back(utf8_text(dialog.directory().absolutePath()));
+    };
+    choose("mnufileopen");
+    choose("mnufilesaveas");
+    choose("mnudxfinner");
+    EXPECT_EQ(folders, std::vector<std::string>(3, pumps.string()));
+}
+
 TEST_F(file_dialogs_test, show_names_in_full) {
     start();
     const std::string name = "oil pump " + std::string(60, 'm') + ".KVT";

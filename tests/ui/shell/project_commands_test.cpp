@@ -93,7 +93,7 @@ TEST_F(project_commands_ui, clear_design_asks_about_fluid_and_material) {
     EXPECT_EQ(kavetta().entries.fluid_density, "");
 }
 
-TEST_F(project_commands_ui, a_project_that_cannot_be_saved_is_fatal_but_its_entries_survive) {
+TEST_F(project_commands_ui, a_project_that_cannot_be_saved_stays_open_and_unsaved) {
     const std::string path = (folder.path() / "gone" / "pump.KVT").string();
     std::filesystem::create_directories(folder.path() / "gone");
     std::filesystem::copy_file(design_file("n04_fuel"), path);
@@ -101,8 +101,59 @@ TEST_F(project_commands_ui, a_project_that_cannot_be_saved_is_fatal_but_its_entr
     type("ecc", "1.99");
     std::filesystem::remove_all(folder.path() / "gone");
     choose("mnufilesave");
-    EXPECT_TRUE(desk().runner().has_ended());
-    EXPECT_NE(read_file(folder.path() / "recovery.KVT").find("1.99\r\n"), std::string::npos);
+    EXPECT_FALSE(desk().runner().has_ended());
+    EXPECT_EQ(status(), "The file could not be saved: Path not found");
+    EXPECT_EQ(shown("ecc"), "1.99");
+    EXPECT_EQ(utf8_text(window().windowTitle()), "Kavetta V2021 - 'n04_fuel'");
+    std::filesystem::create_directories(folder.path() / "gone");
+    choose("mnufilesave");
+    EXPECT_NE(read_file(path).find("1.99\r\n"), std::string::npos);
+}
+
+TEST_F(project_commands_ui, a_refused_file_is_not_overwritten_by_the_next_save) {
+    const std::string path = own_design_file("n04_fuel");
+    start(path);
+    type("ecc", "1.99");
+    const std::string refused = (folder.path() / "projects" / "refused.KVT").string();
+    write_file(refused, "no project\r\n");
+    robot.files.emplace_back(refused);
+    choose("mnufileopen");
+    EXPECT_EQ(utf8_text(window().windowTitle()), "Kavetta V2021 - 'n04_fuel'");
+    EXPECT_EQ(shown("ecc"), "1.99");
+    choose("mnufilesave");
+    EXPECT_EQ(read_file(refused), "no project\r\n");
+    EXPECT_NE(read_file(path).find("1.99\r\n"), std::string::npos);
+}
+
+TEST_F(project_commands_ui, a_recent_entry_whose_file_is_gone_says_so_and_goes_on) {
+    const std::string gone = own_design_file("n04_fuel");
+    start(gone);
+    robot.files.emplace_back(own_design_file("n07_engine_oil_groove"));
+    choose("mnufileopen");
+    std::filesystem::remove(gone);
+    type("ecc", "1.99");
+    choose("mnufileprev1");
+    EXPECT_FALSE(desk().runner().has_ended());
+    EXPECT_EQ(status(), "The file could not be opened: File not found (No such file or directory)");
+    EXPECT_EQ(shown("ecc"), "1.99");
+    EXPECT_EQ(shown("numlobes"), "7");
+}
+
+TEST_F(project_commands_ui,
+       a_port_report_that_cannot_be_written_is_a_line_and_the_ports_are_drawn) {
+    const std::string path = own_design_file("n09_crank_oil");
+    start(path);
+    press("Calc");
+    const std::filesystem::path report = folder.path() / "projects" / "port_radius_coordinates.txt";
+    std::filesystem::create_directory(report);
+    testing::internal::CaptureStderr();
+    press("design_ports");
+    const std::string line = "The file could not be saved: " + report.string() +
+                             ": Path/File access error (Is a directory)";
+    EXPECT_EQ(status(), line);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find(line), std::string::npos);
+    EXPECT_FALSE(desk().runner().has_ended());
+    EXPECT_TRUE(kavetta().enabling.calc_perf);
 }
 
 }  // namespace kvt
