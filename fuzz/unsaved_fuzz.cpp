@@ -46,7 +46,9 @@ void check_taken_over(const project_record& record) {
                     "a box has the text of the file");
         }
     }
-    write_unsaved({project_record_of(*kavetta, record.project_path), "session"});
+    const std::string written =
+        write_unsaved({project_record_of(*kavetta, record.project_path), "1-2"});
+    require(read_unsaved(written).session == "1-2", "what is written next has its session");
 }
 
 }  // namespace
