@@ -9,6 +9,7 @@
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "output/cnc/port_cnc.hpp"
+#include "output/cnc/tool_contour.hpp"
 
 #include <array>
 #include <cmath>
@@ -22,10 +23,6 @@ constexpr std::array<std::string_view, 5> RESOLUTIONS = {"0.01", "0.001", "0.000
                                                          "0.000001"};
 /// Decimals of the first resolution.
 constexpr int FIRST_DIGITS = 2;
-
-/// Codes that leave their outline further than this are not written, mm. Below it lie the chords of
-/// an outline with long arcs.
-constexpr double REFUSED_GAP_MM = 0.01;
 
 /// Files of Form3 that rules name.
 constexpr std::string_view INNER_OFFSET = "inner_offset";
@@ -219,7 +216,7 @@ std::string refused_gcode_note(const program& kavetta, const written_file& file)
     }
     const port_side side = file.name == INLET_GCODE ? port_side::inlet : port_side::outlet;
     const double gap = port_gcode_gap(source_of(kavetta), side);
-    if (gap <= REFUSED_GAP_MM) {
+    if (gap <= CONTOUR_TOLERANCE_MM) {
         return "";
     }
     const std::string shown = std::isfinite(gap) ? fixed_number(gap, 3) : "-";

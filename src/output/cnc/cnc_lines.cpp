@@ -57,6 +57,20 @@ void cnc_lines::arc_ccw_g03(point2 end, double radius) {
     text_.raw_line("G03" + words(end) + "R" + length(radius));
 }
 
+void cnc_lines::move(const tool_move& move) {
+    switch (move.kind) {
+        case move_kind::clockwise_g02:
+            arc_cw_g02(move.end, move.radius);
+            return;
+        case move_kind::counterclockwise_g03:
+            arc_ccw_g03(move.end, move.radius);
+            return;
+        case move_kind::line_g01:
+            break;
+    }
+    feed_g01(move.end);
+}
+
 void add_lathe_line(cnc_lines& lines, point2 point) {
     const double radius = checked_sqrt(point.x * point.x + point.y * point.y);
     double degrees = std::atan(checked_divide(point.y, point.x)) * 180.0 / PI_D;

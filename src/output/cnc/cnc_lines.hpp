@@ -4,6 +4,7 @@
 
 #include "base/text_file.hpp"
 #include "geometry/point2.hpp"
+#include "output/cnc/tool_contour.hpp"
 #include "output/file_source.hpp"
 
 #include <string>
@@ -38,6 +39,8 @@ class cnc_lines {
     void arc_cw_g02(point2 end, double radius);
     /// "G03X...Y...R..."
     void arc_ccw_g03(point2 end, double radius);
+    /// The line of a move: G01, G02 or G03.
+    void move(const tool_move& move);
     /// A line that is always the same.
     void literal(std::string_view line) { text_.raw_line(line); }
 

@@ -60,23 +60,14 @@ std::vector<port_section> sections_of(const file_source& source, port_side side,
     return port_sections(boxes, side);
 }
 
-void add_move(cnc_lines& lines, const tool_move& move) {
-    switch (move.kind) {
-        case move_kind::clockwise_g02:
-            lines.arc_cw_g02(move.end, move.radius);
-            return;
-        case move_kind::counterclockwise_g03:
-            lines.arc_ccw_g03(move.end, move.radius);
-            return;
-        case move_kind::line_g01:
-            break;
-    }
-    lines.feed_g01(move.end);
-}
-
 tool_contour moves_of(const port_params& ports, port_side side, section_kind kind) {
     return kind == section_kind::groove ? groove_moves(ports)
                                         : port_moves(ports, side, kind == section_kind::shadow);
+}
+
+std::vector<circle> circles_of(const port_params& ports, port_side side, section_kind kind) {
+    return kind == section_kind::groove ? groove_circles(ports)
+                                        : port_circles(ports, side, kind == section_kind::shadow);
 }
 
 void add_gcode_section(const file_source& source, port_side side, section_kind kind,
@@ -86,7 +77,7 @@ void add_gcode_section(const file_source& source, port_side side, section_kind k
     lines.feed_g01(contour.start);
     lines.comment("tool_down", "");
     for (const tool_move& move : contour.moves) {
-        add_move(lines, move);
+        lines.move(move);
     }
     lines.comment("tool_up", "");
 }
@@ -127,7 +118,8 @@ double port_gcode_gap(const file_source& source, port_side side) {
         const std::vector<point2> outline = contour_of(source.ports, side, section.kind);
         if (!outline.empty()) {
             const tool_contour moves = moves_of(source.ports, side, section.kind);
-            largest = std::max(largest, contour_gap(moves, outline));
+            const std::vector<circle> circles = circles_of(source.ports, side, section.kind);
+            largest = std::max(largest, contour_gap(moves, outline, circles));
         }
     }
     return largest;

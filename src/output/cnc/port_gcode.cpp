@@ -16,6 +16,8 @@ class port_points {
 
     point2 on_side(std::size_t corner) const { return placed(built_.corners[corner].s); }
     point2 on_arc(std::size_t corner) const { return placed(built_.corners[corner].r); }
+    point2 fillet_centre(std::size_t corner) const { return placed(built_.corners[corner].c); }
+    point2 outer_centre() const { return placed({-built_.e, 0.0}); }
     /// One mirror turns the sense of the outline round, the second one turns it back.
     bool clockwise() const { return x_sign_ * y_sign_ > 0.0; }
 
@@ -79,6 +81,25 @@ tool_contour groove_moves(const port_params& ports) {
     line(built.tail_inner);
     arc(move_kind::counterclockwise_g03, built.a, built.inner_r);
     return contour;
+}
+
+std::vector<circle> port_circles(const port_params& ports, port_side side, bool shadow) {
+    const port_shape& built = ports.of(side).built;
+    const port_points port(built, fields_of(side).mirrored, shadow);
+    std::vector<circle> circles{{{}, built.R}, {port.outer_centre(), built.Q}};
+    for (const std::size_t corner : {START_INNER, END_INNER, END_OUTER, START_OUTER}) {
+        circles.push_back({port.fillet_centre(corner), built.f});
+    }
+    return circles;
+}
+
+std::vector<circle> groove_circles(const port_params& ports) {
+    const groove_shape& built = ports.groove_built;
+    const point2 centre = {-built.shift, 0.0};
+    return {{centre, built.inner_r},
+            {centre, built.outer_r},
+            {built.inner.c, built.f},
+            {built.outer.c, built.f}};
 }
 
 }  // namespace kvt

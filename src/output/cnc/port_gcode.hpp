@@ -2,28 +2,11 @@
 // Source: docs/formulas/written_files.md, "Port arcs".
 #pragma once
 
-#include "geometry/point2.hpp"
+#include "geometry/circle_arc.hpp"
+#include "output/cnc/tool_contour.hpp"
 #include "output/port_contours.hpp"
 
-#include <optional>
-#include <vector>
-
 namespace kvt {
-
-/// A move of the tool: along a straight line, or along an arc the short way round.
-enum class move_kind { line_g01, clockwise_g02, counterclockwise_g03 };
-
-struct tool_move {
-    move_kind kind;
-    point2 end;
-    double radius = 0.0;  ///< of an arc
-};
-
-/// Where a contour starts, and its moves back to that point.
-struct tool_contour {
-    point2 start;
-    std::vector<tool_move> moves;
-};
 
 /// Fillet, inner arc, fillet, end side, fillet, outer arc, fillet, start side, from the end of the
 /// start side; of what the outline was built with;
@@ -35,5 +18,12 @@ tool_contour port_moves(const port_params& ports, port_side side, bool shadow);
 /// Inner path, fillet, nose line if there is one, fillet, outer path, outer tail, the line across,
 /// inner tail, from groove_a. Throws subscript_out_of_range without a groove.
 tool_contour groove_moves(const port_params& ports);
+
+/// The circles of the arcs and fillets that the outline of a port was built with, where they lie in
+/// the outline; with sharp corners their fillets have the radius 0.
+std::vector<circle> port_circles(const port_params& ports, port_side side, bool shadow);
+
+/// Those of the metering groove: both paths and both corners of the nose.
+std::vector<circle> groove_circles(const port_params& ports);
 
 }  // namespace kvt

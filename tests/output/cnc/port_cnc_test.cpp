@@ -1,6 +1,7 @@
 // The CNC files of the ports: outlines, sections, codes.
 #include "output/cnc/port_cnc.hpp"
 
+#include "base/constants.hpp"
 #include "core/app_state.hpp"
 #include "output/cnc/contour_gap.hpp"
 #include "output/cnc/port_gcode.hpp"
@@ -226,13 +227,46 @@ TEST(contour_gap, is_that_of_the_worst_point) {
     const std::vector<point2> square = {{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}};
     const auto line = [](point2 end) { return tool_move{move_kind::line_g01, end, 0.0}; };
     tool_contour contour{{0, 0}, {line({10, 0}), line({10, 10}), line({0, 10}), line({0, 0})}};
-    EXPECT_EQ(contour_gap(contour, square), 0.0);
+    EXPECT_EQ(contour_gap(contour, square, {}), 0.0);
     contour.moves[1] = line({10, 10.5});
-    EXPECT_NEAR(contour_gap(contour, square), 0.5, 1e-12);
+    EXPECT_NEAR(contour_gap(contour, square, {}), 0.5, 1e-12);
     contour.moves[1] = {move_kind::clockwise_g02, {10, 10}, 4.9};
-    EXPECT_TRUE(std::isinf(contour_gap(contour, square)));
+    EXPECT_TRUE(std::isinf(contour_gap(contour, square, {})));
     contour.moves[1] = {move_kind::clockwise_g02, {10, 10}, 5.0};
-    EXPECT_NEAR(contour_gap(contour, square), 5.0, 1e-6) << "half a circle into the square";
+    EXPECT_NEAR(contour_gap(contour, square, {}), 5.0, 1e-6) << "half a circle into the square";
+}
+
+TEST(contour_gap, takes_the_chords_of_an_arc_for_the_arc) {
+    // A quarter turn of 40 mm in steps of half a degree and a last one of 0.99 degrees, whose chord
+    // lies 0.0015 mm within the arc.
+    std::vector<point2> quarter;
+    for (int k = 0; k <= 178; ++k) {
+        quarter.push_back(polar_point(40.0, k * PI_D / 360.0));
+    }
+    quarter.push_back(polar_point(40.0, 89.99 * PI_D / 180.0));
+    const tool_contour contour{quarter.front(),
+                               {{move_kind::counterclockwise_g03, quarter.back(), 40.0}}};
+    EXPECT_GT(contour_gap(contour, quarter, {}), CONTOUR_TOLERANCE_MM);
+    EXPECT_LT(contour_gap(contour, quarter, {{{}, 40.0}}), 1e-9);
+    EXPECT_NEAR(contour_gap(contour, quarter, {{{0.0, 0.002}, 40.0}}), 0.0015, 1e-4);
+    // A chord of more than a degree is a straight line of the outline, whatever circle its ends are
+    // on.
+    quarter.erase(quarter.begin() + 20, quarter.begin() + 24);
+    EXPECT_NEAR(contour_gap(contour, quarter, {{{}, 40.0}}),
+                40.0 * (1.0 - std::cos(1.25 * PI_D / 180.0)), 1e-3);
+}
+
+TEST(port_gcode_gap, measures_the_arcs_and_not_their_chords) {
+    // The outer radius lies so far out that the last chord of its arc lies 0.0011 mm within it.
+    port_files files("0");
+    files.tested.boxes.Outlet_outer_radius = "40";
+    files.tested.boxes.outlet_end_outer = "143.48";
+    files.tested.boxes.outlet_start_outer = "14.5";
+    port_work work = files.tested.work();
+    ASSERT_EQ(build_outlet_port(work), port_end::finished);
+    const file_source source{files.tested.design, files.tested.rotors, files.tested.ports,
+                             files.tested.boxes,  files.choices,       "pump"};
+    EXPECT_LT(port_gcode_gap(source, port_side::outlet), 1e-6);
 }
 
 TEST(port_gcode_gap, is_small_for_sound_ports_and_tells_codes_that_leave_their_outline) {
