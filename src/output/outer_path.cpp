@@ -82,14 +82,16 @@ outer_path path_with_corners(std::int32_t numlobes, double C, double lobe_radius
     return built.path();
 }
 
-/// The points 1 .. steps of an arc from angle a0 over sweep, counterclockwise when positive.
-std::vector<point2> samples(const outer_path_arc& arc, double a0, double sweep, int steps) {
-    std::vector<point2> points;
-    for (int j = 1; j <= steps; ++j) {
-        const point2 sample = polar_point(arc.radius, a0 + j * sweep / steps);
-        points.push_back({arc.centre.x + sample.x, arc.centre.y + sample.y});
+int steps_of(outer_arc_kind kind) {
+    switch (kind) {
+        case outer_arc_kind::fillet:
+            return FILLET_STEPS;
+        case outer_arc_kind::root:
+            return ROOT_STEPS;
+        case outer_arc_kind::lobe:
+            break;
     }
-    return points;
+    return LOBE_STEPS;
 }
 
 }  // namespace
@@ -123,16 +125,26 @@ outer_path outer_rotor_offset_path(const design_params& design, double tool_radi
     return path_with_roots(offset, C, flank);
 }
 
-std::vector<point2> arc_points(const outer_path_arc& arc) {
+circle_arc run_of(const outer_path_arc& arc) {
     const point2 start = difference(arc.start, arc.centre);
     const point2 end = difference(arc.end, arc.centre);
     if (arc.kind == outer_arc_kind::lobe) {
         const arc_angles angles = lobe_arc(start, end, arc.radius);
-        return samples(arc, angles.a0, -angles.sweep, LOBE_STEPS);
+        return {arc.centre, arc.radius, angles.a0, -angles.sweep};
     }
     const arc_angles angles = fillet_or_root_arc(start, end, arc.radius);
-    return samples(arc, angles.a0, angles.sweep,
-                   arc.kind == outer_arc_kind::fillet ? FILLET_STEPS : ROOT_STEPS);
+    return {arc.centre, arc.radius, angles.a0, angles.sweep};
+}
+
+std::vector<point2> arc_points(const outer_path_arc& arc) {
+    const circle_arc run = run_of(arc);
+    const int steps = steps_of(arc.kind);
+    std::vector<point2> points;
+    for (int j = 1; j <= steps; ++j) {
+        const point2 sample = polar_point(run.radius, run.from + j * run.sweep / steps);
+        points.push_back({run.centre.x + sample.x, run.centre.y + sample.y});
+    }
+    return points;
 }
 
 std::vector<point2> outer_path_points(const outer_path& path) {

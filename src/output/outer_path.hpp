@@ -4,11 +4,15 @@
 
 #include "core/design_params.hpp"
 #include "core/entries.hpp"
+#include "geometry/circle_arc.hpp"
 #include "geometry/point2.hpp"
 
 #include <vector>
 
 namespace kvt {
+
+/// Where an arc ends and the next one starts may differ by the digits of the constants, mm.
+inline constexpr double JOINT_TOLERANCE_MM = 1e-5;
 
 /// Fillets and roots run counterclockwise, lobes clockwise.
 enum class outer_arc_kind { fillet, root, lobe };
@@ -45,6 +49,11 @@ outer_path outer_rotor_path(const design_params& design);
 ///     rho = x - sqrt((r + tool_radius)^2 - (C^2 - x^2))      x = C cos(TWO_PI_D / (2 N))
 /// Source: docs/formulas/written_files.md, "Outer offset".
 outer_path outer_rotor_offset_path(const design_params& design, double tool_radius);
+
+/// The run of an arc's points: from the direction of its start to that of its end, by the table of
+/// docs/formulas/outer_rotor.md, "Unwrapping". Where the arcs of a path do not meet it starts and
+/// ends elsewhere than the arc. Throws division_by_zero as arc_points does.
+circle_arc run_of(const outer_path_arc& arc);
 
 /// The points of an arc behind its start, the last one at its end: 10 a fillet, 50 a root, 250 a
 /// lobe.

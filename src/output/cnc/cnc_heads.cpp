@@ -66,8 +66,8 @@ void add_rotor_preamble(cnc_lines& lines, const file_source& source, const rotor
     lines.comment(head.outer ? "origin_outer" : "origin_inner", "");
     lines.comment(head.outer ? "origin_outer_end" : "origin_inner_end", "");
     add_units(lines, source);
-    if (head.side_checked) {
-        lines.comment("side_checked", "");
+    if (!head.checked.empty()) {
+        lines.comment(head.checked, "");
     }
 }
 

@@ -16,7 +16,7 @@ struct rotor_preamble {
     bool outer = false;        ///< the origin is the outer rotor's centre
     bool has_cutter = false;   ///< names the cutter radius, in the unit as typed
     bool lathe = false;
-    bool side_checked = false;
+    std::string_view checked = {};  ///< row of the last line: what was checked
 };
 
 void add_rotor_preamble(cnc_lines& lines, const file_source& source, const rotor_preamble& head);

@@ -60,12 +60,13 @@ void add_lathe_lines(cnc_lines& lines, const std::vector<point2>& points) {
     }
 }
 
-void add_gcode_arc(cnc_lines& lines, const outer_path_arc& arc) {
-    if (arc.kind == outer_arc_kind::lobe) {
-        lines.arc_cw_g02(arc.end, arc.radius);
-    } else {
-        lines.arc_ccw_g03(arc.end, arc.radius);
+/// The moves round the rotor and back to the origin.
+void add_moves(cnc_lines& lines, const tool_contour& contour) {
+    lines.feed_g01(contour.start);
+    for (const tool_move& move : contour.moves) {
+        lines.move(move);
     }
+    lines.literal("G01X0.0000Y0.0000");
 }
 
 }  // namespace
@@ -96,7 +97,7 @@ void write_inner_offset_checked(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(
         lines, source,
-        {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true});
+        {.content = "inner_offset_checked", .has_cutter = true, .checked = "side_checked"});
     add_cutter_path(source, lines,
                     checked_inner_offset_points(source.design, source.rotors, tool_radius(source)));
 }
@@ -120,16 +121,38 @@ void write_outer_offset(const file_source& source, text_lines& text) {
     add_points_of_path(lines, outer_rotor_offset_path(outer_design(source), tool_radius(source)));
 }
 
+void write_outer_offset_checked(const file_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(lines, source,
+                       {.content = "outer_offset_checked",
+                        .outer = true,
+                        .has_cutter = true,
+                        .checked = "distance_checked"});
+    lines.xy(checked_outer_offset_points(outer_design(source), tool_radius(source)));
+}
+
+strayed_arcs outer_gcode_strayed_arcs(const file_source& source) {
+    return strayed_arcs_of(outer_rotor_path(outer_design(source)));
+}
+
+cutter_gouges outer_offset_gouges(const file_source& source) {
+    return outer_offset_gouges(outer_design(source), tool_radius(source));
+}
+
 void write_outer_gcode(const file_source& source, text_lines& text) {
     cnc_lines lines(text, source);
     add_rotor_preamble(lines, source, {.content = "outer_gcode", .outer = true});
     lines.xy(point2{});
-    const outer_path path = outer_rotor_path(outer_design(source));
-    lines.feed_g01(path.first);
-    for (const outer_path_arc& arc : path.arcs) {
-        add_gcode_arc(lines, arc);
-    }
-    lines.literal("G01X0.0000Y0.0000");
+    add_moves(lines, outer_moves(outer_rotor_path(outer_design(source))));
+}
+
+void write_outer_gcode_checked(const file_source& source, text_lines& text) {
+    cnc_lines lines(text, source);
+    add_rotor_preamble(
+        lines, source,
+        {.content = "outer_gcode_checked", .outer = true, .checked = "arcs_checked"});
+    lines.xy(point2{});
+    add_moves(lines, checked_outer_moves(outer_rotor_path(outer_design(source))));
 }
 
 void write_outer_lathe(const file_source& source, text_lines& text) {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "base/text_file.hpp"
+#include "output/cnc/outer_gcode.hpp"
+#include "output/cnc/outer_offset.hpp"
 #include "output/file_source.hpp"
 
 #include <string>
@@ -30,9 +32,18 @@ void write_inner_lathe(const file_source& source, text_lines& text);
 void write_outer_xy(const file_source& source, text_lines& text);
 /// The points of the cutter's path.
 void write_outer_offset(const file_source& source, text_lines& text);
+/// The same positions, kept at the cutter's radius from the profile (checked_outer_offset_points).
+void write_outer_offset_checked(const file_source& source, text_lines& text);
+/// Which of the positions gouge the profile. Throws as the writer does.
+cutter_gouges outer_offset_gouges(const file_source& source);
 /// The arcs of the path as G02 and G03. Kept: the last line has four decimals whatever the
 /// resolution; rotor_cnc_test holds it.
 void write_outer_gcode(const file_source& source, text_lines& text);
+/// Which of those arcs a machine runs elsewhere. Throws as the points of the path do.
+strayed_arcs outer_gcode_strayed_arcs(const file_source& source);
+/// The same path with arcs that every machine runs as the points of the X/Y file lie
+/// (checked_outer_moves).
+void write_outer_gcode_checked(const file_source& source, text_lines& text);
 /// The points as lathe lines.
 void write_outer_lathe(const file_source& source, text_lines& text);
 

@@ -109,16 +109,16 @@ TEST(cnc_lines, turn_points_into_lathe_lines_by_their_quadrant) {
 TEST(cnc_preamble, tells_what_a_rotor_file_holds) {
     cnc_records records;
     records.choices.tool_diameter = 2.5;
-    EXPECT_EQ(
-        rotor_head(records,
-                   {.content = "inner_offset_checked", .has_cutter = true, .side_checked = true}),
-        "//This file contains the offset profile coordinates for the inner//\r\n"
-        "//rotor of project: pump.//\r\n"
-        "//The coordinates are for a cutter radius of 1.25.//\r\n"
-        "//The origin (datum) for the coordinates is the centre of the//\r\n"
-        "//inner rotor (centre of drive shaft).//\r\n"
-        "//The coordinates in this file are in MM.//\r\n"
-        "//Cutter side checked for every point.//\r\n");
+    EXPECT_EQ(rotor_head(records, {.content = "inner_offset_checked",
+                                   .has_cutter = true,
+                                   .checked = "side_checked"}),
+              "//This file contains the offset profile coordinates for the inner//\r\n"
+              "//rotor of project: pump.//\r\n"
+              "//The coordinates are for a cutter radius of 1.25.//\r\n"
+              "//The origin (datum) for the coordinates is the centre of the//\r\n"
+              "//inner rotor (centre of drive shaft).//\r\n"
+              "//The coordinates in this file are in MM.//\r\n"
+              "//Cutter side checked for every point.//\r\n");
     records.unit = INCHES;
     EXPECT_EQ(rotor_head(records, {.content = "outer_lathe", .outer = true, .lathe = true}),
               "//This file contains the X&C G-Code coordinates for the outer//\r\n"
