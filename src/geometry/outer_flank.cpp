@@ -28,6 +28,11 @@ bool fillets_too_large(const design_params& design, double alpha) {
     return alpha * 2.0 * design.numlobes / PI_D > 2.0;
 }
 
+bool fillets_stand_beyond_lobes(const design_params& design, double centre_radius) {
+    const double alpha = fillet_angle(design, centre_radius);
+    return (design.outer_root - design.fillet) * std::cos(alpha) >= centre_radius;
+}
+
 outer_flank flank_of_lobe(const design_params& design, const rotor_profiles& rotors) {
     return flank_of_lobe(design, lobe_centre_radius(design, rotors));
 }

@@ -23,6 +23,12 @@ double fillet_angle(const design_params& design, double centre_radius);
 /// passes.
 bool fillets_too_large(const design_params& design, double alpha);
 
+/// Whether the fillet centres (without fillets: the root ends) lie beyond the lobe centres,
+///     (Rr - f) cos alpha >= C
+/// so that a lobe is half a turn or more. The tangent point of flank_of_lobe is not that of fillet
+/// and lobe then. Throws as fillet_angle does.
+bool fillets_stand_beyond_lobes(const design_params& design, double centre_radius);
+
 /// The flank of a lobe at angle 0.
 struct outer_flank {
     double alpha =

@@ -6,6 +6,7 @@
 #include "geometry/outer_arc.hpp"
 #include "geometry/outer_flank.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kvt {
@@ -134,6 +135,17 @@ circle_arc run_of(const outer_path_arc& arc) {
     }
     const arc_angles angles = fillet_or_root_arc(start, end, arc.radius);
     return {arc.centre, arc.radius, angles.a0, angles.sweep};
+}
+
+double largest_gap(const outer_path& path) {
+    double largest = 0.0;
+    point2 at = path.first;
+    for (const outer_path_arc& arc : path.arcs) {
+        const circle_arc run = run_of(arc);
+        largest = std::max(largest, distance(at, run.at(0.0)));
+        at = run.at(1.0);
+    }
+    return std::max(largest, distance(at, path.first));
 }
 
 std::vector<point2> arc_points(const outer_path_arc& arc) {

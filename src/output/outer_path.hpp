@@ -55,6 +55,9 @@ outer_path outer_rotor_offset_path(const design_params& design, double tool_radi
 /// ends elsewhere than the arc. Throws division_by_zero as arc_points does.
 circle_arc run_of(const outer_path_arc& arc);
 
+/// The largest distance between the run of an arc and that of the next one, mm.
+double largest_gap(const outer_path& path);
+
 /// The points of an arc behind its start, the last one at its end: 10 a fillet, 50 a root, 250 a
 /// lobe.
 ///     centre + radius (cos, sin) of start + j (end - start) / n      j = 1 .. n

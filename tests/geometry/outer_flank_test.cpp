@@ -61,6 +61,21 @@ TEST(tangent_point, lies_on_the_lobe_and_on_the_fillet) {
     EXPECT_EQ(flank.alpha, fillet_angle(design, rotors));
 }
 
+TEST(fillets_stand_beyond_lobes, tells_lobes_of_half_a_turn_and_more) {
+    const design_params sound = sample_design();
+    EXPECT_FALSE(fillets_stand_beyond_lobes(sound, 24.5));
+    // Lobe radius 3 about C = 20, root 22.7 without fillets: the root end stands at
+    // x = (22.7^2 + 20^2 - 3^2) / 40 = 22.657, beyond the lobe centre.
+    design_params undercut = sound;
+    undercut.radouter = 3.0;
+    undercut.outer_root = 22.7;
+    undercut.fillet = 0.0;
+    EXPECT_TRUE(fillets_stand_beyond_lobes(undercut, 20.0));
+    // Fillet centres at x = (20^2 + 20^2 - 5.7^2) / 40 = 19.188, just short of it.
+    undercut.fillet = 2.7;
+    EXPECT_FALSE(fillets_stand_beyond_lobes(undercut, 20.0));
+}
+
 TEST(tangent_point, without_fillets_is_the_root_end) {
     design_params design = sample_design();
     design.fillet = 0.0;

@@ -2,7 +2,7 @@
 #include "output/outer_path.hpp"
 
 #include "base/constants.hpp"
-#include "support/sample_design.hpp"
+#include "support/undercut_design.hpp"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -102,6 +102,17 @@ TEST(outer_path, meets_in_corners_where_the_root_arcs_vanish) {
     // centres.
     EXPECT_NEAR(std::atan2(cutter.first.y, cutter.first.x), TWO_PI_D / 14.0, 1e-12);
     EXPECT_EQ(outer_path_points(cutter).size(), 1U + 250U * 7U + 1U);
+}
+
+TEST(outer_path, has_gaps_only_where_lobes_are_more_than_half_a_turn) {
+    EXPECT_LT(largest_gap(outer_rotor_path(sample_design())), 1e-5);
+    const outer_path path = outer_rotor_path(undercut_design(0.8));
+    double largest = 0.0;
+    for (const outer_path_arc& arc : path.arcs) {
+        largest = std::max(largest, distance(arc_points(arc).back(), arc.end));
+    }
+    EXPECT_GT(largest, 0.5);
+    EXPECT_GE(largest_gap(path), largest - 1e-9);
 }
 
 TEST(outer_path, reads_the_boxes_in_their_unit) {

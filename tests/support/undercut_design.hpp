@@ -15,4 +15,18 @@ inline design_params undercut_design(double fillet = 0.8) {
     return design;
 }
 
+/// The rotors of such a design that Calculate Profiles accepts: the arcs miss each other by 0.761
+/// mm.
+inline void type_undercut_rotors(entries& boxes) {
+    boxes.numlobes = "7";
+    boxes.ecc = "1.7733";
+    boxes.radouter = "2.6818";
+    boxes.radinnroot = "17.259";
+    boxes.fillet = "0.1979";
+    boxes.outer_root = "22.5789";
+    boxes.shaftdiameter = "10";
+    boxes.minmaterial = "1";
+    boxes.maxdiameter = "60";
+}
+
 }  // namespace kvt
