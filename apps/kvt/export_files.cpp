@@ -1,6 +1,7 @@
 #include "kvt/export_files.hpp"
 
 #include "app/files/cnc_output.hpp"
+#include "app/files/file_hints.hpp"
 #include "app/files/file_output.hpp"
 #include "app/program.hpp"
 #include "output/cnc/cnc_lines.hpp"
@@ -96,6 +97,7 @@ class files_export {
         if (const std::string notice = notice_of(kavetta_, file); !notice.empty()) {
             folder_.note(name, notice);
         }
+        note_scrapped_part(kavetta_, file);
     }
 
     program& kavetta_;

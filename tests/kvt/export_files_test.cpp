@@ -25,16 +25,16 @@ std::set<std::string> cnc_files_in(const temporary_folder& folder) {
     return names;
 }
 
-const std::set<std::string> WITHOUT_TOOL = {"inner_xy",    "inner_lathe", "outer_xy",
-                                            "outer_gcode", "outer_lathe", "inlet_xy",
-                                            "inlet_gcode", "outlet_xy",   "outlet_gcode"};
+const std::set<std::string> WITHOUT_TOOL = {
+    "inner_xy",    "inner_lathe", "outer_xy",    "outer_gcode", "outer_gcode_checked",
+    "outer_lathe", "inlet_xy",    "inlet_gcode", "outlet_xy",   "outlet_gcode"};
 
 TEST(export_cnc, writes_every_file_with_both_tools) {
     const temporary_folder folder;
     const kvt_run run = export_design_of("engine_oil", folder,
                                          {"--cnc", "all", "--tool", "2", "--groove-tool", "1"});
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(cnc_files_in(folder).size(), 14U);
+    EXPECT_EQ(cnc_files_in(folder).size(), 16U);
     EXPECT_NE(read_file(folder.file("outlet_pocket.cnc")).find("//Section 2: Metering groove//"),
               std::string::npos);
 }
@@ -85,6 +85,26 @@ TEST(export_cnc, tells_how_many_cutter_centres_are_on_the_wrong_side) {
         export_design_of("engine_oil", checked, {"--cnc", "inner_offset_checked", "--tool", "2"})
             .err,
         "");
+}
+
+TEST(export_cnc, tells_arcs_that_a_machine_runs_off_the_profile_in_a_hint) {
+    const temporary_folder folder;
+    std::vector<std::string> options;
+    for (const char* typed :
+         {"ecc=1.7733", "radouter=2.6818", "radinnroot=17.259", "fillet=0.1979", "shaftdiameter=10",
+          "minmaterial=1", "maxdiameter=60", "outer_root=", "metering_groove=0",
+          "inlet_inner_radius=", "inlet_outer_radius=", "Outlet_inner_radius=",
+          "Outlet_outer_radius=", "port_radii=0.5", "numlobes=7"}) {
+        options.insert(options.end(), {"--set", typed});
+    }
+    options.insert(options.end(), {"--cnc", "outer_gcode,outer_gcode_checked"});
+    const kvt_run run = export_design_of("engine_oil", folder, options);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(cnc_files_in(folder), (std::set<std::string>{"outer_gcode", "outer_gcode_checked"}));
+    EXPECT_NE(run.err.find("\nHint: Arcs of the file \"Outer Rotor, FANUC G-Codes\" that a "
+                           "machine runs off the profile"),
+              std::string::npos)
+        << run.err;
 }
 
 TEST(export_cnc, takes_resolution_direction_and_language) {

@@ -1,6 +1,7 @@
 #include "app/files/file_output.hpp"
 
 #include "app/desk/program_title.hpp"
+#include "app/files/file_hints.hpp"
 #include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
 #include "base/short_date.hpp"
@@ -36,12 +37,14 @@ file_source source_of(const program& kavetta, std::string path) {
         std::string(FULL_VERSION)};
 }
 
-std::optional<std::string> save_file(const program& kavetta, user& person,
-                                     const written_file& file) {
-    return ask_and_save_text(kavetta, person, dialog_of(kavetta, file),
-                             [&](text_lines& text, const std::string& path) {
-                                 file.write(source_of(kavetta, path), text);
-                             });
+std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file) {
+    std::optional<std::string> path = ask_and_save_text(
+        kavetta, person, dialog_of(kavetta, file),
+        [&](text_lines& text, const std::string& to) { file.write(source_of(kavetta, to), text); });
+    if (path) {
+        note_scrapped_part(kavetta, file);
+    }
+    return path;
 }
 
 std::string notice_of(const program& kavetta, const written_file& file) {

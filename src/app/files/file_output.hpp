@@ -14,9 +14,9 @@ namespace kvt {
 file_source source_of(const program& kavetta, std::string path = {});
 
 /// A click on a file's entry: save dialog, then the file as far as its writer got. Answers its
-/// path, nothing when the dialog was cancelled or named no file.
-std::optional<std::string> save_file(const program& kavetta, user& person,
-                                     const written_file& file);
+/// path, nothing when the dialog was cancelled or named no file. Adds the hints of the written file
+/// (note_scrapped_part).
+std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file);
 
 /// What is told once a file is written: that it would scrap the part. Empty for a sound one, and
 /// for one that ended in a failure.

@@ -2,6 +2,7 @@
 
 #include "app/desk/enabling_chain.hpp"
 #include "app/program.hpp"
+#include "app/stages/design_hints.hpp"
 #include "app/stages/design_ports.hpp"
 #include "app/stages/rotor_labels.hpp"
 #include "app/stages/stale_results.hpp"
@@ -148,6 +149,9 @@ run_end error_exit(program& kavetta, user& person) {
 run_end handled_steps(program& kavetta, user& person) {
     try {
         const run_end end = outer_rotor_steps(kavetta, person);
+        if (end == run_end::ok) {
+            note_profile_faults(kavetta);
+        }
         if (end != run_end::failure) {
             closing_steps(kavetta, person);
         }

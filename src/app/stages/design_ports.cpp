@@ -3,6 +3,7 @@
 #include "app/desk/enabling_chain.hpp"
 #include "app/files/port_report_file.hpp"
 #include "app/program.hpp"
+#include "app/stages/design_hints.hpp"
 #include "app/stages/porting_type.hpp"
 #include "app/stages/stale_results.hpp"
 #include "app/windows/close_forms.hpp"
@@ -113,6 +114,7 @@ bool design_groove(program& kavetta, port_work& work, user& person) {
     const bool done = has_finished(build_metering_groove(work), person);
     if (done) {
         draw_metering_groove(kavetta.port_params, kavetta.view_state, kavetta.design_view);
+        note_groove_faults(kavetta);
     }
     return done;
 }

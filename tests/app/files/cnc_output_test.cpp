@@ -94,8 +94,8 @@ TEST_F(cnc_output, asks_for_a_resolution_first) {
 
 TEST_F(cnc_output, asks_for_the_tool_of_each_file_that_needs_one) {
     form.toolsize = "";
-    for (const char* name : {"inner_offset", "inner_offset_checked", "outer_offset", "inlet_pocket",
-                             "outlet_pocket"}) {
+    for (const char* name : {"inner_offset", "inner_offset_checked", "outer_offset",
+                             "outer_offset_checked", "inlet_pocket", "outlet_pocket"}) {
         form.ticked = {};
         tick(name);
         EXPECT_EQ(refusal(ENGLISH), "You must enter a tool size for this option") << name;
@@ -312,7 +312,7 @@ TEST_F(cnc_output, has_german_titles) {
     EXPECT_TRUE(write());
     EXPECT_EQ(person.dialogs[3].title,
               "Kavetta V2021 - Sparen Sie Innere RotorG-codes Für Drehmaschine (X und C)");
-    EXPECT_EQ(person.dialogs[12].title,
+    EXPECT_EQ(person.dialogs[14].title,
               "Kavetta V2021 - Sparen Sie Auslaufhafenprofil - Taschenfräsen");
 }
 
