@@ -66,13 +66,9 @@ inline void type_random_ports(random_values& random, entries& boxes) {
     boxes.groove_depth = typed_number(0.2 * width);
 }
 
-/// A steep end side can put the start of a groove on the other side of the pump; such a groove is
-/// no pocket.
-inline bool groove_stands_at_its_port(const port_params& ports) {
-    return ports.groove_a.y > 0.0 && ports.groove_b.y > 0.0;
-}
-
-/// A program whose profiles and ports (and groove, when it has one) are done without a message.
+/// A program whose profiles and ports (and groove, when it has one) are done without a message:
+/// designs with hints among them, whose lobes are more than half a turn or whose groove lies on the
+/// wrong side of the pump.
 inline program random_design(random_values& random) {
     for (int draw = 0; draw < 1000; ++draw) {
         program kavetta;
@@ -88,8 +84,7 @@ inline program random_design(random_values& random) {
             continue;
         }
         const ports_designed done = design_ports(kavetta, person);
-        const bool groove = kavetta.entries.metering_groove == "0" ||
-                            (done.groove && groove_stands_at_its_port(kavetta.port_params));
+        const bool groove = kavetta.entries.metering_groove == "0" || done.groove;
         if (done.inlet && done.outlet && groove && person.messages.empty()) {
             return kavetta;
         }

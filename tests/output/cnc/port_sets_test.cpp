@@ -1,11 +1,16 @@
-// Random sets of ports, built once or twice over the same records: the G-codes of every outline are
-// replayed against its X/Y file, or refused with their distance.
+// Random sets of ports, built once or twice over the same records: G-codes, drawings and pocket
+// paths of every outline are replayed against its X/Y file; codes that cannot follow it are refused
+// with their distance.
 #include "base/run_time_error.hpp"
 #include "output/cnc/contour_gap.hpp"
+#include "output/cnc/pocket_region.hpp"
 #include "output/cnc/port_cnc.hpp"
+#include "output/dxf/dxf_files.hpp"
 #include "ports/build_ports.hpp"
+#include "ports/groove_check.hpp"
 #include "ports/metering_groove.hpp"
 #include "support/cnc_reader.hpp"
+#include "support/dxf_reader.hpp"
 #include "support/port_design.hpp"
 #include "support/property_runs.hpp"
 
@@ -68,33 +73,80 @@ void design(port_design& tested) {
 }
 
 struct tally {
-    int followed = 0, refused = 0, grooves = 0;
+    int followed = 0, refused = 0, grooves = 0, faulty_grooves = 0, pockets = 0;
 };
 
+/// The chord of the last step of an arc lies this far within it at most, mm: the outer radius is
+/// below 24 mm, the step below a degree.
+constexpr double CHORD_HEIGHT_MM = 24.0 * 3.81e-5;
+/// How much nearer than its radius a cutter may come to an outline, mm.
+constexpr double POCKET_GOUGE_MM = 0.005;
+
+using port_writer = void (*)(const file_source&, port_side, text_lines&);
+
+std::vector<cnc_section> sections_of(const file_source& source, port_side side, port_writer write) {
+    text_lines text;
+    write(source, side, text);
+    return cnc_reader(text.bytes(), DECIMALS).sections();
+}
+
+/// The drawing has the points of the X/Y file, without the one that closes its last line.
+void replay_drawing(const file_source& source, port_side side, std::vector<point2> outline) {
+    text_lines text;
+    (side == port_side::inlet ? write_dxf_inlet_port : write_dxf_outlet_port)(text, source.ports,
+                                                                              source.unit);
+    const std::vector<point2> vertices = read_dxf(text.bytes()).vertices;
+    outline.pop_back();
+    ASSERT_GE(vertices.size(), outline.size());
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        ASSERT_LT(distance(vertices[i], outline[i]), 2e-6);
+    }
+}
+
+/// The cutter of a pocket never comes nearer to the X/Y file than its radius.
+void replay_pocket(const file_source& source, port_side side,
+                   const std::vector<cnc_section>& outlines) {
+    const std::vector<cnc_section> paths = sections_of(source, side, write_port_pocket);
+    ASSERT_EQ(paths.size(), outlines.size());
+    const double tool_radius = source.choices.tool_diameter / 2.0;
+    const pocket_region pocket(ends_of(outlines[0]));
+    for (const point2& centre : ends_of(paths[0])) {
+        ASSERT_TRUE(pocket.is_clear(centre, tool_radius - POCKET_GOUGE_MM));
+        ASSERT_TRUE(pocket.contains(centre));
+    }
+}
+
 void replay(const port_design& tested, port_side side, tally& count) {
-    const cnc_choices choices{.cnc_res_digits = DECIMALS};
+    const port_shape& built = tested.ports.of(side).built;
+    const cnc_choices choices{.cnc_res_digits = DECIMALS,
+                              .tool_diameter = 1.6 * built.f,
+                              .groove_tool_diameter = 0.8 * tested.ports.groove_width_mm};
     const file_source source{tested.design, tested.rotors, tested.ports,
                              tested.boxes,  choices,       "pump"};
+    const std::vector<cnc_section> outlines = sections_of(source, side, write_port_xy);
+    replay_drawing(source, side, ends_of(outlines[0]));
+    const bool has_groove = side == port_side::outlet && tested.ports.has_groove;
+    count.faulty_grooves += has_groove && faults_of_groove(tested.ports.groove_built).any() ? 1 : 0;
     if (port_gcode_gap(source, side) > CONTOUR_TOLERANCE_MM) {
         ++count.refused;
         return;
     }
-    text_lines xy;
-    text_lines gcode;
-    write_port_xy(source, side, xy);
-    write_port_gcode(source, side, gcode);
-    const std::vector<cnc_section> outlines = cnc_reader(xy.bytes(), DECIMALS).sections();
-    const std::vector<cnc_section> codes = cnc_reader(gcode.bytes(), DECIMALS).sections();
+    const std::vector<cnc_section> codes = sections_of(source, side, write_port_gcode);
     ASSERT_EQ(codes.size(), outlines.size());
     for (std::size_t i = 0; i < codes.size(); ++i) {
         const std::vector<cnc_move>& moves = codes[i].moves;
         const std::vector<point2> path = swept_path({moves.begin() + 2, moves.end()}, moves[1].end);
         const std::vector<point2> outline = ends_of(outlines[i]);
         ASSERT_LT(largest_distance(outline, path, 3), CONTOUR_TOLERANCE_MM + 1e-5);
-        ASSERT_LT(largest_distance(path, outline, 3), CONTOUR_TOLERANCE_MM + 1e-5);
+        ASSERT_LT(largest_distance(path, outline, 3),
+                  CONTOUR_TOLERANCE_MM + CHORD_HEIGHT_MM + 1e-5);
     }
     ++count.followed;
-    count.grooves += side == port_side::outlet && tested.ports.has_groove ? 1 : 0;
+    count.grooves += has_groove ? 1 : 0;
+    if (built.f > 0.0 && (!has_groove || !faults_of_groove(tested.ports.groove_built).any())) {
+        replay_pocket(source, side, outlines);
+        ++count.pockets;
+    }
 }
 
 }  // namespace
@@ -122,7 +174,8 @@ TEST(port_sets, have_codes_that_follow_their_outlines_or_are_refused) {
         }
     }
     std::cout << sets << " sets: " << count.followed << " files replayed, " << count.refused
-              << " refused, " << count.grooves << " with a groove\n";
+              << " refused, " << count.grooves << " with a groove, " << count.pockets
+              << " pockets, " << count.faulty_grooves << " faulty grooves told\n";
     EXPECT_GT(count.followed, sets / 2) << "most of the sets have files to replay";
 }
 
