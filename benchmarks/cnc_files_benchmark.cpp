@@ -16,6 +16,8 @@ void write_file(benchmark::State& state, const char* name) {
 BENCHMARK_CAPTURE(write_file, inner_xy, "inner_xy")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(write_file, inner_offset_checked, "inner_offset_checked")
     ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(write_file, outer_offset_checked, "outer_offset_checked")
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(write_file, outer_lathe, "outer_lathe")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(write_file, outlet_xy, "outlet_xy")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(write_file, outlet_pocket, "outlet_pocket")->Unit(benchmark::kMillisecond);

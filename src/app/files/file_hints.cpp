@@ -37,6 +37,16 @@ bool has_groove_in_it(const program& kavetta, const written_file& file) {
            (file.group == file_group::cnc && file.needs == file_needs::outlet);
 }
 
+/// Kept: drawings and models have the outline of an earlier groove after a refused one;
+/// file_hints_test holds it.
+void note_old_groove(program& kavetta, const written_file& file) {
+    const port_params& ports = kavetta.port_params;
+    if (file.group != file_group::cnc && !ports.has_groove && ports.groove_last > 0) {
+        add_hint(kavetta.hints, std::string(cnc_text("old_groove", kavetta.app_state.language)),
+                 hint_weight::scraps_part);
+    }
+}
+
 void note_outer_file(program& kavetta, const written_file& file) {
     if (file.name == "outer_gcode") {
         const strayed_arcs strayed = outer_gcode_strayed_arcs(source_of(kavetta));
@@ -55,6 +65,7 @@ void note_scrapped_part(program& kavetta, const written_file& file) {
             note_outer_file(kavetta, file);
         }
         if (has_groove_in_it(kavetta, file)) {
+            note_old_groove(kavetta, file);
             note_groove_faults(kavetta, hint_weight::scraps_part);
         }
     } catch (const run_time_error&) {

@@ -9,7 +9,7 @@ struct program;
 
 /// Adds the hints of a written file: arcs of outer_gcode that a machine runs off the profile,
 /// cutter positions of outer_offset that gouge it, a faulty metering groove in each file that has
-/// one.
+/// one, that of an earlier run in a drawing or model.
 void note_scrapped_part(program& kavetta, const written_file& file);
 
 }  // namespace kvt

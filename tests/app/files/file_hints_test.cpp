@@ -104,5 +104,19 @@ TEST_F(file_hints_test, tell_a_faulty_groove_with_each_of_its_files) {
     EXPECT_TRUE(hints_of(file_group::cnc, "outlet_xy").empty());
 }
 
+TEST_F(file_hints_test, tell_the_groove_of_an_earlier_run_in_drawings_and_models) {
+    kavetta.entries.groove_length = "200";
+    scripted_user person;
+    ASSERT_FALSE(design_ports(kavetta, person).groove);
+    const std::vector<hint> old_one{
+        {"The metering groove was refused: this file has the one of an earlier run. It would scrap "
+         "the part.",
+         hint_weight::scraps_part}};
+    EXPECT_EQ(hints_of(file_group::dxf, "groove"), old_one);
+    EXPECT_EQ(hints_of(file_group::step, "ports"), old_one);
+    EXPECT_TRUE(hints_of(file_group::cnc, "outlet_xy").empty());
+    EXPECT_TRUE(hints_of(file_group::dxf, "outlet").empty());
+}
+
 }  // namespace
 }  // namespace kvt
