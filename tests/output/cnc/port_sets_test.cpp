@@ -117,8 +117,7 @@ void replay_pocket(const file_source& source, port_side side,
 }
 
 void replay(const port_design& tested, port_side side, tally& count) {
-    const port_shape& built =
-        side == port_side::inlet ? tested.ports.inlet.built : tested.ports.outlet.built;
+    const port_shape& built = tested.ports.of(side).built;
     const cnc_choices choices{.cnc_res_digits = DECIMALS,
                               .tool_diameter = 1.6 * built.f,
                               .groove_tool_diameter = 0.8 * tested.ports.groove_width_mm};
