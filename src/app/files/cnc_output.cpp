@@ -174,20 +174,22 @@ void remember_path(app_state& state, const written_file& file, const std::string
     }
 }
 
-void ask_and_save(program& kavetta, user& person, const written_file& file) {
+/// Answers the line about the file; empty when there is none.
+std::string ask_and_save(program& kavetta, user& person, const written_file& file) {
     note_refused_groove(kavetta, file);
     if (const std::string note = refused_gcode_note(kavetta, file); !note.empty()) {
         add_hint(kavetta.hints, note, hint_weight::scraps_part);
-        return;
+        return {};
     }
-    const std::optional<std::string> path = save_file(kavetta, person, file);
-    if (!path) {
-        return;
+    const std::optional<saved_text> saved = ask_and_save_file(kavetta, person, file);
+    if (!saved) {
+        return {};
     }
-    remember_path(kavetta.app_state, file, *path);
+    remember_path(kavetta.app_state, file, saved->path);
     if (const std::string notice = notice_of(kavetta, file); !notice.empty()) {
         person.show_message(notice);
     }
+    return saved->outcome;
 }
 
 }  // namespace
@@ -274,10 +276,14 @@ bool write_cnc_files(program& kavetta, user& person, cnc_form& form) {
         return false;
     }
     kavetta.last_cnc_entries = form;
+    std::string outcomes;
     for (const written_file& file : files_of(file_group::cnc)) {
-        if (form.ticked.contains(file.name)) {
-            ask_and_save(kavetta, person, file);
-        }
+        const std::string outcome =
+            form.ticked.contains(file.name) ? ask_and_save(kavetta, person, file) : "";
+        outcomes += (outcomes.empty() || outcome.empty() ? "" : "; ") + outcome;
+    }
+    if (!outcomes.empty()) {
+        person.show_status(outcomes);
     }
     person.unload_form("Form3");
     return true;

@@ -57,15 +57,25 @@ file_source source_of(const program& kavetta, const written_file& file, std::str
     return source_of(kavetta, std::move(path));
 }
 
-std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file) {
-    std::optional<std::string> path = ask_and_save_text(
+std::optional<saved_text> ask_and_save_file(program& kavetta, user& person,
+                                            const written_file& file) {
+    std::optional<saved_text> saved = ask_and_save_text(
         kavetta, person, dialog_of(kavetta, file), [&](text_lines& text, const std::string& to) {
             file.write(source_of(kavetta, file, to), text);
         });
-    if (path) {
+    if (saved) {
         note_scrapped_part(kavetta, file);
     }
-    return path;
+    return saved;
+}
+
+std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file) {
+    const std::optional<saved_text> saved = ask_and_save_file(kavetta, person, file);
+    if (!saved) {
+        return std::nullopt;
+    }
+    person.show_status(saved->outcome);
+    return saved->path;
 }
 
 void save_file_of_menu(program& kavetta, user& person, const written_file& file) {

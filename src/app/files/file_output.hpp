@@ -20,8 +20,12 @@ file_source source_of(const program& kavetta, const written_file& file, std::str
 /// A click on a file's entry of the menus: save_file once may_write allows it.
 void save_file_of_menu(program& kavetta, user& person, const written_file& file);
 
-/// A file's save dialog, then the file as far as its writer got. Answers its path, nothing when the
-/// dialog was cancelled or named no file. Adds the hints of the written file (note_scrapped_part).
+/// A file's save dialog, then the file as far as its writer got. Nothing when the dialog was
+/// cancelled or named no file. Adds the hints of the written file (note_scrapped_part).
+std::optional<saved_text> ask_and_save_file(program& kavetta, user& person,
+                                            const written_file& file);
+
+/// The same, its outcome in the status bar. Answers the path.
 std::optional<std::string> save_file(program& kavetta, user& person, const written_file& file);
 
 /// What is told once a file is written: that it would scrap the part. Empty for a sound one, and

@@ -14,13 +14,17 @@ namespace {
 /// Value of the dialog's flags: ask before overwriting.
 constexpr int OVERWRITE_PROMPT = 2;
 
-std::string failure_line(const std::string& path, const text_failure& failed,
+std::string outcome_line(const std::string& path, const std::optional<text_failure>& failed,
                          std::int16_t language) {
-    const std::string_view reason = failure_text(failed.error.kind(), language);
-    if (failed.is_there) {
+    const auto text = [language](message id) { return std::string(message_text(id, language)); };
+    if (!failed) {
+        return text(message::file_written) + path;
+    }
+    const std::string_view reason = failure_text(failed->error.kind(), language);
+    if (failed->is_there) {
         return incomplete_line(path, reason, language);
     }
-    return std::string(message_text(message::save_failed, language)) + std::string(reason);
+    return text(message::save_failed) + path + ": " + std::string(reason);
 }
 
 }  // namespace
@@ -60,7 +64,7 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
     return dialog;
 }
 
-std::optional<std::string> ask_and_save_text(
+std::optional<saved_text> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write) {
     file_dialog beside_project = dialog;
@@ -70,10 +74,7 @@ std::optional<std::string> ask_and_save_text(
         return std::nullopt;
     }
     const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
-    if (failed) {
-        person.show_status(failure_line(*path, *failed, kavetta.app_state.language));
-    }
-    return path;
+    return saved_text{*path, outcome_line(*path, failed, kavetta.app_state.language)};
 }
 
 }  // namespace kvt

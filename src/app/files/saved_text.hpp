@@ -38,10 +38,16 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
 std::string incomplete_line(const std::string& path, std::string_view reason,
                             std::int16_t language);
 
+/// What became of a file: "Written: PATH", "Incomplete: ..." or why it could not be saved, for the
+/// status bar.
+struct saved_text {
+    std::string path;
+    std::string outcome;
+};
+
 /// The dialog's answer, starting in the project's folder, then save_text. A cancelled dialog or an
-/// empty name writes nothing and answers nothing, else the path; a failure ends the command with a
-/// line in the status bar and no message.
-std::optional<std::string> ask_and_save_text(
+/// empty name writes nothing and answers nothing; a failure ends in the outcome, without a message.
+std::optional<saved_text> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write);
 

@@ -144,6 +144,21 @@ TEST_F(cnc_output, writes_points_for_commas_back_even_when_a_later_check_fails) 
     EXPECT_EQ(kavetta.cnc_choices.tool_diameter, 15.1);
 }
 
+TEST_F(cnc_output, tells_of_every_file_in_one_line) {
+    tick("inner_xy");
+    tick("inner_lathe");
+    tick("outer_xy");
+    person.files = {folder.file("a.cnc"), std::nullopt, folder.file("none/b.cnc")};
+    EXPECT_TRUE(write());
+    EXPECT_EQ(person.statuses,
+              std::vector<std::string>{"Written: " + folder.file("a.cnc") +
+                                       "; The file could not be saved: " +
+                                       folder.file("none/b.cnc") + ": Path not found"});
+    person.files = {std::nullopt, std::nullopt, std::nullopt};
+    EXPECT_TRUE(write());
+    EXPECT_EQ(person.statuses.size(), 1U);
+}
+
 TEST_F(cnc_output, points_at_the_entry_that_it_refuses) {
     const auto focus_after_refusal = [&] {
         EXPECT_FALSE(write());

@@ -57,6 +57,17 @@ TEST_F(dxf_output, asks_for_the_name_of_each_file_in_both_languages) {
     EXPECT_TRUE(person.messages.empty());
 }
 
+TEST_F(dxf_output, names_the_written_file_in_the_status_bar) {
+    saved("inner");
+    EXPECT_EQ(person.statuses, std::vector<std::string>{"Written: " + folder.file("pump.dxf")});
+    kavetta.app_state.language = GERMAN;
+    saved("inner");
+    EXPECT_EQ(person.statuses.back(), "Geschrieben: " + folder.file("pump.dxf"));
+    person.files = {std::nullopt};
+    EXPECT_FALSE(save_file(kavetta, person, *find_file(file_group::dxf, "inner")));
+    EXPECT_EQ(person.statuses.size(), 2U) << "a cancelled dialog wrote nothing";
+}
+
 TEST_F(dxf_output, writes_the_profile_of_each_entry) {
     EXPECT_EQ(vertices("inner"), 3601U);
     EXPECT_EQ(vertices("outer"), 2U + 7U * 320U);
@@ -190,7 +201,8 @@ TEST_F(step_output, tells_a_file_that_cannot_be_written_in_the_status_bar_only) 
     save("inner");
     EXPECT_TRUE(person.messages.empty());
     EXPECT_EQ(person.statuses,
-              std::vector<std::string>{"The file could not be saved: Path not found"});
+              std::vector<std::string>{"The file could not be saved: " +
+                                       folder.file("none/pump.stp") + ": Path not found"});
 }
 
 TEST_F(step_output, writes_the_files_of_the_simulation_exchange_without_a_dialog) {

@@ -59,6 +59,7 @@ TEST_F(drawing_menus, write_their_files) {
               std::string::npos);
     EXPECT_TRUE(written("mnudxfinner", "inner.dxf").ends_with("EOF\r\n"));
     EXPECT_TRUE(written("mnudxfouter", "outer.dxf").ends_with("EOF\r\n"));
+    EXPECT_EQ(status(), "Written: " + (folder.path() / "outer.dxf").string());
     const std::vector<std::string> titles = {
         "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Create STEP file",
         "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Save Inner Rotor Profile As DXF",
