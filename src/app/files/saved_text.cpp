@@ -20,11 +20,11 @@ std::string outcome_line(const std::string& path, const std::optional<text_failu
     if (!failed) {
         return text(message::file_written) + path;
     }
-    const std::string_view reason = failure_text(failed->error.kind(), language);
+    const std::string reason = failure_text(failed->error, language);
     if (failed->is_there) {
         return incomplete_line(path, reason, language);
     }
-    return text(message::save_failed) + path + ": " + std::string(reason);
+    return text(message::save_failed) + path + ": " + reason;
 }
 
 }  // namespace

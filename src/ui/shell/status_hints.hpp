@@ -17,7 +17,8 @@ class status_hints : public QObject {
     Q_OBJECT
 
   public:
-    /// Adds the button hints and the labels cursor_position, stale_hint and unsaved_mark to the bar.
+    /// Adds the button hints and the labels cursor_position, stale_hint and unsaved_mark to the
+    /// bar.
     status_hints(const program& kavetta, QStatusBar& bar);
 
     /// Looks which hints stand, which results are stale and whether the entries are saved.

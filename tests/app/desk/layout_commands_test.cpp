@@ -5,9 +5,8 @@
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 
-#include <sys/stat.h>
-
 #include <ranges>
+#include <sys/stat.h>
 
 namespace kvt {
 namespace {
