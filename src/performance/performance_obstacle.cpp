@@ -107,6 +107,9 @@ class trial {
 }  // namespace
 
 std::optional<message> port_obstacle(const design_params& design, const port_params& ports) {
+    if (ports.outlet.outer_r == 0.0) {
+        return message::no_ports_yet;
+    }
     if (ports.outlet.inner_r <= design.shaftdiameter / 2.0) {
         return message::hint_outlet_within_shaft;
     }

@@ -18,8 +18,9 @@ namespace kvt {
 /// 3. both end angles of the outlet entered as 180, in memory 0: its arc ends before it begins;
 /// 4. the sector of the inlet's inner radius is as large as that of the outer one;
 /// 5. the outlet ends before it begins on its outer radius.
-/// The first of them, or nothing. The run fails, or the flow is 0 at every point; with 1 and 2
-/// there may be a flow, which means nothing.
+/// The first of them, or nothing; before them an outlet that was never designed. The run fails, or
+/// the flow is 0 at every point; without an outlet, and with 1 and 2, there may be a flow, which
+/// means nothing.
 std::optional<message> port_obstacle(const design_params& design, const port_params& ports);
 
 /// What the entries of Calculate Performance add: a vapour pressure not below that of the

@@ -62,6 +62,12 @@ TEST_F(performance_obstacle_test, is_no_inlet_that_ends_at_180) {
     EXPECT_EQ(of_all(), std::nullopt);
 }
 
+TEST_F(performance_obstacle_test, is_the_outlet_that_was_never_designed) {
+    sample.port_params = {};
+    EXPECT_EQ(of_ports(), message::no_ports_yet);
+    EXPECT_EQ(of_all(), message::no_ports_yet);
+}
+
 TEST_F(performance_obstacle_test, begins_where_the_outlet_leaves_the_chambers_or_meets_the_shaft) {
     const double root = sample.design_params.radinnroot;
     sample.port_params.outlet.inner_r = root;

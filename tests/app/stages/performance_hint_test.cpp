@@ -105,7 +105,7 @@ std::string end_of_run(program& kavetta) {
 /// The rule: a hint means that the run fails or that the flow is 0 at every point. Only an outlet
 /// within the shaft, or beside the chambers, may have a flow, which means nothing.
 bool may_deliver_all_the_same(message hint) {
-    return hint == message::hint_outlet_within_shaft ||
+    return hint == message::no_ports_yet || hint == message::hint_outlet_within_shaft ||
            hint == message::hint_outlet_misses_chambers;
 }
 
