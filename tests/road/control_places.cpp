@@ -4,6 +4,7 @@
 // the default layout. "MDIForm1" stands before the menus and, where they appear when their menu is
 // open, the menu entries.
 #include "app/desk/start_up.hpp"
+#include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
 #include "ui/shell/application_style.hpp"
 #include "ui/shell/desktop.hpp"
@@ -60,6 +61,8 @@ int main(int argc, char** argv) {
     kvt::set_application_style(application);
     const kvt::temporary_folder folder;
     kvt::fill_program_folder(folder.path(), argv[1]);
+    // A layout that can't be read gives the built-in one, at any size of the screen.
+    kvt::write_file(folder.path() / "screen.ini", "");
     kvt::desktop desktop(folder.path());
     // A project in place of the prompt, which would wait for an answer.
     if (!desktop.start(folder.file("projects/engine_oil.KVT"))) {

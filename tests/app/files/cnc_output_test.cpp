@@ -367,8 +367,9 @@ TEST_F(cnc_output, saves_what_a_failing_writer_got_to_and_goes_on) {
     person.files = {folder.file("lathe.cnc"), folder.file("gcode.cnc")};
     EXPECT_TRUE(write());
     EXPECT_TRUE(person.messages.empty());
-    EXPECT_EQ(person.statuses, std::vector<std::string>{"Incomplete: " + folder.file("lathe.cnc") +
-                                                        ": Division by zero"});
+    EXPECT_EQ(person.statuses,
+              std::vector<std::string>{"Incomplete: " + folder.file("lathe.cnc") +
+                                       ": Division by zero; Written: " + folder.file("gcode.cnc")});
     EXPECT_TRUE(read_file(folder / "lathe.cnc")
                     .ends_with("//The coordinates in this file are in MM.//\r\n"));
     EXPECT_EQ(read_file(folder / "gcode.cnc"), cnc_bytes(kavetta, "outer_gcode"));

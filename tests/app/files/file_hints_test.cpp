@@ -3,6 +3,7 @@
 
 #include "app/desk/command_hints.hpp"
 #include "app/files/cnc_output.hpp"
+#include "app/stages/calculate_profiles.hpp"
 #include "support/cnc_design.hpp"
 #include "support/temporary_folder.hpp"
 #include "support/undercut_design.hpp"
@@ -38,6 +39,12 @@ class file_hints_test : public testing::Test {
         return person.messages;
     }
 
+    void calculate_undercut_rotors() {
+        scripted_user person;
+        type_undercut_rotors(kavetta.entries);
+        EXPECT_EQ(calculate_profiles(kavetta, person), run_end::ok);
+    }
+
     program kavetta;
     temporary_folder folder;
 };
@@ -49,7 +56,7 @@ TEST_F(file_hints_test, are_none_for_the_files_of_a_sound_design) {
 }
 
 TEST_F(file_hints_test, count_arcs_and_cutter_positions_that_scrap_the_part) {
-    type_undercut_rotors(kavetta.entries);
+    calculate_undercut_rotors();
     EXPECT_EQ(hints_of(file_group::cnc, "outer_gcode"),
               (std::vector<hint>{
                   {"Arcs of the file \"Outer Rotor, FANUC G-Codes\" that a machine runs off the "
@@ -76,7 +83,7 @@ TEST_F(file_hints_test, count_arcs_and_cutter_positions_that_scrap_the_part) {
 
 TEST_F(file_hints_test, stand_in_a_box_once_the_file_is_written) {
     EXPECT_TRUE(boxes_of("outer_gcode").empty());
-    type_undercut_rotors(kavetta.entries);
+    calculate_undercut_rotors();
     const std::vector<std::string> boxes = boxes_of("outer_gcode");
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_TRUE(boxes[0].starts_with("Arcs of the file"));

@@ -173,7 +173,7 @@ TEST_F(step_output, writes_a_file_for_every_entry) {
                                       "#2000011 'OUTLET UPPER PORTING', #2000012 ) ;",
                                       "#3000011 'INLET UPPER PORTING', #3000012 ) ;",
                                       "#4000011 'Metering Groove PORTING', #4000012 ) ;"}));
-    EXPECT_TRUE(person.statuses.empty());
+    EXPECT_EQ(person.statuses, std::vector<std::string>(4, "Written: " + folder.file("pump.stp")));
 }
 
 TEST_F(step_output, never_changes_the_design) {

@@ -118,6 +118,8 @@ TEST_F(file_dialogs_test, show_names_in_full) {
         const auto* list = dialog.findChild<QTreeView*>("treeView");
         ASSERT_TRUE(list->isVisible());
         needed = list->fontMetrics().horizontalAdvance(qt_text(name));
+        // The names come from a thread of their own.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return list->columnWidth(0) > needed; }));
         width = list->columnWidth(0);
     };
     robot.files.emplace_back(std::nullopt);
