@@ -371,12 +371,14 @@ class test_script_test(tree_test):
         self.write(name, f"#!/bin/sh\necho {name} $* >> '{self.started}'\ncat <<'END'\n{prints}END\nexit {status}\n")
         (self.root / name).chmod(0o755)
 
-    def run_it(self, *arguments):
+    def run_it(self, *arguments, **variables):
         for preset in ("ci", "asan"):
             (self.root / "build" / preset).mkdir(parents=True, exist_ok=True)
         path = f"{self.root / 'bin'}:{os.environ['PATH']}"
-        done = subprocess.run([self.root / "test", *arguments], env={**os.environ, "PATH": path}, capture_output=True,
-                              text=True, check=False)
+        # The run that this test is part of may leave the Clang parts out.
+        around = {name: value for name, value in os.environ.items() if name != "KVT_WITHOUT_CLANG"}
+        done = subprocess.run([self.root / "test", *arguments], env={**around, "PATH": path, **variables},
+                              capture_output=True, text=True, check=False)
         return done.returncode, done.stdout.splitlines()
 
     def test_alone_it_takes_preset_ci_and_the_changed_sources(self):
@@ -386,6 +388,12 @@ class test_script_test(tree_test):
         started = self.started.read_text()
         self.assertIn("check_tidy.py --jobs", started)
         self.assertNotIn("asan", started)
+
+    def test_the_clang_parts_are_left_out_on_demand_and_named(self):
+        lines = self.run_it("--all", KVT_WITHOUT_CLANG="1")[1]
+        self.assertEqual(lines[-1], "18 passed, 2 failed")
+        self.assertIn("./test: left out: clang-tidy over all sources, preset clang", lines)
+        self.assertNotIn("clang", self.started.read_text())
 
     def test_with_all_it_takes_the_sanitizers_and_the_other_compiler_too(self):
         status, lines = self.run_it("--all")
