@@ -1,6 +1,7 @@
 // What the calc_perf button waits for: Calculate Performance on whole designs, its routines, and
 // the whole chain.
 #include "app/files/project_commands.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
