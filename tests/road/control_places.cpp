@@ -14,6 +14,7 @@
 #include <QMenuBar>
 
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -52,7 +53,7 @@ void print_menus(kvt::MDIForm1& window) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     QApplication application(argc, argv);
     if (argc != 2) {
         std::fputs("usage: kvt_control_places SHARE_FOLDER\n", stderr);
@@ -72,4 +73,7 @@ int main(int argc, char** argv) {
     print_places(desktop.window());
     print_menus(desktop.window());
     return 0;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
 }

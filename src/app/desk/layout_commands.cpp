@@ -10,7 +10,8 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <ranges>
+#include <iterator>
+#include <vector>
 
 namespace kvt {
 
@@ -32,8 +33,10 @@ layout_reading read_layout_file(program& kavetta) {
 }
 
 /// The child windows that stand from the start.
-auto fixed_forms() {
-    return form_rows() | std::views::filter(is_fixed_child);
+std::vector<form_row> fixed_forms() {
+    std::vector<form_row> rows;
+    std::ranges::copy_if(form_rows(), std::back_inserter(rows), is_fixed_child);
+    return rows;
 }
 
 start_layout fixed_children() {

@@ -25,10 +25,6 @@
 #include <QStatusBar>
 #include <QUrl>
 
-#include <algorithm>
-#include <functional>
-#include <ranges>
-
 namespace kvt {
 
 namespace {
@@ -60,9 +56,10 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     statusBar()->setObjectName("status_bar");
     hints_ = new status_hints(context.kavetta, *statusBar());
     // The first form of the table comes last, on top of the others.
-    for (const form_row& form : std::views::reverse(form_rows())) {
-        if (is_fixed_child(form)) {
-            add_form(make_form(form.name, context), true);
+    const auto rows = form_rows();
+    for (auto form = rows.rbegin(); form != rows.rend(); ++form) {
+        if (is_fixed_child(*form)) {
+            add_form(make_form(form->name, context), true);
         }
     }
     connect(findChild<Form1*>(), &Form1::exit_asked, this, &MDIForm1::ask_exit);
@@ -137,16 +134,22 @@ void MDIForm1::place_child(const form_row& form) {
 }
 
 void MDIForm1::place_fixed_windows() {
-    std::ranges::for_each(form_rows() | std::views::filter(is_fixed_child),
-                          [this](const form_row& form) { place_child(form); });
+    for (const form_row& form : form_rows()) {
+        if (is_fixed_child(form)) {
+            place_child(form);
+        }
+    }
     // Once even when the size is the one that it had.
     findChild<viewwinfrm*>()->size_picture();
 }
 
 void MDIForm1::place_children() {
     place_fixed_windows();
-    std::ranges::for_each(form_rows() | std::views::filter(std::not_fn(is_fixed_child)),
-                          [this](const form_row& form) { place_child(form); });
+    for (const form_row& form : form_rows()) {
+        if (!is_fixed_child(form)) {
+            place_child(form);
+        }
+    }
 }
 
 void MDIForm1::place_itself() {

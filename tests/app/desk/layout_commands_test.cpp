@@ -5,7 +5,8 @@
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 
-#include <ranges>
+#include <algorithm>
+#include <iterator>
 #include <sys/stat.h>
 
 namespace kvt {
@@ -129,7 +130,8 @@ struct fitted : layout_commands_test {
                b.top < a.top + a.height;
     }
     void expect_side_by_side(layout_room room) const {
-        auto fixed = form_rows() | std::views::filter(is_fixed_child);
+        std::vector<form_row> fixed;
+        std::ranges::copy_if(form_rows(), std::back_inserter(fixed), is_fixed_child);
         for (const form_row& one : fixed) {
             const window_rectangle a = place(one.name);
             EXPECT_GE(a.left, 0.0F) << one.name;

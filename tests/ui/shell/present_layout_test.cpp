@@ -9,8 +9,6 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
-#include <ranges>
-
 namespace kvt {
 
 namespace {
@@ -42,8 +40,10 @@ class present_layout_test : public desktop_test {
     void expect_side_by_side() {
         const QRect room(QPoint(0, 0), find<QMdiArea>("")->maximumViewportSize());
         QList<QMdiSubWindow*> forms;
-        for (const form_row& row : form_rows() | std::views::filter(is_fixed_child)) {
-            forms.append(form(std::string(row.name).c_str()));
+        for (const form_row& row : form_rows()) {
+            if (is_fixed_child(row)) {
+                forms.append(form(std::string(row.name).c_str()));
+            }
         }
         for (const QMdiSubWindow* one : forms) {
             EXPECT_TRUE(one->isVisible()) << one->objectName().toStdString();
