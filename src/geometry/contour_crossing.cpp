@@ -8,10 +8,16 @@ namespace kvt {
 namespace {
 
 struct side {
-    point2 start, end;
+    side(point2 from, point2 to)
+        : start(from),
+          end(to),
+          left(std::min(from.x, to.x)),
+          right(std::max(from.x, to.x)),
+          low(std::min(from.y, to.y)),
+          high(std::max(from.y, to.y)) {}
 
-    double left() const { return std::min(start.x, end.x); }
-    double right() const { return std::max(start.x, end.x); }
+    point2 start, end;
+    double left, right, low, high;
 };
 
 double turn(point2 a, point2 b, point2 c) {
@@ -24,8 +30,9 @@ bool lie_apart(const side& line, const side& other) {
     return (from > 0.0 && to < 0.0) || (from < 0.0 && to > 0.0);
 }
 
+/// A glance at the heights is enough for most sides.
 bool cross(const side& a, const side& b) {
-    return lie_apart(a, b) && lie_apart(b, a);
+    return a.low <= b.high && b.low <= a.high && lie_apart(a, b) && lie_apart(b, a);
 }
 
 }  // namespace
@@ -33,13 +40,14 @@ bool cross(const side& a, const side& b) {
 bool crosses_itself(std::vector<point2> contour) {
     contour.erase(std::ranges::unique(contour).begin(), contour.end());
     std::vector<side> sides;
+    sides.reserve(contour.size());
     for (std::size_t i = 0; i < contour.size(); ++i) {
-        sides.push_back({contour[i], contour[(i + 1) % contour.size()]});
+        sides.emplace_back(contour[i], contour[(i + 1) % contour.size()]);
     }
     // From left to right: only sides that begin before a side ends can cross it.
     std::ranges::sort(sides, {}, &side::left);
     for (std::size_t i = 0; i < sides.size(); ++i) {
-        for (std::size_t k = i + 1; k < sides.size() && sides[k].left() <= sides[i].right(); ++k) {
+        for (std::size_t k = i + 1; k < sides.size() && sides[k].left <= sides[i].right; ++k) {
             if (cross(sides[i], sides[k])) {
                 return true;
             }

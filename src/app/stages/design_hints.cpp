@@ -6,6 +6,7 @@
 #include "core/text_table.hpp"
 #include "geometry/contour_crossing.hpp"
 #include "geometry/outer_flank.hpp"
+#include "output/cnc/tool_contour.hpp"
 #include "output/outer_path.hpp"
 #include "ports/groove_check.hpp"
 
@@ -16,9 +17,6 @@ namespace kvt {
 
 namespace {
 
-/// Arcs that miss each other by more than this are told, mm.
-constexpr double TOLD_GAP_MM = 0.001;
-
 std::string text_of(const program& kavetta, message id) {
     return std::string(message_text(id, kavetta.app_state.language));
 }
@@ -26,6 +24,7 @@ std::string text_of(const program& kavetta, message id) {
 /// Points 0 .. last of a profile.
 std::vector<point2> profile_points(const zeroed_array& x, const zeroed_array& y, std::size_t last) {
     std::vector<point2> points;
+    points.reserve(last + 1);
     for (std::size_t i = 0; i <= last; ++i) {
         points.push_back({x[i], y[i]});
     }
@@ -38,7 +37,7 @@ void note_joints(program& kavetta) {
         add_hint(kavetta.hints, text_of(kavetta, message::hint_fillets_beyond_lobes));
     }
     const double gap = largest_gap(outer_rotor_path(design));
-    if (gap > TOLD_GAP_MM) {
+    if (gap > CONTOUR_TOLERANCE_MM) {
         add_hint(kavetta.hints, text_of(kavetta, message::hint_arcs_apart) + fixed_number(gap, 3));
     }
 }
