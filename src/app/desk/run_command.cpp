@@ -30,6 +30,17 @@ std::string fatal_text(const program& kavetta, const run_time_error& error,
     return told;
 }
 
+/// Saves the entries, tells the failure, and answers whether the user ends the program.
+bool is_ended(const program& kavetta, user& person, const run_time_error& error) {
+    const std::filesystem::path recovery = save_recovery(kavetta);
+    person.set_busy(false);
+    if (!person.ask_to_go_on(fatal_text(kavetta, error, recovery))) {
+        return true;
+    }
+    person.unload_form("progressfrm");
+    return false;
+}
+
 }  // namespace
 
 bool run_command(program& kavetta, user& person, const std::function<bool()>& command) {
@@ -37,16 +48,30 @@ bool run_command(program& kavetta, user& person, const std::function<bool()>& co
     try {
         return command();
     } catch (const run_time_error& error) {
-        const std::filesystem::path recovery = save_recovery(kavetta);
-        person.set_busy(false);
-        if (!person.ask_to_go_on(fatal_text(kavetta, error, recovery))) {
+        if (is_ended(kavetta, person, error)) {
             return true;
         }
-        person.unload_form("progressfrm");
         before.hints = std::move(kavetta.hints);
         kavetta = std::move(before);
         return false;
     }
+}
+
+bool run_view_step(program& kavetta, user& person, const std::function<void()>& step) {
+    view_state state = kavetta.view_state;
+    design_view view = kavetta.design_view;
+    std::string angle = kavetta.entries.rotated_angle;
+    try {
+        step();
+    } catch (const run_time_error& error) {
+        if (is_ended(kavetta, person, error)) {
+            return true;
+        }
+        kavetta.view_state = state;
+        kavetta.design_view = std::move(view);
+        kavetta.entries.rotated_angle = std::move(angle);
+    }
+    return false;
 }
 
 }  // namespace kvt

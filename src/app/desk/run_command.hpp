@@ -15,4 +15,8 @@ struct program;
 /// they were before the command; the hints that led there stay.
 bool run_command(program& kavetta, user& person, const std::function<bool()>& command);
 
+/// The same for a step of the Design view, many a second, which changes nothing but what is seen:
+/// view_state, design_view and rotated_angle. Only these are kept and taken back.
+bool run_view_step(program& kavetta, user& person, const std::function<void()>& step);
+
 }  // namespace kvt

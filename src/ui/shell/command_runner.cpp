@@ -77,10 +77,9 @@ bool command_runner::step(const std::function<void(program&)>& action) {
     }
     running_ = true;
     bool is_done = false;
-    ended_ = run_command(program_, person_, [&] {
+    ended_ = run_view_step(program_, person_, [&] {
         action(program_);
         is_done = true;
-        return false;
     });
     running_ = false;
     if (!is_done) {
