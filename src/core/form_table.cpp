@@ -77,10 +77,23 @@ constexpr std::array FORM_ROWS = {
 
 static_assert(FORM_ROWS.size() == FORM_COUNT);
 
+constexpr std::size_t FIXED_COUNT = 5;
+
+constexpr bool is_fixed_child(const form_row& form) {
+    return form.kind == child && form.life == whole_run;
+}
+
+static_assert(std::ranges::is_partitioned(FORM_ROWS, is_fixed_child) &&
+              std::ranges::count_if(FORM_ROWS, is_fixed_child) == FIXED_COUNT);
+
 }  // namespace
 
 std::span<const form_row> form_rows() {
     return FORM_ROWS;
+}
+
+std::span<const form_row> fixed_child_rows() {
+    return form_rows().first(FIXED_COUNT);
 }
 
 const form_row* find_form(std::string_view name) {
@@ -90,10 +103,6 @@ const form_row* find_form(std::string_view name) {
 
 bool is_closed_by(const form_row& form, form_closer closer) {
     return (static_cast<unsigned>(form.closed_by) & static_cast<unsigned>(closer)) != 0;
-}
-
-bool is_fixed_child(const form_row& form) {
-    return form.kind == form_kind::child && form.life == form_life::whole_run;
 }
 
 }  // namespace kvt

@@ -69,13 +69,13 @@ std::span<const form_row> form_rows();
 
 inline constexpr std::size_t FORM_COUNT = 24;
 
+/// The child windows that stand from the start to the end: the first rows.
+std::span<const form_row> fixed_child_rows();
+
 /// The row of a form; nullptr for a name that is none.
 const form_row* find_form(std::string_view name);
 
 /// Whether something closes a form.
 bool is_closed_by(const form_row& form, form_closer closer);
-
-/// Whether it is one of the child windows that stand from the start to the end.
-bool is_fixed_child(const form_row& form);
 
 }  // namespace kvt

@@ -23,22 +23,11 @@ void write_block(text_lines& file, std::string_view heading, const window_rectan
     file.line("");
 }
 
-/// The five child windows that always have a block, in the order of the file.
-std::vector<const form_row*> fixed_blocks() {
-    std::vector<const form_row*> rows;
-    for (const form_row& form : form_rows()) {
-        if (is_fixed_child(form)) {
-            rows.push_back(&form);
-        }
-    }
-    return rows;
-}
-
 /// The windows that have a block while they are there, in the order of the file.
 std::vector<const form_row*> optional_blocks() {
     std::vector<const form_row*> rows;
-    for (const form_row& form : form_rows()) {
-        if (!form.heading.empty() && !is_fixed_child(form)) {
+    for (const form_row& form : form_rows().subspan(fixed_child_rows().size())) {
+        if (!form.heading.empty()) {
             rows.push_back(&form);
         }
     }
@@ -119,8 +108,8 @@ void read_optional_blocks(layout_lines& lines, window_rectangles& rectangles) {
 
 std::string write_layout(const window_rectangles& windows) {
     text_lines file;
-    for (const form_row* block : fixed_blocks()) {
-        write_block(file, block->heading, windows.of(block->name).value_or(window_rectangle()));
+    for (const form_row& block : fixed_child_rows()) {
+        write_block(file, block.heading, windows.of(block.name).value_or(window_rectangle()));
     }
     for (const form_row* block : optional_blocks()) {
         if (const auto& window = windows.of(block->name)) {
@@ -140,9 +129,9 @@ layout_reading read_layout(std::string_view bytes, window_rectangles& rectangles
     rectangles.main_window_maximised = true;
     try {
         layout_lines lines(bytes);
-        for (const form_row* block : fixed_blocks()) {
+        for (const form_row& block : fixed_child_rows()) {
             lines.next();
-            read_numbers(lines, *block, rectangles);
+            read_numbers(lines, block, rectangles);
         }
         read_optional_blocks(lines, rectangles);
     } catch (const run_time_error&) {
@@ -157,8 +146,8 @@ layout_reading read_layout(std::string_view bytes, window_rectangles& rectangles
 void set_sizes_after_failure(window_rectangles& rectangles) {
     std::optional<window_rectangle>& design = rectangles.of("Form1");
     const window_rectangle stored = design.value_or(window_rectangle());
-    for (const form_row* block : fixed_blocks()) {
-        rectangles.of(block->name) = block->rectangle;
+    for (const form_row& block : fixed_child_rows()) {
+        rectangles.of(block.name) = block.rectangle;
     }
     design->top = stored.top;
     design->left = stored.left;

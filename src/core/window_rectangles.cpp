@@ -51,11 +51,9 @@ float inside(float place, float window_length, float start, float length) {
 
 window_rectangle built_in_area() {
     window_rectangle area;
-    for (const form_row& form : form_rows()) {
-        if (is_fixed_child(form)) {
-            area.height = std::max(area.height, form.rectangle.top + form.rectangle.height);
-            area.width = std::max(area.width, form.rectangle.left + form.rectangle.width);
-        }
+    for (const form_row& form : fixed_child_rows()) {
+        area.height = std::max(area.height, form.rectangle.top + form.rectangle.height);
+        area.width = std::max(area.width, form.rectangle.left + form.rectangle.width);
     }
     return area;
 }
@@ -82,10 +80,8 @@ window_rectangle moved_onto(const window_rectangle& window,
 }
 
 window_rectangles::window_rectangles() {
-    for (const form_row& form : form_rows()) {
-        if (is_fixed_child(form)) {
-            of(form.name) = form.rectangle;
-        }
+    for (const form_row& form : fixed_child_rows()) {
+        of(form.name) = form.rectangle;
     }
 }
 

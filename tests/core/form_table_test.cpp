@@ -111,11 +111,21 @@ TEST(form_table, has_a_title_in_the_table_of_texts_for_each_form_with_a_caption)
     }
 }
 
+TEST(form_table, begins_with_the_child_windows_that_stand_from_the_start) {
+    const std::vector<std::string_view> names = {"Form1", "portdes", "viewwinfrm", "Perffrm",
+                                                 "select_graphs"};
+    ASSERT_EQ(fixed_child_rows().size(), names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(fixed_child_rows()[i].name, names[i]);
+        EXPECT_EQ(&fixed_child_rows()[i], &form_rows()[i]);
+    }
+}
+
 TEST(form_table, has_a_place_for_every_window_that_the_layout_puts_somewhere) {
     for (const form_row& form : form_rows()) {
         const bool is_chart = form.name.ends_with("_graphview2");
-        EXPECT_EQ(form.rectangle != window_rectangle(), is_fixed_child(form) || is_chart)
-            << form.name;
+        const bool is_fixed = form.kind == form_kind::child && form.life == form_life::whole_run;
+        EXPECT_EQ(form.rectangle != window_rectangle(), is_fixed || is_chart) << form.name;
         EXPECT_TRUE(form.rectangle == window_rectangle() || !form.heading.empty()) << form.name;
     }
     EXPECT_EQ(find_form("OVREFF_graphview2")->rectangle,

@@ -10,8 +10,6 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <iterator>
-#include <vector>
 
 namespace kvt {
 
@@ -33,15 +31,9 @@ layout_reading read_layout_file(program& kavetta) {
 }
 
 /// The child windows that stand from the start.
-std::vector<form_row> fixed_forms() {
-    std::vector<form_row> rows;
-    std::ranges::copy_if(form_rows(), std::back_inserter(rows), is_fixed_child);
-    return rows;
-}
-
 start_layout fixed_children() {
     start_layout layout;
-    for (const form_row& form : fixed_forms()) {
+    for (const form_row& form : fixed_child_rows()) {
         layout.shown.push_back(form.name);
     }
     return layout;
@@ -84,7 +76,7 @@ window_rectangles fitted_rectangles(layout_room room) {
 }
 
 bool fits(const window_rectangles& layout, layout_room room) {
-    return std::ranges::all_of(fixed_forms(), [&](const form_row& form) {
+    return std::ranges::all_of(fixed_child_rows(), [&](const form_row& form) {
         const auto& window = layout.of(form.name);
         return window->left + window->width <= room.width &&
                window->top + window->height <= room.height;
@@ -92,7 +84,7 @@ bool fits(const window_rectangles& layout, layout_room room) {
 }
 
 void take_over(program& kavetta, const window_rectangles& layout) {
-    for (const form_row& form : fixed_forms()) {
+    for (const form_row& form : fixed_child_rows()) {
         kavetta.window_rectangles.of(form.name) = layout.of(form.name);
     }
 }
@@ -129,7 +121,7 @@ void forget_explanation(program& kavetta, std::string_view form) {
 
 void fit_layout(program& kavetta, user& person, layout_room room) {
     take_over(kavetta, fitted_rectangles(room));
-    for (const form_row& form : fixed_forms()) {
+    for (const form_row& form : fixed_child_rows()) {
         person.show_form(form.name);
     }
 }
@@ -153,7 +145,7 @@ void save_layout(program& kavetta, user& person, window_rectangles windows) {
 void restore_default_layout(program& kavetta, user& person) {
     const window_rectangles built_in;
     take_over(kavetta, built_in);
-    for (const form_row& form : fixed_forms()) {
+    for (const form_row& form : fixed_child_rows()) {
         person.show_form(form.name);
     }
     kavetta.window_rectangles.main_window_maximised = true;

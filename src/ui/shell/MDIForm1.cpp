@@ -56,11 +56,9 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     statusBar()->setObjectName("status_bar");
     hints_ = new status_hints(context.kavetta, *statusBar());
     // The first form of the table comes last, on top of the others.
-    const auto rows = form_rows();
+    const auto rows = fixed_child_rows();
     for (auto form = rows.rbegin(); form != rows.rend(); ++form) {
-        if (is_fixed_child(*form)) {
-            add_form(make_form(form->name, context), true);
-        }
+        add_form(make_form(form->name, context), true);
     }
     connect(findChild<Form1*>(), &Form1::exit_asked, this, &MDIForm1::ask_exit);
     connect(findChild<viewwinfrm*>(), &viewwinfrm::cursor_moved, hints_,
@@ -134,10 +132,8 @@ void MDIForm1::place_child(const form_row& form) {
 }
 
 void MDIForm1::place_fixed_windows() {
-    for (const form_row& form : form_rows()) {
-        if (is_fixed_child(form)) {
-            place_child(form);
-        }
+    for (const form_row& form : fixed_child_rows()) {
+        place_child(form);
     }
     // Once even when the size is the one that it had.
     findChild<viewwinfrm*>()->size_picture();
@@ -145,10 +141,8 @@ void MDIForm1::place_fixed_windows() {
 
 void MDIForm1::place_children() {
     place_fixed_windows();
-    for (const form_row& form : form_rows()) {
-        if (!is_fixed_child(form)) {
-            place_child(form);
-        }
+    for (const form_row& form : form_rows().subspan(fixed_child_rows().size())) {
+        place_child(form);
     }
 }
 

@@ -20,10 +20,8 @@ constexpr auto RESULTS = "perf_res";
 window_menu::window_menu(form_context context, QMainWindow& window)
     : QObject(&window), context_(context) {
     auto* menu = window.findChild<QMenu*>("mnuwindow");
-    for (const form_row& row : form_rows()) {
-        if (is_fixed_child(row)) {
-            add_entry(*menu, qt_text(row.name));
-        }
+    for (const form_row& row : fixed_child_rows()) {
+        add_entry(*menu, qt_text(row.name));
     }
     add_entry(*menu, RESULTS);
 }

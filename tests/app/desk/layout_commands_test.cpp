@@ -5,8 +5,6 @@
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 
-#include <algorithm>
-#include <iterator>
 #include <sys/stat.h>
 
 namespace kvt {
@@ -130,8 +128,7 @@ struct fitted : layout_commands_test {
                b.top < a.top + a.height;
     }
     void expect_side_by_side(layout_room room) const {
-        std::vector<form_row> fixed;
-        std::ranges::copy_if(form_rows(), std::back_inserter(fixed), is_fixed_child);
+        const auto fixed = fixed_child_rows();
         for (const form_row& one : fixed) {
             const window_rectangle a = place(one.name);
             EXPECT_GE(a.left, 0.0F) << one.name;

@@ -40,10 +40,8 @@ class present_layout_test : public desktop_test {
     void expect_side_by_side() {
         const QRect room(QPoint(0, 0), find<QMdiArea>("")->maximumViewportSize());
         QList<QMdiSubWindow*> forms;
-        for (const form_row& row : form_rows()) {
-            if (is_fixed_child(row)) {
-                forms.append(form(std::string(row.name).c_str()));
-            }
+        for (const form_row& row : fixed_child_rows()) {
+            forms.append(form(std::string(row.name).c_str()));
         }
         for (const QMdiSubWindow* one : forms) {
             EXPECT_TRUE(one->isVisible()) << one->objectName().toStdString();
