@@ -29,14 +29,19 @@ point2 nearest_on(const circle_arc& arc, point2 point) {
     return distance(point, end) < distance(point, start) ? end : start;
 }
 
-point2 nearest_on_line(point2 start, point2 end, point2 point) {
+double nearest_share(point2 start, point2 end, point2 point) {
     const point2 along = difference(end, start);
     const point2 to = difference(point, start);
     const double length_squared = along.x * along.x + along.y * along.y;
     if (length_squared == 0.0) {
-        return start;
+        return 0.0;
     }
-    const double share = std::clamp((to.x * along.x + to.y * along.y) / length_squared, 0.0, 1.0);
+    return std::clamp((to.x * along.x + to.y * along.y) / length_squared, 0.0, 1.0);
+}
+
+point2 nearest_on_line(point2 start, point2 end, point2 point) {
+    const point2 along = difference(end, start);
+    const double share = nearest_share(start, end, point);
     return {start.x + share * along.x, start.y + share * along.y};
 }
 

@@ -26,6 +26,10 @@ struct circle {
 /// arc, else the nearer end. For the centre itself the middle of the arc.
 point2 nearest_on(const circle_arc& arc, point2 point);
 
+/// Where on the straight line between two ends the point lies that is nearest to a point, as a
+/// share of the way from its start, 0 .. 1; 0 on a line without length.
+double nearest_share(point2 start, point2 end, point2 point);
+
 /// The point of the straight line between two ends that lies nearest to a point.
 point2 nearest_on_line(point2 start, point2 end, point2 point);
 

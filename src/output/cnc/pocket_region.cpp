@@ -1,6 +1,7 @@
 #include "output/cnc/pocket_region.hpp"
 
 #include "base/checked_math.hpp"
+#include "geometry/circle_arc.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -16,10 +17,6 @@ double cross(point2 a, point2 b) {
     return a.x * b.y - a.y * b.x;
 }
 
-point2 minus(point2 a, point2 b) {
-    return {a.x - b.x, a.y - b.y};
-}
-
 double twice_signed_area(const std::vector<point2>& outline) {
     double area = 0.0;
     for (std::size_t i = 0; i < outline.size(); ++i) {
@@ -29,10 +26,12 @@ double twice_signed_area(const std::vector<point2>& outline) {
 }
 
 bool segments_cross(point2 a, point2 b, point2 c, point2 d) {
-    const point2 ab = minus(b, a);
-    const point2 cd = minus(d, c);
-    const bool c_d_apart = (cross(ab, minus(c, a)) > 0.0) != (cross(ab, minus(d, a)) > 0.0);
-    const bool a_b_apart = (cross(cd, minus(a, c)) > 0.0) != (cross(cd, minus(b, c)) > 0.0);
+    const point2 ab = difference(b, a);
+    const point2 cd = difference(d, c);
+    const bool c_d_apart =
+        (cross(ab, difference(c, a)) > 0.0) != (cross(ab, difference(d, a)) > 0.0);
+    const bool a_b_apart =
+        (cross(cd, difference(a, c)) > 0.0) != (cross(cd, difference(b, c)) > 0.0);
     return c_d_apart && a_b_apart;
 }
 
@@ -56,13 +55,9 @@ point2 highest(point2 a, point2 b) {
 }  // namespace
 
 double segment_distance(point2 point, point2 start, point2 end) {
-    const point2 along = minus(end, start);
-    const double length_squared = along.x * along.x + along.y * along.y;
-    const point2 to = minus(point, start);
-    double t = 0.0;
-    if (length_squared > 0.0) {
-        t = std::clamp((to.x * along.x + to.y * along.y) / length_squared, 0.0, 1.0);
-    }
+    const point2 along = difference(end, start);
+    const point2 to = difference(point, start);
+    const double t = nearest_share(start, end, point);
     return std::hypot(to.x - t * along.x, to.y - t * along.y);
 }
 
