@@ -6,6 +6,10 @@
 
 namespace kvt {
 
+/// Flags of a file dialog.
+inline constexpr int OVERWRITE_PROMPT = 2;  ///< a save dialog asks before a file is overwritten
+inline constexpr int HIDE_READ_ONLY = 4;    ///< an open dialog has no read-only box
+
 /// What a file dialog shall show. Texts are UTF-8.
 struct file_dialog {
     bool saving = false;
@@ -15,7 +19,7 @@ struct file_dialog {
     int filter_index = 2;           ///< 1-based
     std::string default_extension;  ///< without the point
     std::string file_name;          ///< initial file name
-    int flags = 0;                  ///< 4 hides the read-only box, 2 asks before overwriting
+    int flags = 0;                  ///< OVERWRITE_PROMPT, HIDE_READ_ONLY
 };
 
 class file_chooser {

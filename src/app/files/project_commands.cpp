@@ -23,10 +23,6 @@ namespace kvt {
 
 namespace {
 
-/// Values of the dialog's flags: hide the read-only box; ask before overwriting.
-constexpr int HIDE_READ_ONLY = 4;
-constexpr int OVERWRITE_PROMPT = 2;
-
 file_dialog project_dialog(const program& kavetta, message title_end) {
     const std::int16_t language = kavetta.app_state.language;
     file_dialog dialog;

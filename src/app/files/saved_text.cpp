@@ -11,9 +11,6 @@ namespace kvt {
 
 namespace {
 
-/// Value of the dialog's flags: ask before overwriting.
-constexpr int OVERWRITE_PROMPT = 2;
-
 std::string outcome_line(const std::string& path, const std::optional<text_failure>& failed,
                          std::int16_t language) {
     const auto text = [language](message id) { return std::string(message_text(id, language)); };

@@ -15,9 +15,6 @@ namespace kvt {
 
 namespace {
 
-/// The flag with which a save dialog asks before a file is overwritten.
-constexpr int OVERWRITE_PROMPT = 2;
-
 QString name_pattern(const QString& pattern) {
     if (pattern == "*.*") {
         return "*";
