@@ -28,6 +28,16 @@ inline constexpr double US_GALLONS_PER_LITRE = 0.26417;
 /// Watts of one kW and of one horsepower.
 inline constexpr double WATTS_PER_KILOWATT = 1000.0;
 inline constexpr double WATTS_PER_HORSEPOWER = 746.0;
+/// Psi in one MPa, and in one ksi; KSI_MPA is the factor of the entries.
+inline constexpr double PSI_PER_MPA = 145.04;
+inline constexpr double PSI_PER_KSI = 1000.0;
+/// Foot-pounds in one N m.
+inline constexpr double FOOT_POUNDS_PER_NM = 0.7376;
+/// Millimetres in one metre and in one foot.
+inline constexpr double MM_PER_METRE = 1000.0;
+inline constexpr double MM_PER_FOOT = 304.8;
+/// Litres a degree in one m3 a step of the ripple model, 0.1 degree.
+inline constexpr double LITRES_DEGREE_PER_M3_STEP = 10000.0;
 /// So many pounds are so many newtons of side load.
 inline constexpr double SIDE_LOAD_POUNDS = 2.2;
 inline constexpr double SIDE_LOAD_NEWTONS = 9.81;

@@ -47,20 +47,61 @@ constexpr shown_number in_table(double times, double over = 1.0, double then = 1
 constexpr shown_number NUMBER = {};
 constexpr shown_number PERCENTAGE = in_table(100.0);
 
+constexpr shown_number LITRES_MINUTE = {.times = LITRES_MINUTE_PER_M3S};
+constexpr shown_number GALLONS_MINUTE = {.times = LITRES_MINUTE_PER_M3S,
+                                         .then = US_GALLONS_PER_LITRE};
+constexpr shown_number HORSEPOWER = {.over = WATTS_PER_HORSEPOWER};
+constexpr shown_number KSI = {.times = PSI_PER_MPA, .over = PSI_PER_KSI};
+constexpr shown_number BAR = {.over = BAR_PA};
+constexpr shown_number PSI = {.over = BAR_PA, .then = PSI_PER_BAR};
+constexpr shown_number PER_CENT = {.times = 100.0};
+
 // The uses, a list a result.
 constexpr std::array PRESSURES = {
-    result_use{summary, 0, "grid_axes", in_table(1.0, BAR_PA), in_table(1.0, BAR_PA, PSI_PER_BAR)}};
-constexpr std::array SPEEDS = {result_use{summary, 0, "grid_axes", in_table(1.0)}};
+    result_use{summary, 0, "grid_axes", in_table(1.0, BAR_PA), in_table(1.0, BAR_PA, PSI_PER_BAR)},
+    result_use{chart, 0, "pressure", BAR, PSI},
+    // Kept: the files multiply first; that reaches the last digit. Here stands the pascal, not the
+    // bar; result_quantities_test holds both.
+    result_use{data, 2, "pressure", NUMBER, {.times = PSI_PER_BAR, .over = BAR_PA}}};
+constexpr std::array SPEEDS = {result_use{summary, 0, "grid_axes", in_table(1.0)},
+                               result_use{chart, 0, "speed", NUMBER},
+                               result_use{data, 1, "speed", NUMBER}};
 constexpr std::array FLOW = {result_use{summary, 1, "flow", in_table(LITRES_MINUTE_PER_M3S),
-                                        in_table(LITRES_MINUTE_PER_M3S* US_GALLONS_PER_LITRE)}};
-constexpr std::array VOL_EFF = {result_use{summary, 2, "vol_eff", PERCENTAGE}};
-constexpr std::array MECH_EFF = {result_use{summary, 3, "mech_eff", PERCENTAGE}};
-constexpr std::array OVERALL_EFF = {result_use{summary, 4, "overall_eff", PERCENTAGE}};
-constexpr std::array DRIVE_POWER = {result_use{summary, 5, "drive_power",
-                                               in_table(1.0 / WATTS_PER_KILOWATT),
-                                               in_table(1.0, WATTS_PER_HORSEPOWER)}};
+                                        in_table(LITRES_MINUTE_PER_M3S* US_GALLONS_PER_LITRE)},
+                             result_use{chart, 1, "flow", LITRES_MINUTE, GALLONS_MINUTE},
+                             result_use{data, 3, "flow", LITRES_MINUTE, GALLONS_MINUTE}};
+constexpr std::array VOL_EFF = {result_use{summary, 2, "vol_eff", PERCENTAGE},
+                                result_use{chart, 5, "ve", NUMBER},
+                                result_use{data, 6, "vol_eff", PER_CENT}};
+constexpr std::array MECH_EFF = {result_use{summary, 3, "mech_eff", PERCENTAGE},
+                                 result_use{chart, 6, "mech", NUMBER},
+                                 result_use{data, 7, "mech_eff", PER_CENT}};
+constexpr std::array OVERALL_EFF = {result_use{summary, 4, "overall_eff", PERCENTAGE},
+                                    result_use{chart, 7, "overall", NUMBER},
+                                    result_use{data, 8, "overall_eff", PER_CENT}};
+constexpr std::array DRIVE_POWER = {
+    result_use{summary, 5, "drive_power", in_table(1.0 / WATTS_PER_KILOWATT),
+               in_table(1.0, WATTS_PER_HORSEPOWER)},
+    result_use{chart, 2, "power", {.over = WATTS_PER_KILOWATT}, HORSEPOWER},
+    result_use{data, 5, "power", NUMBER, HORSEPOWER}};
+constexpr std::array DRIVE_TORQUE = {
+    result_use{data, 4, "torque", NUMBER, {.times = FOOT_POUNDS_PER_NM}}};
 constexpr std::array LARGEST_STRESS = {
     result_use{summary, 6, "hertz_stress", in_table(1.0), in_table(1.0 / KSI_MPA)}};
+constexpr std::array STRESS = {result_use{chart, 3, "stress", NUMBER, KSI},
+                               result_use{data, 13, "stress", NUMBER, KSI}};
+constexpr std::array CONTACT_FORCE = {
+    result_use{data, 12, "force", NUMBER, {.times = SIDE_LOAD_POUNDS, .over = SIDE_LOAD_NEWTONS}}};
+constexpr std::array SLIDING = {
+    result_use{data, 11, "sliding", {.over = MM_PER_METRE}, {.over = MM_PER_FOOT}}};
+constexpr std::array CHAMBER_RATE = {
+    result_use{data,
+               9,
+               "rate",
+               {.times = LITRES_DEGREE_PER_M3_STEP},
+               {.times = LITRES_DEGREE_PER_M3_STEP, .then = US_GALLONS_PER_LITRE}}};
+constexpr std::array RIPPLE = {result_use{chart, 4, "ripple", BAR, PSI},
+                               result_use{data, 10, "ripple", BAR, PSI}};
 constexpr std::array SIDE_LOAD = {result_use{summary, 7, "side_load", in_table(1.0),
                                              in_table(SIDE_LOAD_POUNDS / SIDE_LOAD_NEWTONS)}};
 constexpr std::array MAX_SPEED = {
@@ -114,9 +155,9 @@ constexpr std::size_t STEPS_OF_A_TURN = RIPPLE_STEPS;
     result_quantity {                                                          \
 #field, source{&perf_results::field }, part __VA_OPT__(, ) __VA_ARGS__ \
     }
-#define KVT_ANGLE_ARRAY(field, used_count)                           \
-    result_quantity {                                                \
-#field, angle_array{&perf_results::field, used_count }, full \
+#define KVT_ANGLE_ARRAY(field, used_count, ...)                                                 \
+    result_quantity {                                                                           \
+#field, angle_array{&perf_results::field, used_count }, full __VA_OPT__(, ) __VA_ARGS__ \
     }
 
 constexpr result_quantity QUANTITIES[] = {
@@ -213,14 +254,14 @@ constexpr result_quantity QUANTITIES[] = {
     KVT_RESULT(hyd_torque, result_grid, brief),
     KVT_RESULT(friction_power, result_grid, brief),
     KVT_RESULT(drive_power, result_grid, brief, DRIVE_POWER),
-    KVT_RESULT(drive_torque, result_grid, brief),
+    KVT_RESULT(drive_torque, result_grid, brief, DRIVE_TORQUE),
     KVT_RESULT(mech_eff, result_grid, brief, MECH_EFF),
     KVT_RESULT(overall_eff, result_grid, brief, OVERALL_EFF),
     KVT_RESULT(side_load, result_grid, brief, SIDE_LOAD),
     KVT_RESULT(side_load_angle, result_grid, brief),
 
-    KVT_ANGLE_ARRAY(chamber_rate, STEPS_OF_A_TURN),
-    KVT_ANGLE_ARRAY(ripple_pressure, STEPS_OF_A_TURN),
+    KVT_ANGLE_ARRAY(chamber_rate, STEPS_OF_A_TURN, CHAMBER_RATE),
+    KVT_ANGLE_ARRAY(ripple_pressure, STEPS_OF_A_TURN, RIPPLE),
     KVT_ANGLE_ARRAY(contact_dist, WHOLE_TURN),
     KVT_ANGLE_ARRAY(pressure_angle, CONTACT_ANGLES),
     KVT_ANGLE_ARRAY(troch_curv_r, CONTACT_ANGLES),
@@ -230,9 +271,9 @@ constexpr result_quantity QUANTITIES[] = {
     KVT_ANGLE_ARRAY(side_y, CONTACT_ANGLES),
     KVT_ANGLE_ARRAY(side_mag, CONTACT_ANGLES),
     KVT_ANGLE_ARRAY(side_dir, CONTACT_ANGLES),
-    KVT_RESULT(sliding_velocity, speed_angles, full),
-    KVT_RESULT(contact_force, grid_angles, full),
-    KVT_RESULT(hertz_stress, grid_angles, full),
+    KVT_RESULT(sliding_velocity, speed_angles, full, SLIDING),
+    KVT_RESULT(contact_force, grid_angles, full, CONTACT_FORCE),
+    KVT_RESULT(hertz_stress, grid_angles, full, STRESS),
     KVT_RESULT(hertz_sliding, grid_angles, full),
 
     // What the places of use show, worked out of the fields.

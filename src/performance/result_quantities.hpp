@@ -44,7 +44,9 @@ using result_source =
 enum class result_place {
     summary,   ///< the tables of the batch program; the name is a caption with its unit
     perf_res,  ///< the result form; the name is that of the control
-    numbers    ///< the numbers of the JSON report, in the units of the records
+    numbers,   ///< the numbers of the JSON report, in the units of the records
+    chart,     ///< the result charts; the name is that of the chart, of an axis or of a legend
+    data       ///< the data files, the workbook and the result tables; the name is the column's
 };
 
 /// What happens to the digits behind the last one that is shown.

@@ -60,6 +60,11 @@ TEST(result_quantities, stand_at_each_place_in_its_order) {
     EXPECT_EQ(names_at(result_place::numbers),
               (names{"max_speed", "max_shaft_side_load", "side_load_direction", "max_cutter_inner",
                      "ripple_percent"}));
+    EXPECT_EQ(names_at(result_place::chart), (names{"pressure", "speed", "flow", "power", "stress",
+                                                    "ripple", "ve", "mech", "overall"}));
+    EXPECT_EQ(names_at(result_place::data),
+              (names{"speed", "pressure", "flow", "torque", "power", "vol_eff", "mech_eff",
+                     "overall_eff", "rate", "ripple", "sliding", "force", "stress"}));
     EXPECT_FALSE(result_at(result_place::numbers, "flow_m3s"));
 }
 
@@ -84,6 +89,37 @@ TEST(result_quantities, have_the_units_of_the_summary_in_three_decimals) {
     EXPECT_EQ(imperial("largest_stress", 689.47), 100.0);
     EXPECT_EQ(metric("side_load", 98.1), 98.1);
     EXPECT_EQ(imperial("side_load", 98.1), 22.0);
+}
+
+/// Exact: the values are written with all their digits, so that the order of operations counts.
+TEST(result_quantities, keep_the_order_of_operations_in_charts_and_data_files) {
+    const double value = 0.123456789;
+    const auto data = [&](std::string_view quantity, unit_system system) {
+        return shown(result_place::data, quantity, value, system);
+    };
+    const auto chart = [&](std::string_view quantity, unit_system system) {
+        return shown(result_place::chart, quantity, value, system);
+    };
+    using enum unit_system;
+    EXPECT_EQ(data("press_pa", metric), value);
+    EXPECT_EQ(data("press_pa", imperial), value * 14.5 / 101300.0);
+    EXPECT_EQ(chart("press_pa", imperial), value / 101300.0 * 14.5);
+    EXPECT_EQ(data("flow_m3s", imperial), value * 60000.0 * 0.26417);
+    EXPECT_EQ(chart("flow_m3s", imperial), value * 60000.0 * 0.26417);
+    EXPECT_EQ(data("drive_torque", imperial), value * 0.7376);
+    EXPECT_EQ(data("drive_power", metric), value);
+    EXPECT_EQ(chart("drive_power", metric), value / 1000.0);
+    EXPECT_EQ(data("drive_power", imperial), value / 746.0);
+    EXPECT_EQ(data("mech_eff", metric), value * 100.0);
+    EXPECT_EQ(chart("mech_eff", imperial), value);
+    EXPECT_EQ(data("chamber_rate", metric), value * 10000.0);
+    EXPECT_EQ(data("chamber_rate", imperial), value * 10000.0 * 0.26417);
+    EXPECT_EQ(data("ripple_pressure", imperial), value / 101300.0 * 14.5);
+    EXPECT_EQ(data("sliding_velocity", metric), value / 1000.0);
+    EXPECT_EQ(data("sliding_velocity", imperial), value / 304.8);
+    EXPECT_EQ(data("contact_force", imperial), value * 2.2 / 9.81);
+    EXPECT_EQ(data("hertz_stress", imperial), value * 145.04 / 1000.0);
+    EXPECT_EQ(chart("hertz_stress", metric), value);
 }
 
 TEST(result_quantities, have_the_digits_of_the_result_form) {
