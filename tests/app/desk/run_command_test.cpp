@@ -73,6 +73,26 @@ TEST_F(failed_command, a_command_without_a_failure_keeps_what_it_did) {
     EXPECT_EQ(kavetta.entries.ecc, "9");
 }
 
+TEST_F(failed_command, a_failed_step_of_the_view_brings_back_what_was_seen) {
+    calculate_profiles(kavetta, person);
+    const program before = kavetta;
+    person.going_on = {true};
+    const auto step = [&] {
+        kavetta.entries.rotated_angle = "41";
+        kavetta.view_state.rotation_angle += 0.5;
+        kavetta.design_view.Line1.clear();
+        checked_divide(1.0, 0.0);
+    };
+    EXPECT_FALSE(run_view_step(kavetta, person, step));
+    EXPECT_EQ(kavetta.entries.rotated_angle, before.entries.rotated_angle);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, before.view_state.rotation_angle);
+    EXPECT_EQ(kavetta.design_view.Line1.size(), before.design_view.Line1.size());
+    EXPECT_TRUE(run_view_step(kavetta, person, step));
+    EXPECT_EQ(kavetta.entries.rotated_angle, "41");
+    EXPECT_FALSE(run_view_step(kavetta, person, [&] { kavetta.entries.rotated_angle = "7"; }));
+    EXPECT_EQ(kavetta.entries.rotated_angle, "7");
+}
+
 TEST_F(run_command_test, saves_the_entries_tells_the_error_and_ends_the_program) {
     kavetta.entries.thick = "12,5";
     const bool ends = run_command(
