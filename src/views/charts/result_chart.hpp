@@ -1,0 +1,82 @@
+// result_chart: what a chart of the performance results says, in the language and units of the
+// moment it is made: its curves, the numbers beside its axes, its texts. Where all of that stands
+// is chart_drawing's. Source: docs/formulas/charts.md.
+#pragma once
+
+#include "core/length_unit.hpp"
+#include "performance/perf_results.hpp"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kvt {
+
+/// In the order in which the charts open.
+enum class chart_kind { flow, power, stress, ripple, ve, mech, overall };
+
+struct chart_row {
+    chart_kind kind;
+    std::string_view form;  ///< "FLOW_graphview2": its window, a row of the form table
+    std::string_view name;  ///< "flow": its use of result_place::chart, and its name in JSON
+};
+
+std::span<const chart_row> chart_rows();
+const chart_row& row_of(chart_kind kind);
+/// The row of a window, or nullptr.
+const chart_row* find_chart(std::string_view form);
+
+/// The colours of the curves by series, 1 .. 5 at index 0 .. 4; the one curve of the ripple has the
+/// first.
+struct chart_colour {
+    std::uint8_t red, green, blue;
+
+    friend bool operator==(const chart_colour&, const chart_colour&) = default;
+};
+chart_colour series_colour(int series);
+
+struct chart_curve {
+    int series = 1;              ///< 1 .. 5: its colour
+    std::string legend;          ///< "1600"; empty without a legend
+    std::string name;            ///< with its unit, for readers: "1600 rpm", "3.6 bar"
+    std::vector<double> values;  ///< in the units shown, one a point
+};
+
+/// A number beside an axis.
+struct chart_mark {
+    double share = 0.0;  ///< 0 .. 1 along the axis: from the left, from the bottom
+    std::string text;
+    std::string exact;  ///< the whole number with its unit where the text cuts it, else empty
+};
+
+struct result_chart {
+    chart_kind kind = chart_kind::flow;
+    std::string window_caption;  ///< English in both languages
+    std::string title;
+    std::string title_hint;  ///< tooltip of the title; the speed of the stress chart, else empty
+    std::string x_title;
+    std::string legend_caption;  ///< empty without a legend
+    std::string legend_hint;     ///< tooltip: which speed or pressure is not drawn
+    std::string file_ending;     ///< ". Pump Flow.bmp"
+
+    /// Point k of a curve stands at X1 + (X2 - X1) * (first_step + k) / steps.
+    int first_step = 0;
+    int steps = 5;
+    std::vector<double> x_values;  ///< what point k stands for, in the unit of the x axis
+    std::string x_unit, y_unit;    ///< "bar", "°", "Lit/min", "%"
+    double y_times = 1.0;  ///< 100 for an efficiency, whose values are ratios and are read in %
+
+    std::vector<chart_curve> curves;
+    double minimum = 0.0, maximum = 1.0;  ///< values at the ends of the y axis, maximum > minimum
+    std::vector<chart_mark> y_marks;      ///< from the bottom up
+    std::vector<chart_mark> x_marks;
+};
+
+/// A chart of the results as they stand; a copy, which later runs and changes of language or units
+/// do not touch.
+result_chart make_chart(chart_kind kind, const perf_results& results, std::int16_t language,
+                        unit_system system);
+
+}  // namespace kvt
