@@ -86,7 +86,7 @@ TEST_F(failed_command, a_failed_step_of_the_view_brings_back_what_was_seen) {
     EXPECT_FALSE(run_view_step(kavetta, person, step));
     EXPECT_EQ(kavetta.entries.rotated_angle, before.entries.rotated_angle);
     EXPECT_EQ(kavetta.view_state.rotation_angle, before.view_state.rotation_angle);
-    EXPECT_EQ(kavetta.design_view.Line1.size(), before.design_view.Line1.size());
+    EXPECT_EQ(kavetta.design_view.Line1.elements.size(), before.design_view.Line1.elements.size());
     EXPECT_TRUE(run_view_step(kavetta, person, step));
     EXPECT_EQ(kavetta.entries.rotated_angle, "41");
     EXPECT_FALSE(run_view_step(kavetta, person, [&] { kavetta.entries.rotated_angle = "7"; }));
