@@ -44,9 +44,10 @@ struct chart_curve {
     std::vector<double> values;  ///< in the units shown, one a point
 };
 
-/// A number beside an axis.
+/// A number beside an axis. Those of the x axis stand at equal distances from its left end to its
+/// right.
 struct chart_mark {
-    double share = 0.0;  ///< 0 .. 1 along the axis: from the left, from the bottom
+    double value = 0.0;  ///< where it stands on the y axis; what it stands for on the x axis
     std::string text;
     std::string exact;  ///< the whole number with its unit where the text cuts it, else empty
 };

@@ -1,0 +1,44 @@
+#include "views/charts/chart_csv.hpp"
+
+#include "base/number_text.hpp"
+
+#include <algorithm>
+
+namespace kvt {
+
+namespace {
+
+std::string number_with(double value, char decimal_mark) {
+    std::string text = number_text(value);
+    std::ranges::replace(text, '.', decimal_mark);
+    return text;
+}
+
+/// "Delivery Pressure (bar);1600 rpm (Lit/min);2000 rpm (Lit/min)"
+std::string heads(const result_chart& chart) {
+    std::string line = chart.x_title;
+    for (const chart_curve& curve : chart.curves) {
+        line += ";" + curve.name + " (" + chart.y_unit + ")";
+    }
+    return line;
+}
+
+/// Point k of every curve.
+std::string row_of_point(const result_chart& chart, std::size_t k, char decimal_mark) {
+    std::string line = number_with(chart.x_values[k], decimal_mark);
+    for (const chart_curve& curve : chart.curves) {
+        line += ";" + number_with(curve.values[k] * chart.y_times, decimal_mark);
+    }
+    return line;
+}
+
+}  // namespace
+
+void write_chart_csv(const result_chart& chart, char decimal_mark, text_lines& text) {
+    text.line(heads(chart));
+    for (std::size_t k = 0; k < chart.x_values.size(); ++k) {
+        text.line(row_of_point(chart, k, decimal_mark));
+    }
+}
+
+}  // namespace kvt
