@@ -4,6 +4,7 @@
 
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
+#include "base/percent_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 
@@ -136,6 +137,17 @@ constexpr std::array UNSAVED_NAMED_BOXES = {named_box{"UTS_value", &entries::UTS
                                             named_box{"Face_area_value", &entries::Face_area_value},
                                             named_box{"OD_area_value", &entries::OD_area_value}};
 constexpr std::string_view SESSION = "session";
+
+/// An item of the 59 lines that may hold letters outside the code page: then its whole text follows
+/// as a percent_text.
+struct named_item {
+    std::string_view name;
+    std::string project_record::*item;
+};
+
+constexpr std::array UNSAVED_NAMED_ITEMS = {
+    named_item{"whole_path", &project_record::project_path},
+    named_item{"whole_name", &project_record::project_name}};
 
 /// The shortest project ever written.
 constexpr std::size_t FEWEST_LINES = 23;
@@ -280,6 +292,11 @@ std::string write_unsaved(const unsaved_record& record) {
         write_named(file, named.name, record.project.boxes.*named.box);
     }
     write_named(file, SESSION, record.session);
+    for (const named_item& named : UNSAVED_NAMED_ITEMS) {
+        if (const std::string& text = record.project.*named.item; !fits_code_page(text)) {
+            write_named(file, named.name, percent_text(text));
+        }
+    }
     return file.bytes();
 }
 
@@ -301,6 +318,11 @@ unsaved_record read_unsaved(std::string_view bytes) {
         box = named_text(file, named.name).value_or(box);
     }
     record.session = named_text(file, SESSION).value_or("");
+    for (const named_item& named : UNSAVED_NAMED_ITEMS) {
+        if (const std::optional<std::string> text = named_text(file, named.name)) {
+            record.project.*named.item = text_of_percent(*text);
+        }
+    }
     return record;
 }
 

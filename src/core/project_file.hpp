@@ -44,7 +44,8 @@ struct unsaved_record {
 };
 
 /// Like write_project, with every box of the forms Form1, portdes and Perffrm and the session as
-/// named lines behind the 59. Throws like it.
+/// named lines behind the 59, and path and name once more where the code page lacks a letter of
+/// them. Throws like it.
 std::string write_unsaved(const unsaved_record& record);
 
 /// Reads what write_unsaved wrote, and every project file, leniently: each box comes back as it was

@@ -339,6 +339,18 @@ TEST(unsaved_entries, come_back_to_the_byte_with_every_box_as_it_was_typed) {
     }
 }
 
+TEST(unsaved_entries, keep_a_name_and_a_path_outside_the_code_page) {
+    unsaved_record record;
+    record.project.project_path = "/a/Насос.KVT";
+    record.project.project_name = "Насос 5%";
+    const std::string written = write_unsaved(record);
+    EXPECT_EQ(fits_code_page(record.project.project_name), false);
+    EXPECT_EQ(written.substr(0, 14), "/a/?????.KVT\r\n");
+    const unsaved_record again = read_unsaved(written);
+    EXPECT_EQ(again.project.project_path, "/a/Насос.KVT");
+    EXPECT_EQ(again.project.project_name, "Насос 5%");
+}
+
 TEST(unsaved_entries, are_a_project_of_59_lines_for_the_other_readers) {
     unsaved_record record;
     record.project = read_fixture("lines_59");
