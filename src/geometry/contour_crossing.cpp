@@ -38,7 +38,7 @@ bool cross(const side& a, const side& b) {
 }  // namespace
 
 bool crosses_itself(std::vector<point2> contour) {
-    contour.erase(std::ranges::unique(contour).begin(), contour.end());
+    contour.erase(std::unique(contour.begin(), contour.end()), contour.end());
     std::vector<side> sides;
     sides.reserve(contour.size());
     for (std::size_t i = 0; i < contour.size(); ++i) {
