@@ -130,8 +130,9 @@ std::span<const written_file> written_files() {
 }
 
 std::span<const written_file> files_of(file_group group) {
-    const auto [first, last] = std::ranges::equal_range(FILES, group, {}, &written_file::group);
-    return {first, last};
+    // Not equal_range: Clang 14 refuses the range that it answers.
+    return {std::ranges::lower_bound(FILES, group, {}, &written_file::group),
+            std::ranges::upper_bound(FILES, group, {}, &written_file::group)};
 }
 
 const written_file* find_file(file_group group, std::string_view name) {
