@@ -48,7 +48,8 @@ int mark_decimals(double step) {
 
 std::string rounded_text(double value, int decimals) {
     const double parts = std::pow(10.0, decimals);
-    return number_text(round_half_even(value * parts) / parts);
+    const double whole = number_of_text(number_text(value * parts));
+    return number_text(round_half_even(whole) / parts);
 }
 
 std::vector<chart_mark> computed_marks(double minimum, double maximum, std::string_view unit) {

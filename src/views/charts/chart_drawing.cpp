@@ -141,7 +141,8 @@ void add_y_markers(const result_chart& chart, const chart_axes& axes, double fx,
     const double left = Y_MARKER_LEFT * fx;
     const double width = axes.X1 - Y_MARKER_TO_AXIS - left;
     for (const chart_mark& mark : chart.y_marks) {
-        const double y = axes.y(mark.value);
+        // The formula may miss the end of the axis by its last digit.
+        const double y = mark.value == chart.maximum ? axes.y0 : axes.y(mark.value);
         drawing.yaxis_tickmark.push_back({axes.X1 - TICK_LENGTH, y, axes.X1, y});
         const chart_box box{left, floor_to_int(y) - Y_MARKER_RISE, width, LABEL_HEIGHT};
         drawing.yaxis_marker.push_back({box, mark.text, mark.exact, chart_alignment::right});

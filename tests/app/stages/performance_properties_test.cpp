@@ -6,8 +6,7 @@
 #include "app/stages/design_ports.hpp"
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"
-#include "support/property_runs.hpp"
-#include "support/scripted_user.hpp"
+#include "support/random_performance.hpp"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -18,10 +17,6 @@ namespace {
 
 constexpr int DESIGNS = 100;
 
-std::string text(double value) {
-    return number_text(std::round(value * 10000.0) / 10000.0);
-}
-
 /// A rotor pair up to about 75 mm across; most of them are accepted.
 void type_rotors(random_values& random, entries& boxes) {
     const int lobes = random.whole(3, 14);
@@ -30,32 +25,20 @@ void type_rotors(random_values& random, entries& boxes) {
     const double radouter = ecc * random.real(1.0, 6.0);
     const double radinnroot = ratio * lobes * ecc - radouter - ecc;
     boxes.numlobes = number_text(lobes);
-    boxes.ecc = text(ecc);
-    boxes.radouter = text(radouter);
-    boxes.radinnroot = text(radinnroot);
-    boxes.clearn = text(random.real(0.01, 0.2));
-    boxes.thick = text(random.real(4.0, 40.0));
-    boxes.shaftdiameter = text(radinnroot);
-    boxes.minmaterial = text(radinnroot / 2.0);
-    boxes.maxdiameter = text(2.1 * (radinnroot * 1.5 + 3.0 * ecc));
-    boxes.axial_clear = text(random.real(0.02, 0.15));
-    boxes.radial_clear = text(random.real(0.05, 0.3));
+    boxes.ecc = typed_number(ecc);
+    boxes.radouter = typed_number(radouter);
+    boxes.radinnroot = typed_number(radinnroot);
+    boxes.clearn = typed_number(random.real(0.01, 0.2));
+    boxes.thick = typed_number(random.real(4.0, 40.0));
+    boxes.shaftdiameter = typed_number(radinnroot);
+    boxes.minmaterial = typed_number(radinnroot / 2.0);
+    boxes.maxdiameter = typed_number(2.1 * (radinnroot * 1.5 + 3.0 * ecc));
+    boxes.axial_clear = typed_number(random.real(0.02, 0.15));
+    boxes.radial_clear = typed_number(random.real(0.05, 0.3));
 }
 
 void type_performance(random_values& random, entries& boxes) {
-    boxes.fluid_density = text(random.real(700.0, 1000.0));
-    boxes.kin_visc = text(random.real(2.0, 100.0));
-    boxes.vap_press = text(random.real(0.1, 50.0));
-    boxes.bulk_mod_text = text(random.real(0.8, 2.0));
-    const double speed = random.real(200.0, 2000.0);
-    boxes.speed_lo = text(speed);
-    boxes.speed_hi = text(speed + random.real(500.0, 5000.0));
-    const double pressure = random.real(0.5, 10.0);
-    boxes.pressure_lo = text(pressure);
-    boxes.pressure_hi = text(pressure + random.real(1.0, 100.0));
-    boxes.young_inner = boxes.young_outer = text(random.real(100.0, 220.0));
-    boxes.poissons_inner = boxes.poissons_outer = text(random.real(0.2, 0.35));
-    boxes.friction = text(random.real(0.02, 0.2));
+    type_random_performance(random, boxes);
     boxes.shadow_ports = random.whole(0, 3) == 0 ? "1" : "0";
     boxes.inlet_double_sided = random.whole(0, 3) == 0 ? "1" : "0";
 }
