@@ -3,6 +3,7 @@
 #include "app/files/port_report_file.hpp"
 #include "app/program.hpp"
 #include "base/number_text.hpp"
+#include "kvt/json_charts.hpp"
 #include "kvt/json_fields.hpp"
 #include "kvt/json_performance.hpp"
 #include "kvt/json_view.hpp"
@@ -199,6 +200,10 @@ std::string json_report(const program& kavetta, const std::vector<std::string>& 
     }
     if (result.performance_reached) {
         report["perf_results"] = json_performance(kavetta.perf_results, full);
+        if (full) {
+            report["charts"] = json_charts(kavetta.perf_results, kavetta.app_state.language,
+                                           length_unit_of(kavetta.app_state).system);
+        }
     }
     return json_text(report, full);
 }
