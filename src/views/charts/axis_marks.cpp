@@ -13,16 +13,12 @@ namespace {
 /// 10^300 times any number at such a distance from its neighbour is still a double.
 constexpr int MOST_DECIMALS = 300;
 
-chart_mark mark_of(double value, int decimals, std::string_view unit) {
-    chart_mark mark{value, rounded_text(value, decimals), {}};
-    const std::string whole = number_text(value);
-    if (whole != mark.text) {
-        mark.exact = whole + " " + std::string(unit);
-    }
-    return mark;
-}
-
 }  // namespace
+
+chart_mark mark_of(double value, const std::string& text, std::string_view unit) {
+    const std::string whole = number_text(value);
+    return {value, text, whole == text ? "" : whole + " " + std::string(unit)};
+}
 
 double mark_step(double range) {
     const double step = range / 5.0;
@@ -54,12 +50,15 @@ std::string rounded_text(double value, int decimals) {
 
 std::vector<chart_mark> computed_marks(double minimum, double maximum, std::string_view unit) {
     const double step = mark_step(maximum - minimum);
-    const int decimals = mark_decimals(step);
-    std::vector<chart_mark> marks = {mark_of(minimum, decimals, unit)};
+    std::vector<chart_mark> marks;
+    const auto add = [&](double value) {
+        marks.push_back(mark_of(value, rounded_text(value, mark_decimals(step)), unit));
+    };
+    add(minimum);
     for (int k = 1; maximum - (minimum + k * step) >= step / 2.0; ++k) {
-        marks.push_back(mark_of(minimum + k * step, decimals, unit));
+        add(minimum + k * step);
     }
-    marks.push_back(mark_of(maximum, decimals, unit));
+    add(maximum);
     return marks;
 }
 

@@ -1,4 +1,4 @@
-// axis_marks: the numbers beside the y axis of a chart. Source: docs/formulas/charts.md, "The y
+// axis_marks: the numbers beside the axes of a chart. Source: docs/formulas/charts.md, "The y
 // axis".
 #pragma once
 
@@ -9,6 +9,9 @@
 #include <vector>
 
 namespace kvt {
+
+/// A number beside an axis; the whole number with its unit stands behind a text that cuts it.
+chart_mark mark_of(double value, const std::string& text, std::string_view unit);
 
 /// Distance of the numbers between the ends of an axis over range = maximum - minimum > 0:
 ///     Int(range / 5), or range / 5 where that is 0
@@ -23,7 +26,7 @@ int mark_decimals(double step);
 std::string rounded_text(double value, int decimals);
 
 /// From the bottom up: minimum, minimum + k step as long as half a step is left up to maximum,
-/// maximum. The whole number with its unit stands behind a text that cuts it.
+/// maximum.
 std::vector<chart_mark> computed_marks(double minimum, double maximum, std::string_view unit);
 
 /// 0 to 100 in steps of 20, at the values 0 to 1.

@@ -109,12 +109,7 @@ double shown_pressure(const chart_source& from, std::size_t j) {
 chart_mark pressure_mark(const chart_source& from, std::size_t j) {
     const double shown = shown_pressure(from, j);
     const bool is_cut = from.system == unit_system::imperial;
-    chart_mark mark{shown, number_text(is_cut ? floor_to_int(shown) : shown), {}};
-    const std::string whole = number_text(shown);
-    if (whole != mark.text) {
-        mark.exact = whole + " " + std::string(pressure_unit(from));
-    }
-    return mark;
+    return mark_of(shown, number_text(is_cut ? floor_to_int(shown) : shown), pressure_unit(from));
 }
 
 std::string speed_name(double rpm) {
@@ -181,7 +176,7 @@ void add_curves(const chart_source& from, result_chart& chart) {
 std::vector<chart_mark> angle_marks(int degrees) {
     std::vector<chart_mark> marks;
     for (int j = 0; j <= 5; ++j) {
-        const double angle = degrees / 5 * j;
+        const double angle = degrees * j / 5.0;
         marks.push_back({angle, number_text(angle), {}});
     }
     return marks;
