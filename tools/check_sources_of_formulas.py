@@ -9,7 +9,7 @@ import pathlib
 import re
 import sys
 
-FOLDERS = ("geometry", "ports", "performance", "output")
+FOLDERS = ("geometry", "ports", "performance", "output", "gtsuite")
 PAGE = re.compile(r'\b(docs/(?:formulas/[\w-]+|file-formats)\.md)(?:,?\s+"([^"]+)")?')
 COMMENT = re.compile(r"^\s*//[/!<]*", re.MULTILINE)
 HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
