@@ -49,6 +49,11 @@ struct app_state {
     bool explain_closed = true;
     bool port_explain_closed = true;
 
+    // The charts: set while the chart is open.
+    bool chart_open_flow = false, chart_open_power = false, chart_open_stress = false;
+    bool chart_open_ripple = false;
+    bool chart_open_ve = false, chart_open_mech = false, chart_open_overall = false;
+
     // Geometry flags.
     std::int16_t profiles_calculated = 0;  ///< -1 once Calculate Profiles has passed its start
     std::int16_t zoom_all_requested =

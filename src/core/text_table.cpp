@@ -41,6 +41,7 @@ consteval auto form_rows() {
 #include "core/texts/dxf.inc"
 #include "core/texts/explanations.inc"
 #include "core/texts/fontfrm.inc"
+#include "core/texts/graphpopupmenu.inc"
 #include "core/texts/kvt.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/perf_res.inc"

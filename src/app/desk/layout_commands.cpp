@@ -2,6 +2,7 @@
 
 #include "app/program.hpp"
 #include "app/windows/close_forms.hpp"
+#include "app/windows/result_charts.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/text_table.hpp"
@@ -137,6 +138,11 @@ void save_layout(program& kavetta, user& person, window_rectangles windows) {
     }
     if (kavetta.app_state.port_explain_closed) {
         windows.of("port_explain").reset();
+    }
+    for (const chart_row& chart : chart_rows()) {
+        if (!is_chart_open(kavetta.app_state, chart.kind)) {
+            windows.of(chart.form).reset();
+        }
     }
     write_layout_file(kavetta, windows);
     person.show_message(message_text(message::screen_layout_saved, kavetta.app_state.language));

@@ -12,8 +12,8 @@ class user;
 struct program;
 
 /// mnuscreensave: writes screen.ini from the present windows and tells so. Explanation windows are
-/// written while explain_closed and port_explain_closed say that they are open. Throws
-/// run_time_error when it can't be written.
+/// written while explain_closed and port_explain_closed say that they are open, charts while their
+/// flags do. Throws run_time_error when it can't be written.
 void save_layout(program& kavetta, user& person, window_rectangles windows);
 
 /// mnuscreenrestore: the built-in rectangles of the five windows, shown again where they were

@@ -24,6 +24,29 @@ std::string outcome_line(const std::string& path, const std::optional<text_failu
     return text(message::save_failed) + path + ": " + reason;
 }
 
+std::optional<text_failure> save_bytes(const std::string& path, std::string_view bytes,
+                                       disk_write kind) {
+    try {
+        write_file(path, bytes, kind);
+    } catch (const run_time_error& error) {
+        return text_failure{error, false};
+    }
+    return std::nullopt;
+}
+
+std::optional<saved_text> ask_and_save(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<std::optional<text_failure>(const std::string& path)>& save) {
+    file_dialog beside_project = dialog;
+    beside_project.folder = project_folder(kavetta);
+    const std::optional<std::string> path = person.choose_file(beside_project);
+    if (!path || path->empty()) {
+        return std::nullopt;
+    }
+    const std::optional<text_failure> failed = save(*path);
+    return saved_text{*path, outcome_line(*path, failed, kavetta.app_state.language), !failed};
+}
+
 }  // namespace
 
 std::optional<text_failure> save_text(const std::string& path, const text_writer& write,
@@ -35,12 +58,8 @@ std::optional<text_failure> save_text(const std::string& path, const text_writer
     } catch (const run_time_error& error) {
         failed = text_failure{error, true};
     }
-    try {
-        write_file(path, text.bytes(), kind);
-    } catch (const run_time_error& error) {
-        failed = text_failure{error, false};
-    }
-    return failed;
+    const std::optional<text_failure> not_saved = save_bytes(path, text.bytes(), kind);
+    return not_saved ? not_saved : failed;
 }
 
 std::string incomplete_line(const std::string& path, std::string_view reason,
@@ -64,14 +83,17 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
 std::optional<saved_text> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write) {
-    file_dialog beside_project = dialog;
-    beside_project.folder = project_folder(kavetta);
-    const std::optional<std::string> path = person.choose_file(beside_project);
-    if (!path || path->empty()) {
-        return std::nullopt;
-    }
-    const auto failed = save_text(*path, [&](text_lines& text) { write(text, *path); });
-    return saved_text{*path, outcome_line(*path, failed, kavetta.app_state.language)};
+    return ask_and_save(kavetta, person, dialog, [&](const std::string& path) {
+        return save_text(path, [&](text_lines& text) { write(text, path); });
+    });
+}
+
+std::optional<saved_text> ask_and_save_bytes(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<std::string(const std::string& path)>& bytes_of) {
+    return ask_and_save(kavetta, person, dialog, [&](const std::string& path) {
+        return save_bytes(path, bytes_of(path), disk_write::flushed);
+    });
 }
 
 }  // namespace kvt

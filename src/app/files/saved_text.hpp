@@ -43,6 +43,7 @@ std::string incomplete_line(const std::string& path, std::string_view reason,
 struct saved_text {
     std::string path;
     std::string outcome;
+    bool is_whole = true;  ///< written as it should be
 };
 
 /// The dialog's answer, starting in the project's folder, then save_text. A cancelled dialog or an
@@ -50,5 +51,10 @@ struct saved_text {
 std::optional<saved_text> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write);
+
+/// The same for a file that is made at once, of the bytes that belong to the path.
+std::optional<saved_text> ask_and_save_bytes(
+    const program& kavetta, user& person, const file_dialog& dialog,
+    const std::function<std::string(const std::string& path)>& bytes_of);
 
 }  // namespace kvt

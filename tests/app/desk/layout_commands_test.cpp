@@ -106,11 +106,21 @@ TEST_F(layout_commands_test,
     EXPECT_EQ(start.focus, "");
 }
 
+TEST_F(layout_commands_test, save_leaves_charts_out_whose_flag_is_not_set) {
+    window_rectangles windows = some_windows();
+    windows.of("LOAD_graphview2") = windows.of("VE_graphview2") = window_rectangle{1, 2, 3, 4};
+    kavetta.app_state.chart_open_ve = true;
+    save_layout(kavetta, person, windows);
+    EXPECT_EQ(written().find("Power Chart"), std::string::npos);
+    EXPECT_NE(written().find("VE Chart"), std::string::npos);
+}
+
 TEST_F(layout_commands_test, start_after_a_save_with_a_chart_of_all_shows_the_explanation_windows) {
     window_rectangles windows = some_windows();
     windows.of("OVREFF_graphview2") = window_rectangle{6630, 8790, 2100, 2100};
     kavetta.app_state.explain_closed = false;
     kavetta.app_state.port_explain_closed = false;
+    kavetta.app_state.chart_open_overall = true;
     save_layout(kavetta, person, windows);
     const start_layout start = read_start_layout(kavetta);
     EXPECT_EQ(start.shown.size(), 7U);
@@ -197,6 +207,7 @@ TEST_F(layout_commands_test, start_without_the_picture_of_an_explanation_gives_t
     window_rectangles windows = some_windows();
     windows.of("OVREFF_graphview2") = window_rectangle{6630, 8790, 2100, 2100};
     kavetta.app_state.explain_closed = kavetta.app_state.port_explain_closed = false;
+    kavetta.app_state.chart_open_overall = true;
     save_layout(kavetta, person, windows);
     user_without without("port_explain");
     const start_layout start = show_start_layout(kavetta, without);
