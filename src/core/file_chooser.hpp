@@ -14,12 +14,13 @@ inline constexpr int HIDE_READ_ONLY = 4;    ///< an open dialog has no read-only
 struct file_dialog {
     bool saving = false;
     std::string title;
-    std::string folder;             ///< empty: the platform's own memory of the last folder
-    std::string filter;             ///< "All files|*.*|KVT|*.KVT"
-    int filter_index = 2;           ///< 1-based
-    std::string default_extension;  ///< without the point
-    std::string file_name;          ///< initial file name
-    int flags = 0;                  ///< OVERWRITE_PROMPT, HIDE_READ_ONLY
+    std::string folder;    ///< empty: the platform's own memory of the last folder
+    std::string filter;    ///< "All files|*.*|KVT|*.KVT"
+    int filter_index = 2;  ///< 1-based
+    /// Without the point. Empty: that of the row of the filter that is chosen.
+    std::string default_extension;
+    std::string file_name;  ///< initial file name
+    int flags = 0;          ///< OVERWRITE_PROMPT, HIDE_READ_ONLY
 };
 
 class file_chooser {

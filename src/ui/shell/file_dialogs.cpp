@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTreeView>
 
 #include <utility>
@@ -22,13 +23,24 @@ QString name_pattern(const QString& pattern) {
     return pattern == pattern.toLower() ? pattern : pattern + " " + pattern.toLower();
 }
 
+/// "PNG (*.png)" gives "png"; empty for a row of all files.
+QString ending_of_filter(const QString& filter) {
+    static const QRegularExpression ENDING("\\*\\.(\\w+)");
+    return ENDING.match(filter).captured(1);
+}
+
 /// A file dialog whose names end in the extension before it looks whether the file exists. Names
-/// are read from its own box, so it is not the desktop's dialog.
+/// are read from its own box, so it is not the desktop's dialog. Without an extension of its own
+/// each row of the filter brings one: a name keeps the ending of any of them, and choosing a row
+/// changes it.
 class ending_dialog : public QFileDialog {
   public:
     ending_dialog(std::string extension, QWidget* parent)
         : QFileDialog(parent), extension_(std::move(extension)) {
         setOption(QFileDialog::DontUseNativeDialog);
+        if (extension_.empty()) {
+            connect(this, &QFileDialog::filterSelected, this, &ending_dialog::change_ending);
+        }
     }
 
   protected:
@@ -42,11 +54,40 @@ class ending_dialog : public QFileDialog {
         return QFileInfo::exists(directory().absoluteFilePath(name));
     }
 
+    QLineEdit* name_box() const { return findChild<QLineEdit*>("fileNameEdit"); }
+
+    /// The row of the filter whose ending a name has; empty without one.
+    QString filter_with_ending_of(const QString& name) const {
+        const QString ending = QFileInfo(name).suffix();
+        for (const QString& filter : nameFilters()) {
+            if (!ending.isEmpty() &&
+                ending.compare(ending_of_filter(filter), Qt::CaseInsensitive) == 0) {
+                return filter;
+            }
+        }
+        return {};
+    }
+
+    void change_ending(const QString& filter) {
+        const QString name = name_box()->text();
+        if (!filter_with_ending_of(name).isEmpty()) {
+            name_box()->setText(name.chopped(QFileInfo(name).suffix().size()) +
+                                ending_of_filter(filter));
+        }
+    }
+
+    /// The extension that a name lacks, if any.
+    std::string extension_for(const QString& name) const {
+        if (!extension_.empty() || !filter_with_ending_of(name).isEmpty()) {
+            return extension_;
+        }
+        return utf8_text(ending_of_filter(selectedNameFilter()));
+    }
+
     /// A folder is gone into, and Open takes a file without the ending when there is one.
     void complete_name() {
-        auto* box = findChild<QLineEdit*>("fileNameEdit");
-        const QString typed = box->text();
-        const QString ending = qt_text(with_ending(utf8_text(typed), extension_));
+        const QString typed = name_box()->text();
+        const QString ending = qt_text(with_ending(utf8_text(typed), extension_for(typed)));
         const bool is_folder = QFileInfo(directory().absoluteFilePath(typed)).isDir();
         const bool is_opened = acceptMode() == AcceptOpen && (exists(typed) || !exists(ending));
         if (ending == typed || is_folder || is_opened) {
@@ -54,7 +95,7 @@ class ending_dialog : public QFileDialog {
         }
         // A marked row of the list would count more than the name.
         findChild<QAbstractItemView*>("listView")->selectionModel()->clearSelection();
-        box->setText(ending);
+        name_box()->setText(ending);
     }
 
     std::string extension_;

@@ -77,6 +77,28 @@ TEST_F(file_dialogs_test, the_question_before_overwriting_is_about_the_name_with
     EXPECT_EQ(read_file(projects + "/Pump 3.5"), "there");
 }
 
+TEST(run_file_dialog, without_an_extension_the_chosen_row_of_the_filter_gives_the_ending) {
+    const temporary_folder folder;
+    dialog_robot robot;
+    const auto saved_as = [&](const std::string& name, int row) {
+        file_dialog dialog;
+        dialog.saving = true;
+        dialog.filter = "PNG|*.png|SVG|*.svg";
+        dialog.filter_index = row;
+        robot.files.emplace_back(folder.file(name));
+        return run_file_dialog(dialog, nullptr);
+    };
+    EXPECT_EQ(saved_as("chart", 1), folder.file("chart.png"));
+    EXPECT_EQ(saved_as("chart 2.5", 2), folder.file("chart 2.5.svg"));
+    EXPECT_EQ(saved_as("chart.SVG", 1), folder.file("chart.SVG"));
+    robot.at_file_dialog = [](QFileDialog& dialog) {
+        dialog.selectFile("typed.png");
+        emit dialog.filterSelected("SVG (*.svg)");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "typed.svg");
+    };
+    EXPECT_EQ(saved_as("chart", 2), folder.file("chart.svg"));
+}
+
 TEST_F(file_dialogs_test, open_finds_a_project_without_its_ending_typed) {
     start();
     const std::string path = own_design_file("n04_fuel");
