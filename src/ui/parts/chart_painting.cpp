@@ -1,0 +1,186 @@
+#include "ui/parts/chart_painting.hpp"
+
+#include "core/form_table.hpp"
+#include "ui/shell/qt_text.hpp"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+namespace kvt {
+
+namespace {
+
+constexpr int FONT_PIXELS = 12;
+constexpr double CURVE_WIDTH = 2.0;  ///< pixels
+constexpr double RING_RADIUS = 5.0;
+
+constexpr QColor GROUND(240, 240, 240);
+constexpr QColor PLOT_GROUND(48, 48, 48);
+constexpr QColor INK(0, 0, 0);
+/// The curves below the legend shine through.
+constexpr QColor LEGEND_GROUND(48, 48, 48, 205);
+constexpr QColor LEGEND_INK(255, 255, 255);
+constexpr QColor LEGEND_FAINT_INK(160, 160, 160);
+constexpr QColor READING(255, 255, 255);
+
+QColor colour_of(int series) {
+    const chart_colour colour = series_colour(series);
+    return {colour.red, colour.green, colour.blue};
+}
+
+bool is_hidden(int series, const hidden_curves& hidden) {
+    const auto index = static_cast<std::size_t>(series - 1);
+    return index < hidden.size() && hidden[index];
+}
+
+QLineF in_pixels(const chart_line& line) {
+    return {kvt::in_pixels(point2{line.x1, line.y1}), kvt::in_pixels(point2{line.x2, line.y2})};
+}
+
+Qt::Alignment alignment_of(const chart_label& label) {
+    switch (label.alignment) {
+        case chart_alignment::left:
+            return Qt::AlignLeft;
+        case chart_alignment::right:
+            return Qt::AlignRight;
+        case chart_alignment::centre:
+            break;
+    }
+    return Qt::AlignHCenter;
+}
+
+void paint_label(QPainter& painter, const chart_label& label) {
+    if (label.visible) {
+        painter.drawText(in_pixels(label.box),
+                         static_cast<int>(alignment_of(label) | Qt::AlignVCenter) |
+                             Qt::TextSingleLine | Qt::TextDontClip,
+                         qt_text(label.text));
+    }
+}
+
+void paint_texts(QPainter& painter, const chart_drawing& drawing) {
+    painter.setPen(INK);
+    painter.setFont(chart_font());
+    for (const chart_label& marker : drawing.yaxis_marker) {
+        paint_label(painter, marker);
+    }
+    for (const chart_label& marker : drawing.xaxis_marker) {
+        paint_label(painter, marker);
+    }
+    paint_label(painter, drawing.xaxis_title);
+    QFont bold = chart_font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    paint_label(painter, drawing.graph_title);
+}
+
+void paint_axes(QPainter& painter, const chart_drawing& drawing) {
+    painter.setPen(QPen(INK, 1.0));
+    painter.drawLine(in_pixels(drawing.X_axis));
+    painter.drawLine(in_pixels(drawing.Y_axis));
+    for (const chart_line& tick : drawing.yaxis_tickmark) {
+        painter.drawLine(in_pixels(tick));
+    }
+}
+
+void paint_curve(QPainter& painter, int series, const QPolygonF& curve) {
+    painter.setPen(
+        QPen(colour_of(series), CURVE_WIDTH, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(curve);
+}
+
+/// The segments of a curve follow each other end to end, so each curve is one line.
+void paint_curves(QPainter& painter, const chart_drawing& drawing, const hidden_curves& hidden) {
+    const std::vector<chart_segment>& segments = drawing.graph_line;
+    for (std::size_t first = 0, next = 0; first < segments.size(); first = next) {
+        const int series = segments[first].series;
+        QPolygonF curve{in_pixels(point2{segments[first].x1, segments[first].y1})};
+        for (; next < segments.size() && segments[next].series == series; ++next) {
+            curve.append(in_pixels(point2{segments[next].x2, segments[next].y2}));
+        }
+        if (!is_hidden(series, hidden)) {
+            paint_curve(painter, series, curve);
+        }
+    }
+}
+
+void paint_legend_row(QPainter& painter, const legend_row& row, bool hidden) {
+    painter.setPen(QPen(hidden ? LEGEND_FAINT_INK : LEGEND_INK, 1.0));
+    painter.setBrush(hidden ? QBrush(Qt::NoBrush) : QBrush(colour_of(row.series)));
+    painter.drawRect(in_pixels(row.square));
+    paint_label(painter, row.label);
+}
+
+}  // namespace
+
+QFont chart_font() {
+    QFont font("Liberation Sans");
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(FONT_PIXELS);
+    return font;
+}
+
+text_metrics chart_metrics() {
+    return [metrics = QFontMetricsF(chart_font())](std::string_view text) {
+        return text_extent{metrics.horizontalAdvance(qt_text(text)) * TWIPS_PER_PIXEL,
+                           metrics.height() * TWIPS_PER_PIXEL};
+    };
+}
+
+QPointF in_pixels(point2 place) {
+    return {place.x / TWIPS_PER_PIXEL, place.y / TWIPS_PER_PIXEL};
+}
+
+QRectF in_pixels(const chart_box& box) {
+    return {box.left / TWIPS_PER_PIXEL, box.top / TWIPS_PER_PIXEL, box.width / TWIPS_PER_PIXEL,
+            box.height / TWIPS_PER_PIXEL};
+}
+
+void paint_chart(QPainter& painter, const chart_drawing& drawing, const hidden_curves& hidden,
+                 const QSizeF& area) {
+    painter.fillRect(QRectF(QPointF(0.0, 0.0), area), GROUND);
+    painter.fillRect(in_pixels(drawing.Picture1), PLOT_GROUND);
+    painter.setBrush(Qt::NoBrush);
+    paint_axes(painter, drawing);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(QRectF(QPointF(0.0, 0.0), area));
+    paint_curves(painter, drawing, hidden);
+    painter.restore();
+    paint_texts(painter, drawing);
+}
+
+void paint_legend(QPainter& painter, const chart_legend& legend, const hidden_curves& hidden) {
+    const QRectF frame(QPointF(0.0, 0.0), in_pixels(legend.frame).size());
+    painter.setPen(QPen(LEGEND_FAINT_INK, 1.0));
+    painter.setBrush(LEGEND_GROUND);
+    painter.drawRect(frame.adjusted(0.0, 0.0, -1.0, -1.0));
+    painter.setFont(chart_font());
+    painter.setPen(LEGEND_INK);
+    paint_label(painter, legend.caption);
+    for (const legend_row& row : legend.rows) {
+        paint_legend_row(painter, row, is_hidden(row.series, hidden));
+    }
+}
+
+void paint_whole_chart(QPainter& painter, const chart_drawing& drawing, const hidden_curves& hidden,
+                       const QSizeF& area) {
+    paint_chart(painter, drawing, hidden, area);
+    if (drawing.legend_frame) {
+        painter.save();
+        painter.translate(in_pixels(drawing.legend_frame->frame).topLeft());
+        paint_legend(painter, *drawing.legend_frame, hidden);
+        painter.restore();
+    }
+}
+
+void paint_reading(QPainter& painter, const QPointF& place) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(READING, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(place, RING_RADIUS, RING_RADIUS);
+    painter.restore();
+}
+
+}  // namespace kvt

@@ -1,0 +1,68 @@
+#include "ui/parts/reading_keys.hpp"
+
+#include <Qt>
+
+#include <algorithm>
+
+namespace kvt {
+
+namespace {
+
+constexpr int STEPS_WITH_CTRL = 10;
+
+bool is_shown(std::size_t curve, const std::vector<bool>& hidden) {
+    return curve >= hidden.size() || !hidden[curve];
+}
+
+/// The nearest curve in a direction that is shown; curve itself when there is none.
+std::size_t shown_curve(const result_chart& chart, const std::vector<bool>& hidden,
+                        std::size_t curve, int direction) {
+    const int count = static_cast<int>(chart.curves.size());
+    for (int next = static_cast<int>(curve) + direction; next >= 0 && next < count;
+         next += direction) {
+        if (is_shown(static_cast<std::size_t>(next), hidden)) {
+            return static_cast<std::size_t>(next);
+        }
+    }
+    return curve;
+}
+
+std::optional<chart_reading> first_reading(const result_chart& chart,
+                                           const std::vector<bool>& hidden) {
+    for (std::size_t curve = 0; curve < chart.curves.size(); ++curve) {
+        if (is_shown(curve, hidden)) {
+            return chart_reading{curve, 0};
+        }
+    }
+    return std::nullopt;
+}
+
+std::size_t moved_point(const result_chart& chart, const chart_reading& reading, int direction,
+                        bool with_ctrl) {
+    const int last = static_cast<int>(chart.curves[reading.curve].values.size()) - 1;
+    const int step = with_ctrl ? std::max(1, last / STEPS_WITH_CTRL) : 1;
+    return static_cast<std::size_t>(
+        std::clamp(static_cast<int>(reading.point) + direction * step, 0, last));
+}
+
+}  // namespace
+
+std::optional<chart_reading> next_reading(const result_chart& chart,
+                                          const std::vector<bool>& hidden,
+                                          const std::optional<chart_reading>& reading, int key,
+                                          bool with_ctrl) {
+    const bool is_sideways = key == Qt::Key_Left || key == Qt::Key_Right;
+    if (!is_sideways && key != Qt::Key_Up && key != Qt::Key_Down) {
+        return std::nullopt;
+    }
+    if (!reading) {
+        return first_reading(chart, hidden);
+    }
+    const int direction = key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
+    return is_sideways
+               ? chart_reading{reading->curve, moved_point(chart, *reading, direction, with_ctrl)}
+               : chart_reading{shown_curve(chart, hidden, reading->curve, direction),
+                               reading->point};
+}
+
+}  // namespace kvt
