@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QTest>
 
 namespace kvt {
@@ -53,6 +54,8 @@ void dialog_robot::look() {
         answer_box(*box);
     } else if (auto* file = qobject_cast<QFileDialog*>(dialog)) {
         answer_file(*file);
+    } else if (auto* print = qobject_cast<QPrintDialog*>(dialog)) {
+        answer_print(*print);
     } else {
         answer_other(*dialog);
     }
@@ -114,6 +117,22 @@ void dialog_robot::answer_file(QFileDialog& dialog) {
     } else {
         dialog.reject();
     }
+}
+
+void dialog_robot::answer_print(QPrintDialog& dialog) {
+    auto* file = dialog.findChild<QLineEdit*>("filename");
+    proposed_prints.push_back(utf8_text(file->text()));
+    if (prints.empty()) {
+        be_surprised(dialog);
+        return;
+    }
+    const std::optional<std::string> path = next(prints);
+    if (!path) {
+        dialog.reject();
+        return;
+    }
+    file->setText(qt_text(*path));
+    QMetaObject::invokeMethod(&dialog, "accept");
 }
 
 void dialog_robot::answer_other(QDialog& dialog) {

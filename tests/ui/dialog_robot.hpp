@@ -16,6 +16,7 @@
 class QDialog;
 class QFileDialog;
 class QMessageBox;
+class QPrintDialog;
 
 namespace kvt {
 
@@ -36,10 +37,12 @@ class dialog_robot : public QObject {
     /// The buttons to press in the boxes of failures, whose texts stand among the messages; without
     /// one the program ends. "" is Esc.
     std::deque<std::string> failure_answers;
-    std::vector<std::string> default_buttons;      ///< of those boxes
-    std::deque<std::optional<std::string>> files;  ///< the path to choose; nothing cancels
-    std::deque<std::optional<std::string>> names;  ///< project names; nothing cancels
-    std::deque<std::string> prompts;               ///< "new", "open" or "" (closed) for Form2
+    std::vector<std::string> default_buttons;       ///< of those boxes
+    std::deque<std::optional<std::string>> files;   ///< the path to choose; nothing cancels
+    std::deque<std::optional<std::string>> names;   ///< project names; nothing cancels
+    std::deque<std::string> prompts;                ///< "new", "open" or "" (closed) for Form2
+    std::deque<std::optional<std::string>> prints;  ///< the file to print to; nothing cancels
+    std::vector<std::string> proposed_prints;       ///< the files that the print dialogs proposed
     std::string left_open;             ///< name of a dialog that the test itself works in
     std::function<void()> at_message;  ///< looked at while a message box is open
     std::function<void()> at_name;     ///< looked at before the name dialog is answered
@@ -53,6 +56,7 @@ class dialog_robot : public QObject {
     void answer_failure(QMessageBox& box);
     void answer_box(QMessageBox& box);
     void answer_file(QFileDialog& dialog);
+    void answer_print(QPrintDialog& dialog);
     void answer_other(QDialog& dialog);
     void be_surprised(QDialog& dialog);
 };

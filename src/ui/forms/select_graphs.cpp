@@ -1,5 +1,7 @@
 #include "ui/forms/select_graphs.hpp"
 
+#include "app/windows/result_charts.hpp"
+#include "core/user.hpp"
 #include "ui/parts/form_parts.hpp"
 
 #include <QCheckBox>
@@ -43,6 +45,8 @@ select_graphs::select_graphs(form_context context) : mdi_form("select_graphs", c
     create_charts_ = command_button("create_charts");
     create_charts_->setDefault(true);
     accent(*create_charts_);
+    connect(create_charts_, &QPushButton::clicked, this,
+            [this] { context_.runner.act(kvt::create_charts); });
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(4);
     buttons->addWidget(create_charts_, 1);

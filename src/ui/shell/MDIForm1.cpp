@@ -153,7 +153,7 @@ void MDIForm1::place_itself() {
         return;
     }
     if (const auto& place = layout.of("MDIForm1")) {
-        place_main_window(*this, *place);
+        place_window(*this, *place);
     }
     show();
 }

@@ -4,6 +4,7 @@
 #include "app/desk/layout_commands.hpp"
 #include "app/desk/start_up.hpp"
 #include "app/program.hpp"
+#include "views/charts/result_chart.hpp"
 
 namespace kvt {
 
@@ -11,7 +12,8 @@ desktop::desktop(const std::filesystem::path& folder)
     : person_(program_),
       runner_(program_, person_),
       entry_focus_(runner_),
-      window_(form_context{program_, runner_, person_}) {
+      window_(form_context{program_, runner_, person_}),
+      charts_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
     autosave_timer_.setObjectName("autosave_timer");
     QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_,
@@ -19,7 +21,15 @@ desktop::desktop(const std::filesystem::path& folder)
     follow_commands();
     person_.attach(
         &window_, [this] { window_.refresh(); },
-        [this](std::string_view form) { window_.load_child(form); });
+        [this](std::string_view form) { load_form(form); });
+}
+
+void desktop::load_form(std::string_view form) {
+    if (const chart_row* chart = find_chart(form)) {
+        charts_.load(*chart);
+    } else {
+        window_.load_child(form);
+    }
 }
 
 void desktop::follow_commands() {

@@ -5,6 +5,7 @@
 #include "ui/parts/entry_focus.hpp"
 #include "ui/parts/quiet_wheel.hpp"
 #include "ui/shell/MDIForm1.hpp"
+#include "ui/shell/chart_windows.hpp"
 #include "ui/shell/command_runner.hpp"
 #include "ui/shell/qt_language.hpp"
 #include "ui/shell/qt_user.hpp"
@@ -40,6 +41,7 @@ class desktop {
 
   private:
     void follow_commands();
+    void load_form(std::string_view form);
     bool load();
     void save_unsaved();
 
@@ -50,6 +52,7 @@ class desktop {
     quiet_wheel quiet_wheel_;
     qt_language qt_language_;
     MDIForm1 window_;
+    chart_windows charts_;
     std::unique_ptr<splashform> splash_;
     QTimer autosave_timer_;
     bool is_loaded_ = false;

@@ -30,7 +30,6 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
     {"Perffrm", "GT_combo"},
     {"Perffrm", "GT_fluid"},
     {"Perffrm", "GT_Sim_Button"},
-    {"select_graphs", "create_charts"},
     {"select_graphs", "export_excel"},
 });
 

@@ -1,5 +1,6 @@
 #include "ui/shell/present_layout.hpp"
 
+#include "ui/forms/graphview2.hpp"
 #include "ui/shell/mdi_form.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -28,13 +29,9 @@ std::optional<window_rectangle> child_rectangle(const QMainWindow& window, std::
     return form == nullptr ? std::nullopt : std::optional(rectangle_of(form->normal_place()));
 }
 
-std::optional<window_rectangle> window_rectangle_of(std::string_view name) {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == qt_text(name) && window->isVisible()) {
-            return rectangle_of(QRect(window->pos(), window->size()));
-        }
-    }
-    return std::nullopt;
+std::optional<window_rectangle> chart_rectangle(std::string_view name) {
+    const graphview2* chart = open_chart(name);
+    return chart == nullptr ? std::nullopt : std::optional(chart->place());
 }
 
 std::optional<window_rectangle> rectangle_of(const QMainWindow& window, const form_row& form) {
@@ -46,7 +43,7 @@ std::optional<window_rectangle> rectangle_of(const QMainWindow& window, const fo
                        ? std::nullopt
                        : std::optional(rectangle_of(QRect(window.pos(), window.size())));
         case form_kind::window:
-            return window_rectangle_of(form.name);
+            return chart_rectangle(form.name);
         case form_kind::dialog:
             break;
     }
@@ -65,7 +62,7 @@ window_rectangles present_layout(const QMainWindow& window) {
     return windows;
 }
 
-void place_main_window(QMainWindow& window, const window_rectangle& stored) {
+void place_window(QWidget& window, const window_rectangle& stored) {
     std::vector<window_rectangle> screens;
     for (const QScreen* screen : QGuiApplication::screens()) {
         screens.push_back(rectangle_of(screen->availableGeometry()));

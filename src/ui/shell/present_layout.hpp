@@ -4,6 +4,7 @@
 #include "core/window_rectangles.hpp"
 
 class QMainWindow;
+class QWidget;
 
 namespace kvt {
 
@@ -13,9 +14,9 @@ namespace kvt {
 /// is normal.
 window_rectangles present_layout(const QMainWindow& window);
 
-/// Puts the main window where its rectangle says, or inside the nearest screen; its frame belongs
-/// to the place, not to the size.
-void place_main_window(QMainWindow& window, const window_rectangle& rectangle);
+/// Puts a window of its own where its rectangle says, or inside the nearest screen; its frame
+/// belongs to the place, not to the size.
+void place_window(QWidget& window, const window_rectangle& rectangle);
 
 /// The place of a child window, inside the area that the screens could show of it.
 window_rectangle child_place(const window_rectangle& rectangle);

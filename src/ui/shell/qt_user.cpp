@@ -3,6 +3,7 @@
 #include "app/desk/program_title.hpp"
 #include "app/program.hpp"
 #include "ui/forms/Form2.hpp"
+#include "ui/forms/graphview2.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"
 #include "ui/shell/dialog_form.hpp"
@@ -38,6 +39,15 @@ void focus_when_active(QWidget* target) {
         });
 }
 
+/// A window of its own also comes back from the task bar.
+void bring_up(QWidget& window) {
+    if (window.isWindow() && window.isMinimized()) {
+        window.showNormal();
+    }
+    window.show();
+    window.raise();
+}
+
 /// A carriage return inside a message, with or without a line feed, is one line break.
 QString with_line_breaks(QString text) {
     return text.replace("\r\n", "\n").replace('\r', '\n');
@@ -54,11 +64,14 @@ void qt_user::attach(QMainWindow* window, std::function<void()> refresh,
     load_ = std::move(load);
 }
 
-/// Dialogs before the main window is on the screen stand alone; above another dialog they belong to
-/// that.
+/// Dialogs before the main window is on the screen stand alone; above another dialog, or from a
+/// chart, they belong to that.
 QWidget* qt_user::parent() const {
     if (QWidget* dialog = QApplication::activeModalWidget()) {
         return dialog;
+    }
+    if (auto* chart = qobject_cast<graphview2*>(QApplication::activeWindow())) {
+        return chart;
     }
     return window_ != nullptr && window_->isVisible() ? window_ : nullptr;
 }
@@ -168,7 +181,10 @@ void qt_user::show_status(std::string_view text) {
     }
 }
 
-QMdiSubWindow* qt_user::child(std::string_view form) const {
+QWidget* qt_user::window_of(std::string_view form) const {
+    if (graphview2* chart = open_chart(form)) {
+        return chart;
+    }
     return window_ == nullptr ? nullptr : window_->findChild<QMdiSubWindow*>(qt_text(form));
 }
 
@@ -176,19 +192,18 @@ void qt_user::show_form(std::string_view form) {
     if (window_ == nullptr) {
         return;
     }
-    if (child(form) == nullptr) {
+    if (window_of(form) == nullptr) {
         load_(form);
     }
-    if (QMdiSubWindow* window = child(form)) {
-        window->show();
-        window->raise();
+    if (QWidget* window = window_of(form)) {
+        bring_up(*window);
     }
 }
 
 void qt_user::unload_form(std::string_view form) {
     if (form == "progressfrm") {
         delete progress_;
-    } else if (QMdiSubWindow* window = child(form)) {
+    } else if (QWidget* window = window_of(form)) {
         window->close();
     }
 }

@@ -12,7 +12,6 @@
 #include <functional>
 
 class QMainWindow;
-class QMdiSubWindow;
 class QMessageBox;
 
 namespace kvt {
@@ -53,7 +52,8 @@ class qt_user : public user {
 
   private:
     QWidget* parent() const;
-    QMdiSubWindow* child(std::string_view form) const;
+    /// The child window or the chart of a name; nullptr while it is not loaded.
+    QWidget* window_of(std::string_view form) const;
     QString button_text(message id) const;
     void prepare(QMessageBox& box, std::string_view text) const;
     void refresh() const;
