@@ -3,6 +3,7 @@
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/fontfrm.hpp"
+#include "ui/forms/graphview2.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"
 #include "ui/shell/splashform.hpp"
@@ -35,6 +36,16 @@ form_pictures pictures_of_children(MDIForm1& window) {
             form->raise();
             staged_program::settle();
             pictures[form->objectName()] = form->grab();
+        }
+    }
+    return pictures;
+}
+
+form_pictures pictures_of_charts() {
+    form_pictures pictures;
+    for (const chart_row& row : chart_rows()) {
+        if (graphview2* chart = open_chart(row.form)) {
+            pictures[chart->objectName()] = chart->grab();
         }
     }
     return pictures;

@@ -15,6 +15,9 @@ using form_pictures = std::map<QString, QPixmap>;
 /// Every child window that is open, with its frame.
 form_pictures pictures_of_children(MDIForm1& window);
 
+/// Every chart that is open.
+form_pictures pictures_of_charts();
+
 /// The prompt, the name dialog, the About box, the font and the progress window, the start picture.
 form_pictures pictures_of_dialogs(const program& kavetta);
 

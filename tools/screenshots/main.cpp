@@ -72,6 +72,8 @@ bool take_guide_pictures(const std::string& share, const std::string& project, c
     const bool calculated = stage.calculate();
     pictures.merge(kvt::pictures_of_children(stage.window()));
     pictures.merge(pictures_of_all_dialogs(stage));
+    stage.open_charts();
+    pictures.merge(kvt::pictures_of_charts());
     pictures["workplace"] = picture_of_workplace(stage);
     return save(pictures, out) && calculated;
 }
@@ -86,6 +88,8 @@ bool take_pieces(const std::string& share, const std::string& project, const QDi
             all_taken = stage.calculate() && all_taken;
             kvt::form_pictures pictures = kvt::pictures_of_children(stage.window());
             pictures.merge(pictures_of_all_dialogs(stage));
+            stage.open_charts();
+            pictures.merge(kvt::pictures_of_charts());
             pictures["MDIForm1"] = picture_of_workplace(stage);
             kvt::form_pictures pieces;
             for (const auto& [name, picture] : pictures) {

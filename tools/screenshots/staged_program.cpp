@@ -5,6 +5,7 @@
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "app/windows/result_charts.hpp"
 #include "base/text_file.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -63,6 +64,17 @@ bool staged_program::calculate() {
     });
     settle();
     return done;
+}
+
+void staged_program::open_charts() {
+    runner().act([](kvt::program& kavetta, user& person) {
+        for (const chart_row& chart : chart_rows()) {
+            const entry_field* box = find_entry(find_form(chart.form)->opened_by);
+            kavetta.entries.*box->member = "1";
+        }
+        create_charts(kavetta, person);
+    });
+    settle();
 }
 
 QPixmap staged_program::dialog_of(const QString& menu_entry) {

@@ -24,6 +24,8 @@ class staged_program {
     bool calculate();
     /// The rotors alone, without ports.
     bool calculate_rotors();
+    /// Opens all charts; after calculate.
+    void open_charts();
 
     kvt::program& program() { return desktop_->program(); }
     MDIForm1& window() { return desktop_->window(); }
