@@ -1,14 +1,18 @@
-// How long a repaint of the rotor pair takes, and a tick of a held rotation button: 3600 elements
-// of the inner rotor, a picture of 700 by 700 pixels.
+// How long a repaint of the rotor pair takes, one of a chart, and a tick of a held rotation button:
+// 3600 elements of the inner rotor, a picture of 700 by 700 pixels.
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
+#include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
+#include "app/stages/design_ports.hpp"
 #include "app/windows/view_commands.hpp"
 #include "base/text_file.hpp"
 #include "core/project_file.hpp"
 #include "support/scripted_user.hpp"
+#include "ui/parts/chart_painting.hpp"
 #include "ui/parts/design_painting.hpp"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -18,6 +22,7 @@
 namespace {
 
 constexpr int SIDE = 700;
+constexpr QSize CHART(578, 415);
 
 /// A delivered design, drawn for a picture of that side at coarseness 1.
 kvt::program drawn_design() {
@@ -73,9 +78,36 @@ void turn_and_paint_the_pair(benchmark::State& state) {
     }
 }
 
+/// A chart of a design with its results, at the default size of its window.
+void paint_a_chart(benchmark::State& state, kvt::chart_kind kind) {
+    kvt::program kavetta = drawn_design();
+    kvt::scripted_user person;
+    kvt::design_ports(kavetta, person);
+    kvt::calculate_performance(kavetta, person);
+    const kvt::result_chart chart =
+        kvt::make_chart(kind, kavetta.perf_results, kvt::ENGLISH, kvt::unit_system::metric);
+    const kvt::chart_drawing drawing =
+        kvt::draw_chart(chart, kvt::chart_size(), std::nullopt, kvt::chart_metrics());
+    const kvt::hidden_curves hidden(chart.curves.size());
+    QImage sheet(CHART, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        QPainter painter(&sheet);
+        kvt::paint_whole_chart(painter, drawing, hidden, CHART);
+    }
+}
+
 }  // namespace
 
+BENCHMARK_CAPTURE(paint_a_chart, flow, kvt::chart_kind::flow)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paint_a_chart, stress, kvt::chart_kind::stress)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paint_a_chart, ripple, kvt::chart_kind::ripple)->Unit(benchmark::kMillisecond);
 BENCHMARK(turn_and_paint_the_pair)->Unit(benchmark::kMillisecond);
 BENCHMARK(paint_the_pair)->Unit(benchmark::kMillisecond);
 BENCHMARK(take_over_and_paint_the_pair)->Unit(benchmark::kMillisecond);
-BENCHMARK_MAIN();
+
+/// Texts need an application.
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
