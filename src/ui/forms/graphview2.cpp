@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDir>
 #include <QHelpEvent>
 #include <QLocale>
@@ -30,6 +31,8 @@ namespace {
 constexpr double READING_REACH = 900.0;
 /// How far outside the plot the points at its edge can be read, pixels.
 constexpr double PLOT_MARGIN = 8.0;
+/// What a tooltip takes below and right of its place, at most, pixels.
+constexpr QSize TOOLTIP_ROOM(320, 64);
 
 double twips(double pixels) {
     return pixels * TWIPS_PER_PIXEL;
@@ -156,23 +159,24 @@ void graphview2::toggle_curve(int series) {
     }
     hidden_[curve] = !hidden_[curve];
     if (reading_ && reading_->curve == curve) {
-        show_reading(std::nullopt);
+        end_reading();
     }
     draw();
 }
 
-void graphview2::show_reading(const std::optional<chart_reading>& reading) {
+void graphview2::show_reading(const chart_reading& reading, const QPoint& global_place) {
+    const QString text = qt_text(reading_text(chart_, reading));
     reading_ = reading;
-    update();
-    if (!reading) {
-        QToolTip::hideText();
-        describe(QString());
-        return;
-    }
-    const QString text = qt_text(reading_text(chart_, *reading));
-    const QPointF point = in_pixels(place_of(chart_, drawing_, *reading));
-    QToolTip::showText(mapToGlobal(point.toPoint()), text, this);
+    QToolTip::showText(global_place, text, this);
     describe(text);
+    update();
+}
+
+void graphview2::end_reading() {
+    reading_.reset();
+    QToolTip::hideText();
+    describe(QString());
+    update();
 }
 
 std::optional<chart_reading> graphview2::reading_at(const QPointF& place) const {
@@ -186,9 +190,24 @@ std::optional<chart_reading> graphview2::reading_at(const QPointF& place) const 
 
 void graphview2::read_at(const QPointF& place) {
     const std::optional<chart_reading> reading = reading_at(place);
-    if (reading != reading_) {
-        show_reading(reading);
+    if (reading == reading_) {
+        return;
     }
+    is_pointed_at_ = reading.has_value();
+    if (reading) {
+        show_reading(*reading, mapToGlobal(place.toPoint()));
+    } else {
+        end_reading();
+    }
+}
+
+/// The tooltip stands at the point, but not under the pointer, where it would go at once.
+void graphview2::read_by_key(const chart_reading& reading) {
+    is_pointed_at_ = false;
+    const QPointF point = in_pixels(place_of(chart_, drawing_, reading));
+    const QPoint place = mapToGlobal(point.toPoint());
+    const bool is_under_pointer = QRect(place, TOOLTIP_ROOM).contains(QCursor::pos());
+    show_reading(reading, is_under_pointer ? QCursor::pos() : place);
 }
 
 /// What a screen reader says: the value that is read, then the ranges of the axes.
@@ -282,15 +301,15 @@ void graphview2::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() >= Qt::Key_1 && event->key() <= Qt::Key_5 && legend_ != nullptr) {
         toggle_curve(event->key() - Qt::Key_1 + 1);
     } else if (const auto next = next_reading(chart_, hidden_, reading_, event->key(), with_ctrl)) {
-        show_reading(next);
+        read_by_key(*next);
     } else {
         QWidget::keyPressEvent(event);
     }
 }
 
 void graphview2::leaveEvent(QEvent*) {
-    if (reading_) {
-        show_reading(std::nullopt);
+    if (reading_ && is_pointed_at_) {
+        end_reading();
     }
 }
 

@@ -53,9 +53,11 @@ class graphview2 : public QWidget {
     void drag_legend(double x, double y);
     void toggle_curve(int series);
 
-    void show_reading(const std::optional<chart_reading>& reading);
+    void show_reading(const chart_reading& reading, const QPoint& global_place);
+    void end_reading();
     std::optional<chart_reading> reading_at(const QPointF& place) const;
     void read_at(const QPointF& place);
+    void read_by_key(const chart_reading& reading);
     void describe(const QString& reading);
     QString hint_at(const QPointF& place) const;
 
@@ -71,6 +73,7 @@ class graphview2 : public QWidget {
     hidden_curves hidden_;
     std::optional<point2> moved_legend_;  ///< its corner, after the user moved it
     std::optional<chart_reading> reading_;
+    bool is_pointed_at_ = false;  ///< the reading is the pointer's and goes with it
     creeping_drag window_drag_;
     QPointF dragged_corner_;  ///< of the window while it is dragged, twips
     legend_frame* legend_ = nullptr;

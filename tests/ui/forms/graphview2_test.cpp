@@ -446,6 +446,9 @@ TEST_F(graphview2_test, the_arrow_keys_read_the_curves) {
     QTest::keyClick(&flow, Qt::Key_Down);
     EXPECT_EQ(read(), reading_text(chart, {1, 1}));
     EXPECT_EQ(utf8_text(QToolTip::text()), read());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&flow, &leave);
+    EXPECT_EQ(read(), reading_text(chart, {1, 1})) << "the pointer has no part in it";
     QTest::keyClick(&flow, Qt::Key_2);
     EXPECT_FALSE(QString::fromStdString(read()).contains("rpm, ")) << "the curve is hidden";
 }
