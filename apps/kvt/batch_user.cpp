@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <thread>
 
 namespace kvt {
 
@@ -42,6 +43,19 @@ start_choice batch_user::ask_new_or_open() {
 
 void batch_user::show_status(std::string_view text) {
     err_ << text << '\n';
+}
+
+void batch_user::start_tool(const started_tool& tool) {
+    tool_.start(tool.program, tool.arguments, tool.folder);
+}
+
+void batch_user::start_detached(const started_tool& tool) {
+    start_process(tool.program, tool.arguments, tool.folder, process_tie::own_session);
+}
+
+bool batch_user::wait(std::chrono::milliseconds time) {
+    std::this_thread::sleep_for(time);
+    return true;
 }
 
 }  // namespace kvt

@@ -2,6 +2,7 @@
 // questions get defaults.
 #pragma once
 
+#include "base/child_process.hpp"
 #include "core/hints.hpp"
 #include "core/user.hpp"
 
@@ -33,6 +34,11 @@ class batch_user : public user {
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;
     void show_status(std::string_view text) override;
+    void start_tool(const started_tool& tool) override;
+    bool is_tool_running() override { return tool_.is_running(); }
+    void end_tool() override { tool_.end(); }
+    void start_detached(const started_tool& tool) override;
+    bool wait(std::chrono::milliseconds time) override;
 
     // There are no windows, no focus, no pointer and no progress bar.
     void show_form(std::string_view) override {}
@@ -44,6 +50,7 @@ class batch_user : public user {
   private:
     std::ostream& err_;
     std::vector<std::string> messages_;
+    child_process tool_;
 };
 
 }  // namespace kvt

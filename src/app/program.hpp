@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/desk/unsaved_files.hpp"
+#include "app/gt/gt_choices.hpp"
 #include "app/stages/stage_entries.hpp"
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
@@ -43,6 +44,8 @@ struct program {
     kvt::design_view design_view;
     kvt::cnc_choices cnc_choices;                      ///< of the last run of the CNC output dialog
     std::optional<kvt::cnc_entries> last_cnc_entries;  ///< its boxes; nothing before the first run
+
+    kvt::gt_choices gt_choices;
 
     kvt::stage_entries stage_entries;
 

@@ -1,6 +1,6 @@
 // user: the person on the other side of a command, whole. The desktop program answers with windows,
 // the batch program with options and standard error, a test with a script. What needs one subject
-// alone takes that: messages and focus, questions, file dialogs, forms, progress.
+// alone takes that: messages and focus, questions, file dialogs, forms, progress, other programs.
 #pragma once
 
 #include "core/asker.hpp"
@@ -8,6 +8,7 @@
 #include "core/form_shower.hpp"
 #include "core/progress_shower.hpp"
 #include "core/teller.hpp"
+#include "core/tool_starter.hpp"
 
 namespace kvt {
 
@@ -15,6 +16,7 @@ class user : public teller,
              public asker,
              public file_chooser,
              public form_shower,
-             public progress_shower {};
+             public progress_shower,
+             public tool_starter {};
 
 }  // namespace kvt

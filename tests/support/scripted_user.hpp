@@ -69,6 +69,23 @@ class scripted_user : public user {
     void show_progress(std::string_view text, int percent) override {
         log.push_back("progress " + std::string(text) + " " + std::to_string(percent));
     }
+    // Programs are only named, and have ended at once.
+    void start_tool(const started_tool& tool) override { log.push_back("start " + line_of(tool)); }
+    bool is_tool_running() override { return false; }
+    void end_tool() override {}
+    void start_detached(const started_tool& tool) override {
+        log.push_back("detached " + line_of(tool));
+    }
+    bool wait(std::chrono::milliseconds) override { return true; }
+
+  protected:
+    static std::string line_of(const started_tool& tool) {
+        std::string line = tool.program.string();
+        for (const std::string& argument : tool.arguments) {
+            line += " " + argument;
+        }
+        return line;
+    }
 
   private:
     template <typename value>

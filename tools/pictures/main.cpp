@@ -47,6 +47,11 @@ class silent_user : public kvt::user {
     void set_focus(std::string_view) override {}
     void set_busy(bool) override {}
     void show_progress(std::string_view, int) override {}
+    void start_tool(const kvt::started_tool&) override {}
+    bool is_tool_running() override { return false; }
+    void end_tool() override {}
+    void start_detached(const kvt::started_tool&) override {}
+    bool wait(std::chrono::milliseconds) override { return true; }
 
     bool has_refused = false;
 };

@@ -96,14 +96,22 @@ void open_dxf_menu(program& kavetta) {
     kavetta.enabling.mnudxfmetering = has_metering_groove(kavetta);
 }
 
+void write_gt_step_file(const program& kavetta, const written_file& file,
+                        const std::string& folder) {
+    if (!is_there(file.needs, kavetta.port_params, kavetta.entries)) {
+        return;
+    }
+    const std::string path = (std::filesystem::path(folder) / file_name(file)).string();
+    const auto failed = save_text(
+        path, [&](text_lines& text) { file.write(source_of(kavetta, file, path), text); });
+    if (failed) {
+        throw failed->error;
+    }
+}
+
 void write_gt_step_files(const program& kavetta, const std::string& folder) {
     for (const written_file& file : files_of(file_group::gt)) {
-        const std::string path = (std::filesystem::path(folder) / file_name(file)).string();
-        const auto failed =
-            save_text(path, [&](text_lines& text) { file.write(source_of(kavetta, path), text); });
-        if (failed) {
-            throw failed->error;
-        }
+        write_gt_step_file(kavetta, file, folder);
     }
 }
 

@@ -35,9 +35,12 @@ std::string notice_of(const program& kavetta, const written_file& file);
 /// The menu mnudxf opens: mnudxfmetering can be used while metering_groove is ticked.
 void open_dxf_menu(program& kavetta);
 
-/// The files of the simulation exchange, without a dialog, under their names in a folder.
-/// Throws the failure of a writer, whose file is saved as far as it got, or path_not_found or
-/// path_file_access.
+/// A file of the simulation exchange, without a dialog, under its name in a folder; nothing for a
+/// port that was never finished. Throws the failure of the writer, whose file is saved as far as it
+/// got, or path_not_found or path_file_access.
+void write_gt_step_file(const program& kavetta, const written_file& file,
+                        const std::string& folder);
+/// All of them. Throws as for one.
 void write_gt_step_files(const program& kavetta, const std::string& folder);
 
 }  // namespace kvt

@@ -42,4 +42,19 @@ void progressfrm::show_progress(const QString& text, int percent) {
     show();
 }
 
+void progressfrm::take_input() {
+    if (isModal()) {
+        return;
+    }
+    // A window that is shown keeps the modality that it was shown with.
+    hide();
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    activateWindow();
+}
+
+void progressfrm::reject() {
+    is_ended_ = isModal();
+}
+
 }  // namespace kvt

@@ -21,12 +21,18 @@ class progressfrm : public QDialog {
     /// What is done now, and how much of the whole, 0 .. 100.
     void show_progress(const QString& text, int percent);
 
-    /// Closing does not stop the work, so it can't be closed by hand.
-    void reject() override {}
+    /// While work is waited for, this window alone takes input.
+    void take_input();
+    /// The user has pressed Esc, or closed the window, while it took input.
+    bool is_ended() const { return is_ended_; }
+
+    /// Closing does not stop the work, so it can't be closed by hand; it ends a wait.
+    void reject() override;
 
   private:
     QLabel* label1_;
     QProgressBar* bar_;
+    bool is_ended_ = false;
 };
 
 }  // namespace kvt

@@ -11,11 +11,13 @@
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 
 namespace kvt {
 
@@ -243,6 +245,17 @@ void qt_user::show_progress(std::string_view text, int percent) {
     progress_->show_progress(qt_text(text), percent);
     // The work runs in this thread: the window is painted here, and the user's events wait.
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+bool qt_user::wait(std::chrono::milliseconds time) {
+    if (progress_ == nullptr) {
+        show_progress("", 0);
+    }
+    progress_->take_input();
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
+    return progress_ != nullptr && !progress_->is_ended();
 }
 
 }  // namespace kvt

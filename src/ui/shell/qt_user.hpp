@@ -5,6 +5,7 @@
 #include "app/desk/told_messages.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
+#include "ui/shell/qt_tools.hpp"
 
 #include <QPointer>
 #include <QStatusBar>
@@ -49,6 +50,12 @@ class qt_user : public user {
     void set_focus(std::string_view control) override;
     void set_busy(bool busy) override;
     void show_progress(std::string_view text, int percent) override;
+    void start_tool(const started_tool& tool) override { tools_.start(tool); }
+    bool is_tool_running() override { return tools_.is_running(); }
+    void end_tool() override { tools_.end(); }
+    void start_detached(const started_tool& tool) override { start_detached_tool(tool); }
+    /// The windows are painted meanwhile; only progressfrm takes input, Esc there ends the wait.
+    bool wait(std::chrono::milliseconds time) override;
 
   private:
     QWidget* parent() const;
@@ -63,6 +70,7 @@ class qt_user : public user {
     std::function<void()> refresh_;
     std::function<void(std::string_view)> load_;
     QPointer<progressfrm> progress_;
+    qt_tools tools_;
     told_messages told_;
     bool busy_ = false;
 };

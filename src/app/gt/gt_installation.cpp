@@ -1,0 +1,67 @@
+#include "app/gt/gt_installation.hpp"
+
+#include "base/run_time_error.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <unistd.h>
+#include <vector>
+
+namespace kvt {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array CONVERTER_NAMES = {"gemc.bat", "gemc.sh", "gemc"};
+constexpr std::array EDITOR_NAMES = {"GTise.bat", "gtise.sh", "gtise"};
+
+/// The folder of the installation; empty without one.
+fs::path gt_home() {
+    const char* named = std::getenv("GTIHOME");
+    return named == nullptr ? "" : named;
+}
+
+bool can_be_executed(const fs::path& file) {
+    std::error_code error;
+    return fs::is_regular_file(file, error) && ::access(file.c_str(), X_OK) == 0;
+}
+
+}  // namespace
+
+fs::path gt_tools_folder() {
+    if (gt_home().empty()) {
+        throw run_time_error(failure::path_not_found, "GTIHOME is not set");
+    }
+    return gt_home() / "bin";
+}
+
+fs::path find_gt_tool(gt_tool tool) {
+    const fs::path folder = gt_tools_folder();
+    for (const char* name : tool == gt_tool::converter ? CONVERTER_NAMES : EDITOR_NAMES) {
+        if (can_be_executed(folder / name)) {
+            return folder / name;
+        }
+    }
+    throw run_time_error(failure::file_not_found, "no tool in " + folder.string());
+}
+
+std::optional<fs::path> gt_fluids_file(int gt_version) {
+    if (gt_home().empty()) {
+        return std::nullopt;
+    }
+    const fs::path folder = gt_home() / ("v" + std::to_string(gt_version)) / "resrc" / "gtise";
+    std::vector<fs::path> libraries;
+    std::error_code error;
+    for (fs::directory_iterator file(folder, error), end; !error && file != end;
+         file.increment(error)) {
+        if (file->path().extension() == ".gto") {
+            libraries.push_back(file->path());
+        }
+    }
+    const auto first = std::ranges::min_element(libraries);
+    return first == libraries.end() ? std::nullopt : std::optional(*first);
+}
+
+}  // namespace kvt
