@@ -15,7 +15,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -49,10 +48,6 @@ QLabel* column_head(const char* name) {
     font.setBold(true);
     head->setFont(font);
     return head;
-}
-
-char decimal_mark() {
-    return QLocale().decimalPoint() == "," ? ',' : '.';
 }
 
 }  // namespace

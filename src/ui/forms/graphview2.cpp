@@ -18,7 +18,6 @@
 #include <QCursor>
 #include <QDir>
 #include <QHelpEvent>
-#include <QLocale>
 #include <QPainter>
 #include <QToolTip>
 
@@ -252,11 +251,11 @@ void graphview2::save() {
 }
 
 void graphview2::export_chart() {
-    const char decimal_mark = QLocale().decimalPoint() == "," ? ',' : '.';
-    context_.runner.act([&](const program& kavetta, user& person) {
+    context_.runner.act([this](const program& kavetta, user& person) {
         const std::optional<saved_text> saved = ask_and_save_bytes(
             kavetta, person, chart_export_dialog(kavetta, chart_), [&](const std::string& path) {
-                return exported_chart(shown(), format_of(path), devicePixelRatioF(), decimal_mark);
+                return exported_chart(shown(), format_of(path), devicePixelRatioF(),
+                                      decimal_mark());
             });
         if (saved && saved->is_whole) {
             person.show_status(saved->outcome);

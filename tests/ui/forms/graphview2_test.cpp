@@ -280,7 +280,7 @@ TEST_F(graphview2_test, the_right_button_and_the_menu_keys_open_the_menu) {
 }
 
 TEST_F(graphview2_test, the_menu_is_english_but_for_what_was_added) {
-    const auto captions = [this] {
+    const auto captions = [] {
         QStringList texts;
         for (const QAction* action : menu(*open_chart("FLOW_graphview2")).actions()) {
             texts += action->isSeparator() ? QStringList() : QStringList(action->text());
