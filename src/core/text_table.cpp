@@ -38,6 +38,7 @@ consteval auto form_rows() {
 #include "core/texts/Perffrm.inc"
 #include "core/texts/charts.inc"
 #include "core/texts/cnc.inc"
+#include "core/texts/data.inc"
 #include "core/texts/dxf.inc"
 #include "core/texts/explanations.inc"
 #include "core/texts/fontfrm.inc"
