@@ -10,7 +10,8 @@ int exit_status(batch_end end) {
 }
 
 int exit_status(const batch_result& result) {
-    return result.refused ? EXIT_REFUSED : exit_status(result.end);
+    const bool refused = result.ports_refused || result.performance_refused;
+    return refused ? EXIT_REFUSED : exit_status(result.end);
 }
 
 }  // namespace kvt

@@ -19,7 +19,7 @@ class files_export {
 
     void run() {
         for (const written_file& file : written_files()) {
-            if (!request_.wants(file)) {
+            if (!request_.wants(file) || file.needs == file_needs::performance) {
                 continue;
             }
             if (!is_there(file.needs, kavetta_.port_params, kavetta_.entries)) {

@@ -12,7 +12,7 @@ namespace kvt {
 /// when they were asked for by name. CNC files go through the checks of the CNC output dialog one
 /// by one: a failed check refuses its file only. Without a tool the files that need one are left
 /// out with a note, without a groove tool the groove's pocket. The port report comes with a
-/// finished outlet.
+/// finished outlet. What the performance gives is left to export_performance.
 void export_files(program& kavetta, batch_user& person, const export_request& request,
                   export_folder& folder);
 

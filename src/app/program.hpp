@@ -62,6 +62,8 @@ struct program {
     /// The date that reports carry, when it was given; empty: today's date in the short form of the
     /// locale.
     std::string date;
+    /// The decimal mark of the system, for what goes into other programs.
+    char decimal_mark = '.';
 };
 
 }  // namespace kvt

@@ -8,6 +8,7 @@
 #include "core/length_unit.hpp"
 #include "core/rotor_profiles.hpp"
 #include "output/cnc/cnc_choices.hpp"
+#include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"
 
 #include <cstdint>
@@ -21,6 +22,7 @@ struct file_source {
     const design_params& design;
     const rotor_profiles& rotors;
     const port_params& ports;
+    const perf_results& results;
     const entries& boxes;
     const cnc_choices& choices;
     std::string_view project_name;
@@ -30,6 +32,7 @@ struct file_source {
     std::string date = {};                 ///< in the form in which it shall stand there
     std::string version = {};              ///< "2021.1.1"
     const length_unit& boxes_unit = unit;  ///< of the lengths in boxes
+    char decimal_mark = '.';               ///< of the performance data files; no other file has it
 };
 
 }  // namespace kvt

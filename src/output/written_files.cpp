@@ -2,6 +2,7 @@
 
 #include "output/cnc/port_cnc.hpp"
 #include "output/cnc/rotor_cnc.hpp"
+#include "output/data/data_files.hpp"
 #include "output/dxf/dxf_files.hpp"
 #include "output/step/step_files.hpp"
 #include "ports/port_report.hpp"
@@ -21,8 +22,9 @@ constexpr auto GROUPS = std::to_array<file_group_row>({
     {dxf, "dxf", "DXF", "dxf", "dxf"},
     {step, "step", "STEP", "step", "stp"},
     // Their names are fixed: the simulation reads them.
-    {gt, "gt", "STEP", "", "stp", file_choice::by_flag},
+    {gt, "gt", "STEP", "", "stp", file_choice::by_flag, "STEP files of the simulation exchange"},
     {report, "report", "text", "", "txt", file_choice::always},
+    {data, "data", "text", "data", "txt", file_choice::by_flag, "data files of the performance"},
 });
 
 // Adapters from a row's writer to the writers that take less.
@@ -66,6 +68,11 @@ void write_port_report(const file_source& source, text_lines& text) {
                            {source.version, source.date, std::string(source.project_name)})) {
         text.line(line);
     }
+}
+
+template <data_file file>
+void performance_data(const file_source& source, text_lines& text) {
+    write_data_file(file, source, text);
 }
 
 constexpr port_side IN = port_side::inlet;
@@ -113,6 +120,13 @@ constexpr auto FILES = std::to_array<written_file>({
     {gt, "out_port_GT", "", outlet, step_ports<write_step_outlet_port>},
 
     {report, "port_radius_coordinates", "", outlet, write_port_report},
+
+    // One entry of the menu writes all five.
+    {data, "perf_flow", "", performance, performance_data<data_file::flow>},
+    {data, "perf_torque", "", performance, performance_data<data_file::torque>},
+    {data, "perf_contact", "", performance, performance_data<data_file::contact>},
+    {data, "perf_efficiency", "", performance, performance_data<data_file::efficiency>},
+    {data, "perf_volumetric", "", performance, performance_data<data_file::volumetric>},
 });
 
 }  // namespace
@@ -158,6 +172,7 @@ bool is_there(file_needs needs, const port_params& ports, const entries& boxes) 
         case groove:
             return is_ticked(boxes.metering_groove) && ports.groove_last > 0;
         case profiles:
+        case performance:
             break;
     }
     return true;

@@ -13,7 +13,7 @@
 namespace kvt {
 
 /// Files of one format that belong together.
-enum class file_group { cnc, dxf, step, gt, report };
+enum class file_group { cnc, dxf, step, gt, report, data };
 
 /// How the batch program is asked for the files of a group: by their names in an option, all of
 /// them with a flag, or not at all because they always come with the others.
@@ -27,15 +27,16 @@ struct file_group_row {
                                  ///< or "title"; "" without a save dialog
     std::string_view extension;  ///< without the point
     file_choice choice = file_choice::by_name;
+    std::string_view flagged = {};  ///< by_flag: what the batch program's help calls its files
 };
 
 /// What a design must have before a file says something.
-enum class file_needs { profiles, inlet, outlet, any_port, groove };
+enum class file_needs { profiles, inlet, outlet, any_port, groove, performance };
 
 struct written_file {
     file_group group;
     std::string_view name;     ///< "inner_xy": for the batch program, and the name of its file
-    std::string_view control;  ///< its tick box on Form3 or its entry of the menu; "" for none
+    std::string_view control;  ///< its tick box on Form3 or its own entry of the menu; "" for none
     file_needs needs;
     /// Appends the whole file; a run-time failure leaves the lines before it in the text.
     void (*write)(const file_source& source, text_lines& text);
@@ -58,7 +59,8 @@ const written_file* find_file(file_group group, std::string_view name);
 /// "inner_xy.cnc"
 std::string file_name(const written_file& file);
 
-/// Whether the design has what a file needs: ports that were finished, a groove that is ticked.
+/// Whether the design has what a file needs: ports that were finished, a groove that is ticked. The
+/// results of a performance are always there, all 0 before the first run.
 bool is_there(file_needs needs, const port_params& ports, const entries& boxes);
 
 }  // namespace kvt

@@ -40,6 +40,9 @@ TEST(written_files, have_the_names_that_people_and_programs_know) {
                                         "in_port_GT.stp", "out_port_GT.stp"}));
     EXPECT_EQ(names_of(file_group::report),
               std::vector<std::string>{"port_radius_coordinates.txt"});
+    EXPECT_EQ(names_of(file_group::data),
+              (std::vector<std::string>{"perf_flow.txt", "perf_torque.txt", "perf_contact.txt",
+                                        "perf_efficiency.txt", "perf_volumetric.txt"}));
 }
 
 TEST(written_files, have_a_name_of_their_own) {
@@ -59,12 +62,25 @@ TEST(written_files, have_a_caption_and_the_texts_of_their_dialog) {
             continue;
         }
         const char* form = file.group == file_group::cnc ? "Form3" : "MDIForm1";
-        EXPECT_NE(find_caption(form, file.control), nullptr) << file.control;
+        EXPECT_EQ(file.control.empty(), file.group == file_group::data)
+            << "one entry writes all data files";
+        EXPECT_TRUE(file.control.empty() || find_caption(form, file.control) != nullptr)
+            << file.control;
         EXPECT_NE(find_caption(group.texts, "filter"), nullptr) << group.texts;
         EXPECT_TRUE(find_caption(group.texts, std::string(file.name) + "_title") != nullptr ||
                     find_caption(group.texts, "title") != nullptr)
             << file.name;
     }
+}
+
+TEST(written_files, are_asked_for_by_a_flag_that_says_what_they_are) {
+    for (const file_group_row& group : file_groups()) {
+        EXPECT_EQ(group.choice == file_choice::by_flag, !group.flagged.empty()) << group.name;
+    }
+}
+
+TEST(written_files, of_the_performance_are_there_before_any_run) {
+    EXPECT_TRUE(is_there(file_needs::performance, port_params(), entries()));
 }
 
 TEST(written_files, need_finished_ports_and_a_ticked_groove) {

@@ -15,14 +15,20 @@ namespace kvt {
 
 namespace {
 
-/// The title is the file's own, else the one of all files of its group.
+/// The title is the file's own, else the one of all files of its group. A file with a text for its
+/// name proposes that behind the project's name.
 file_dialog dialog_of(const program& kavetta, const written_file& file) {
     const file_group_row& group = row_of(file.group);
     const std::int16_t language = kavetta.app_state.language;
     const std::string own_title = std::string(file.name) + "_title";
     const bool has_own = find_caption(group.texts, own_title) != nullptr;
-    return save_text_dialog(form_text(group.texts, has_own ? own_title : "title", language),
-                            form_text(group.texts, "filter", language), group.extension);
+    file_dialog dialog =
+        save_text_dialog(form_text(group.texts, has_own ? own_title : "title", language),
+                         form_text(group.texts, "filter", language), group.extension);
+    if (const text_row* name = find_caption(group.texts, std::string(file.name) + "_name")) {
+        dialog.file_name = kavetta.app_state.project_name + std::string(row_text(*name, language));
+    }
+    return dialog;
 }
 
 file_source source_with(const program& kavetta, const entries& boxes, const length_unit& boxes_unit,
@@ -31,6 +37,7 @@ file_source source_with(const program& kavetta, const entries& boxes, const leng
     return {kavetta.design_params,
             kavetta.rotor_profiles,
             kavetta.port_params,
+            kavetta.perf_results,
             boxes,
             kavetta.cnc_choices,
             state.project_name,
@@ -39,7 +46,8 @@ file_source source_with(const program& kavetta, const entries& boxes, const leng
             std::move(path),
             kavetta.date.empty() ? short_date(system_clock()) : kavetta.date,
             std::string(FULL_VERSION),
-            boxes_unit};
+            boxes_unit,
+            kavetta.decimal_mark};
 }
 
 }  // namespace

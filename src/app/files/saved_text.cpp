@@ -24,10 +24,10 @@ std::string outcome_line(const std::string& path, const std::optional<text_failu
     return text(message::save_failed) + path + ": " + reason;
 }
 
-std::optional<text_failure> save_bytes(const std::string& path, std::string_view bytes,
-                                       disk_write kind) {
+/// Nothing of the file is there after a failure.
+std::optional<text_failure> failure_of(const std::function<void()>& save_whole) {
     try {
-        write_file(path, bytes, kind);
+        save_whole();
     } catch (const run_time_error& error) {
         return text_failure{error, false};
     }
@@ -58,7 +58,7 @@ std::optional<text_failure> save_text(const std::string& path, const text_writer
     } catch (const run_time_error& error) {
         failed = text_failure{error, true};
     }
-    const std::optional<text_failure> not_saved = save_bytes(path, text.bytes(), kind);
+    const auto not_saved = failure_of([&] { write_file(path, text.bytes(), kind); });
     return not_saved ? not_saved : failed;
 }
 
@@ -92,7 +92,7 @@ std::optional<saved_text> ask_and_save_bytes(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<std::string(const std::string& path)>& bytes_of) {
     return ask_and_save(kavetta, person, dialog, [&](const std::string& path) {
-        return save_bytes(path, bytes_of(path), disk_write::flushed);
+        return failure_of([&] { write_file(path, bytes_of(path)); });
     });
 }
 

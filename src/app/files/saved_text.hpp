@@ -52,7 +52,8 @@ std::optional<saved_text> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write);
 
-/// The same for a file that is made at once, of the bytes that belong to the path.
+/// The same for a file that is made at once, of the bytes that belong to the path: all of it or,
+/// when they can't be made either, nothing.
 std::optional<saved_text> ask_and_save_bytes(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<std::string(const std::string& path)>& bytes_of);

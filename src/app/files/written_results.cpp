@@ -13,7 +13,18 @@ namespace kvt {
 namespace {
 
 stage stage_of(const written_file& file) {
-    return file.needs == file_needs::profiles ? stage::profiles : stage::ports;
+    switch (file.needs) {
+        case file_needs::profiles:
+            return stage::profiles;
+        case file_needs::performance:
+            return stage::performance;
+        case file_needs::inlet:
+        case file_needs::outlet:
+        case file_needs::any_port:
+        case file_needs::groove:
+            break;
+    }
+    return stage::ports;
 }
 
 message missing_results(stage which) {
@@ -51,6 +62,8 @@ std::vector<result_note> notes_of(const program& kavetta, const written_file& fi
             return {&stage_entries::outlet};
         case file_needs::groove:
             return {&stage_entries::groove};
+        case file_needs::performance:
+            return {&stage_entries::perf_results};
         case file_needs::any_port:
             break;
     }

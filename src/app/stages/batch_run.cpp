@@ -68,13 +68,13 @@ void run_stages(program& kavetta, user& person, calc_stage last, batch_result& r
         return;
     }
     result.ports_reached = true;
-    result.refused = !is_whole(design_ports(kavetta, person), kavetta);
+    result.ports_refused = !is_whole(design_ports(kavetta, person), kavetta);
     if (last == calc_stage::ports) {
         return;
     }
     result.performance_reached = true;
     result.performance_reached = calculate_performance(kavetta, person);
-    result.refused = result.refused || !result.performance_reached;
+    result.performance_refused = !result.performance_reached;
 }
 
 }  // namespace

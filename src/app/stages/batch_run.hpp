@@ -39,8 +39,8 @@ struct batch_result {
         false;  ///< Calculate Profiles got past the validation, so its records say something
     bool ports_reached = false;        ///< Design Ports ran, so port_params says something
     bool performance_reached = false;  ///< Calculate Performance got past its validation
-    bool refused =
-        false;  ///< Design Ports or Calculate Performance refused an entry; the end stays ok
+    bool ports_refused = false;        ///< Design Ports refused an entry; the end stays ok
+    bool performance_refused = false;  ///< so did Calculate Performance
 };
 
 /// The name of an end as reports write it: "ok", "validation", ...

@@ -86,6 +86,7 @@ bool calculate_performance(program& kavetta, user& person) {
     if (has_refused_entry(kavetta, person)) {
         return false;
     }
+    kavetta.stage_entries.perf_results.reset();
     try {
         read_inputs(kavetta);
         run_performance(kavetta, person);
@@ -98,6 +99,7 @@ bool calculate_performance(program& kavetta, user& person) {
     }
     apply_chain(kavetta.enabling, chain_event::performance_calculated);
     note_stage(kavetta, stage::performance);
+    note_result(kavetta, &stage_entries::perf_results);
     return true;
 }
 

@@ -19,7 +19,7 @@ struct stage_entries {
 
     /// What whole results of the open project were made from; nothing while the records hold none:
     /// no run yet, one that failed, or those of the project before.
-    std::optional<noted_entries> rotors, inlet, outlet, groove;
+    std::optional<noted_entries> rotors, inlet, outlet, groove, perf_results;
 };
 
 /// One of the results that files are written from.

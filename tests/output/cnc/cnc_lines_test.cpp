@@ -15,13 +15,15 @@ struct cnc_records {
     design_params design;
     rotor_profiles rotors;
     port_params ports;
+    perf_results results;
     entries boxes;
     cnc_choices choices{.cnc_res_digits = 3};
     std::int16_t language = ENGLISH;
     std::int16_t unit = MILLIMETRES;
 
     file_source source() const {
-        return {design, rotors, ports, boxes, choices, "pump", language, length_unit_of(unit)};
+        return {
+            design, rotors, ports, results, boxes, choices, "pump", language, length_unit_of(unit)};
     }
 };
 

@@ -15,13 +15,16 @@ struct rotor_files {
     design_params design = sample_design();
     rotor_profiles rotors = inner_rotor_of(design);
     port_params ports;
+    perf_results results;
     entries boxes = sample_entries();
     cnc_choices choices{.cnc_res_digits = 3, .tool_diameter = 2.0};
     std::int16_t unit = MILLIMETRES;
 
     std::string bytes(void (*write)(const file_source&, text_lines&)) const {
         text_lines text;
-        write({design, rotors, ports, boxes, choices, "pump", ENGLISH, length_unit_of(unit)}, text);
+        write(
+            {design, rotors, ports, results, boxes, choices, "pump", ENGLISH, length_unit_of(unit)},
+            text);
         return text.bytes();
     }
     std::vector<cnc_move> moves(void (*write)(const file_source&, text_lines&)) const {
@@ -122,7 +125,7 @@ TEST(rotor_cnc, leaves_what_it_wrote_until_a_failure) {
     rotor_files files;
     files.rotors.inner_x[2] = 0.0;
     text_lines text;
-    const file_source source{files.design, files.rotors,  files.ports,
+    const file_source source{files.design, files.rotors,  files.ports, files.results,
                              files.boxes,  files.choices, "pump"};
     EXPECT_FAILURE(write_inner_lathe(source, text), failure::division_by_zero);
     const std::vector<cnc_section> sections = cnc_reader(text.bytes(), 3).sections();

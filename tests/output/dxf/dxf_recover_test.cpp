@@ -24,7 +24,7 @@ struct recovered_file {
 
 std::vector<recovered_file> recovered(const std::vector<std::string>& paths,
                                       const temporary_folder& folder) {
-    std::string command = std::string(KVT_PYTHON) + " " + KVT_DXF_SCRIPT;
+    std::string command = std::string(KVT_PYTHON) + " " + KVT_SCRIPT;
     for (const std::string& path : paths) {
         command += " '" + path + "'";
     }
