@@ -18,7 +18,6 @@ WITHOUT_PAGE = {
     ("MDIForm1", "mnuupdates"): "hidden",
     ("MDIForm1", "mnuupdatesauto"): "hidden",
     ("MDIForm1", "mnuupdateschecknow"): "hidden",
-    ("MDIForm1", "mnudataperf"): "not built yet",
     ("Form3", "toolunits_inches"): "a unit",
     ("Form3", "Label1"): "a sentence that the page says in its own words",
     ("Form3", "cancelbutton"): "known from everywhere",

@@ -12,7 +12,8 @@ class progress_shower {
     /// A line that needs no answer, e.g. in the status bar.
     virtual void show_status(std::string_view text) = 0;
     virtual void set_busy(bool busy) = 0;
-    /// Progress of long work, 0 .. 100.
+    /// Progress of long work, 0 .. 100. An empty text leaves what stands: at first "Creating
+    /// Model...".
     virtual void show_progress(std::string_view text, int percent) = 0;
 };
 

@@ -46,6 +46,7 @@ class scripted_user : public user {
         log.push_back("dialog " + dialog.title);
         return next(files);
     }
+    void open_file(std::string_view path) override { log.push_back("open " + std::string(path)); }
     std::optional<std::string> ask_project_name() override {
         log.emplace_back("project name");
         return next(project_names);

@@ -194,13 +194,13 @@ std::string ask_and_save(program& kavetta, user& person, const written_file& fil
 
 }  // namespace
 
-cnc_form open_cnc_form(const program& kavetta, char decimal_mark) {
+cnc_form open_cnc_form(const program& kavetta) {
     cnc_form form;
     form.toolunits =
         form_text("Form3", length_unit_of(kavetta.app_state).toolunits, kavetta.app_state.language);
     for (const std::string_view resolution : RESOLUTIONS) {
         std::string item(resolution);
-        item[1] = decimal_mark;
+        item[1] = kavetta.decimal_mark;
         form.machine_res_items.push_back(item);
     }
     return form;

@@ -22,9 +22,9 @@ struct cnc_form : cnc_entries {
     std::vector<std::string> machine_res_items;  ///< the list of the combo box
 };
 
-/// The form as it loads: units of the project, the five resolutions with the locale's decimal mark,
+/// The form as it loads: units of the project, the five resolutions with the system's decimal mark,
 /// nothing ticked.
-cnc_form open_cnc_form(const program& kavetta, char decimal_mark = '.');
+cnc_form open_cnc_form(const program& kavetta);
 
 /// A click on a file's tick box. The outlet's pocket box shows the entry of the groove's tool when
 /// metering_groove is ticked too; without the tick the entry is hidden and emptied.

@@ -55,7 +55,7 @@ QLabel* column_head(const char* name) {
 Form3::Form3(form_context context, QWidget* parent)
     : dialog_form("Form3", context.kavetta, parent),
       context_(context),
-      form_(open_cnc_form(context.kavetta, decimal_mark())),
+      form_(open_cnc_form(context.kavetta)),
       clockwise_(named_check("Opp_Plot")),
       toolsize_(number_box("toolsize", BOX_WIDTH)),
       groovetooltext_(number_box("groovetooltext", BOX_WIDTH)),

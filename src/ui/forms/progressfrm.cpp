@@ -18,26 +18,32 @@ constexpr int WIDTH = 320;
 }  // namespace
 
 progressfrm::progressfrm(const program& kavetta, QWidget* parent)
-    : QDialog(parent), label1_(named_label("Label1")), bar_(new QProgressBar) {
+    : QDialog(parent),
+      label1_(named_label("Label1")),
+      label2_(named_label("Label2")),
+      bar_(new QProgressBar) {
     setObjectName("progressfrm");
     setModal(false);
     const std::int16_t language = kavetta.app_state.language;
     setWindowTitle(qt_text(row_text(*find_caption("progressfrm", ""), language)));
-    QLabel* label2 = named_label("Label2");
-    label2->setText(qt_text(row_text(*find_caption("progressfrm", "Label2"), language)));
+    label2_->setText(qt_text(row_text(*find_caption("progressfrm", "Label2"), language)));
     bar_->setObjectName("ProgressBar1");
     bar_->setRange(0, 100);
     bar_->setMinimumWidth(WIDTH);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 16);
-    layout->addWidget(label2);
+    layout->addWidget(label2_);
     layout->addWidget(bar_);
     layout->addWidget(label1_);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void progressfrm::show_progress(const QString& text, int percent) {
-    label1_->setText(text);
+    if (!text.isEmpty()) {
+        setWindowTitle(text);
+        label2_->setText(text);
+    }
+    label1_->setText(QString::number(percent) + "%");
     bar_->setValue(percent);
     show();
 }

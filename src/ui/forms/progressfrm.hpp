@@ -18,7 +18,8 @@ class progressfrm : public QDialog {
   public:
     progressfrm(const program& kavetta, QWidget* parent);
 
-    /// What is done now, and how much of the whole, 0 .. 100.
+    /// What is done, as the window's title and above the bar, when it is not empty; and how much of
+    /// the whole, 0 .. 100, in the bar and below it as "20%".
     void show_progress(const QString& text, int percent);
 
     /// While work is waited for, this window alone takes input.
@@ -31,6 +32,7 @@ class progressfrm : public QDialog {
 
   private:
     QLabel* label1_;
+    QLabel* label2_;
     QProgressBar* bar_;
     bool is_ended_ = false;
 };

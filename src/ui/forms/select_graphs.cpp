@@ -1,5 +1,6 @@
 #include "ui/forms/select_graphs.hpp"
 
+#include "app/files/performance_files.hpp"
 #include "app/windows/result_charts.hpp"
 #include "core/user.hpp"
 #include "ui/parts/form_parts.hpp"
@@ -50,7 +51,10 @@ select_graphs::select_graphs(form_context context) : mdi_form("select_graphs", c
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(4);
     buttons->addWidget(create_charts_, 1);
-    buttons->addWidget(command_button("export_excel"), 1);
+    QPushButton* export_excel_button = command_button("export_excel");
+    connect(export_excel_button, &QPushButton::clicked, this,
+            [this] { context_.runner.act(export_excel); });
+    buttons->addWidget(export_excel_button, 1);
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
     layout->setSpacing(ROW_SPACING);

@@ -3,6 +3,7 @@
 #include "app/desk/exit_program.hpp"
 #include "app/desk/explanation_windows.hpp"
 #include "app/files/file_output.hpp"
+#include "app/files/performance_files.hpp"
 #include "app/files/project_commands.hpp"
 #include "ui/shell/help_file.hpp"
 
@@ -57,7 +58,7 @@ const std::array MENU_ROWS = {
 
     menu_row{"mnudata", "", MENU},
     menu_row{"mnudatacnc", "mnudata"},
-    menu_row{"mnudataperf", "mnudata"},
+    menu_row{"mnudataperf", "mnudata", ENTRY, false, NO_KEY, going_on<save_performance_files>},
 
     menu_row{"mnuscreen", "", MENU},
     menu_row{"mnuscreensave", "mnuscreen"},

@@ -23,14 +23,12 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
     {"MDIForm1", "mnumodelporting"},
     {"MDIForm1", "mnustepports_inlet_GT"},
     {"MDIForm1", "mnustepport_outlet_GT"},
-    {"MDIForm1", "mnudataperf"},
     {"MDIForm1", "mnuupdates"},
     {"MDIForm1", "mnuupdatesauto"},
     {"MDIForm1", "mnuupdateschecknow"},
     {"Perffrm", "GT_combo"},
     {"Perffrm", "GT_fluid"},
     {"Perffrm", "GT_Sim_Button"},
-    {"select_graphs", "export_excel"},
 });
 
 }  // namespace

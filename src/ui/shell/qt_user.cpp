@@ -11,6 +11,7 @@
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -18,6 +19,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QUrl>
 
 namespace kvt {
 
@@ -157,6 +159,10 @@ bool qt_user::ask_to_go_on(std::string_view failure) {
 std::optional<std::string> qt_user::choose_file(const file_dialog& dialog) {
     refresh();
     return run_file_dialog(dialog, parent());
+}
+
+void qt_user::open_file(std::string_view path) {
+    static_cast<void>(QDesktopServices::openUrl(QUrl::fromLocalFile(qt_text(path))));
 }
 
 std::optional<std::string> qt_user::ask_project_name() {

@@ -42,6 +42,7 @@ class qt_user : public user {
     /// window to go on in.
     bool ask_to_go_on(std::string_view failure) override;
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
+    void open_file(std::string_view path) override;
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;
     void show_status(std::string_view text) override;

@@ -64,7 +64,8 @@ TEST_F(cnc_output, opens_with_the_units_and_five_resolutions) {
               (std::vector<std::string>{"0.01", "0.001", "0.0001", "0.00001", "0.000001"}));
     EXPECT_FALSE(form.groove_entry_shown);
     kavetta.app_state.drawing_units = INCHES;
-    const cnc_form inches = open_cnc_form(kavetta, ',');
+    kavetta.decimal_mark = ',';
+    const cnc_form inches = open_cnc_form(kavetta);
     EXPECT_EQ(inches.toolunits, "Inches");
     EXPECT_EQ(inches.machine_res_items[4], "0,000001");
     EXPECT_EQ(inches.machine_res_combo, "");

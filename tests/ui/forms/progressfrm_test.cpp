@@ -19,19 +19,24 @@ class progressfrm_test : public desktop_test {
 
 TEST_F(progressfrm_test, appears_with_the_first_progress_and_goes_when_it_is_unloaded) {
     start();
-    QString at_work;
+    QString at_work, title, share;
     int percent = 0;
     desk().runner().act([&](kvt::program&, user& person) {
         person.show_progress("Inner rotor", 40);
         ASSERT_NE(shown_window(), nullptr);
         EXPECT_TRUE(shown_window()->isVisible());
-        at_work = shown_window()->findChild<QLabel*>("Label1")->text();
+        at_work = shown_window()->findChild<QLabel*>("Label2")->text();
+        title = shown_window()->windowTitle();
+        share = shown_window()->findChild<QLabel*>("Label1")->text();
         percent = shown_window()->findChild<QProgressBar*>("ProgressBar1")->value();
-        person.show_progress("Outer rotor", 80);
-        EXPECT_EQ(shown_window()->findChild<QLabel*>("Label1")->text(), "Outer rotor");
+        person.show_progress("", 80);
+        EXPECT_EQ(shown_window()->findChild<QLabel*>("Label1")->text(), "80%");
+        EXPECT_EQ(shown_window()->findChild<QLabel*>("Label2")->text(), "Inner rotor");
         person.unload_form("progressfrm");
     });
     EXPECT_EQ(at_work, "Inner rotor");
+    EXPECT_EQ(title, "Inner rotor");
+    EXPECT_EQ(share, "40%");
     EXPECT_EQ(percent, 40);
     EXPECT_EQ(shown_window(), nullptr);
 }

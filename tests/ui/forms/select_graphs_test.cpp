@@ -1,6 +1,7 @@
 // select_graphs: ticking the results to draw.
 #include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
+#include "ui/recording_viewer.hpp"
 
 #include <QCheckBox>
 
@@ -37,14 +38,42 @@ TEST_F(select_graphs_test, a_new_project_unticks_all) {
     }
 }
 
-TEST_F(select_graphs_test, the_charts_can_be_created_the_export_is_not_built_yet) {
+TEST_F(select_graphs_test, the_charts_can_be_created_once_there_is_a_performance) {
     start(own_design_file("n07_engine_oil_groove"));
     press("Calc");
     press("design_ports");
     press("calc_perf");
     EXPECT_TRUE(kavetta().enabling.create_charts);
     EXPECT_TRUE(find<QPushButton>("create_charts")->isEnabled());
+}
+
+TEST_F(select_graphs_test, export_writes_the_workbook_once_there_is_a_performance) {
+    const recording_viewer viewer;
+    start(own_design_file("n07_engine_oil_groove"));
+    press("Calc");
+    press("design_ports");
     EXPECT_FALSE(find<QPushButton>("export_excel")->isEnabled());
+    press("calc_perf");
+    const std::string path = (folder.path() / "pump.xlsx").string();
+    robot.files.emplace_back(path);
+    press("export_excel");
+    EXPECT_EQ(robot.titles.back(), "Kavetta V2021 - Export to Excel");
+    EXPECT_TRUE(std::filesystem::exists(path));
+    EXPECT_EQ(status(), "Written: " + path);
+    EXPECT_EQ(viewer.opened, std::vector<std::string>{path});
+    EXPECT_EQ(window().findChild<QWidget*>("progressfrm"), nullptr) << "the progress is gone";
+}
+
+TEST_F(select_graphs_test, export_that_fails_asks_for_the_data_files) {
+    start(own_design_file("n07_engine_oil_groove"));
+    press("Calc");
+    press("design_ports");
+    press("calc_perf");
+    robot.files.emplace_back((folder.path() / "none" / "pump.xlsx").string());
+    robot.answers.emplace_back("No");
+    press("export_excel");
+    ASSERT_EQ(robot.questions.size(), 1U);
+    EXPECT_TRUE(robot.questions[0].starts_with("An error has occurred"));
 }
 
 TEST_F(select_graphs_test, captions_follow_the_language) {

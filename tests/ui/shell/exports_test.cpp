@@ -3,6 +3,8 @@
 #include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
 
+#include <QFileDialog>
+
 namespace kvt {
 
 namespace {
@@ -45,6 +47,28 @@ TEST_F(exports_ui, a_changed_entry_asks_before_the_save_dialog_and_before_form3)
                     "The entries have changed since the last calculation. Write the calculated "
                     "design?"));
     EXPECT_TRUE(std::filesystem::exists(folder.file("pump.dxf")));
+}
+
+TEST_F(exports_ui, the_data_files_are_asked_for_one_after_the_other) {
+    start(own_design_file("n07_engine_oil_groove"));
+    press("Calc");
+    press("design_ports");
+    EXPECT_FALSE(find<QAction>("mnudataperf")->isEnabled());
+    press("calc_perf");
+    ASSERT_TRUE(find<QAction>("mnudataperf")->isEnabled());
+    robot.titles.clear();
+    std::vector<std::string> proposed;
+    robot.at_file_dialog = [&](QFileDialog& dialog) {
+        proposed.push_back(utf8_text(dialog.findChild<QLineEdit*>("fileNameEdit")->text()));
+    };
+    robot.files = {std::nullopt, folder.file("torque.txt"), std::nullopt, std::nullopt,
+                   std::nullopt};
+    choose("mnudataperf");
+    EXPECT_EQ(robot.titles.size(), 5U);
+    EXPECT_EQ(robot.titles.front(), "Kavetta V2021 - Save Flow vs Pressure Data");
+    EXPECT_EQ(proposed.front(), "n07_engine_oil_groove - Flow");
+    EXPECT_EQ(status(), "Written: " + folder.file("torque.txt"));
+    EXPECT_TRUE(read_file(folder.file("torque.txt")).ends_with("\r\nEnd of File\r\n"));
 }
 
 TEST_F(exports_ui, a_file_whose_writer_failed_is_called_incomplete) {

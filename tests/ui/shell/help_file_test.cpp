@@ -2,25 +2,9 @@
 #include "ui/shell/help_file.hpp"
 
 #include "ui/desktop_fixture.hpp"
-
-#include <QDesktopServices>
-#include <QUrl>
+#include "ui/recording_viewer.hpp"
 
 namespace kvt {
-
-/// Stands in the place of the platform's viewer.
-class recording_viewer : public QObject {
-    Q_OBJECT
-
-  public:
-    recording_viewer() { QDesktopServices::setUrlHandler("file", this, "open"); }
-    ~recording_viewer() override { QDesktopServices::unsetUrlHandler("file"); }
-
-    std::vector<std::string> opened;
-
-  public slots:
-    void open(const QUrl& url) { opened.push_back(utf8_text(url.toLocalFile())); }
-};
 
 namespace {
 
@@ -66,5 +50,3 @@ TEST_F(help_file_test, a_missing_file_is_told_in_the_status_bar) {
 }
 
 }  // namespace kvt
-
-#include "help_file_test.moc"

@@ -1,0 +1,19 @@
+// performance_files: the results of a performance as files that other programs read: the data files
+// and the workbook.
+#pragma once
+
+namespace kvt {
+
+class user;
+struct program;
+
+/// The menu entry mnudataperf: once may_write allows it the five data files, each with its save
+/// dialog; a cancelled one skips its file. What became of them stands in the status bar.
+void save_performance_files(program& kavetta, user& person);
+
+/// The button export_excel: once may_write allows it the save dialog, the workbook, and the program
+/// that the system has for it. When the workbook can't be made or saved, the status bar says why
+/// and the user is asked whether to write the data files instead.
+void export_excel(program& kavetta, user& person);
+
+}  // namespace kvt
