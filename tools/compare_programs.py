@@ -15,7 +15,7 @@ FOLDERS = ("examples", "tests/data/designs")
 DATE = "2021-11-03"
 COMMANDS = {
     "calc": ("--json", "results.json"),
-    "export": ("--out", ".", "--tool", "2", "--groove-tool", "1", "--gt", "--date", DATE),
+    "export": ("--out", ".", "--tool", "2", "--groove-tool", "1", "--gt", "--data", "--date", DATE),
 }
 
 

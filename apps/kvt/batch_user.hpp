@@ -40,7 +40,8 @@ class batch_user : public user {
     void start_detached(const started_tool& tool) override;
     bool wait(std::chrono::milliseconds time) override;
 
-    // There are no windows, no focus, no pointer and no progress bar.
+    // There are no windows, no other programs, no focus, no pointer and no progress bar.
+    void open_file(std::string_view) override {}
     void show_form(std::string_view) override {}
     void unload_form(std::string_view) override {}
     void set_focus(std::string_view) override {}

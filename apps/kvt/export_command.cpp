@@ -5,6 +5,7 @@
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
 #include "kvt/export_files.hpp"
+#include "kvt/export_performance.hpp"
 
 #include <ostream>
 #include <system_error>
@@ -43,6 +44,10 @@ bool export_project(const program& kavetta, const export_request& request, std::
     return true;
 }
 
+calc_stage last_stage(const export_request& request) {
+    return request.wants_performance() ? calc_stage::performance : calc_stage::ports;
+}
+
 }  // namespace
 
 int export_design(const export_request& request, std::ostream& out, std::ostream& err) {
@@ -55,10 +60,15 @@ int export_design(const export_request& request, std::ostream& out, std::ostream
     if (!export_project(kavetta, request, out, err)) {
         return EXIT_REFUSED;
     }
-    const batch_result result = calculate_open_design(kavetta, person, calc_stage::ports);
+    kavetta.decimal_mark = request.decimal_mark;
+    batch_result result = calculate_open_design(kavetta, person, last_stage(request));
     export_folder folder(request.folder, request.source.language, out, err);
     if (result.ports_reached) {
         export_files(kavetta, person, request, folder);
+    }
+    export_performance(kavetta, request, folder);
+    if (request.force) {
+        result.performance_refused = false;
     }
     person.show_hints(kavetta.hints, request.source.language);
     return folder.complete() ? exit_status(result) : EXIT_REFUSED;

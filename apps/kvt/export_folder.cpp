@@ -21,6 +21,18 @@ void export_folder::write(std::string_view name, const text_writer& writer) {
     out_ << path << '\n';
 }
 
+void export_folder::write_whole(std::string_view name, const std::function<std::string()>& bytes) {
+    const std::string path = path_of(name);
+    try {
+        write_file(path, bytes(), disk_write::left_to_the_system);
+    } catch (const run_time_error& error) {
+        note(path, run_time_error_line(error, language_));
+        refuse();
+        return;
+    }
+    out_ << path << '\n';
+}
+
 void export_folder::note(std::string_view name, std::string_view text) {
     err_ << name << ": " << text << '\n';
 }

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -23,6 +24,8 @@ class export_folder {
 
     /// Saves a file as far as its writer gets. A failure is told, and refuses the file.
     void write(std::string_view name, const text_writer& writer);
+    /// The same for a file whose bytes are made as a whole: all of it or nothing.
+    void write_whole(std::string_view name, const std::function<std::string()>& bytes);
     /// "NAME: TEXT" on standard error.
     void note(std::string_view name, std::string_view text);
     /// A file that was asked for is not there, or not whole.

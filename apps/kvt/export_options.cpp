@@ -107,7 +107,7 @@ void add_names_option(CLI::App& command, const file_group_row& group, export_req
 void add_flag(CLI::App& command, const file_group_row& group, export_request& files) {
     command.add_flag_callback(
         "--" + std::string(group.name), [&files, &group] { files.flagged.insert(group.group); },
-        "The " + std::string(group.format) + " files of the simulation exchange, too");
+        "The " + std::string(group.flagged) + ", too");
 }
 
 /// The files of each group as the table has them.
@@ -121,6 +121,18 @@ void add_file_options(CLI::App& command, export_request& files) {
     }
 }
 
+void add_performance_options(CLI::App& command, export_request& files) {
+    command.add_flag("--workbook", files.workbook,
+                     "The workbook of the performance, perf.xlsx, too");
+    command.add_flag_callback(
+        "--decimal-comma", [&files] { files.decimal_mark = ','; },
+        "Numbers of the performance data files with a comma");
+    command.add_flag(
+        "--force", files.force,
+        "Performance data files and workbook also of a design without performance, with "
+        "zeros");
+}
+
 }  // namespace
 
 void add_export_options(CLI::App& command, export_request& files) {
@@ -129,6 +141,7 @@ void add_export_options(CLI::App& command, export_request& files) {
         ->required();
     add_file_options(command, files);
     add_cnc_options(command, files);
+    add_performance_options(command, files);
     command
         .add_option("--date", files.date,
                     "Date that the files carry; default: today's in the form of the locale")

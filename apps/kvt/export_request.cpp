@@ -40,4 +40,8 @@ bool export_request::wants(const written_file& file) const {
     return true;
 }
 
+bool export_request::wants_performance() const {
+    return workbook || flagged.contains(file_group::data);
+}
+
 }  // namespace kvt

@@ -21,11 +21,16 @@ struct export_request {
     std::string tool, groove_tool;  ///< diameters as a user would type them; empty: none
     bool clockwise = false;         ///< the X/Y files of the inner rotor
     std::string date;               ///< that files carry; empty: today's
+    bool workbook = false;          ///< perf.xlsx
+    char decimal_mark = '.';        ///< of the performance data files
+    bool force = false;             ///< zeros of a performance that was not calculated are written
 
     /// Whether a file was asked for by its name, or by the flag of its group.
     bool names(const written_file& file) const;
     /// Whether a file shall be written. Without a choice everything that is chosen by name is.
     bool wants(const written_file& file) const;
+    /// Whether something is written that Calculate Performance works out.
+    bool wants_performance() const;
 };
 
 }  // namespace kvt
