@@ -8,8 +8,8 @@ import pathlib
 import re
 import sys
 
-FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "viewwinfrm", "MDIForm1", "Form2", "Form3",
-         "graphpopupmenu"]
+FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "viewwinfrm", "MDIForm1",
+         "Form2", "Form3", "graphpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
 

@@ -52,6 +52,7 @@ constexpr std::array FORM_ROWS = {
                  closer::default_layout, "Port Explanation"),
     loaded_child("perf_res", "Performance Results", "calc_perf",
                  NEW_OR_OPEN | CHANGED_DESIGN | closer::language),
+    loaded_child("result_tables", "Result Tables", "mnuwindow", NEW_OR_OPEN | CHANGED_DESIGN),
     form_row{"MDIForm1", "main window", main_window, whole_run, "start", closer::nothing,
              "Main Screen", window_rectangle{}, false},
     chart("FLOW_graphview2", "Pump Flow", "flow_checkbox", "Flow Chart", 300),

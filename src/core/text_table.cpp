@@ -46,6 +46,7 @@ consteval auto form_rows() {
 #include "core/texts/kvt.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/perf_res.inc"
+#include "core/texts/result_tables.inc"
 #include "core/texts/portdes.inc"
 #include "core/texts/progressfrm.inc"
 #include "core/texts/select_graphs.inc"

@@ -58,7 +58,7 @@ bool staged_program::calculate() {
         const ports_designed ports = design_ports(kavetta, person);
         done = done && ports.inlet && ports.outlet;
         done = done && calculate_performance(kavetta, person);
-        for (const char* form : {"explain", "port_explain"}) {
+        for (const char* form : {"explain", "port_explain", "result_tables"}) {
             person.show_form(form);
         }
     });

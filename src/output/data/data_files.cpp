@@ -1,8 +1,7 @@
 #include "output/data/data_files.hpp"
 
+#include "base/decimal_mark.hpp"
 #include "base/number_text.hpp"
-
-#include <algorithm>
 
 namespace kvt {
 
@@ -11,9 +10,7 @@ namespace {
 constexpr char SEPARATOR = ';';
 
 std::string marked_number(double value, char decimal_mark) {
-    std::string text = number_text(value);
-    std::ranges::replace(text, '.', decimal_mark);
-    return text;
+    return with_decimal_mark(number_text(value), decimal_mark);
 }
 
 std::string header_line(const data_block& block) {

@@ -255,7 +255,7 @@ void graphview2::export_chart() {
         const std::optional<saved_text> saved = ask_and_save_bytes(
             kavetta, person, chart_export_dialog(kavetta, chart_), [&](const std::string& path) {
                 return exported_chart(shown(), format_of(path), devicePixelRatioF(),
-                                      decimal_mark());
+                                      kavetta.decimal_mark);
             });
         if (saved && saved->is_whole) {
             person.show_status(saved->outcome);

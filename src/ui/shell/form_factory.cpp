@@ -5,6 +5,7 @@
 #include "ui/forms/explain.hpp"
 #include "ui/forms/perf_res.hpp"
 #include "ui/forms/portdes.hpp"
+#include "ui/forms/result_tables.hpp"
 #include "ui/forms/select_graphs.hpp"
 #include "ui/forms/viewwinfrm.hpp"
 
@@ -34,6 +35,7 @@ constexpr std::array FORM_MAKERS = {
     form_maker{"explain", made<explain>},
     form_maker{"port_explain", made<port_explain>},
     form_maker{"perf_res", made<perf_res>},
+    form_maker{"result_tables", made<result_tables>},
 };
 
 }  // namespace

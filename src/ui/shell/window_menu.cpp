@@ -8,12 +8,19 @@
 #include <QMainWindow>
 #include <QMenu>
 
+#include <algorithm>
+#include <array>
+
 namespace kvt {
 
 namespace {
 
-/// Its results stand while the charts can be drawn.
-constexpr auto RESULTS = "perf_res";
+/// What they show stands while the charts can be drawn.
+constexpr std::array<const char*, 2> OF_RESULTS = {"perf_res", "result_tables"};
+
+bool shows_results(const QString& form) {
+    return std::ranges::find(OF_RESULTS, form) != OF_RESULTS.end();
+}
 
 }  // namespace
 
@@ -23,7 +30,9 @@ window_menu::window_menu(form_context context, QMainWindow& window)
     for (const form_row& row : fixed_child_rows()) {
         add_entry(*menu, qt_text(row.name));
     }
-    add_entry(*menu, RESULTS);
+    for (const char* form : OF_RESULTS) {
+        add_entry(*menu, form);
+    }
 }
 
 void window_menu::add_entry(QMenu& menu, const QString& form) {
@@ -36,7 +45,7 @@ void window_menu::add_entry(QMenu& menu, const QString& form) {
 void window_menu::refresh() {
     for (const auto& [form, entry] : entries_) {
         entry->setText(caption_of(context_.kavetta, utf8_text(form), "").replace('&', "&&"));
-        entry->setEnabled(form != RESULTS || context_.kavetta.enabling.create_charts);
+        entry->setEnabled(!shows_results(form) || context_.kavetta.enabling.create_charts);
     }
 }
 

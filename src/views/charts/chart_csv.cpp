@@ -1,17 +1,14 @@
 #include "views/charts/chart_csv.hpp"
 
+#include "base/decimal_mark.hpp"
 #include "base/number_text.hpp"
-
-#include <algorithm>
 
 namespace kvt {
 
 namespace {
 
 std::string number_with(double value, char decimal_mark) {
-    std::string text = number_text(value);
-    std::ranges::replace(text, '.', decimal_mark);
-    return text;
+    return with_decimal_mark(number_text(value), decimal_mark);
 }
 
 /// "Delivery Pressure (bar);1600 rpm (Lit/min);2000 rpm (Lit/min)"
