@@ -39,6 +39,7 @@ class silent_user : public kvt::user {
     std::optional<std::string> choose_file(const kvt::file_dialog&) override {
         return std::nullopt;
     }
+    void open_file(std::string_view) override {}
     std::optional<std::string> ask_project_name() override { return std::nullopt; }
     kvt::start_choice ask_new_or_open() override { return kvt::start_choice::neither; }
     void show_status(std::string_view) override {}
