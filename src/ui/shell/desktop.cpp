@@ -17,7 +17,7 @@ desktop::desktop(const std::filesystem::path& folder)
       window_(form_context{program_, runner_, person_}),
       charts_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
-    program_.decimal_mark = decimal_mark();
+    program_.decimal_mark = QLocale().decimalPoint() == "," ? ',' : '.';
     autosave_timer_.setObjectName("autosave_timer");
     QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_,
                      [this] { save_unsaved(); });

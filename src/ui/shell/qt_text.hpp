@@ -1,7 +1,6 @@
 // Texts between the program (UTF-8) and the widgets (QString).
 #pragma once
 
-#include <QLocale>
 #include <QString>
 
 #include <string>
@@ -20,11 +19,6 @@ inline std::string utf8_text(const QString& text) {
 /// A text in which "&" is a character to show, not the mark of an access key.
 inline QString literal_text(std::string_view utf8) {
     return qt_text(utf8).replace('&', "&&");
-}
-
-/// The decimal mark of the system, as files have it that go into a spreadsheet.
-inline char decimal_mark() {
-    return QLocale().decimalPoint() == "," ? ',' : '.';
 }
 
 }  // namespace kvt
