@@ -27,8 +27,9 @@ class window_menu_test : public desktop_test {
 
 TEST_F(window_menu_test, has_the_titles_of_the_five_windows_and_of_the_results) {
     start();
-    const std::vector<std::string> expected = {"Design",      "Port Design", "Design View",
-                                               "Performance", "Charts",      "Performance Results"};
+    const std::vector<std::string> expected = {"Design",       "Port Design", "Design View",
+                                               "Performance",  "Charts",      "Performance Results",
+                                               "Result Tables"};
     EXPECT_EQ(titles(), expected);
 }
 
