@@ -23,7 +23,7 @@ namespace kvt {
 
 namespace {
 
-constexpr QSize START_SIZE(640, 340);
+constexpr QSize START_SIZE(800, 340);
 constexpr int MARGIN = 8;
 
 /// The tabs in the order of grid_tables, then the angle.
