@@ -51,6 +51,7 @@ COVERED_BY = {
     "src/ui/parts/form_parts.cpp": "tests/ui/shell/layout_test.cpp",
     "src/ui/parts/language_flag.cpp": "tests/ui/forms/Form1_test.cpp",
     "src/ui/shell/loaded_form.cpp": "tests/ui/forms/perf_res_test.cpp",
+    "src/ui/parts/result_table_model.cpp": "tests/ui/forms/result_tables_test.cpp",
     "src/ui/shell/mdi_form.cpp": "tests/ui/forms/Form1_test.cpp",
     "src/ui/shell/menu_tree.cpp": "tests/ui/shell/main_menu_test.cpp",
     "src/ui/forms/newprojectname.cpp": "tests/ui/shell/dialog_form_test.cpp",
