@@ -1,30 +1,20 @@
 #include "kvt/aligned_lines.hpp"
 
+#include "output/report/columned_line.hpp"
+
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
 
 namespace kvt {
-
-namespace {
-
-/// The number of characters of a UTF-8 text: every byte that does not continue one.
-std::size_t width(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-    }));
-}
-
-}  // namespace
 
 std::string aligned_lines(const std::vector<std::pair<std::string, std::string>>& rows) {
     std::size_t widest = 0;
     for (const auto& [caption, value] : rows) {
-        widest = std::max(widest, width(caption));
+        widest = std::max(widest, character_count(caption));
     }
     std::string lines;
     for (const auto& [caption, value] : rows) {
-        lines += caption + std::string(widest - width(caption) + 2, ' ') + value + "\n";
+        lines += caption + std::string(widest - character_count(caption) + 2, ' ') + value + "\n";
     }
     return lines;
 }
@@ -34,13 +24,13 @@ std::string aligned_table(const std::vector<std::vector<std::string>>& rows) {
     for (const std::vector<std::string>& row : rows) {
         widest.resize(std::max(widest.size(), row.size()));
         for (std::size_t i = 0; i < row.size(); ++i) {
-            widest[i] = std::max(widest[i], width(row[i]));
+            widest[i] = std::max(widest[i], character_count(row[i]));
         }
     }
     std::string lines;
     for (const std::vector<std::string>& row : rows) {
         for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string blanks(widest[i] - width(row[i]), ' ');
+            const std::string blanks(widest[i] - character_count(row[i]), ' ');
             const bool is_last = i + 1 == row.size();
             lines += i == 0 ? row[i] + (is_last ? "" : blanks) : "  " + blanks + row[i];
         }

@@ -41,6 +41,10 @@ start_choice batch_user::ask_new_or_open() {
     return start_choice::neither;
 }
 
+std::unique_ptr<report_printer> batch_user::choose_printer(const print_request&) {
+    return nullptr;
+}
+
 void batch_user::show_status(std::string_view text) {
     err_ << text << '\n';
 }

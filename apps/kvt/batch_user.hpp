@@ -4,10 +4,12 @@
 
 #include "base/child_process.hpp"
 #include "core/hints.hpp"
+#include "core/report_printer.hpp"
 #include "core/user.hpp"
 
 #include <cstdint>
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,6 +35,7 @@ class batch_user : public user {
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;
+    std::unique_ptr<report_printer> choose_printer(const print_request& request) override;
     void show_status(std::string_view text) override;
     void start_tool(const started_tool& tool) override;
     bool is_tool_running() override { return tool_.is_running(); }

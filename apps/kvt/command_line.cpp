@@ -7,6 +7,9 @@
 #include "kvt/exit_status.hpp"
 #include "kvt/export_command.hpp"
 #include "kvt/export_options.hpp"
+#include "kvt/given_date.hpp"
+#include "kvt/option_check.hpp"
+#include "kvt/report_command.hpp"
 #include "kvt/standard_streams.hpp"
 
 #include <CLI/CLI.hpp>
@@ -32,6 +35,7 @@ constexpr const char* EXAMPLES =
     "  kvt calc engine_oil.KVT\n"
     "  kvt calc engine_oil.KVT --set thick=12 --set fillet=0 --json -\n"
     "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
+    "  kvt report engine_oil.KVT --out engine_oil.pdf\n"
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
@@ -44,6 +48,7 @@ struct command_line {
     std::vector<std::string> typed;  ///< the --set options as given
     std::string stage = "performance";
     export_request files;   ///< its source is that of calc
+    report_request report;  ///< its source and last stage are those of calc
     assist_request assist;  ///< its source is that of calc
 };
 
@@ -105,6 +110,12 @@ void add_design_options(CLI::App& command, command_line& line) {
         ->check(plain(CLI::Range(1, 2)));
 }
 
+void add_stage_option(CLI::App& command, command_line& line) {
+    command.add_option("--stage", line.stage, "Stop after a stage; default: as far as it goes")
+        ->type_name("profiles|ports|performance")
+        ->check(plain(CLI::IsMember(STAGES)));
+}
+
 CLI::App* add_calc(CLI::App& app, command_line& line) {
     CLI::App* calc = app.add_subcommand("calc", "Calculate a design and print a summary");
     add_design_options(*calc, line);
@@ -114,10 +125,26 @@ CLI::App* add_calc(CLI::App& app, command_line& line) {
         ->type_name("FILE|-");
     calc->add_flag("--full", line.calc.full,
                    "JSON with all profile points and the lines of the Design view");
-    calc->add_option("--stage", line.stage, "Stop after a stage; default: as far as it goes")
-        ->type_name("profiles|ports|performance")
-        ->check(plain(CLI::IsMember(STAGES)));
+    add_stage_option(*calc, line);
     return calc;
+}
+
+CLI::App* add_report(CLI::App& app, command_line& line) {
+    CLI::App* report =
+        app.add_subcommand("report", "Calculate a design and write its report for paper");
+    add_design_options(*report, line);
+    report
+        ->add_option("--out", line.report.file,
+                     "File to write, as text or as PDF; default: text on standard output")
+        ->type_name("FILE.txt|FILE.pdf")
+        ->check(check_of(report_file_problem));
+    add_stage_option(*report, line);
+    report
+        ->add_option("--date", line.report.date,
+                     "Date and time that the report carries; default: now. Without a time 00:00:00")
+        ->type_name("YYYY-MM-DD[THH:MM:SS]")
+        ->check(check_of(date_time_problem));
+    return report;
 }
 
 CLI::App* add_export(CLI::App& app, command_line& line) {
@@ -148,6 +175,7 @@ int run_options(int argc, const char* const* argv, command_line& line, std::ostr
     app.require_subcommand(1);
     add_calc(app, line);
     CLI::App* files = add_export(app, line);
+    CLI::App* report = add_report(app, line);
     CLI::App* assist = add_assist(app, line);
     try {
         app.parse(argc, argv);
@@ -165,6 +193,11 @@ int run_options(int argc, const char* const* argv, command_line& line, std::ostr
     if (files->parsed()) {
         line.files.source = line.calc.source;
         return export_design(line.files, out, err);
+    }
+    if (report->parsed()) {
+        line.report.source = line.calc.source;
+        line.report.last = line.calc.last;
+        return report_design(line.report, out, err);
     }
     return calc_design(line.calc, out, err);
 }

@@ -2,20 +2,15 @@
 
 #include "app/files/cnc_output.hpp"
 #include "base/number_text.hpp"
+#include "kvt/given_date.hpp"
+#include "kvt/option_check.hpp"
 #include "output/written_files.hpp"
 
 #include <CLI/CLI.hpp>
-#include <charconv>
-#include <chrono>
 
 namespace kvt {
 
 namespace {
-
-/// A check that adds nothing to the help text: the option's own words name the values.
-CLI::Validator check_of(std::string (*problem)(const std::string& text)) {
-    return CLI::Validator([problem](std::string& text) { return problem(text); }, "");
-}
 
 // Each check answers what is wrong with a text, or nothing.
 
@@ -31,23 +26,6 @@ std::string resolution_problem(const std::string& text) {
     return resolution_digits(text, 0) != 0
                ? ""
                : "'" + text + "' is not 0.01, 0.001, 0.0001, 0.00001 or 0.000001";
-}
-
-/// Four digits, two, two; a day of the calendar.
-std::string date_problem(const std::string& text) {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    const auto read = [&](std::size_t at, std::size_t length, int& number) {
-        return std::from_chars(text.data() + at, text.data() + at + length, number).ptr ==
-               text.data() + at + length;
-    };
-    const bool has_form = text.size() == 10 && text[4] == '-' && text[7] == '-' &&
-                          read(0, 4, year) && read(5, 2, month) && read(8, 2, day);
-    const std::chrono::year_month_day date{std::chrono::year(year),
-                                           std::chrono::month(static_cast<unsigned>(month)),
-                                           std::chrono::day(static_cast<unsigned>(day))};
-    return has_form && date.ok() ? "" : "'" + text + "' is no date YYYY-MM-DD";
 }
 
 void add_cnc_options(CLI::App& command, export_request& files) {

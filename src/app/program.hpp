@@ -49,6 +49,11 @@ struct program {
 
     kvt::stage_entries stage_entries;
 
+    /// Calculate Performance ran to its end for this project: perf_results says something.
+    bool performance_valid = false;
+    /// perf_res is loaded since the run, so its labels hold what they show.
+    bool results_shown = false;
+
     /// What the command that ran last noticed; empty at the start of a command.
     std::vector<hint> hints;
 

@@ -29,6 +29,10 @@ std::string short_date(const clock& time) {
     return formatted(time.now(), "%x");
 }
 
+std::string time_of_day(const clock& time) {
+    return formatted(time.now(), "%X");
+}
+
 std::string short_date_and_time(std::chrono::system_clock::time_point time) {
     return formatted(time, "%x %H:%M");
 }

@@ -25,6 +25,9 @@ class system_clock : public clock {
 /// decide; without a usable locale it is month/day/year in two digits each.
 std::string short_date(const clock& time);
 
+/// The local time of the clock, e.g. "14:32:07" or "02:32:07 PM", in the form of the locale.
+std::string time_of_day(const clock& time);
+
 /// The local date in the same form and the time of day, "11/03/21 14:32".
 std::string short_date_and_time(std::chrono::system_clock::time_point time);
 

@@ -48,6 +48,7 @@ consteval auto form_rows() {
 #include "core/texts/perf_res.inc"
 #include "core/texts/portdes.inc"
 #include "core/texts/progressfrm.inc"
+#include "core/texts/report.inc"
 #include "core/texts/result_tables.inc"
 #include "core/texts/select_graphs.inc"
 #include "core/texts/step.inc"

@@ -25,5 +25,13 @@ TEST(short_date, follows_the_locale_of_the_environment) {
     before == nullptr ? unsetenv("LC_ALL") : setenv("LC_ALL", kept.c_str(), 1);
 }
 
+TEST(time_of_day, has_hours_minutes_and_seconds) {
+    setenv("LC_ALL", "C", 1);
+    const std::string time = time_of_day(stopped_clock());
+    EXPECT_EQ(time.size(), 8U);
+    EXPECT_EQ(time.substr(5), ":00") << "noon in UTC, whatever the hours of the zone";
+    unsetenv("LC_ALL");
+}
+
 }  // namespace
 }  // namespace kvt

@@ -2,12 +2,15 @@
 // command did to it.
 #pragma once
 
+#include "core/report_printer.hpp"
 #include "core/user.hpp"
 
 #include <deque>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kvt {
@@ -19,12 +22,14 @@ class scripted_user : public user {
     std::vector<std::string> statuses;
     std::vector<std::string>
         log;  ///< everything, one line a call: "unload perf_res", "focus ecc", ...
-    std::vector<file_dialog> dialogs;  ///< the dialogs that were shown
+    std::vector<file_dialog> dialogs;   ///< the dialogs that were shown
+    std::vector<print_request> prints;  ///< the print dialogs that were shown
     // The script. A question, dialog or prompt that the script does not foresee throws.
     std::deque<answer> answers;
     std::deque<std::optional<std::string>> files;
     std::deque<std::optional<std::string>> project_names;
     std::deque<start_choice> start_choices;
+    std::deque<std::unique_ptr<report_printer>> printers;
     /// For failures; without an entry the program ends.
     std::deque<bool> going_on;
 
@@ -54,6 +59,11 @@ class scripted_user : public user {
     start_choice ask_new_or_open() override {
         log.emplace_back("new or open");
         return next(start_choices);
+    }
+    std::unique_ptr<report_printer> choose_printer(const print_request& request) override {
+        prints.push_back(request);
+        log.push_back("print " + request.document);
+        return next(printers);
     }
     void show_status(std::string_view text) override {
         statuses.emplace_back(text);
@@ -94,7 +104,7 @@ class scripted_user : public user {
         if (script.empty()) {
             throw std::logic_error("the script of the user has no further answer");
         }
-        value first = script.front();
+        value first = std::move(script.front());
         script.pop_front();
         return first;
     }

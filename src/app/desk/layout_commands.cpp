@@ -155,7 +155,7 @@ void restore_default_layout(program& kavetta, user& person) {
         person.show_form(form.name);
     }
     kavetta.window_rectangles.main_window_maximised = true;
-    close_forms(form_closer::default_layout, person);
+    close_forms(kavetta, form_closer::default_layout, person);
     kavetta.app_state.explain_closed = true;
     kavetta.app_state.port_explain_closed = true;
     write_layout_file(kavetta, built_in);

@@ -48,7 +48,7 @@ void set_captions(program& kavetta) {
 
 void choose_language(program& kavetta, user& person, std::int16_t language) {
     kavetta.app_state.language = language;
-    close_forms(form_closer::language, person);
+    close_forms(kavetta, form_closer::language, person);
     set_captions(kavetta);
 }
 

@@ -26,7 +26,9 @@ void project_reset(program& kavetta, user& person, reset_kind kind) {
     apply_chain(kavetta.enabling, chain_event::project_reset);
     kavetta.app_state.profiles_calculated = 0;
     kavetta.stage_entries = {};
+    kavetta.performance_valid = false;
     close_forms(
+        kavetta,
         kind == reset_kind::new_project ? form_closer::new_project : form_closer::open_project,
         person);
     clear_chart_choice(kavetta.entries);

@@ -76,12 +76,12 @@ void run_performance(program& kavetta, user& person) {
     calc_maximum_speed(kavetta.rotor_profiles, kavetta.port_params, inputs, results);
     set_performance_labels(results, perf_step::speed_limits, kavetta.app_state, kavetta.labels);
     set_grid(inputs, results);
-    person.show_form("perf_res");
+    open_form(kavetta, "perf_res", person);
     run_routines(kavetta);
 }
 
 bool calculate_performance(program& kavetta, user& person) {
-    close_forms(form_closer::performance, person);
+    close_forms(kavetta, form_closer::performance, person);
     clean_up_perf_entries(kavetta.entries);
     if (has_refused_entry(kavetta, person)) {
         return false;
@@ -100,6 +100,7 @@ bool calculate_performance(program& kavetta, user& person) {
     apply_chain(kavetta.enabling, chain_event::performance_calculated);
     note_stage(kavetta, stage::performance);
     note_result(kavetta, &stage_entries::perf_results);
+    kavetta.performance_valid = true;
     return true;
 }
 

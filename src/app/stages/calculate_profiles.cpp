@@ -39,7 +39,7 @@ void reset_results(program& kavetta, user& person) {
     if (kavetta.app_state.zoom_all_requested == -1) {
         return;
     }
-    close_forms(form_closer::profiles, person);
+    close_forms(kavetta, form_closer::profiles, person);
     kavetta.app_state.profiles_calculated = -1;
     apply_chain(kavetta.enabling, chain_event::profiles_started);
 }

@@ -47,7 +47,7 @@ constexpr std::array<groove_entry, 3> GROOVE_ENTRIES = {{
 /// Any performance result is stale from here on.
 void drop_results(program& kavetta, user& person) {
     if (kavetta.app_state.recalc_quiet != -1) {
-        close_forms(form_closer::ports, person);
+        close_forms(kavetta, form_closer::ports, person);
         apply_chain(kavetta.enabling, chain_event::ports_designed);
     }
 }

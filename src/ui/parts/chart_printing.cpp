@@ -1,21 +1,16 @@
 #include "ui/parts/chart_printing.hpp"
 
+#include "ui/parts/print_dialog.hpp"
 #include "ui/shell/qt_text.hpp"
 
-#include <QPrintDialog>
 #include <QPrinter>
-#include <QPrinterInfo>
 
 namespace kvt {
 
 void ask_and_print(const shown_chart& shown, const QString& file_without_printer, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(qt_text(shown.chart.title));
-    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-        printer.setOutputFileName(file_without_printer);
-    }
-    QPrintDialog dialog(&printer, parent);
-    if (dialog.exec() == QDialog::Accepted) {
+    const print_request request{shown.chart.title, utf8_text(file_without_printer)};
+    if (ask_how_to_print(printer, request, print_offers::everything, parent)) {
         print_chart(shown, printer);
     }
 }

@@ -4,6 +4,7 @@
 #include "app/files/project_commands.hpp"
 #include "app/files/written_results.hpp"
 #include "app/program.hpp"
+#include "app/windows/close_forms.hpp"
 #include "core/user.hpp"
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form1.hpp"
@@ -160,8 +161,9 @@ void MDIForm1::place_itself() {
 
 /// Shows a child window again, also one that was closed or minimised, and lets the user work in it.
 void MDIForm1::bring_to_front(const QString& form) {
-    context_.runner.act(
-        [name = utf8_text(form)](program&, user& person) { person.show_form(name); });
+    context_.runner.act([name = utf8_text(form)](program& kavetta, user& person) {
+        open_form(kavetta, name, person);
+    });
     if (auto* child = findChild<mdi_form*>(form)) {
         if (child->isMinimized()) {
             child->showNormal();

@@ -4,6 +4,7 @@
 #include "app/desk/explanation_windows.hpp"
 #include "app/files/file_output.hpp"
 #include "app/files/performance_files.hpp"
+#include "app/files/print_project.hpp"
 #include "app/files/project_commands.hpp"
 #include "ui/shell/help_file.hpp"
 
@@ -34,7 +35,7 @@ const std::array MENU_ROWS = {
                  save_project_as(kavetta, person);
                  return false;
              }},
-    menu_row{"mnufileprint", "mnufile", ENTRY, false, "Ctrl+P"},
+    menu_row{"mnufileprint", "mnufile", ENTRY, false, "Ctrl+P", going_on<print_project>},
     menu_row{"mnufileexit", "mnufile", ENTRY, false, "Ctrl+Q", exit_program},
     menu_row{"sep", "mnufile", menu_kind::separator},
     menu_row{"mnufileprev", "mnufile", menu_kind::recent_entries},

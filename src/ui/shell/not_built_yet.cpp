@@ -13,7 +13,6 @@ struct control_name {
 };
 
 constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
-    {"MDIForm1", "mnufileprint"},
     {"MDIForm1", "mnumodel"},
     {"MDIForm1", "mnumodelpackage"},
     {"MDIForm1", "mnumodeltroc"},

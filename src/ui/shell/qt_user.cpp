@@ -6,6 +6,7 @@
 #include "ui/forms/graphview2.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"
+#include "ui/parts/paper_printer.hpp"
 #include "ui/shell/dialog_form.hpp"
 #include "ui/shell/file_dialogs.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -181,6 +182,11 @@ start_choice qt_user::ask_new_or_open() {
     Form2 prompt(kavetta_, parent());
     prompt.exec();
     return prompt.choice();
+}
+
+std::unique_ptr<report_printer> qt_user::choose_printer(const print_request& request) {
+    refresh();
+    return ask_for_paper(request, parent());
 }
 
 void qt_user::show_status(std::string_view text) {

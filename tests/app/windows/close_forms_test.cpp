@@ -1,6 +1,7 @@
 // Tests of what closes which forms.
 #include "app/windows/close_forms.hpp"
 
+#include "app/program.hpp"
 #include "support/scripted_user.hpp"
 
 #include <gtest/gtest.h>
@@ -12,7 +13,8 @@ using texts = std::vector<std::string>;
 
 texts closed_by(form_closer closer) {
     scripted_user person;
-    close_forms(closer, person);
+    program kavetta;
+    close_forms(kavetta, closer, person);
     return person.log;
 }
 
@@ -47,6 +49,19 @@ TEST(close_forms, of_language_and_layout) {
     EXPECT_EQ(closed_by(form_closer::language), texts{"unload perf_res"});
     EXPECT_EQ(closed_by(form_closer::default_layout),
               (texts{"unload explain", "unload port_explain"}));
+}
+
+TEST(close_forms, takes_what_perf_res_showed_with_it) {
+    scripted_user person;
+    program kavetta;
+    open_form(kavetta, "portdes", person);
+    EXPECT_FALSE(kavetta.results_shown);
+    open_form(kavetta, "perf_res", person);
+    close_forms(kavetta, form_closer::performance, person);
+    EXPECT_TRUE(kavetta.results_shown) << "that leaves perf_res open";
+    close_forms(kavetta, form_closer::language, person);
+    EXPECT_FALSE(kavetta.results_shown);
+    EXPECT_EQ(person.log.front(), "show portdes");
 }
 
 }  // namespace
