@@ -15,9 +15,6 @@ PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
 
 # Captions that are no word of the guide, with the reason.
 WITHOUT_PAGE = {
-    ("MDIForm1", "mnuupdates"): "hidden",
-    ("MDIForm1", "mnuupdatesauto"): "hidden",
-    ("MDIForm1", "mnuupdateschecknow"): "hidden",
     ("Form3", "toolunits_inches"): "a unit",
     ("Form3", "Label1"): "a sentence that the page says in its own words",
     ("Form3", "cancelbutton"): "known from everywhere",

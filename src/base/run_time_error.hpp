@@ -15,11 +15,15 @@ enum class failure : int {
     subscript_out_of_range = 9,
     division_by_zero = 11,
     type_mismatch = 13,
+    bad_file_name = 52,
     file_not_found = 53,
     input_past_end = 62,
     path_file_access = 75,
     path_not_found = 76,
-    invalid_property_value = 380
+    invalid_property_value = 380,
+    no_connection = 35754,
+    request_failed = 35756,
+    request_timed_out = 35761
 };
 
 /// What is the matter with a file, beyond the kind of failure.

@@ -65,6 +65,15 @@ void flush_folder(const fs::path& folder) {
     }
 }
 
+/// Opens the file itself with further flags and writes bytes from its start.
+void write_to(const fs::path& path, int flags, std::string_view bytes) {
+    constexpr mode_t EVERYBODY = 0666;  // less what the umask takes away
+    descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC | flags, EVERYBODY));
+    if (!file.is_open() || !wrote_all(file, bytes) || !reached_the_disk(file) || !file.close()) {
+        fail_access(path, errno);
+    }
+}
+
 /// ".kvt-NUMBER.tmp"
 bool is_temporary_name(std::string_view name) {
     if (!name.starts_with(TEMPORARY_START) || !name.ends_with(TEMPORARY_END) ||
@@ -257,10 +266,12 @@ bool is_only_written_in_place(const fs::path& path) {
 }
 
 void write_in_place(const fs::path& path, std::string_view bytes) {
-    descriptor file(::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC));
-    if (!file.is_open() || !wrote_all(file, bytes) || !reached_the_disk(file) || !file.close()) {
-        fail_access(path, errno);
-    }
+    write_to(path, O_TRUNC, bytes);
+}
+
+void write_at_start(const fs::path& path, std::string_view bytes) {
+    require_folder(path);
+    write_to(path, O_CREAT, bytes);
 }
 
 }  // namespace kvt

@@ -38,4 +38,9 @@ bool is_only_written_in_place(const std::filesystem::path& path);
 /// path_file_access with the system's reason.
 void write_in_place(const std::filesystem::path& path, std::string_view bytes);
 
+/// Writes bytes from the start of a file, which is created when it is missing. A longer file keeps
+/// what stands behind them. Throws path_not_found without its folder, path_file_access with the
+/// system's reason.
+void write_at_start(const std::filesystem::path& path, std::string_view bytes);
+
 }  // namespace kvt

@@ -43,6 +43,8 @@ struct app_state {
     std::string modelling_package;
     std::string auto_update_mode;
     std::string last_update_check;
+    bool auto_updates = true;     ///< the check mark of mnuupdatesauto; nothing else follows it
+    std::string update_server;    ///< scheme, host and port; empty: the update check is off
     bool exit_cancelled = false;  ///< set by Cancel at the exit question, never set back
 
     // The explanation windows: true while the window is closed.

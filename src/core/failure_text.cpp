@@ -23,6 +23,8 @@ message message_of(failure kind) {
             return message::failure_division_by_zero;
         case failure::type_mismatch:
             return message::failure_type_mismatch;
+        case failure::bad_file_name:
+            return message::failure_bad_file_name;
         case failure::file_not_found:
             return message::failure_file_not_found;
         case failure::input_past_end:
@@ -33,6 +35,12 @@ message message_of(failure kind) {
             return message::failure_path_not_found;
         case failure::invalid_property_value:
             return message::failure_invalid_property_value;
+        case failure::no_connection:
+            return message::failure_no_connection;
+        case failure::request_failed:
+            return message::failure_request_failed;
+        case failure::request_timed_out:
+            return message::failure_request_timed_out;
     }
     return message::failure_invalid_procedure_call;
 }

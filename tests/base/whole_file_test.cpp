@@ -252,6 +252,21 @@ TEST(is_only_written_in_place, is_false_for_a_file_that_can_be_replaced_or_not_b
     fs::permissions(folder.path(), fs::perms(0755));
 }
 
+TEST(write_at_start, leaves_what_stands_behind_the_bytes) {
+    const temporary_folder folder;
+    write_at_start(folder / "a.bin", "0123456789");
+    write_at_start(folder / "a.bin", "new");
+    EXPECT_EQ(read_file(folder / "a.bin"), "new3456789");
+    write_at_start(folder / "a.bin", "");
+    EXPECT_EQ(read_file(folder / "a.bin"), "new3456789");
+}
+
+TEST(write_at_start, needs_the_folder_and_tells_a_full_device) {
+    const temporary_folder folder;
+    EXPECT_FAILURE(write_at_start(folder / "none/a.bin", "x"), failure::path_not_found);
+    EXPECT_EQ(fault_of([] { write_at_start("/dev/full", "text"); }).system_error, ENOSPC);
+}
+
 TEST(write_in_place, tells_a_full_device) {
     EXPECT_EQ(fault_of([] { write_in_place("/dev/full", "text"); }).system_error, ENOSPC);
 }

@@ -12,6 +12,7 @@ sys.path.insert(0, str(ROOT / "tools"))
 
 import check_format  # noqa: E402
 import check_guide  # noqa: E402
+import check_host_names  # noqa: E402
 import check_includes  # noqa: E402
 import check_line_ends  # noqa: E402
 import check_named_tests  # noqa: E402
@@ -41,6 +42,20 @@ class tree_test(unittest.TestCase):
         self.assertEqual(len(found), 1, found)
         for piece in pieces:
             self.assertIn(piece, found[0])
+
+
+class host_names_test(tree_test):
+    def check(self, content):
+        self.write("program", content)
+        return check_host_names.findings([self.root / "program"])
+
+    def test_namespaces_and_schemes_alone_are_allowed(self):
+        self.assertEqual(list(self.check(b"\0http://www.w3.org/2000/svg\0https://\0://\0a.comment\0w3.org\0")), [])
+
+    def test_a_host_is_reported_in_every_form(self):
+        self.expect_one(self.check(b"\0http://updates.test/x\0"), "program: ", "updates.test")
+        self.expect_one(self.check(b"\0www.pumps.test\0"), "www.pumps.test")
+        self.expect_one(self.check(b"\0pumps.example.com\0"), "example.com")
 
 
 class includes_test(tree_test):

@@ -3,6 +3,7 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/settings_commands.hpp"
 #include "app/desk/unit_commands.hpp"
+#include "app/desk/update_check.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
 #include "base/run_time_error.hpp"
@@ -77,6 +78,7 @@ void load_settings(program& kavetta) {
     state.capacity_unit = 1;
     kavetta.labels.unittype = find_capacity_unit(state.capacity_unit)->list_text;
     state.project_has_file = false;
+    state.update_server = configured_update_server(kavetta.folder);
     set_captions(kavetta);
 }
 

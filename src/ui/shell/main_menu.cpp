@@ -114,6 +114,7 @@ void main_menu::refresh() {
         entry.value()->setEnabled(usable && !is_not_built_yet("MDIForm1", name));
     }
     refresh_recent_entries();
+    refresh_updates();
 }
 
 void main_menu::refresh_recent_entries() {
@@ -122,6 +123,15 @@ void main_menu::refresh_recent_entries() {
         recent_.at(index)->setText(literal_text(caption));
         recent_.at(index)->setVisible(holds_a_project(caption));
     }
+}
+
+/// Without a server there is nothing to check against.
+void main_menu::refresh_updates() {
+    const app_state& state = context_.kavetta.app_state;
+    const bool is_on = !state.update_server.empty();
+    actions_["mnuupdates"]->setVisible(is_on);
+    actions_["mnuupdates"]->setEnabled(is_on);
+    actions_["mnuupdatesauto"]->setChecked(state.auto_updates);
 }
 
 }  // namespace kvt

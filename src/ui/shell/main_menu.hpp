@@ -34,6 +34,7 @@ class main_menu : public QObject {
     void add_files(file_group group, QMenu& menu);
     void add_recent_entries(const menu_row& row, QMenu& menu);
     void refresh_recent_entries();
+    void refresh_updates();
 
     form_context context_;
     QMap<QString, QMenu*> menus_;

@@ -2,10 +2,12 @@
 
 #include "app/desk/exit_program.hpp"
 #include "app/desk/explanation_windows.hpp"
+#include "app/desk/update_check.hpp"
 #include "app/files/file_output.hpp"
 #include "app/files/performance_files.hpp"
 #include "app/files/print_project.hpp"
 #include "app/files/project_commands.hpp"
+#include "ui/parts/internet_transfer.hpp"
 #include "ui/shell/help_file.hpp"
 
 #include <array>
@@ -19,6 +21,11 @@ template <void (*action)(program&, user&)>
 bool going_on(program& kavetta, user& person) {
     action(kavetta, person);
     return false;
+}
+
+void check_now(program& kavetta, user& person) {
+    internet_transfer internet;
+    check_for_updates_now(kavetta, person, internet);
 }
 
 constexpr auto MENU = menu_kind::menu;
@@ -67,8 +74,9 @@ const std::array MENU_ROWS = {
     menu_row{"mnuscreenfit", "mnuscreen"},
 
     menu_row{"mnuupdates", "", MENU, true},
-    menu_row{"mnuupdatesauto", "mnuupdates", ENTRY, false, NO_KEY, nullptr, true},
-    menu_row{"mnuupdateschecknow", "mnuupdates"},
+    menu_row{"mnuupdatesauto", "mnuupdates", ENTRY, false, NO_KEY, going_on<toggle_auto_updates>,
+             true},
+    menu_row{"mnuupdateschecknow", "mnuupdates", ENTRY, false, NO_KEY, going_on<check_now>},
 
     // Its entries are the titles of the child windows.
     menu_row{"mnuwindow", "", MENU},
