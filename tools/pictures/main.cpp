@@ -7,6 +7,7 @@
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
 #include "base/run_time_error.hpp"
+#include "core/report_printer.hpp"
 #include "core/user.hpp"
 #include "pictures/explanation_painting.hpp"
 #include "views/port_explanation.hpp"
@@ -40,6 +41,9 @@ class silent_user : public kvt::user {
         return std::nullopt;
     }
     void open_file(std::string_view) override {}
+    std::unique_ptr<kvt::report_printer> choose_printer(const kvt::print_request&) override {
+        return nullptr;
+    }
     std::optional<std::string> ask_project_name() override { return std::nullopt; }
     kvt::start_choice ask_new_or_open() override { return kvt::start_choice::neither; }
     void show_status(std::string_view) override {}
