@@ -8,6 +8,7 @@
 #include "kvt/export_command.hpp"
 #include "kvt/export_options.hpp"
 #include "kvt/given_date.hpp"
+#include "kvt/gt_command.hpp"
 #include "kvt/option_check.hpp"
 #include "kvt/report_command.hpp"
 #include "kvt/standard_streams.hpp"
@@ -37,6 +38,7 @@ constexpr const char* EXAMPLES =
     "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
     "  kvt report engine_oil.KVT --out engine_oil.pdf\n"
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
+    "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
     "output could not be written, 2 usage, 3 the project file could not be read or there\n"
@@ -50,6 +52,7 @@ struct command_line {
     export_request files;   ///< its source is that of calc
     report_request report;  ///< its source and last stage are those of calc
     assist_request assist;  ///< its source is that of calc
+    gt_command_request gt;  ///< its source is that of calc
 };
 
 const std::map<std::string, calc_stage> STAGES = {{"profiles", calc_stage::profiles},
@@ -166,6 +169,13 @@ CLI::App* add_assist(CLI::App& app, command_line& line) {
     return assist;
 }
 
+CLI::App* add_gt(CLI::App& app, command_line& line) {
+    CLI::App* gt = app.add_subcommand("gt", "Make the model of a design for GT-SUITE");
+    add_design_options(*gt, line);
+    add_gt_options(*gt, line.gt);
+    return gt;
+}
+
 /// Reads the options and runs the command that they name.
 int run_options(int argc, const char* const* argv, command_line& line, std::ostream& out,
                 std::ostream& err) {
@@ -177,6 +187,7 @@ int run_options(int argc, const char* const* argv, command_line& line, std::ostr
     CLI::App* files = add_export(app, line);
     CLI::App* report = add_report(app, line);
     CLI::App* assist = add_assist(app, line);
+    CLI::App* gt = add_gt(app, line);
     try {
         app.parse(argc, argv);
         for (const std::string& option : line.typed) {
@@ -198,6 +209,10 @@ int run_options(int argc, const char* const* argv, command_line& line, std::ostr
         line.report.source = line.calc.source;
         line.report.last = line.calc.last;
         return report_design(line.report, out, err);
+    }
+    if (gt->parsed()) {
+        line.gt.source = line.calc.source;
+        return make_gt_model(line.gt, out, err);
     }
     return calc_design(line.calc, out, err);
 }

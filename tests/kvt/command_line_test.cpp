@@ -30,6 +30,12 @@ TEST(command_line, ends_with_2_and_a_reason_for_what_it_does_not_understand) {
         {"calc", project, "--set", "dimens2=0"},
         {"calc", project, "--set", "unittype=Litres"},
         {"calc", project, "--set", "thick=12\r\n13"},
+        {"gt"},
+        {"gt", project, "--year", "2017"},
+        {"gt", project, "--gtm", "a.gtm"},
+        {"gt", project, "--txt", "a.txt"},
+        {"gt", project, "--gtm", "a.gtm", "--txt", "a.txt"},
+        {"gt", project, "--bearing-length", "0"},
         {"export", project},
         {"export", project, "--out", "files", "--json", "-"},
     };
