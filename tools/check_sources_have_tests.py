@@ -48,6 +48,7 @@ COVERED_BY = {
     "src/ui/parts/legend_frame.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/shell/chart_windows.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/parts/design_picture.cpp": "tests/ui/forms/viewwinfrm_test.cpp",
+    "src/ui/parts/picture_file.cpp": "tests/ui/forms/explain_test.cpp",
     "src/ui/parts/form_parts.cpp": "tests/ui/shell/layout_test.cpp",
     "src/ui/parts/language_flag.cpp": "tests/ui/forms/Form1_test.cpp",
     "src/ui/shell/loaded_form.cpp": "tests/ui/forms/perf_res_test.cpp",

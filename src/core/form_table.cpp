@@ -69,6 +69,7 @@ constexpr std::array FORM_ROWS = {
     form_row{"newprojectname", "New Project", dialog, one_answer, "mnufilenew"},
     form_row{"Form3", "CNC Output", dialog, one_answer, "mnudatacnc"},
     form_row{"Form4", "Modelling Package", dialog, one_answer, "mnumodelpackage"},
+    form_row{"GT_form", "GT-SUITE Guide", dialog, one_answer, "GT_Sim_Button"},
     form_row{"Aboutform", "About", dialog, one_answer, "mnuhelpabout"},
     form_row{"fontfrm", "Change Font", dialog, one_answer, "nothing"},
     form_row{"progressfrm", "Progress", window, one_task, "long work"},

@@ -34,6 +34,7 @@ consteval auto form_rows() {
 #include "core/texts/Form2.inc"
 #include "core/texts/Form3.inc"
 #include "core/texts/Form4.inc"
+#include "core/texts/GT_form.inc"
 #include "core/texts/MDIForm1.inc"
 #include "core/texts/Perffrm.inc"
 #include "core/texts/charts.inc"

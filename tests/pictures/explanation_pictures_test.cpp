@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 #include <set>
+#include <vector>
 
 namespace kvt {
 
@@ -49,6 +50,19 @@ TEST(explanation_pictures, are_not_blank) {
     for (const char* name : PICTURES) {
         EXPECT_GT(drawn_share(delivered(name)), 0.05) << name;
         EXPECT_LT(drawn_share(delivered(name)), 0.80) << name;
+    }
+}
+
+TEST(gt_guide_pictures, are_five_different_ones_of_one_size) {
+    std::vector<QImage> pictures;
+    for (const char* name : {"GT_screen_1.jpg", "GT_screen_2.jpg", "GT_screen_3.jpg",
+                             "GT_screen_4.jpg", "GT_screen_5.jpg"}) {
+        pictures.push_back(delivered(name));
+        ASSERT_EQ(pictures.back().size(), QSize(1440, 900)) << name;
+        EXPECT_GT(drawn_share(pictures.back()), 0.1) << name;
+        for (std::size_t other = 0; other + 1 < pictures.size(); ++other) {
+            EXPECT_NE(pictures[other], pictures.back()) << name;
+        }
     }
 }
 

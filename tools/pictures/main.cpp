@@ -1,7 +1,7 @@
-// kvt_pictures: draws the explanation pictures that are delivered with the program, in both
-// languages. Usage: kvt_pictures DESIGN.KVT OUT_FOLDER. The design is calculated and its ports
-// designed; their drawing is the picture. Exit status 1 when the design is refused or a text can't
-// be read.
+// kvt_pictures: draws the pictures that are delivered with the program: the explanations in both
+// languages, and the guide to the simulation exchange. Usage: kvt_pictures DESIGN.KVT OUT_FOLDER.
+// The design is calculated and its ports designed; their drawing is the picture. Exit status 1 when
+// the design is refused or a text can't be read.
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
@@ -10,6 +10,7 @@
 #include "core/report_printer.hpp"
 #include "core/user.hpp"
 #include "pictures/explanation_painting.hpp"
+#include "pictures/gt_guide_painting.hpp"
 #include "views/port_explanation.hpp"
 #include "views/rotor_explanation.hpp"
 
@@ -95,6 +96,18 @@ bool write_pictures(const kvt::program& kavetta, const QString& folder) {
     return write(ports, kvt::GERMAN, folder + "/port explain - small german2.jpg") && all_written;
 }
 
+bool write_gt_guide(const QString& folder) {
+    constexpr int GUIDE_WIDTH = 1440;
+    bool all_written = true;
+    for (int screen = 1; screen <= kvt::GT_GUIDE_SCREENS; ++screen) {
+        all_written = kvt::paint_gt_guide(screen, GUIDE_WIDTH)
+                          .save(QString("%1/GT_screen_%2.jpg").arg(folder).arg(screen), "JPG",
+                                JPEG_QUALITY) &&
+                      all_written;
+    }
+    return all_written;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -105,7 +118,10 @@ int main(int argc, char** argv) {
     }
     try {
         kvt::program kavetta;
-        return calculate(argv[1], kavetta) && write_pictures(kavetta, argv[2]) ? 0 : 1;
+        return calculate(argv[1], kavetta) && write_pictures(kavetta, argv[2]) &&
+                       write_gt_guide(argv[2])
+                   ? 0
+                   : 1;
     } catch (const kvt::run_time_error& error) {
         std::fprintf(stderr, "%s: %s\n", argv[1], error.what());
         return 1;

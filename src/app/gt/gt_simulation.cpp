@@ -132,6 +132,12 @@ bool is_chosen(bool chosen, message otherwise, const program& kavetta, teller& p
     return chosen;
 }
 
+void write_port_file(const program& kavetta, const char* name) {
+    const gt_folders folders = gt_folders_of(kavetta.folder);
+    make_gt_folders(folders);
+    write_gt_step_file(kavetta, *find_file(file_group::gt, name), folders.gt_temp_dir.string());
+}
+
 }  // namespace
 
 gt_request gt_request_of(const program& kavetta) {
@@ -171,11 +177,12 @@ void look_for_converted_model(program& kavetta, user& person) {
                            gt_tools_folder()});
 }
 
-void write_gt_port_file(program& kavetta, std::string_view control) {
-    const gt_folders folders = gt_folders_of(kavetta.folder);
-    make_gt_folders(folders);
-    const char* const name = control == "mnustepports_inlet_GT" ? "in_port_GT" : "out_port_GT";
-    write_gt_step_file(kavetta, *find_file(file_group::gt, name), folders.gt_temp_dir.string());
+void write_gt_inlet_file(program& kavetta, user&) {
+    write_port_file(kavetta, "in_port_GT");
+}
+
+void write_gt_outlet_file(program& kavetta, user&) {
+    write_port_file(kavetta, "out_port_GT");
 }
 
 }  // namespace kvt

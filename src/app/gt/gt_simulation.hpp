@@ -45,6 +45,7 @@ void look_for_converted_model(program& kavetta, user& person);
 
 /// The entries mnustepports_inlet_GT and mnustepport_outlet_GT, which no menu shows: a port's STEP
 /// file in gt_temp_dir. Throws the failure of a folder or of the writer.
-void write_gt_port_file(program& kavetta, std::string_view control);
+void write_gt_inlet_file(program& kavetta, user& person);
+void write_gt_outlet_file(program& kavetta, user& person);
 
 }  // namespace kvt

@@ -1,8 +1,13 @@
 #include "ui/forms/Perffrm.hpp"
 
+#include "app/gt/gt_fluids.hpp"
+#include "app/gt/gt_installation.hpp"
+#include "app/gt/gt_simulation.hpp"
+#include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "core/app_state.hpp"
 #include "core/text_table.hpp"
+#include "core/user.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -13,6 +18,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace kvt {
@@ -37,9 +43,21 @@ constexpr int BETWEEN = 2;
 constexpr int RIGHT_BOX = 3;
 constexpr int COLUMNS = 4;
 
-/// The versions of the simulation package that a model can be written for.
-constexpr int FIRST_GT_VERSION = 2018;
-constexpr int LAST_GT_VERSION = 2021;
+/// Between two looks for the converter's model, milliseconds.
+constexpr int GEMC_INTERVAL_MS = 1000;
+
+/// Fills a list anew when it holds something else.
+void show_in_list(QComboBox& list, const QStringList& rows, int row) {
+    QStringList shown;
+    for (int i = 0; i < list.count(); ++i) {
+        shown.append(list.itemText(i));
+    }
+    if (shown != rows) {
+        list.clear();
+        list.addItems(rows);
+    }
+    list.setCurrentIndex(row);
+}
 
 /// One label that heads two columns of boxes. Its text holds two words set apart by blanks, whose
 /// number means nothing here: the first word stands centred over a box at the left edge, the second
@@ -175,23 +193,63 @@ QWidget* Perffrm::simulation_part() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(COLUMN_SPACING);
     layout->setVerticalSpacing(ROW_SPACING);
-    auto* version = new QComboBox;
-    version->setObjectName("GT_combo");
+    gt_combo_ = new QComboBox;
+    gt_combo_->setObjectName("GT_combo");
     for (int year = FIRST_GT_VERSION; year <= LAST_GT_VERSION; ++year) {
-        version->addItem(QString("GT %1").arg(year));
+        gt_combo_->addItem(QString("GT %1").arg(year));
     }
-    version->setCurrentIndex(-1);
-    auto* fluid = new QComboBox;
-    fluid->setObjectName("GT_fluid");
-    for (QComboBox* list : {version, fluid}) {
+    gt_fluid_ = new QComboBox;
+    gt_fluid_->setObjectName("GT_fluid");
+    for (QComboBox* list : {gt_combo_, gt_fluid_}) {
         list->setFocusPolicy(Qt::TabFocus);
         list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     }
-    layout->addWidget(version, 0, 0);
-    layout->addWidget(fluid, 0, 1);
-    layout->addWidget(command_button("GT_Sim_Button"), 1, 0, 1, 2);
+    QPushButton* button = command_button("GT_Sim_Button");
+    layout->addWidget(gt_combo_, 0, 0);
+    layout->addWidget(gt_fluid_, 0, 1);
+    layout->addWidget(button, 1, 0, 1, 2);
     layout->setColumnStretch(1, 1);
+    connect_simulation(*button);
     return part;
+}
+
+void Perffrm::connect_simulation(QPushButton& button) {
+    command_runner& runner = context_.runner;
+    connect(gt_combo_, &QComboBox::activated, this, [this, &runner] {
+        const std::string version = utf8_text(gt_combo_->currentText());
+        runner.act([&version](program& kavetta, user& person) {
+            select_gt_version(kavetta, person, version);
+        });
+    });
+    connect(gt_fluid_, &QComboBox::activated, this, [&runner](int row) {
+        runner.act([row](program& kavetta, user&) {
+            select_gt_fluid(kavetta, static_cast<std::size_t>(row));
+        });
+    });
+    connect(&button, &QPushButton::clicked, this, [&runner] {
+        runner.act([](program& kavetta, user& person) {
+            simulate_in_gt(kavetta, person, gt_request_of(kavetta));
+        });
+    });
+    tim_gemc_ = new QTimer(this);
+    tim_gemc_->setObjectName("tim_gemc");
+    tim_gemc_->setInterval(GEMC_INTERVAL_MS);
+    connect(tim_gemc_, &QTimer::timeout, this, [&runner] { runner.act(look_for_converted_model); });
+}
+
+void Perffrm::refresh() {
+    mdi_form::refresh();
+    const gt_choices& choices = context_.kavetta.gt_choices;
+    gt_combo_->setCurrentIndex(choices.gt_version == 0 ? -1
+                                                       : choices.gt_version - FIRST_GT_VERSION);
+    QStringList fluids = {gt_fluid_->placeholderText()};
+    for (const std::string& fluid : choices.fluids) {
+        fluids.append(qt_text(fluid));
+    }
+    show_in_list(*gt_fluid_, fluids, static_cast<int>(choices.fluid_row));
+    if (choices.tim_gemc_enabled != tim_gemc_->isActive()) {
+        choices.tim_gemc_enabled ? tim_gemc_->start() : tim_gemc_->stop();
+    }
 }
 
 void Perffrm::changeEvent(QEvent* event) {

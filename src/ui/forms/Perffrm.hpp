@@ -4,9 +4,11 @@
 
 #include "ui/shell/mdi_form.hpp"
 
+class QComboBox;
 class QGridLayout;
 class QLineEdit;
 class QPushButton;
+class QTimer;
 class QWidget;
 
 namespace kvt {
@@ -17,6 +19,9 @@ class Perffrm : public mdi_form {
   public:
     explicit Perffrm(form_context context);
 
+    /// Also the version and the fluids of the simulation part.
+    void refresh() override;
+
   protected:
     void changeEvent(QEvent* event) override;
 
@@ -25,8 +30,12 @@ class Perffrm : public mdi_form {
     void add_materials(QGridLayout& grid);
     void add_range(QGridLayout& grid);
     QWidget* simulation_part();
+    void connect_simulation(QPushButton& button);
 
     QPushButton* calc_perf_ = nullptr;
+    QComboBox* gt_combo_ = nullptr;
+    QComboBox* gt_fluid_ = nullptr;
+    QTimer* tim_gemc_ = nullptr;
 };
 
 }  // namespace kvt

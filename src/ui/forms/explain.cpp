@@ -1,7 +1,6 @@
 #include "ui/forms/explain.hpp"
 
-#include "base/run_time_error.hpp"
-#include "ui/shell/qt_text.hpp"
+#include "ui/parts/picture_file.hpp"
 
 #include <QPainter>
 #include <QPixmap>
@@ -41,19 +40,11 @@ class picture_sheet : public QWidget {
     QPixmap picture_;
 };
 
-QPixmap loaded_picture(const std::filesystem::path& file) {
-    QPixmap picture(qt_text(file.string()));
-    if (picture.isNull()) {
-        throw run_time_error(failure::invalid_property_value, "no picture: " + file.string());
-    }
-    return picture;
-}
-
 }  // namespace
 
 explanation_form::explanation_form(explanation_window window, form_context context)
     : loaded_form(form_of(window).data(), context), window_(window) {
-    auto* sheet = new picture_sheet(loaded_picture(load_explanation(context.kavetta, window)));
+    auto* sheet = new picture_sheet(picture_of_file(load_explanation(context.kavetta, window)));
     bind(sheet, false);
 }
 

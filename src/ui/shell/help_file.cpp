@@ -14,6 +14,10 @@
 namespace kvt {
 
 void open_help_file(program& kavetta, user& person) {
+    show_help_file(kavetta, person);
+}
+
+void show_help_file(const program& kavetta, progress_shower& person) {
     const std::filesystem::path file = kavetta.folder / HELP_FILE_NAME;
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error) ||

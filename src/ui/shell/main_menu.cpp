@@ -111,7 +111,8 @@ void main_menu::refresh() {
         const std::string name = utf8_text(entry.key());
         const bool usable = is_enabled(context_.kavetta.enabling, "MDIForm1", name);
         entry.value()->setText(caption_of(context_.kavetta, "MDIForm1", name));
-        entry.value()->setEnabled(usable && !is_not_built_yet("MDIForm1", name));
+        entry.value()->setEnabled(usable && entry.value()->isVisible() &&
+                                  !is_not_built_yet("MDIForm1", name));
     }
     refresh_recent_entries();
     refresh_updates();

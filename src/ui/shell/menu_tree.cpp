@@ -7,6 +7,7 @@
 #include "app/files/performance_files.hpp"
 #include "app/files/print_project.hpp"
 #include "app/files/project_commands.hpp"
+#include "app/gt/gt_simulation.hpp"
 #include "ui/parts/internet_transfer.hpp"
 #include "ui/shell/help_file.hpp"
 
@@ -57,9 +58,12 @@ const std::array MENU_ROWS = {
 
     menu_row{"mnustep", "", MENU},
     menu_row{.menu = "mnustep", .kind = menu_kind::files, .files = file_group::step},
-    // These two stay hidden: the simulation exchange writes their files by itself.
-    menu_row{"mnustepports_inlet_GT", "mnustep", ENTRY, true},
-    menu_row{"mnustepport_outlet_GT", "mnustep", ENTRY, true},
+    // These two stay hidden and can't be used: the simulation exchange writes their files by
+    // itself.
+    menu_row{"mnustepports_inlet_GT", "mnustep", ENTRY, true, NO_KEY,
+             going_on<write_gt_inlet_file>},
+    menu_row{"mnustepport_outlet_GT", "mnustep", ENTRY, true, NO_KEY,
+             going_on<write_gt_outlet_file>},
 
     menu_row{"mnudxf", "", MENU, false, NO_KEY, nullptr, false, open_dxf_menu},
     menu_row{.menu = "mnudxf", .kind = menu_kind::files, .files = file_group::dxf},

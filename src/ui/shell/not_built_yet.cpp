@@ -20,11 +20,6 @@ constexpr auto NOT_BUILT_YET = std::to_array<control_name>({
     {"MDIForm1", "mnumodelouter"},
     {"MDIForm1", "mnumodelassy"},
     {"MDIForm1", "mnumodelporting"},
-    {"MDIForm1", "mnustepports_inlet_GT"},
-    {"MDIForm1", "mnustepport_outlet_GT"},
-    {"Perffrm", "GT_combo"},
-    {"Perffrm", "GT_fluid"},
-    {"Perffrm", "GT_Sim_Button"},
 });
 
 }  // namespace

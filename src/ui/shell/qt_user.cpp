@@ -3,6 +3,7 @@
 #include "app/desk/program_title.hpp"
 #include "app/program.hpp"
 #include "ui/forms/Form2.hpp"
+#include "ui/forms/GT_form.hpp"
 #include "ui/forms/graphview2.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"
@@ -203,6 +204,10 @@ QWidget* qt_user::window_of(std::string_view form) const {
 }
 
 void qt_user::show_form(std::string_view form) {
+    if (form == "GT_form") {
+        GT_form(kavetta_, *this, parent()).run();
+        return;
+    }
     if (window_ == nullptr) {
         return;
     }

@@ -215,9 +215,9 @@ TEST_F(gt_simulation_test, a_tick_of_the_timer_opens_a_model_that_has_come) {
 }
 
 TEST_F(gt_simulation_test, writes_one_port_for_the_entries_that_no_menu_shows) {
-    write_gt_port_file(kavetta, "mnustepports_inlet_GT");
+    write_gt_inlet_file(kavetta, tester);
     EXPECT_EQ(file_names(temporary()), texts{"in_port_GT.stp"});
-    write_gt_port_file(kavetta, "mnustepport_outlet_GT");
+    write_gt_outlet_file(kavetta, tester);
     EXPECT_TRUE(fs::exists(temporary() / "out_port_GT.stp"));
     EXPECT_TRUE(fs::exists(temporary() / "in_port_GT.stp")) << "nothing is emptied";
 }

@@ -1,12 +1,17 @@
 // Perffrm: calculating the performance, refusals, units, languages, keys.
 #include "app/program.hpp"
+#include "support/gt_stand_in.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QComboBox>
+#include <QDialog>
+#include <QTimer>
 
 namespace kvt {
 
 namespace {
+
+using texts = std::vector<std::string>;
 
 class Perffrm_test : public desktop_test {
   protected:
@@ -15,6 +20,26 @@ class Perffrm_test : public desktop_test {
         start(own_design_file(name));
         press("Calc");
         press("design_ports");
+    }
+    void start_with_performance() {
+        start_with_ports();
+        press("calc_perf");
+    }
+    /// Everything chosen for a model; the template is delivered.
+    void start_ready_to_simulate() {
+        std::filesystem::copy_file(std::string(KVT_SHARE_FOLDER) + "/KVT_GT_conv.gem",
+                                   folder / "KVT_GT_conv.gem");
+        start_with_performance();
+        pick("GT_combo", "GT 2021");
+        pick("GT_fluid", "oil_A");
+    }
+    QComboBox& list(const char* name) { return *find_on<QComboBox>("Perffrm", name); }
+    /// Chooses a row as a click in the open list does.
+    void pick(const char* name, const QString& row) {
+        QComboBox& box = list(name);
+        box.setCurrentText(row);
+        emit box.activated(box.currentIndex());
+        settle();
     }
     bool usable(const char* control) { return find_on<QWidget>("Perffrm", control)->isEnabled(); }
 };
@@ -82,14 +107,87 @@ TEST_F(Perffrm_test, keeps_the_results_of_the_run_before_a_refusal) {
     EXPECT_NE(loaded("perf_res"), nullptr);
 }
 
-TEST_F(Perffrm_test, the_simulation_package_is_not_built_yet) {
+TEST_F(Perffrm_test, simulates_only_a_performance_that_is_calculated) {
     start_with_ports();
-    press("calc_perf");
     for (const char* control : {"GT_combo", "GT_fluid", "GT_Sim_Button"}) {
         EXPECT_FALSE(usable(control)) << control;
     }
-    EXPECT_EQ(find_on<QComboBox>("Perffrm", "GT_fluid")->placeholderText(), "Select Fluid...");
-    EXPECT_EQ(find_on<QComboBox>("Perffrm", "GT_combo")->count(), 4);
+    press("calc_perf");
+    for (const char* control : {"GT_combo", "GT_fluid", "GT_Sim_Button"}) {
+        EXPECT_TRUE(usable(control)) << control;
+    }
+    EXPECT_EQ(list("GT_combo").count(), 4);
+    EXPECT_EQ(list("GT_combo").currentIndex(), -1);
+    EXPECT_EQ(list("GT_fluid").currentText(), "Select Fluid...");
+    press("GT_Sim_Button");
+    EXPECT_EQ(robot.messages, texts{"You must select a version of GT-SUITE to run the simulation"});
+}
+
+TEST_F(Perffrm_test, fills_the_list_of_fluids_with_those_of_the_version) {
+    const gt_stand_in package;
+    start_with_performance();
+    pick("GT_combo", "GT 2021");
+    EXPECT_EQ(list("GT_fluid").count(), 3);
+    EXPECT_EQ(list("GT_fluid").currentText(), "Select Fluid...");
+    press("GT_Sim_Button");
+    pick("GT_fluid", "oil_C");
+    EXPECT_EQ(kavetta().gt_choices.fluid(), "oil_C");
+    pick("GT_combo", "GT 2018");
+    EXPECT_EQ(list("GT_fluid").count(), 1);
+    EXPECT_EQ(robot.messages,
+              (texts{"You must select a suitable Fluid Type to run the simulation",
+                     "You must have GT-SUITE installed in order to use this function"}));
+}
+
+TEST_F(Perffrm_test, makes_a_model_and_paints_meanwhile) {
+    gt_stand_in package;
+    package.delay("1");
+    start_ready_to_simulate();
+    int ticks = 0;
+    QString caption;
+    bool is_waiting_alone = false;
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, &clock, [&] {
+        if (auto* progress = window().findChild<QDialog*>("progressfrm")) {
+            ++ticks;
+            caption = progress->windowTitle();
+            is_waiting_alone = QApplication::activeModalWidget() == progress;
+        }
+    });
+    clock.start(50);
+    press("GT_Sim_Button");
+    EXPECT_GT(ticks, 5) << "the event loop runs";
+    EXPECT_EQ(caption, "Performing GEM3D Conversions.....");
+    EXPECT_TRUE(is_waiting_alone);
+    EXPECT_EQ(window().findChild<QDialog*>("progressfrm"), nullptr);
+    EXPECT_TRUE(robot.messages.empty());
+    EXPECT_TRUE(std::filesystem::exists(folder / "GT_files/n07_engine_oil_groove.gtm"));
+    EXPECT_NE(package.editor_log(), "");
+}
+
+TEST_F(Perffrm_test, ends_the_wait_with_escape_and_asks_why) {
+    gt_stand_in package;
+    package.delay("30");
+    start_ready_to_simulate();
+    robot.answers = {"Yes", "No"};
+    QTimer::singleShot(700, &window(), [this] {
+        auto* progress = window().findChild<QDialog*>("progressfrm");
+        ASSERT_NE(progress, nullptr);
+        QTest::keyClick(progress, Qt::Key_Escape);
+    });
+    press("GT_Sim_Button");
+    EXPECT_EQ(robot.questions.size(), 2U);
+    ASSERT_EQ(robot.messages.size(), 2U);
+    EXPECT_TRUE(robot.messages[1].starts_with("Ensure the GT-SUITE license is running"));
+    EXPECT_EQ(window().findChild<QDialog*>("progressfrm"), nullptr);
+}
+
+TEST_F(Perffrm_test, has_a_timer_for_the_converter_that_nothing_starts) {
+    start_with_performance();
+    auto* timer = find<QWidget>("Perffrm")->findChild<QTimer*>("tim_gemc");
+    ASSERT_NE(timer, nullptr);
+    EXPECT_EQ(timer->interval(), 1000);
+    EXPECT_FALSE(timer->isActive());
 }
 
 TEST_F(Perffrm_test, captions_name_the_unit_in_force) {
