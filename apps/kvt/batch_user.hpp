@@ -50,6 +50,7 @@ class batch_user : public user {
     void set_focus(std::string_view) override {}
     void set_busy(bool) override {}
     void show_progress(std::string_view, int) override {}
+    void show_titled_progress(std::string_view, int) override {}
 
   private:
     std::ostream& err_;

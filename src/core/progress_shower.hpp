@@ -15,6 +15,8 @@ class progress_shower {
     /// Progress of long work, 0 .. 100. An empty text leaves what stands: at first "Creating
     /// Model...".
     virtual void show_progress(std::string_view text, int percent) = 0;
+    /// The same with the text as the window's title alone.
+    virtual void show_titled_progress(std::string_view title, int percent) = 0;
 };
 
 }  // namespace kvt

@@ -80,6 +80,9 @@ class scripted_user : public user {
     void show_progress(std::string_view text, int percent) override {
         log.push_back("progress " + std::string(text) + " " + std::to_string(percent));
     }
+    void show_titled_progress(std::string_view title, int percent) override {
+        log.push_back("titled progress " + std::string(title) + " " + std::to_string(percent));
+    }
     // Programs are only named, and have ended at once.
     void start_tool(const started_tool& tool) override { log.push_back("start " + line_of(tool)); }
     bool is_tool_running() override { return false; }

@@ -53,6 +53,7 @@ class silent_user : public kvt::user {
     void set_focus(std::string_view) override {}
     void set_busy(bool) override {}
     void show_progress(std::string_view, int) override {}
+    void show_titled_progress(std::string_view, int) override {}
     void start_tool(const kvt::started_tool&) override {}
     bool is_tool_running() override { return false; }
     void end_tool() override {}

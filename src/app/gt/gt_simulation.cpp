@@ -95,7 +95,7 @@ void open_model(user& person, const gt_request& request, const fs::path& model) 
 gt_result make_model(program& kavetta, user& person, const gt_request& request) {
     const std::int16_t language = kavetta.app_state.language;
     const auto tell = [&](message step, int percent) {
-        person.show_progress(message_text(step, language), percent);
+        person.show_titled_progress(message_text(step, language), percent);
     };
     const gt_files files = prepare_files(kavetta, request);
     tell(message::gt_writing_step_files, 10);

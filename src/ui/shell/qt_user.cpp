@@ -264,6 +264,11 @@ void qt_user::show_progress(std::string_view text, int percent) {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void qt_user::show_titled_progress(std::string_view title, int percent) {
+    show_progress("", percent);
+    progress_->setWindowTitle(qt_text(title));
+}
+
 bool qt_user::wait(std::chrono::milliseconds time) {
     if (progress_ == nullptr) {
         show_progress("", 0);

@@ -53,6 +53,7 @@ class qt_user : public user {
     void set_focus(std::string_view control) override;
     void set_busy(bool busy) override;
     void show_progress(std::string_view text, int percent) override;
+    void show_titled_progress(std::string_view title, int percent) override;
     void start_tool(const started_tool& tool) override { tools_.start(tool); }
     bool is_tool_running() override { return tools_.is_running(); }
     void end_tool() override { tools_.end(); }

@@ -67,13 +67,13 @@ TEST_F(gt_simulation_test, makes_the_model_and_opens_it) {
     const std::string model = folder.file("GT_files/Pump.gtm");
     EXPECT_EQ(made->model, model);
     EXPECT_EQ(made->passes.size(), 14U);
-    EXPECT_EQ(
-        tester.log,
-        (texts{"progress Generating STEP files... 10",
-               "progress Performing GEM3D Conversions..... 25",
-               "start " + bin + "/gemc -v2021 " + folder.file("KVT_GT_temp/KVT_GT_conv.gem"),
-               "progress Building GT-ISE file.... 75", "progress Opening model in GT-ISE.... 100",
-               "detached " + bin + "/gtise -v2021 " + model, "unload progressfrm"}));
+    EXPECT_EQ(tester.log,
+              (texts{"titled progress Generating STEP files... 10",
+                     "titled progress Performing GEM3D Conversions..... 25",
+                     "start " + bin + "/gemc -v2021 " + folder.file("KVT_GT_temp/KVT_GT_conv.gem"),
+                     "titled progress Building GT-ISE file.... 75",
+                     "titled progress Opening model in GT-ISE.... 100",
+                     "detached " + bin + "/gtise -v2021 " + model, "unload progressfrm"}));
     EXPECT_EQ(package.converter_log(),
               "cwd=" + bin + " args=-v2021 " + folder.file("KVT_GT_temp/KVT_GT_conv.gem") + "\n");
     EXPECT_EQ(package.editor_log(), "cwd=" + bin + " args=-v2021|" + model + "\n");

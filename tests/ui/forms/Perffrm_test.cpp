@@ -32,6 +32,7 @@ class Perffrm_test : public desktop_test {
         start_with_performance();
         pick("GT_combo", "GT 2021");
         pick("GT_fluid", "oil_A");
+        robot.left_open = "progressfrm";
     }
     QComboBox& list(const char* name) { return *find_on<QComboBox>("Perffrm", name); }
     /// Chooses a row as a click in the open list does.
@@ -145,12 +146,14 @@ TEST_F(Perffrm_test, makes_a_model_and_paints_meanwhile) {
     start_ready_to_simulate();
     int ticks = 0;
     QString caption;
+    QString model;
     bool is_waiting_alone = false;
     QTimer clock;
     QObject::connect(&clock, &QTimer::timeout, &clock, [&] {
         if (auto* progress = window().findChild<QDialog*>("progressfrm")) {
             ++ticks;
             caption = progress->windowTitle();
+            model = progress->findChild<QLabel*>("Label2")->text();
             is_waiting_alone = QApplication::activeModalWidget() == progress;
         }
     });
@@ -158,6 +161,7 @@ TEST_F(Perffrm_test, makes_a_model_and_paints_meanwhile) {
     press("GT_Sim_Button");
     EXPECT_GT(ticks, 5) << "the event loop runs";
     EXPECT_EQ(caption, "Performing GEM3D Conversions.....");
+    EXPECT_EQ(model, "Creating Model...");
     EXPECT_TRUE(is_waiting_alone);
     EXPECT_EQ(window().findChild<QDialog*>("progressfrm"), nullptr);
     EXPECT_TRUE(robot.messages.empty());
