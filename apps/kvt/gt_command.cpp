@@ -134,8 +134,8 @@ int make_gt_model(const gt_command_request& request, std::ostream& out, std::ost
     const batch_result result =
         calculate_design(kavetta, person, request.source, calc_stage::performance);
     person.show_hints(kavetta.hints, request.source.language);
-    if (result.end != batch_end::ok || result.refused) {
-        return exit_status(result);
+    if (const int status = exit_status(result); status != EXIT_OK) {
+        return status;
     }
     const std::optional<gt_result> made = request.gtm_file.empty()
                                               ? make_model_of_package(kavetta, person, request)

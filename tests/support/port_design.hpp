@@ -3,7 +3,6 @@
 #pragma once
 
 #include "core/app_state.hpp"
-#include "performance/perf_results.hpp"
 #include "ports/port_work.hpp"
 #include "support/sample_design.hpp"
 #include "support/scripted_user.hpp"
@@ -41,7 +40,6 @@ struct port_design {
     design_params design = sample_design();
     rotor_profiles rotors = prepared_rotors(design);
     port_params ports;
-    perf_results results;
     scripted_user person;
     std::int16_t language = ENGLISH;
     bool inches = false;

@@ -83,9 +83,10 @@ void paint_axes(QPainter& painter, const chart_drawing& drawing) {
     }
 }
 
+/// Round corners, 3600 of them in the ripple, would take most of the time of a repaint.
 void paint_curve(QPainter& painter, int series, const QPolygonF& curve) {
     painter.setPen(
-        QPen(colour_of(series), CURVE_WIDTH, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPen(colour_of(series), CURVE_WIDTH, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
     painter.drawPolyline(curve);
 }
 

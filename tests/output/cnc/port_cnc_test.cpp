@@ -21,6 +21,7 @@ namespace {
 
 struct port_files {
     port_design tested;
+    perf_results results;  ///< none: no file of the ports has any
     cnc_choices choices{.cnc_res_digits = 5, .tool_diameter = 2.0, .groove_tool_diameter = 1.0};
 
     explicit port_files(const std::string& port_radius = "1.5") {
@@ -34,8 +35,7 @@ struct port_files {
     std::vector<cnc_section> sections(void (*write)(const file_source&, port_side, text_lines&),
                                       port_side side) const {
         text_lines text;
-        write({tested.design, tested.rotors, tested.ports, tested.results, tested.boxes, choices,
-               "pump"},
+        write({tested.design, tested.rotors, tested.ports, results, tested.boxes, choices, "pump"},
               side, text);
         return cnc_reader(text.bytes(), choices.cnc_res_digits).sections();
     }
@@ -268,7 +268,7 @@ TEST(port_gcode_gap, measures_the_arcs_and_not_their_chords) {
     const file_source source{files.tested.design,
                              files.tested.rotors,
                              files.tested.ports,
-                             files.tested.results,
+                             files.results,
                              files.tested.boxes,
                              files.choices,
                              "pump"};
@@ -280,7 +280,7 @@ TEST(port_gcode_gap, is_small_for_sound_ports_and_tells_codes_that_leave_their_o
     const file_source source{files.tested.design,
                              files.tested.rotors,
                              files.tested.ports,
-                             files.tested.results,
+                             files.results,
                              files.tested.boxes,
                              files.choices,
                              "pump"};

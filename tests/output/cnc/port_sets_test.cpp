@@ -123,7 +123,8 @@ void replay(const port_design& tested, port_side side, tally& count) {
     const cnc_choices choices{.cnc_res_digits = DECIMALS,
                               .tool_diameter = 1.6 * built.f,
                               .groove_tool_diameter = 0.8 * tested.ports.groove_width_mm};
-    const file_source source{tested.design, tested.rotors, tested.ports, tested.results,
+    const perf_results none;
+    const file_source source{tested.design, tested.rotors, tested.ports, none,
                              tested.boxes,  choices,       "pump"};
     const std::vector<cnc_section> outlines = sections_of(source, side, write_port_xy);
     replay_drawing(source, side, ends_of(outlines[0]));
