@@ -52,9 +52,10 @@ TEST(report_command, leaves_results_empty_that_the_stages_did_not_reach) {
     EXPECT_TRUE(holds(refused.out, "\n    Calculated capacity                          Lit"));
 }
 
+/// Calculate Profiles writes the point back.
 TEST(report_command, takes_entries_as_calc_does) {
     EXPECT_TRUE(holds(report_engine_oil({"--set", "thick=12,5"}).out,
-                      "\n    Rotor thickness                    12,5\n"));
+                      "\n    Rotor thickness                    12.5\n"));
 }
 
 TEST(report_command, refuses_another_ending_and_another_date) {

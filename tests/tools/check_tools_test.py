@@ -107,6 +107,7 @@ class guide_test(tree_test):
             self.write(f"src/core/texts/{form}.inc", "")
         self.write("src/core/texts/Perffrm.inc", '{caption, "Perffrm", "Label7", "&Pressure Range (bar)", "Druck"},\n')
         self.write("tools/screenshots/main.cpp", 'pictures["workplace"]')
+        self.write("src/core/form_table.cpp", 'chart("FLOW_graphview2")')
         self.write("tools/pictures/CMakeLists.txt", '"${share_folder}/explain.jpg"')
         self.write("src/ui/forms/Form1.hpp", "")
 

@@ -73,11 +73,11 @@ TEST_F(profiles_run, of_a_sound_design_ends_ok_and_shows_the_pair) {
 TEST_F(profiles_run, unloads_the_result_forms_before_anything_else) {
     run();
     const texts unloaded = {
-        "unload perf_res",         "unload FLOW_graphview2",      "unload LOAD_graphview2",
-        "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2", "unload VE_graphview2",
-        "unload EFFIC_graphview2", "unload OVREFF_graphview2"};
+        "unload perf_res",        "unload result_tables",    "unload FLOW_graphview2",
+        "unload LOAD_graphview2", "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2",
+        "unload VE_graphview2",   "unload EFFIC_graphview2", "unload OVREFF_graphview2"};
     ASSERT_GE(person.log.size(), unloaded.size());
-    EXPECT_EQ(texts(person.log.begin(), person.log.begin() + 8), unloaded);
+    EXPECT_EQ(texts(person.log.begin(), person.log.begin() + 9), unloaded);
 }
 
 TEST_F(profiles_run, changes_the_enablings_although_a_message_stops_it) {

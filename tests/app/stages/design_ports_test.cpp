@@ -38,11 +38,11 @@ TEST_F(design_ports_test, closes_the_results_and_opens_the_performance_step) {
     kavetta.enabling.GT_Sim_Button = kavetta.enabling.create_charts = kavetta.enabling.mnudataperf =
         true;
     EXPECT_EQ(design_ports(kavetta, person), ALL);
-    EXPECT_EQ(
-        person.log,
-        (log_lines{"unload perf_res", "unload FLOW_graphview2", "unload LOAD_graphview2",
-                   "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2", "unload VE_graphview2",
-                   "unload EFFIC_graphview2", "unload OVREFF_graphview2", "busy", "not busy"}));
+    EXPECT_EQ(person.log, (log_lines{"unload perf_res", "unload result_tables",
+                                     "unload FLOW_graphview2", "unload LOAD_graphview2",
+                                     "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2",
+                                     "unload VE_graphview2", "unload EFFIC_graphview2",
+                                     "unload OVREFF_graphview2", "busy", "not busy"}));
     EXPECT_TRUE(kavetta.enabling.calc_perf);
     EXPECT_TRUE(kavetta.enabling.mnudxfinletport && kavetta.enabling.mnudxfoutletport);
     EXPECT_TRUE(kavetta.enabling.mnumodelporting);
@@ -115,12 +115,13 @@ TEST_F(design_ports_test, closes_the_results_also_when_a_groove_entry_stops_it) 
     kavetta.entries.groove_length = "0";
     person.log.clear();
     EXPECT_EQ(design_ports(kavetta, person), ports_designed{});
-    EXPECT_EQ(person.log, (log_lines{"unload perf_res", "unload FLOW_graphview2",
-                                     "unload LOAD_graphview2", "unload HERTZ_graphview2",
-                                     "unload PRESS_RIP_graphview2", "unload VE_graphview2",
-                                     "unload EFFIC_graphview2", "unload OVREFF_graphview2",
-                                     "message Enter a value for the length of the Metering Groove",
-                                     "focus groove_length"}))
+    EXPECT_EQ(
+        person.log,
+        (log_lines{
+            "unload perf_res", "unload result_tables", "unload FLOW_graphview2",
+            "unload LOAD_graphview2", "unload HERTZ_graphview2", "unload PRESS_RIP_graphview2",
+            "unload VE_graphview2", "unload EFFIC_graphview2", "unload OVREFF_graphview2",
+            "message Enter a value for the length of the Metering Groove", "focus groove_length"}))
         << "the results are closed before the entry is looked at, and nothing is built";
     EXPECT_TRUE(kavetta.enabling.calc_perf);
     EXPECT_FALSE(kavetta.enabling.create_charts || kavetta.enabling.mnudataperf);

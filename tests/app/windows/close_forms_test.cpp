@@ -25,7 +25,7 @@ const texts CHARTS = {"unload FLOW_graphview2",  "unload LOAD_graphview2",
 
 texts results() {
     texts forms = CHARTS;
-    forms.insert(forms.begin(), "unload perf_res");
+    forms.insert(forms.begin(), {"unload perf_res", "unload result_tables"});
     return forms;
 }
 
