@@ -3,6 +3,7 @@
 #include "support/gt_stand_in.hpp"
 #include "ui/desktop_fixture.hpp"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialog>
 #include <QTimer>
@@ -35,12 +36,17 @@ class Perffrm_test : public desktop_test {
         robot.left_open = "progressfrm";
     }
     QComboBox& list(const char* name) { return *find_on<QComboBox>("Perffrm", name); }
-    /// Chooses a row as a click in the open list does.
+    /// Opens the list by its key and clicks a row of it.
     void pick(const char* name, const QString& row) {
         QComboBox& box = list(name);
-        box.setCurrentText(row);
-        emit box.activated(box.currentIndex());
+        QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier);
         settle();
+        const QModelIndex index = box.model()->index(box.findText(row), 0);
+        ASSERT_TRUE(box.view()->isVisible() && index.isValid()) << name;
+        QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {},
+                          box.view()->visualRect(index).center());
+        settle();
+        EXPECT_EQ(box.currentText(), row);
     }
     bool usable(const char* control) { return find_on<QWidget>("Perffrm", control)->isEnabled(); }
 };
