@@ -22,6 +22,7 @@ std::span<const model_pass> model_passes() {
 std::vector<pass_count> run_model_passes(model_text& text, const pump_values& pump) {
     pass_work work{pump, text.encoding};
     std::vector<pass_count> counts;
+    counts.reserve(PASSES.size());
     for (const model_pass pass : PASSES) {
         counts.push_back(pass(text.lines, work));
     }

@@ -13,7 +13,7 @@ struct model_parameter {
     int order;
     int unit;
     std::string (*text)(const pass_work& work, std::size_t speed, std::size_t pressure);
-    std::string_view description = "";
+    std::string_view description = {};
 };
 
 /// A number of the design, the same in every case.
