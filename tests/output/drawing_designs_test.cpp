@@ -3,7 +3,7 @@
 #include "base/constants.hpp"
 #include "core/text_table.hpp"
 #include "geometry/outer_flank.hpp"
-#include "output/outer_path.hpp"
+#include "geometry/outer_path.hpp"
 #include "output/step/step_rotors.hpp"
 #include "support/cnc_design.hpp"
 #include "support/dxf_reader.hpp"

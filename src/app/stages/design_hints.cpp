@@ -6,8 +6,8 @@
 #include "core/text_table.hpp"
 #include "geometry/contour_crossing.hpp"
 #include "geometry/outer_flank.hpp"
+#include "geometry/outer_path.hpp"
 #include "output/cnc/tool_contour.hpp"
-#include "output/outer_path.hpp"
 #include "ports/groove_check.hpp"
 
 #include <cstddef>

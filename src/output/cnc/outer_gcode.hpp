@@ -3,8 +3,8 @@
 // Source: docs/formulas/written_files.md, "Checked arcs".
 #pragma once
 
+#include "geometry/outer_path.hpp"
 #include "output/cnc/tool_contour.hpp"
-#include "output/outer_path.hpp"
 
 namespace kvt {
 

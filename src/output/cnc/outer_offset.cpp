@@ -1,8 +1,8 @@
 #include "output/cnc/outer_offset.hpp"
 
 #include "base/run_time_error.hpp"
+#include "geometry/outer_path.hpp"
 #include "output/cnc/pocket_region.hpp"
-#include "output/outer_path.hpp"
 
 #include <algorithm>
 #include <cmath>

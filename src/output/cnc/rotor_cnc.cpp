@@ -3,9 +3,9 @@
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
 #include "base/number_text.hpp"
+#include "geometry/outer_path.hpp"
 #include "output/cnc/cnc_heads.hpp"
 #include "output/cnc/inner_offset.hpp"
-#include "output/outer_path.hpp"
 
 namespace kvt {
 

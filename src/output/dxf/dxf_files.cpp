@@ -3,7 +3,7 @@
 #include "base/checked_math.hpp"
 #include "base/fixed_number.hpp"
 #include "base/number_text.hpp"
-#include "output/outer_path.hpp"
+#include "geometry/outer_path.hpp"
 
 #include <algorithm>
 #include <array>

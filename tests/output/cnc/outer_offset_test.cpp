@@ -1,7 +1,7 @@
 // Cutter positions within the outer rotor: those that gouge, and the checked ones.
 #include "output/cnc/outer_offset.hpp"
 
-#include "output/outer_path.hpp"
+#include "geometry/outer_path.hpp"
 #include "support/cnc_reader.hpp"
 #include "support/expect_failure.hpp"
 #include "support/undercut_design.hpp"

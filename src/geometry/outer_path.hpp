@@ -1,5 +1,5 @@
-// The outer rotor as a chain of circular arcs: what the CNC and DXF files of the outer rotor walk
-// along.
+// The outer rotor as a chain of circular arcs: what the CNC and DXF files and the solid models of
+// it walk along.
 #pragma once
 
 #include "core/design_params.hpp"

@@ -1,5 +1,5 @@
 // The outer rotor as a chain of arcs, and its points.
-#include "output/outer_path.hpp"
+#include "geometry/outer_path.hpp"
 
 #include "base/constants.hpp"
 #include "support/undercut_design.hpp"

@@ -1,4 +1,4 @@
-#include "output/outer_path.hpp"
+#include "geometry/outer_path.hpp"
 
 #include "base/checked_math.hpp"
 #include "base/constants.hpp"
