@@ -177,6 +177,14 @@ std::vector<point2> trochoid_points(const rotor_profiles& rotors) {
     return pairs_of(rotors.troch_xy, static_cast<std::int64_t>(rotors.troch_xy.size() / 2));
 }
 
+std::vector<point2> distinct_trochoid_points(const rotor_profiles& rotors) {
+    std::vector<point2> points = trochoid_points(rotors);
+    if (!points.empty()) {
+        points.pop_back();
+    }
+    return points;
+}
+
 std::vector<point2> plotted_inner_points(const rotor_profiles& rotors) {
     const double inner_polyline_count = rotors.inner_plot_len + 1.0 - 2.0;
     return pairs_of(rotors.inner_plot_xy, to_int32(inner_polyline_count / 2.0));

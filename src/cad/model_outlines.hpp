@@ -23,6 +23,8 @@ design_params rotor_model_entries(const entries& boxes, const length_unit& unit)
 /// The trochoid, 3601 points; the last one repeats the first. Empty before profiles were
 /// calculated, as the two lists of the inner rotor.
 std::vector<point2> trochoid_points(const rotor_profiles& rotors);
+/// The same without the last point, for packages that close a spline by themselves.
+std::vector<point2> distinct_trochoid_points(const rotor_profiles& rotors);
 
 /// Every coarseness-th point of the inner rotor, as the Design view shows it, without the closing
 /// point: inner_polyline_count = inner_plot_len + 1 - 2 numbers.

@@ -33,8 +33,9 @@ switched_setting::~switched_setting() {
 }
 
 void switched_setting::put_back() {
-    if (!std::exchange(is_back_, true)) {
+    if (!is_back_) {
         of_->put(name_, !while_drawing_);
+        is_back_ = true;
     }
 }
 

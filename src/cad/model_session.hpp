@@ -52,7 +52,8 @@ class switched_setting {
     switched_setting(const switched_setting&) = delete;
     switched_setting& operator=(const switched_setting&) = delete;
 
-    /// Puts it back now; a failure of that is thrown. The destructor does it silently.
+    /// Puts it back now; a failure of that is thrown. The destructor does it silently, also once
+    /// more where this failed.
     void put_back();
 
   private:
