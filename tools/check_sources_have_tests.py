@@ -2,15 +2,18 @@
 """Reports sources of src and of the batch program without a test file. Usage: check_sources_have_tests.py [ROOT].
 
 src/geometry/trochoid.cpp is tested by tests/geometry/trochoid_test.cpp, apps/kvt/json_report.cpp by
-tests/kvt/json_report_test.cpp. Where one test file covers several sources COVERED_BY names it; what needs no test stands
-in WITHOUT_TEST with the reason.
+tests/kvt/json_report_test.cpp. What a system does in its own way stands in folders named after the systems and may be
+tested as one subject: src/base/posix/file_lock.cpp by tests/base/file_lock_test.cpp. Where one test file covers several
+sources COVERED_BY names it; what needs no test stands in WITHOUT_TEST with the reason.
 """
 import pathlib
 import sys
 
 FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
+SYSTEMS = {"posix", "windows"}
 
 COVERED_BY = {
+    "src/automation/windows/variant.cpp": "tests/automation/com_host_test.cpp",
     "src/output/cnc/contour_gap.cpp": "tests/output/cnc/port_cnc_test.cpp",
     "apps/kvt/exit_status.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/batch_user.cpp": "tests/kvt/calc_command_test.cpp",
@@ -70,7 +73,10 @@ def sources_and_tests(root):
     """Yields each source with the place of its own test file."""
     for folder, tests in FOLDERS.items():
         for path in sorted((root / folder).rglob("*.cpp")):
-            yield path, root / tests / path.relative_to(root / folder).parent / (path.stem + "_test.cpp")
+            mirrored = root / tests / path.relative_to(root / folder).parent
+            of_subject = mirrored.parent if mirrored.name in SYSTEMS else mirrored
+            own = mirrored / (path.stem + "_test.cpp")
+            yield path, own if own.exists() else of_subject / own.name
 
 
 def findings(root, covered_by=None, without_test=None):

@@ -280,6 +280,15 @@ class sources_have_tests_test(tree_test):
         self.write("apps/kvt/report.cpp", "")
         self.expect_one(self.check(), "apps/kvt/report.cpp", "tests/kvt/report_test.cpp")
 
+    def test_what_a_system_does_its_own_way_may_be_tested_as_one_subject(self):
+        self.write("tests/core/a_test.cpp", "")
+        self.write("src/core/posix/b.cpp", "")
+        self.write("src/core/windows/c.cpp", "")
+        self.write("tests/core/windows/c_test.cpp", "")
+        self.expect_one(self.check(), "src/core/posix/b.cpp", "tests/core/b_test.cpp")
+        self.write("tests/core/b_test.cpp", "")
+        self.assertEqual(list(self.check()), [])
+
     def test_a_listed_test_must_exist(self):
         listed = {"src/core/a.cpp": "tests/core/b_test.cpp"}
         self.expect_one(self.check(listed), "tests/core/b_test.cpp")
