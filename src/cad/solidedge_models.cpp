@@ -29,8 +29,10 @@ constexpr std::int32_t CLOSED = 1, NESTED = 8192;  // igProfileClosed, igProfile
 constexpr std::int32_t DOWN = 1, UP = 2;           // igLeft, igRight of a plane
 constexpr std::int32_t FEATURE_OK = 1216476310;    // igFeatureOK
 
+/// What is held of the package. Its collections can be gone once a feature was added, and are
+/// fetched anew from the active document.
 struct part {
-    object_ref application, document, xy_plane;
+    object_ref application;
 };
 
 double metres(double mm) {
@@ -57,11 +59,18 @@ part new_part(model_session& session) {
     const object_ref& application = open_application(session, APPLICATION);
     application->put("Visible", true);
     session.show_percent(30);
-    const object_ref document =
-        object_of(object_of(application, "Documents"), "Add", {std::string(PART_DOCUMENT)});
-    set_ordered_mode(document);
+    set_ordered_mode(
+        object_of(object_of(application, "Documents"), "Add", {std::string(PART_DOCUMENT)}));
     session.show_percent(60);
-    return {application, document, object_of(object_of(document, "RefPlanes"), "Item", {XY_PLANE})};
+    return {application};
+}
+
+object_ref collection(const part& made, std::string_view name) {
+    return object_of(object_of(made.application, "ActiveDocument"), name);
+}
+
+object_ref xy_plane(const part& made) {
+    return object_of(collection(made, "RefPlanes"), "Item", {XY_PLANE});
 }
 
 void finish(const model_session& session, const part& made) {
@@ -71,7 +80,7 @@ void finish(const model_session& session, const part& made) {
 }
 
 object_ref new_profile(const part& made, const object_ref& plane) {
-    const object_ref set = object_of(object_of(made.document, "ProfileSets"), "Add");
+    const object_ref set = object_of(collection(made, "ProfileSets"), "Add");
     return object_of(object_of(set, "Profiles"), "Add", {plane});
 }
 
@@ -121,14 +130,18 @@ struct extrusion {
     std::int32_t side = UP;
 };
 
+std::int32_t count_of_models(const part& made) {
+    return as_integer(collection(made, "Models")->get("Count"));
+}
+
 /// A body of its own. A feature can fail without an error, so the count of models and the state of
 /// the feature are looked at.
-void add_model(const object_ref& models, const object_ref& profile, const extrusion& how) {
-    const std::int32_t count = as_integer(models->get("Count"));
+void add_model(const part& made, const object_ref& profile, const extrusion& how) {
+    const std::int32_t count = count_of_models(made);
     const object_ref model =
-        object_of(models, "AddFiniteExtrudedProtrusion",
+        object_of(collection(made, "Models"), "AddFiniteExtrudedProtrusion",
                   {1, automation::object_array{{profile}}, how.side, metres(how.depth)});
-    if (as_integer(models->get("Count")) <= count) {
+    if (count_of_models(made) <= count) {
         throw failed("Solid Edge added no model");
     }
     const object_ref features = object_of(model, "Features");
@@ -136,113 +149,98 @@ void add_model(const object_ref& models, const object_ref& profile, const extrus
 }
 
 /// A further extrusion of the first body, where the package makes no second one.
-void add_to_first_model(const object_ref& models, const object_ref& profile, const extrusion& how) {
-    const object_ref extrusions = object_of(object_of(models, "Item", {1}), "ExtrudedProtrusions");
-    expect_sound(object_of(extrusions, "AddFiniteMulti",
+void add_to_first_model(const part& made, const object_ref& profile, const extrusion& how) {
+    const object_ref model = object_of(collection(made, "Models"), "Item", {1});
+    expect_sound(object_of(object_of(model, "ExtrudedProtrusions"), "AddFiniteMulti",
                            {1, automation::object_array{{profile}}, how.side, metres(how.depth)}));
 }
 
-void add_further_body(const object_ref& models, const object_ref& profile, const extrusion& how) {
+void add_further_body(const part& made, const object_ref& profile, const extrusion& how) {
     try {
-        add_model(models, profile, how);
+        add_model(made, profile, how);
     } catch (const automation::automation_error&) {
-        add_to_first_model(models, profile, how);
+        add_to_first_model(made, profile, how);
     }
 }
 
-/// A profile and how far it is extruded.
-struct profiled_body {
-    object_ref profile;
-    extrusion how;
-};
-
-/// The first body is the part's, the others stand beside it.
-void add_bodies(const part& made, const std::vector<profiled_body>& bodies) {
-    const object_ref models = object_of(made.document, "Models");
-    for (const profiled_body& body : bodies) {
-        if (&body == &bodies.front()) {
-            add_model(models, body.profile, body.how);
-        } else {
-            add_further_body(models, body.profile, body.how);
-        }
-    }
-}
-
-profiled_body inner_rotor_body(const model_session& session, const part& made) {
-    const design_params design = rotor_model_entries(session.source.boxes, session.source.unit);
-    const object_ref profile = new_profile(made, made.xy_plane);
-    closed_spline(profile, inner_rotor_points(session.source.rotors));
+object_ref inner_rotor_profile(const part& made, const rotor_profiles& rotors) {
+    object_ref profile = new_profile(made, xy_plane(made));
+    closed_spline(profile, inner_rotor_points(rotors));
     end_profile(profile, CLOSED);
-    return {profile, {.depth = design.thick}};
+    return profile;
 }
 
-profiled_body outer_rotor_body(const model_session& session, const part& made) {
-    const design_params design = rotor_model_entries(session.source.boxes, session.source.unit);
+object_ref outer_rotor_profile(const part& made, const design_params& design) {
     const std::vector<point2> path = closed_spline_points(outer_rotor_points(design));
-    const object_ref profile = new_profile(made, made.xy_plane);
+    object_ref profile = new_profile(made, xy_plane(made));
     circle(profile, {-design.ecc, 0.0}, design.maxdiameter / 2.0);
     closed_spline(profile, path);
     end_profile(profile, CLOSED + NESTED);
-    return {profile, {.depth = design.thick}};
+    return profile;
 }
 
-profiled_body profiled_port(const part& made, const object_ref& plane, const port_body& body) {
-    const object_ref profile = new_profile(made, plane);
+object_ref port_profile(const part& made, const object_ref& plane, const port_body& body) {
+    object_ref profile = new_profile(made, plane);
     closed_spline(profile, closed_spline_points(body.outline), body.is_lower() ? 0.0 : body.from_z);
     end_profile(profile, CLOSED);
-    return {profile, {.depth = body.height(), .side = body.is_lower() ? DOWN : UP}};
+    return profile;
 }
 
 object_ref plane_at(const part& made, double z) {
-    return object_of(object_of(made.document, "RefPlanes"), "AddParallelByDistance",
-                     {made.xy_plane, metres(z), ALONG_NORMAL});
+    return object_of(collection(made, "RefPlanes"), "AddParallelByDistance",
+                     {xy_plane(made), metres(z), ALONG_NORMAL});
 }
 
 }  // namespace
 
 void trochoid(model_session& session) {
     const part made = new_part(session);
-    const object_ref profile = new_profile(made, made.xy_plane);
-    closed_spline(profile, distinct_trochoid_points(session.source.rotors));
+    closed_spline(new_profile(made, xy_plane(made)),
+                  distinct_trochoid_points(session.source.rotors));
     session.show_percent(70);
     finish(session, made);
 }
 
 void inner_rotor(model_session& session) {
+    const design_params design = rotor_model_entries(session.source.boxes, session.source.unit);
     const part made = new_part(session);
-    const profiled_body inner = inner_rotor_body(session, made);
+    const object_ref profile = inner_rotor_profile(made, session.source.rotors);
     session.show_percent(70);
-    add_bodies(made, {inner});
+    add_model(made, profile, {.depth = design.thick});
     finish(session, made);
 }
 
 void outer_rotor(model_session& session) {
+    const design_params design = rotor_model_entries(session.source.boxes, session.source.unit);
     const part made = new_part(session);
-    const profiled_body outer = outer_rotor_body(session, made);
+    const object_ref profile = outer_rotor_profile(made, design);
     session.show_percent(70);
-    add_bodies(made, {outer});
+    add_model(made, profile, {.depth = design.thick});
     finish(session, made);
 }
 
 void porting(model_session& session) {
     const model_source& source = session.source;
     const part made = new_part(session);
-    port_planes planes(made.xy_plane, [&](double z) { return plane_at(made, z); });
-    std::vector<profiled_body> bodies;
+    port_planes planes(xy_plane(made), [&](double z) { return plane_at(made, z); });
+    bool is_first = true;
     for (const port_body& body : port_bodies(source.design, source.ports, source.boxes)) {
-        bodies.push_back(profiled_port(made, planes.of(body), body));
+        const object_ref profile = port_profile(made, planes.of(body), body);
+        const extrusion how{.depth = body.height(), .side = body.is_lower() ? DOWN : UP};
+        is_first ? add_model(made, profile, how) : add_further_body(made, profile, how);
+        is_first = false;
     }
     session.show_percent(70);
-    add_bodies(made, bodies);
     finish(session, made);
 }
 
 void assembly(model_session& session) {
+    const design_params design = rotor_model_entries(session.source.boxes, session.source.unit);
     const part made = new_part(session);
-    const profiled_body outer = outer_rotor_body(session, made);
-    const profiled_body inner = inner_rotor_body(session, made);
+    add_model(made, outer_rotor_profile(made, design), {.depth = design.thick});
     session.show_percent(70);
-    add_bodies(made, {outer, inner});
+    add_further_body(made, inner_rotor_profile(made, session.source.rotors),
+                     {.depth = design.thick});
     finish(session, made);
 }
 
