@@ -120,29 +120,31 @@ struct extrusion {
 void extrude(const part& made, const extrusion& how) {
     const std::int32_t from = how.start == 0.0 ? FROM_SKETCH_PLANE : FROM_OFFSET;
     object_of(made.features, "FeatureExtrusion3",
-              {true,
-               false,
-               how.downwards,  // one direction
-               BLIND,
-               BLIND,
-               metres(how.depth),
-               0.0,  // depths
-               false,
-               false,
-               false,
-               false,  // no draft
-               0.0,
-               0.0,  //
-               false,
-               false,
-               false,
-               false,  // offsets of end surfaces
-               how.merges,
-               true,
-               true,  // bodies
-               from,
-               metres(how.start),
-               false});  // start
+              {
+                  true,               // Sd: in one direction
+                  false,              // Flip: the side to cut
+                  how.downwards,      // Dir: against the normal of the sketch
+                  BLIND,              // T1
+                  BLIND,              // T2
+                  metres(how.depth),  // D1
+                  0.0,                // D2
+                  false,              // Dchk1: draft
+                  false,              // Dchk2
+                  false,              // Ddir1
+                  false,              // Ddir2
+                  0.0,                // Dang1
+                  0.0,                // Dang2
+                  false,              // OffsetReverse1
+                  false,              // OffsetReverse2
+                  false,              // TranslateSurface1
+                  false,              // TranslateSurface2
+                  how.merges,         // Merge
+                  true,               // UseFeatScope
+                  true,               // UseAutoSelect
+                  from,               // T0
+                  metres(how.start),  // StartOffset
+                  false,              // FlipStartOffset
+              });
 }
 
 void add_inner_rotor(const model_session& session, const part& made, bool merges) {
