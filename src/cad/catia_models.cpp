@@ -137,8 +137,9 @@ object_ref plane_at(const part& made, double z) {
 /// The bodies with the groove as the last one.
 std::vector<port_body> bodies_of(const model_source& source) {
     std::vector<port_body> bodies = port_bodies(source.design, source.ports, source.boxes);
-    std::ranges::stable_partition(
-        bodies, [](const port_body& body) { return body.kind != port_body_kind::groove; });
+    std::stable_partition(bodies.begin(), bodies.end(), [](const port_body& body) {
+        return body.kind != port_body_kind::groove;
+    });
     return bodies;
 }
 

@@ -16,7 +16,6 @@ namespace kvt::solidworks {
 namespace {
 
 using automation::as_bool;
-using automation::as_object;
 using automation::as_text;
 using automation::object_of;
 using automation::object_ref;

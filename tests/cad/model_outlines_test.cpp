@@ -1,9 +1,12 @@
 // The outlines and bodies that the CAD packages draw.
 #include "cad/model_outlines.hpp"
 
+#include "geometry/circle_arc.hpp"
+#include "support/cad/closed_spline.hpp"
 #include "support/cnc_design.hpp"
 #include "support/sample_design.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -11,6 +14,7 @@ namespace kvt {
 namespace {
 
 constexpr const char* GROOVE_DESIGN = "n07_engine_oil_groove";
+constexpr const char* SHARP_DESIGN = "n03_transfer_sharp";
 
 double outline_area(const std::vector<point2>& points) {
     double sum = 0.0;
@@ -20,6 +24,20 @@ double outline_area(const std::vector<point2>& points) {
         before = point;
     }
     return sum / 2.0;
+}
+
+/// How far a smooth closed spline through points strays from the lines of an outline, mm.
+double swing(const std::vector<point2>& points, const std::vector<point2>& outline) {
+    double farthest = 0.0;
+    for (const point2& at : closed_spline(points, 2)) {
+        double nearest = distance(at, outline.front());
+        for (std::size_t i = 0; i < outline.size(); ++i) {
+            const point2 end = outline[(i + 1) % outline.size()];
+            nearest = std::min(nearest, distance(at, nearest_on_line(outline[i], end, at)));
+        }
+        farthest = std::max(farthest, nearest);
+    }
+    return farthest;
 }
 
 struct height {
@@ -178,6 +196,31 @@ TEST(closed_spline_points, keep_the_area_of_every_outline) {
         const double area = outline_area(body.outline);
         EXPECT_NEAR(outline_area(closed_spline_points(body.outline)), area, 1e-12 * std::abs(area));
     }
+}
+
+// The lines of an outline stand for its arcs, so the spline has a right to their 0.0005 mm.
+TEST(closed_spline_points, keep_a_smooth_spline_on_the_outline) {
+    const program rounded = design_with_ports(GROOVE_DESIGN),
+                  sharp = design_with_ports(SHARP_DESIGN);
+    for (const program* made : {&rounded, &sharp}) {
+        for (const port_body& body :
+             port_bodies(made->design_params, made->port_params, made->entries)) {
+            if (body.is_lower()) {
+                EXPECT_LT(swing(closed_spline_points(body.outline), body.outline), 0.001)
+                    << name_of(body.kind);
+            }
+        }
+    }
+    const std::vector<point2> rotor = outer_rotor_points(sharp.design_params);
+    EXPECT_LT(swing(closed_spline_points(rotor), rotor), 0.001);
+}
+
+TEST(closed_spline_points, are_needed_by_the_groove) {
+    const program kavetta = design_with_ports(GROOVE_DESIGN);
+    const std::vector<port_body> bodies =
+        port_bodies(kavetta.design_params, kavetta.port_params, kavetta.entries);
+    ASSERT_EQ(bodies.at(2).kind, port_body_kind::groove);
+    EXPECT_GT(swing(bodies[2].outline, bodies[2].outline), 0.1);
 }
 
 TEST(drawing_length, is_in_the_unit_of_the_project) {

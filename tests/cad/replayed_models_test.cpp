@@ -79,8 +79,8 @@ std::vector<int> run_in(cad_stand_in& package, model_routine routine, const prog
 /// The groove is CATIA's last body.
 void order_as(const driven_package& package, std::vector<expected_body>& bodies) {
     if (package.code == std::string("CAT")) {
-        std::ranges::stable_partition(bodies,
-                                      [](const auto& body) { return body.name != "groove"; });
+        std::stable_partition(bodies.begin(), bodies.end(),
+                              [](const expected_body& body) { return body.name != "groove"; });
     }
 }
 
