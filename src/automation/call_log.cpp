@@ -2,7 +2,6 @@
 
 #include "base/number_text.hpp"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <string_view>

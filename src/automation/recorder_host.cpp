@@ -4,7 +4,7 @@
 #include "automation/call_log.hpp"
 #include "automation/object.hpp"
 
-#include <array>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -62,12 +62,12 @@ bool adds_to_collection(std::string_view name) {
     return name.starts_with("Add");
 }
 
-/// What a collection of a new document holds.
+/// What a collection of a new document, or of a new model, holds.
 std::size_t items_at_first(std::string_view collection) {
     if (collection == "RefPlanes" || collection == "WorkPlanes") {
         return 3;
     }
-    return collection == "Bodies" ? 1 : 0;
+    return collection == "Bodies" || collection == "Features" ? 1 : 0;
 }
 
 std::size_t elements_answered(const recorded_call& call) {
