@@ -9,7 +9,7 @@ import re
 import sys
 
 FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "viewwinfrm", "MDIForm1",
-         "Form2", "Form3", "graphpopupmenu"]
+         "Form2", "Form3", "Form4", "graphpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
 
@@ -22,7 +22,7 @@ WITHOUT_PAGE = {
     ("graphpopupmenu", "filter"): "the types of a file dialog",
 }
 # Menus whose entries come with a later version; the guide names the menu.
-LATER_MENUS = ("mnumodel", "mnustep", "mnudxf")
+LATER_MENUS = ("mnustep", "mnudxf")
 
 
 def captions(root):

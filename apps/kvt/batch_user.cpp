@@ -41,6 +41,10 @@ start_choice batch_user::ask_new_or_open() {
     return start_choice::neither;
 }
 
+std::optional<std::string> batch_user::ask_modelling_package(std::string_view) {
+    return std::nullopt;
+}
+
 std::unique_ptr<report_printer> batch_user::choose_printer(const print_request&) {
     return nullptr;
 }

@@ -35,6 +35,7 @@ class batch_user : public user {
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;
+    std::optional<std::string> ask_modelling_package(std::string_view code) override;
     std::unique_ptr<report_printer> choose_printer(const print_request& request) override;
     void show_status(std::string_view text) override;
     void start_tool(const started_tool& tool) override;

@@ -5,6 +5,7 @@
 #include "app/desk/unsaved_files.hpp"
 #include "app/gt/gt_choices.hpp"
 #include "app/stages/stage_entries.hpp"
+#include "automation/host.hpp"
 #include "core/app_state.hpp"
 #include "core/captions.hpp"
 #include "core/design_params.hpp"
@@ -60,6 +61,13 @@ struct program {
     /// The files with entries that nobody saved: of the run, not of the design, so that copies of
     /// the records share it.
     std::shared_ptr<unsaved_work> unsaved = std::make_shared<unsaved_work>();
+
+    /// The programs of others that can be driven; null where there are none. Of the run, as
+    /// unsaved.
+    std::shared_ptr<automation::host> packages;
+    /// The CAD package that built the last model. Holding it keeps a package open that was started
+    /// for it.
+    automation::object_ref driven_package;
 
     /// The program's folder: settings, recovery, projects. Empty in the batch program, which writes
     /// nothing there.

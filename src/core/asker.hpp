@@ -25,6 +25,9 @@ class asker {
     virtual std::optional<std::string> ask_project_name() = 0;
     /// The prompt Form2, new or open.
     virtual start_choice ask_new_or_open() = 0;
+    /// Form4: the code of the CAD package that was chosen, with `code` as the choice at first.
+    /// Nothing for OK without a choice and when the form was closed in another way.
+    virtual std::optional<std::string> ask_modelling_package(std::string_view code) = 0;
 };
 
 }  // namespace kvt

@@ -29,6 +29,7 @@ class scripted_user : public user {
     std::deque<std::optional<std::string>> files;
     std::deque<std::optional<std::string>> project_names;
     std::deque<start_choice> start_choices;
+    std::deque<std::optional<std::string>> packages;  ///< codes chosen on Form4; nothing cancels
     std::deque<std::unique_ptr<report_printer>> printers;
     /// For failures; without an entry the program ends.
     std::deque<bool> going_on;
@@ -59,6 +60,10 @@ class scripted_user : public user {
     start_choice ask_new_or_open() override {
         log.emplace_back("new or open");
         return next(start_choices);
+    }
+    std::optional<std::string> ask_modelling_package(std::string_view code) override {
+        log.push_back("modelling package " + std::string(code));
+        return next(packages);
     }
     std::unique_ptr<report_printer> choose_printer(const print_request& request) override {
         prints.push_back(request);

@@ -143,6 +143,8 @@ void dialog_robot::answer_other(QDialog& dialog) {
         const std::optional<std::string> name = next(names);
         type_keys(dialog.findChild<QLineEdit*>("txtprojectname"), qt_text(name.value_or("")));
         press(dialog, name ? "cmdOK" : "cmdCancel");
+    } else if (dialog.objectName() == "Form4" && at_package) {
+        at_package(dialog);
     } else if (dialog.objectName() == "Form2" && !prompts.empty()) {
         if (at_prompt) {
             at_prompt();

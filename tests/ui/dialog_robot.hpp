@@ -43,10 +43,11 @@ class dialog_robot : public QObject {
     std::deque<std::string> prompts;                ///< "new", "open" or "" (closed) for Form2
     std::deque<std::optional<std::string>> prints;  ///< the file to print to; nothing cancels
     std::vector<std::string> proposed_prints;       ///< the files that the print dialogs proposed
-    std::string left_open;             ///< name of a dialog that the test itself works in
-    std::function<void()> at_message;  ///< looked at while a message box is open
-    std::function<void()> at_name;     ///< looked at before the name dialog is answered
-    std::function<void()> at_prompt;   ///< looked at before Form2 is answered
+    std::string left_open;                     ///< name of a dialog that the test itself works in
+    std::function<void()> at_message;          ///< looked at while a message box is open
+    std::function<void()> at_name;             ///< looked at before the name dialog is answered
+    std::function<void()> at_prompt;           ///< looked at before Form2 is answered
+    std::function<void(QDialog&)> at_package;  ///< answers Form4
     std::function<void(QFileDialog&)>
         at_file_dialog;  ///< looked at before a file dialog is answered
 

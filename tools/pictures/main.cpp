@@ -47,6 +47,9 @@ class silent_user : public kvt::user {
     }
     std::optional<std::string> ask_project_name() override { return std::nullopt; }
     kvt::start_choice ask_new_or_open() override { return kvt::start_choice::neither; }
+    std::optional<std::string> ask_modelling_package(std::string_view) override {
+        return std::nullopt;
+    }
     void show_status(std::string_view) override {}
     void show_form(std::string_view) override {}
     void unload_form(std::string_view) override {}

@@ -63,6 +63,9 @@ kvt::form_pictures pictures_of_all_dialogs(kvt::staged_program& stage) {
     if (const QPixmap cnc = stage.dialog_of("mnudatacnc"); !cnc.isNull()) {
         pictures["Form3"] = cnc;
     }
+    if (const QPixmap packages = stage.dialog_of("mnumodelpackage"); !packages.isNull()) {
+        pictures["Form4"] = packages;
+    }
     return pictures;
 }
 

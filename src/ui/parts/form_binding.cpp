@@ -4,7 +4,6 @@
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "ui/parts/entry_validator.hpp"
-#include "ui/shell/not_built_yet.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QAbstractButton>
@@ -124,13 +123,11 @@ void form_binding::show_enabled(QWidget& control, std::string_view name) {
     const auto* label = qobject_cast<QLabel*>(&control);
     if (label != nullptr && label->buddy() != nullptr) {
         const std::string buddy = utf8_text(label->buddy()->objectName());
-        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, buddy) &&
-                           !is_not_built_yet(form_, buddy));
+        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, buddy));
         return;
     }
-    if (find_on_form(enabling_fields(), form_, name) != nullptr || is_not_built_yet(form_, name)) {
-        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, name) &&
-                           !is_not_built_yet(form_, name));
+    if (find_on_form(enabling_fields(), form_, name) != nullptr) {
+        control.setEnabled(is_enabled(context_.kavetta.enabling, form_, name));
     }
 }
 

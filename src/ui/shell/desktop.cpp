@@ -4,6 +4,7 @@
 #include "app/desk/layout_commands.hpp"
 #include "app/desk/start_up.hpp"
 #include "app/program.hpp"
+#include "automation/system_host.hpp"
 #include "views/charts/result_chart.hpp"
 
 #include <QLocale>
@@ -17,6 +18,7 @@ desktop::desktop(const std::filesystem::path& folder)
       window_(form_context{program_, runner_, person_}),
       charts_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
+    program_.packages = automation::system_host();
     program_.decimal_mark = QLocale().decimalPoint() == "," ? ',' : '.';
     autosave_timer_.setObjectName("autosave_timer");
     QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_,

@@ -3,7 +3,6 @@
 #include "app/files/file_output.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
-#include "ui/shell/not_built_yet.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QAction>
@@ -111,8 +110,7 @@ void main_menu::refresh() {
         const std::string name = utf8_text(entry.key());
         const bool usable = is_enabled(context_.kavetta.enabling, "MDIForm1", name);
         entry.value()->setText(caption_of(context_.kavetta, "MDIForm1", name));
-        entry.value()->setEnabled(usable && entry.value()->isVisible() &&
-                                  !is_not_built_yet("MDIForm1", name));
+        entry.value()->setEnabled(usable && entry.value()->isVisible());
     }
     refresh_recent_entries();
     refresh_updates();

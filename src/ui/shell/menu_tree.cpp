@@ -8,6 +8,7 @@
 #include "app/files/print_project.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/gt/gt_simulation.hpp"
+#include "app/models/solid_models.hpp"
 #include "ui/parts/internet_transfer.hpp"
 #include "ui/shell/help_file.hpp"
 
@@ -49,12 +50,18 @@ const std::array MENU_ROWS = {
     menu_row{"mnufileprev", "mnufile", menu_kind::recent_entries},
 
     menu_row{"mnumodel", "", MENU},
-    menu_row{"mnumodelpackage", "mnumodel"},
-    menu_row{"mnumodeltroc", "mnumodel"},
-    menu_row{"mnumodelinner", "mnumodel"},
-    menu_row{"mnumodelouter", "mnumodel"},
-    menu_row{"mnumodelassy", "mnumodel"},
-    menu_row{"mnumodelporting", "mnumodel"},
+    menu_row{"mnumodelpackage", "mnumodel", ENTRY, false, NO_KEY,
+             going_on<choose_modelling_package>},
+    menu_row{"mnumodeltroc", "mnumodel", ENTRY, false, NO_KEY,
+             going_on<draw_model<model_kind::trochoid>>},
+    menu_row{"mnumodelinner", "mnumodel", ENTRY, false, NO_KEY,
+             going_on<draw_model<model_kind::inner>>},
+    menu_row{"mnumodelouter", "mnumodel", ENTRY, false, NO_KEY,
+             going_on<draw_model<model_kind::outer>>},
+    menu_row{"mnumodelassy", "mnumodel", ENTRY, false, NO_KEY,
+             going_on<draw_model<model_kind::assembly>>},
+    menu_row{"mnumodelporting", "mnumodel", ENTRY, false, NO_KEY,
+             going_on<draw_model<model_kind::porting>>},
 
     menu_row{"mnustep", "", MENU},
     menu_row{.menu = "mnustep", .kind = menu_kind::files, .files = file_group::step},

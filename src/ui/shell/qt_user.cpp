@@ -3,6 +3,7 @@
 #include "app/desk/program_title.hpp"
 #include "app/program.hpp"
 #include "ui/forms/Form2.hpp"
+#include "ui/forms/Form4.hpp"
 #include "ui/forms/GT_form.hpp"
 #include "ui/forms/graphview2.hpp"
 #include "ui/forms/newprojectname.hpp"
@@ -183,6 +184,15 @@ start_choice qt_user::ask_new_or_open() {
     Form2 prompt(kavetta_, parent());
     prompt.exec();
     return prompt.choice();
+}
+
+std::optional<std::string> qt_user::ask_modelling_package(std::string_view code) {
+    refresh();
+    Form4 choice(kavetta_, *this, code, parent());
+    if (choice.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return choice.code();
 }
 
 std::unique_ptr<report_printer> qt_user::choose_printer(const print_request& request) {

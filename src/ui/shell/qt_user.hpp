@@ -46,6 +46,7 @@ class qt_user : public user {
     void open_file(std::string_view path) override;
     std::optional<std::string> ask_project_name() override;
     start_choice ask_new_or_open() override;
+    std::optional<std::string> ask_modelling_package(std::string_view code) override;
     std::unique_ptr<report_printer> choose_printer(const print_request& request) override;
     void show_status(std::string_view text) override;
     void show_form(std::string_view form) override;

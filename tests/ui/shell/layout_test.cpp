@@ -4,6 +4,7 @@
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/Form3.hpp"
+#include "ui/forms/Form4.hpp"
 #include "ui/forms/fontfrm.hpp"
 #include "ui/forms/newprojectname.hpp"
 #include "ui/forms/progressfrm.hpp"
@@ -86,8 +87,9 @@ class layout_test : public desktop_test {
         Form3 files(form_context{kavetta(), desk().runner(), person}, nullptr);
         // With the entry of the groove's cutter, which is hidden until then.
         files.findChild<QCheckBox*>("outlet_port_xy_tool_checkbox")->click();
-        for (QDialog* dialog :
-             std::initializer_list<QDialog*>{&prompt, &name, &about, &font, &progress, &files}) {
+        Form4 packages(kavetta(), person, "acad", nullptr);
+        for (QDialog* dialog : std::initializer_list<QDialog*>{&prompt, &name, &about, &font,
+                                                               &progress, &files, &packages}) {
             dialog->setModal(false);
             dialog->show();
             settle();

@@ -6,6 +6,7 @@
 #include "ui/desktop_fixture.hpp"
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form3.hpp"
+#include "ui/forms/Form4.hpp"
 #include "ui/forms/fontfrm.hpp"
 #include "ui/forms/perf_res.hpp"
 #include "ui/forms/progressfrm.hpp"
@@ -104,6 +105,7 @@ class languages_test : public desktop_test {
         expect_language("progressfrm", texts_of(progressfrm(kavetta(), nullptr)), language);
         expect_language("Form3", texts_of(Form3({kavetta(), desk().runner(), person}, nullptr)),
                         language);
+        expect_language("Form4", texts_of(Form4(kavetta(), person, "acad", nullptr)), language);
         perf_res results({kavetta(), desk().runner(), person});
         results.refresh();
         expect_language("perf_res", texts_of(results), language);
