@@ -44,11 +44,15 @@ TEST(switched_setting, is_put_back_when_the_drawing_fails) {
     EXPECT_EQ(package->log, ON_AND_OFF);
 }
 
-TEST(switched_setting, tells_when_it_cannot_be_put_back) {
+TEST(switched_setting, tells_when_it_cannot_be_put_back_and_tries_once_more) {
     const auto package = std::make_shared<setting_log>();
-    package->refused_from = 1;
-    switched_setting setting(package, "AddToDB", true);
-    EXPECT_THROW(setting.put_back(), automation::automation_error);
+    {
+        package->refused_from = 1;
+        switched_setting setting(package, "AddToDB", true);
+        EXPECT_THROW(setting.put_back(), automation::automation_error);
+        package->refused_from = 1000;
+    }
+    EXPECT_EQ(package->log, ON_AND_OFF);
 }
 
 TEST(ignore_failure, passes_over_a_failed_call_and_what_follows_it) {

@@ -12,9 +12,12 @@ namespace kvt {
 /// sum of all numbers but entity numbers (behind "#").
 std::string shortened(const std::string& bytes);
 
-/// Fails when the shortened text differs from tests/data/output/NAME in more than the last digits
-/// of its numbers (1e-9 relative: another C library may round a sine the other way), and leaves it
-/// as golden_out/NAME.out.
+/// Fails when the text differs from tests/data/output/NAME in more than the last digits of its
+/// numbers (1e-9 relative: another C library may round a sine the other way), and leaves it as
+/// golden_out/NAME.out.
+void expect_near_golden(const std::string& name, const std::string& text);
+
+/// The same for the shortened text.
 void expect_shortened_golden(const std::string& name, const std::string& bytes);
 
 }  // namespace kvt
