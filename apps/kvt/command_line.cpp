@@ -9,11 +9,13 @@
 #include "kvt/export_options.hpp"
 #include "kvt/given_date.hpp"
 #include "kvt/gt_command.hpp"
+#include "kvt/model_command.hpp"
 #include "kvt/option_check.hpp"
 #include "kvt/report_command.hpp"
 #include "kvt/standard_streams.hpp"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <map>
 #include <new>
 #include <ostream>
@@ -39,6 +41,7 @@ constexpr const char* EXAMPLES =
     "  kvt report engine_oil.KVT --out engine_oil.pdf\n"
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
+    "  kvt model engine_oil.KVT --package acad --what assembly,porting\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
     "output could not be written, 2 usage, 3 the project file could not be read or there\n"
@@ -49,10 +52,11 @@ struct command_line {
     calc_request calc;
     std::vector<std::string> typed;  ///< the --set options as given
     std::string stage = "performance";
-    export_request files;   ///< its source is that of calc
-    report_request report;  ///< its source and last stage are those of calc
-    assist_request assist;  ///< its source is that of calc
-    gt_command_request gt;  ///< its source is that of calc
+    export_request files;         ///< its source is that of calc
+    report_request report;        ///< its source and last stage are those of calc
+    assist_request assist;        ///< its source is that of calc
+    gt_command_request gt;        ///< its source is that of calc
+    model_command_request model;  ///< its source is that of calc
 };
 
 const std::map<std::string, calc_stage> STAGES = {{"profiles", calc_stage::profiles},
@@ -176,45 +180,85 @@ CLI::App* add_gt(CLI::App& app, command_line& line) {
     return gt;
 }
 
+CLI::App* add_model(CLI::App& app, command_line& line) {
+    CLI::App* model = app.add_subcommand("model", "Build the models of a design in a CAD package");
+    add_design_options(*model, line);
+    add_model_options(*model, line.model);
+    return model;
+}
+
+/// Throws CLI::ValidationError for options that don't go together.
+void check_together(const command_line& line) {
+    const std::string problem = model_options_problem(line.model);
+    if (!problem.empty()) {
+        throw CLI::ValidationError("--log", problem);
+    }
+}
+
+/// A sub-command and what runs it.
+struct sub_command {
+    CLI::App* options;
+    int (*run)(command_line& line, std::ostream& out, std::ostream& err);
+};
+
+int run_calc(command_line& line, std::ostream& out, std::ostream& err) {
+    return calc_design(line.calc, out, err);
+}
+
+int run_export(command_line& line, std::ostream& out, std::ostream& err) {
+    line.files.source = line.calc.source;
+    return export_design(line.files, out, err);
+}
+
+int run_report(command_line& line, std::ostream& out, std::ostream& err) {
+    line.report.source = line.calc.source;
+    line.report.last = line.calc.last;
+    return report_design(line.report, out, err);
+}
+
+int run_assist(command_line& line, std::ostream& out, std::ostream& err) {
+    line.assist.source = line.calc.source;
+    return assist_design(line.assist, out, err);
+}
+
+int run_gt(command_line& line, std::ostream& out, std::ostream& err) {
+    line.gt.source = line.calc.source;
+    return make_gt_model(line.gt, out, err);
+}
+
+int run_model(command_line& line, std::ostream& out, std::ostream& err) {
+    line.model.source = line.calc.source;
+    return build_models(line.model, out, err);
+}
+
+/// Every sub-command in the order of the help text.
+std::vector<sub_command> add_sub_commands(CLI::App& app, command_line& line) {
+    app.require_subcommand(1);
+    return {{add_calc(app, line), run_calc},     {add_export(app, line), run_export},
+            {add_report(app, line), run_report}, {add_assist(app, line), run_assist},
+            {add_gt(app, line), run_gt},         {add_model(app, line), run_model}};
+}
+
 /// Reads the options and runs the command that they name.
 int run_options(int argc, const char* const* argv, command_line& line, std::ostream& out,
                 std::ostream& err) {
     CLI::App app{ABOUT, "kvt"};
     app.footer(EXAMPLES);
     app.set_version_flag("--version", VERSION);
-    app.require_subcommand(1);
-    add_calc(app, line);
-    CLI::App* files = add_export(app, line);
-    CLI::App* report = add_report(app, line);
-    CLI::App* assist = add_assist(app, line);
-    CLI::App* gt = add_gt(app, line);
+    const std::vector<sub_command> commands = add_sub_commands(app, line);
     try {
         app.parse(argc, argv);
         for (const std::string& option : line.typed) {
             line.calc.source.typed.push_back(parse_typed(option));
         }
         line.calc.last = STAGES.at(line.stage);
+        check_together(line);
     } catch (const CLI::ParseError& ended) {
         return app.exit(ended, out, err) == 0 ? EXIT_OK : EXIT_USAGE;
     }
-    if (assist->parsed()) {
-        line.assist.source = line.calc.source;
-        return assist_design(line.assist, out, err);
-    }
-    if (files->parsed()) {
-        line.files.source = line.calc.source;
-        return export_design(line.files, out, err);
-    }
-    if (report->parsed()) {
-        line.report.source = line.calc.source;
-        line.report.last = line.calc.last;
-        return report_design(line.report, out, err);
-    }
-    if (gt->parsed()) {
-        line.gt.source = line.calc.source;
-        return make_gt_model(line.gt, out, err);
-    }
-    return calc_design(line.calc, out, err);
+    const auto command = std::ranges::find_if(
+        commands, [](const sub_command& one) { return one.options->parsed(); });
+    return command->run(line, out, err);
 }
 
 }  // namespace

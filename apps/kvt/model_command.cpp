@@ -1,0 +1,202 @@
+#include "kvt/model_command.hpp"
+
+#include "app/models/solid_models.hpp"
+#include "app/program.hpp"
+#include "automation/no_host.hpp"
+#include "automation/recorder_host.hpp"
+#include "automation/system_host.hpp"
+#include "base/text_file.hpp"
+#include "cad/model_outlines.hpp"
+#include "core/text_table.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <memory>
+#include <ostream>
+
+namespace kvt {
+
+namespace {
+
+constexpr const char* PACKAGES_OF_THIS_MACHINE = "com";
+constexpr const char* RECORDER = "recorder";
+
+std::vector<std::string> package_codes() {
+    std::vector<std::string> codes;
+    for (const model_package& package : model_packages()) {
+        codes.emplace_back(package.code);
+    }
+    return codes;
+}
+
+std::vector<std::string> model_words() {
+    std::vector<std::string> words;
+    for (const model_row& row : model_rows()) {
+        words.emplace_back(row.word);
+    }
+    return words;
+}
+
+/// "acad|invent|.."
+std::string list_of(const std::vector<std::string>& words) {
+    std::string list;
+    for (const std::string& word : words) {
+        list += (list.empty() ? "" : "|") + word;
+    }
+    return list;
+}
+
+/// A check that adds nothing to the help text: the option's own words name the values.
+CLI::Validator one_of(const std::vector<std::string>& words) {
+    CLI::Validator check = CLI::IsMember(words);
+    check.description("");
+    return check;
+}
+
+model_kind kind_of(const std::string& word) {
+    return std::ranges::find(model_rows(), word, &model_row::word)->kind;
+}
+
+calc_stage needed_stage(const model_command_request& request) {
+    const bool needs_ports = std::ranges::any_of(
+        request.what, [](const std::string& word) { return kind_of(word) == model_kind::porting; });
+    return needs_ports ? calc_stage::ports : calc_stage::profiles;
+}
+
+/// The models of one run, all through one host.
+class model_run {
+  public:
+    model_run(program& kavetta, batch_user& person, const model_command_request& request,
+              bool has_ports)
+        : kavetta_(kavetta),
+          person_(person),
+          request_(request),
+          package_(*model_package_of(request.package)),
+          has_ports_(has_ports) {}
+
+    /// Whether every model was built. Nothing is told of a package that can't be driven.
+    bool build_all(automation::host& programs, std::ostream& out) {
+        bool all_built = true;
+        for (const std::string& word : request_.what) {
+            const model_kind kind = kind_of(word);
+            if (package_.routine_of(kind) != nullptr) {
+                const bool is_built = build(programs, kind);
+                out << word << ": " << text(is_built ? "model_built" : "model_not_built") << '\n';
+                all_built = all_built && is_built;
+            }
+        }
+        return all_built;
+    }
+
+  private:
+    std::string_view text(std::string_view name) const {
+        return form_text("kvt", name, request_.source.language);
+    }
+
+    bool build(automation::host& programs, model_kind kind) {
+        if (kind == model_kind::porting && !has_ports_) {
+            person_.show_message(text("no_ports"));
+            return false;
+        }
+        const std::optional<std::string> failure =
+            build_model(kavetta_, person_, programs, package_, kind);
+        if (failure && !failure->empty()) {
+            person_.show_message(*failure);
+        }
+        return !failure;
+    }
+
+    program& kavetta_;
+    batch_user& person_;
+    const model_command_request& request_;
+    const model_package& package_;
+    bool has_ports_;
+};
+
+std::unique_ptr<automation::host> packages_of_this_machine() {
+    std::unique_ptr<automation::host> programs = automation::system_host();
+    return programs != nullptr ? std::move(programs) : std::make_unique<automation::no_host>();
+}
+
+int status_of(bool all_built) {
+    return all_built ? EXIT_OK : EXIT_REFUSED;
+}
+
+int write_log(const automation::recorder_host& programs, const model_command_request& request,
+              std::ostream& err) {
+    try {
+        write_file(request.log_file,
+                   programs.log(request.full_log ? automation::log_length::full
+                                                 : automation::log_length::shortened),
+                   disk_write::left_to_the_system);
+    } catch (const run_time_error& error) {
+        err << request.log_file << ": " << run_time_error_line(error, request.source.language)
+            << '\n';
+        return EXIT_REFUSED;
+    }
+    return EXIT_OK;
+}
+
+int record_models(model_run& run, const model_command_request& request, std::ostream& out,
+                  std::ostream& err) {
+    automation::recorder_host programs;
+    const int status = status_of(run.build_all(programs, out));
+    const int log_status = request.log_file.empty() ? EXIT_OK : write_log(programs, request, err);
+    return std::max(status, log_status);
+}
+
+/// Whether Design Ports left an outline that it did not refuse.
+bool has_ports(const program& kavetta, const batch_result& result) {
+    return !result.ports_refused &&
+           !port_bodies(kavetta.design_params, kavetta.port_params, kavetta.entries).empty();
+}
+
+}  // namespace
+
+void add_model_options(CLI::App& command, model_command_request& request) {
+    command.add_option("--package", request.package, "CAD package that builds the models")
+        ->type_name(list_of(package_codes()))
+        ->check(one_of(package_codes()))
+        ->required();
+    command.add_option("--what", request.what, "Models to build, with commas between them")
+        ->type_name("trochoid,inner,outer,porting,assembly")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->check(one_of(model_words()))
+        ->required();
+    command
+        .add_option("--host", request.host,
+                    "com: drive the package that is installed (the default); recorder: none, its\n"
+                    "calls are only written down")
+        ->type_name("com|recorder")
+        ->check(one_of({PACKAGES_OF_THIS_MACHINE, RECORDER}));
+    CLI::Option* log =
+        command.add_option("--log", request.log_file, "File for the recorder's calls, a line each");
+    log->type_name("FILE");
+    command.add_flag("--full-log", request.full_log, "Every number and every call in it")
+        ->needs(log);
+}
+
+std::string model_options_problem(const model_command_request& request) {
+    return request.log_file.empty() || request.host == RECORDER ? "" : "needs --host recorder";
+}
+
+int build_models(const model_command_request& request, std::ostream& out, std::ostream& err) {
+    batch_user person(err);
+    program kavetta;
+    const batch_result result =
+        calculate_design(kavetta, person, request.source, needed_stage(request));
+    person.show_hints(kavetta.hints, request.source.language);
+    if (const int status = exit_status(result.end); status != EXIT_OK) {
+        return status;
+    }
+    model_run run(kavetta, person, request, has_ports(kavetta, result));
+    if (request.host == RECORDER) {
+        return record_models(run, request, out, err);
+    }
+    return status_of(run.build_all(*packages_of_this_machine(), out));
+}
+
+}  // namespace kvt
