@@ -78,6 +78,7 @@ class sketch : public stand_in_object {
             refuse("a spline through two points");
         }
         std::vector<point2> points;
+        points.reserve(through.size());
         for (const object_ref& one : through) {
             points.push_back(object_argument<control_point>({one}, 0)->at);
         }

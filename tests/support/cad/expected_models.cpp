@@ -25,7 +25,7 @@ struct contour {
     std::function<point2(random_values&)> place;
 };
 
-contour polygon(std::vector<point2> corners) {
+contour polygon(const std::vector<point2>& corners) {
     contour made;
     made.inside = polygon_region(corners);
     made.distance = [corners](point2 point) {
@@ -47,7 +47,7 @@ contour polygon(std::vector<point2> corners) {
     return made;
 }
 
-contour chain(std::vector<circle_arc> arcs) {
+contour chain(const std::vector<circle_arc>& arcs) {
     contour made;
     made.inside = arc_region(arcs);
     made.distance = [arcs](point2 point) {
@@ -64,7 +64,7 @@ contour chain(std::vector<circle_arc> arcs) {
     return made;
 }
 
-contour ring(contour bore, point2 centre, double radius) {
+contour ring(const contour& bore, point2 centre, double radius) {
     contour made;
     made.inside = [bore, rim = circle_region(centre, radius)](point2 point) {
         return rim(point) && !bore.inside(point);

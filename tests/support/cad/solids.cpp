@@ -131,7 +131,7 @@ flat_region nested_region(std::vector<flat_region> contours) {
     };
 }
 
-solid prism(flat_region region, double from_z, double to_z) {
+solid prism(const flat_region& region, double from_z, double to_z) {
     const auto [low, high] = std::minmax({from_z, to_z});
     return [=, low = low, high = high](const point3& p) {
         return p.z > low && p.z < high && region({p.x, p.y});

@@ -30,7 +30,7 @@ flat_region arc_region(std::vector<circle_arc> arcs);
 flat_region nested_region(std::vector<flat_region> contours);
 
 /// What a region sweeps from one height to another, in either order.
-solid prism(flat_region region, double from_z, double to_z);
+solid prism(const flat_region& region, double from_z, double to_z);
 /// The centre is at mid-height.
 solid cylinder(point3 centre, double radius, double height);
 /// The side of the plane through three points to which (b - a) x (c - a) points.
