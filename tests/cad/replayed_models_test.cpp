@@ -7,6 +7,7 @@
 #include "geometry/outer_path.hpp"
 #include "support/cad/expected_models.hpp"
 #include "support/cad/model_designs.hpp"
+#include "support/cad/recorded_routine.hpp"
 #include "support/cad/stand_ins.hpp"
 #include "support/random_design.hpp"
 #include "support/undercut_design.hpp"
@@ -66,16 +67,6 @@ constexpr std::array OUTER_ALONE = {model_kind::outer};
 constexpr std::array ROTORS_ALONE = {model_kind::outer, model_kind::assembly};
 constexpr std::array PORTING_ALONE = {model_kind::porting};
 
-/// Runs a routine in a stand-in; answers the percents that it showed.
-std::vector<int> run_in(cad_stand_in& package, model_routine routine, const program& kavetta) {
-    const model_source source{kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params,
-                              kavetta.entries, length_unit_of(kavetta.app_state)};
-    std::vector<int> percents;
-    model_session session{package, source, [&](int percent) { percents.push_back(percent); }};
-    routine(session);
-    return percents;
-}
-
 /// The groove is CATIA's last body.
 void order_as(const driven_package& package, std::vector<expected_body>& bodies) {
     if (package.code == std::string("CAT")) {
@@ -127,7 +118,7 @@ void expect_models(const program& kavetta, const driven_package& package,
                      std::string(model_rows()[static_cast<std::size_t>(kind)].word));
         const stand_in_ref made = package.start(length_unit_of(kavetta.app_state));
         const std::vector<int> percents =
-            run_in(*made, model_package_of(package.code)->routine_of(kind), kavetta);
+            run_routine(*made, model_package_of(package.code)->routine_of(kind), kavetta);
         EXPECT_EQ(percents, package.percents);
         expect_model(package, *made, kavetta, kind, how);
     }
@@ -268,10 +259,9 @@ TEST(replayed_models, come_by_a_definition_where_inventor_knows_no_distance_exte
     expect_models(double_sided_design(), package, MODELS, {random, 2000});
 }
 
-TEST(replayed_models, come_by_further_protrusions_where_solid_edge_makes_no_second_model) {
+TEST(replayed_models, come_by_further_protrusions_where_solid_edge_makes_no_new_model) {
     random_values random;
-    for (const second_model further :
-         {second_model::refused, second_model::not_added, second_model::failed}) {
+    for (const new_model further : {new_model::refused, new_model::not_added, new_model::failed}) {
         driven_package package = SOLID_EDGE;
         package.start = [further](const length_unit&) {
             return solidedge_stand_in({.knows_modelling_mode = false, .further = further});

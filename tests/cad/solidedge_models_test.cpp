@@ -34,6 +34,19 @@ TEST(solidedge_models, fail_when_the_first_body_fails) {
     EXPECT_EQ(count_of_calls(host, "AddFiniteMulti"), 0U);
 }
 
+TEST(solidedge_models, fail_when_the_package_makes_no_solid_and_no_error) {
+    const program kavetta = double_sided_design();
+    for (const solidedge_release release : {solidedge_release{.takes_profiles = false},
+                                            solidedge_release{.first = new_model::failed}}) {
+        const auto package = solidedge_stand_in(release);
+        EXPECT_EQ(run_recorded(*package, solidedge::outer_rotor, kavetta),
+                  automation::AUTOMATION_FAILED);
+        EXPECT_TRUE(package->bodies().empty());
+    }
+    const auto package = solidedge_stand_in({.first = new_model::not_added});
+    EXPECT_EQ(run_recorded(*package, solidedge::outer_rotor, kavetta), automation::NO_OBJECT);
+}
+
 TEST(solidedge_models, check_the_ring_of_the_outer_rotor_as_nested) {
     automation::recorder_host host;
     EXPECT_EQ(run_recorded(host, solidedge::outer_rotor, double_sided_design()), 0);

@@ -5,6 +5,7 @@
 #include "automation/automation_error.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/cad/recorded_routine.hpp"
+#include "support/cad/stand_ins.hpp"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,16 @@ TEST(solidworks_models, put_the_drawing_mode_back_once_more_when_that_fails) {
     EXPECT_EQ(run_recorded(host, solidworks::inner_rotor, kavetta), REFUSED);
     EXPECT_EQ(host.calls().size(), switched_off + 1);
     EXPECT_FALSE(last_put(host, "AddToDB"));
+}
+
+TEST(solidworks_models, fail_when_the_package_answers_no_object_and_no_error) {
+    const program kavetta = double_sided_design();
+    for (const solidworks_release release :
+         {solidworks_release{.has_part_template = false}, solidworks_release{.extrudes = false}}) {
+        const auto package = solidworks_stand_in(release);
+        EXPECT_EQ(run_recorded(*package, solidworks::inner_rotor, kavetta), automation::NO_OBJECT);
+        EXPECT_TRUE(package->bodies().empty());
+    }
 }
 
 TEST(solidworks_models, give_the_ports_bodies_of_their_own) {

@@ -1,4 +1,4 @@
-// A routine of a CAD package run against the recorder.
+// A routine of a CAD package run against the recorder or a stand-in.
 #pragma once
 
 #include "app/program.hpp"
@@ -6,19 +6,28 @@
 #include "base/run_time_error.hpp"
 #include "cad/model_session.hpp"
 
-#include <string>
+#include <cstddef>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace kvt {
 
-/// Runs the routine; answers the number of the run-time error that it ended with, else 0.
-inline int run_recorded(automation::host& programs, model_routine routine, const program& kavetta) {
+/// Runs the routine; a run-time error passes through. Answers the percents that it showed.
+inline std::vector<int> run_routine(automation::host& programs, model_routine routine,
+                                    const program& kavetta) {
     const model_source source{kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params,
                               kavetta.entries, length_unit_of(kavetta.app_state)};
-    model_session session{programs, source, [](int) {}};
+    std::vector<int> percents;
+    model_session session{programs, source, [&](int percent) { percents.push_back(percent); }};
+    routine(session);
+    return percents;
+}
+
+/// Runs the routine; answers the number of the run-time error that it ended with, else 0.
+inline int run_recorded(automation::host& programs, model_routine routine, const program& kavetta) {
     try {
-        routine(session);
+        run_routine(programs, routine, kavetta);
     } catch (const run_time_error& error) {
         return error.number();
     }

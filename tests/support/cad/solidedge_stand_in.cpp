@@ -28,11 +28,11 @@ class ref_plane : public stand_in_object {
 
 class profile : public stand_in_object {
   public:
-    explicit profile(double height) : z(height) {
+    profile(double height, bool is_taken) : z(height) {
         has_switch("Visible", is_visible);
         on_run("Convert3DCoordinate", 5, [this](const values& a) { convert(a); });
-        on_get("End", 1, [this](const values& arguments) -> value {
-            ended = is_valid(whole(arguments, 0));
+        on_get("End", 1, [this, is_taken](const values& arguments) -> value {
+            ended = is_taken && is_valid(whole(arguments, 0));
             return ended ? VALID : INVALID;
         });
         const auto splines = std::make_shared<stand_in_object>();
@@ -189,8 +189,8 @@ class solid_edge : public cad_stand_in {
         sets->on_get("Add", 0, [this](const values&) -> value {
             const auto profiles = std::make_shared<object>();
             profiles->on_get("Add", 1, [this](const values& arguments) -> value {
-                profiles_.push_back(
-                    std::make_shared<profile>(object_argument<ref_plane>(arguments, 0)->z));
+                profiles_.push_back(std::make_shared<profile>(
+                    object_argument<ref_plane>(arguments, 0)->z, release_.takes_profiles));
                 return std::static_pointer_cast<automation::object>(profiles_.back());
             });
             const auto set = std::make_shared<object>();
@@ -212,17 +212,19 @@ class solid_edge : public cad_stand_in {
         document_->has("Models", models_);
     }
     value add_model(const values& arguments) {
-        const second_model does = added_.empty() ? second_model::added : release_.further;
+        const new_model does = added_.empty() ? release_.first : release_.further;
         switch (does) {
-            case second_model::refused:
+            case new_model::refused:
                 refuse("a second model");
-            case second_model::not_added:
-                return std::static_pointer_cast<automation::object>(added_.front());
-            case second_model::failed:
+            case new_model::not_added:
+                return added_.empty()
+                           ? value(automation::nothing{})
+                           : std::static_pointer_cast<automation::object>(added_.front());
+            case new_model::failed:
                 added_.push_back(std::make_shared<model>(*this));
                 added_.back()->made_by.push_back(feature_in_state(FEATURE_FAILED));
                 break;
-            case second_model::added:
+            case new_model::added:
                 add_body(arguments);
                 added_.push_back(std::make_shared<model>(*this));
                 added_.back()->made_by.push_back(feature_in_state(FEATURE_OK));

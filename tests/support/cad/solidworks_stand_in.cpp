@@ -38,10 +38,12 @@ class feature : public stand_in_object {
 
 class solidworks : public cad_stand_in {
   public:
-    solidworks() : cad_stand_in("sldworks.application", MM_PER_METRE) {
+    explicit solidworks(solidworks_release release)
+        : cad_stand_in("sldworks.application", MM_PER_METRE), release_(release) {
         application->has_switch("UserControl", user_control_);
-        application->on_get("GetUserPreferenceStringValue", 1, [](const values& arguments) {
-            return value(whole(arguments, 0) == PART_TEMPLATE ? std::string("part.prtdot") : "");
+        application->on_get("GetUserPreferenceStringValue", 1, [this](const values& arguments) {
+            const bool has = whole(arguments, 0) == PART_TEMPLATE && release_.has_part_template;
+            return value(std::string(has ? "part.prtdot" : ""));
         });
         application->on_get("NewDocument", 4, [this](const values& a) { return new_document(a); });
         fill_tree();
@@ -181,7 +183,8 @@ class solidworks : public cad_stand_in {
     value extrude(const values& arguments) {
         expect_plain(arguments);
         const double start = start_of(arguments);
-        if (open_ != nullptr || selected_ == nullptr || selected_->curves.empty()) {
+        if (open_ != nullptr || selected_ == nullptr || selected_->curves.empty() ||
+            !release_.extrudes) {
             return nothing{};
         }
         const double height = real(arguments, 5) * (truth(arguments, 2) ? -1.0 : 1.0);
@@ -199,6 +202,7 @@ class solidworks : public cad_stand_in {
         }
     }
 
+    solidworks_release release_;
     bool user_control_ = false, adds_to_database_ = false;
     std::shared_ptr<stand_in_object> model_ = std::make_shared<stand_in_object>();
     std::shared_ptr<stand_in_object> sketches_ = std::make_shared<stand_in_object>();
@@ -212,8 +216,8 @@ class solidworks : public cad_stand_in {
 
 }  // namespace
 
-std::unique_ptr<cad_stand_in> solidworks_stand_in() {
-    return std::make_unique<solidworks>();
+std::unique_ptr<cad_stand_in> solidworks_stand_in(solidworks_release release) {
+    return std::make_unique<solidworks>(release);
 }
 
 }  // namespace kvt

@@ -14,18 +14,24 @@ struct autocad_release {
 /// A drawing in any unit.
 std::unique_ptr<cad_stand_in> autocad_stand_in(double mm_per_unit, autocad_release release = {});
 
-std::unique_ptr<cad_stand_in> solidworks_stand_in();
+struct solidworks_release {
+    bool has_part_template = true;
+    bool extrudes = true;
+};
+std::unique_ptr<cad_stand_in> solidworks_stand_in(solidworks_release release = {});
 
 struct inventor_release {
     bool knows_distance_extent = true;
 };
 std::unique_ptr<cad_stand_in> inventor_stand_in(inventor_release release = {});
 
-/// What a second protrusion of Models does.
-enum class second_model { added, refused, not_added, failed };
+/// What a protrusion of Models does.
+enum class new_model { added, refused, not_added, failed };
 struct solidedge_release {
     bool knows_modelling_mode = true;
-    second_model further = second_model::added;
+    bool takes_profiles = true;
+    new_model first = new_model::added;
+    new_model further = new_model::added;
 };
 std::unique_ptr<cad_stand_in> solidedge_stand_in(solidedge_release release = {});
 
