@@ -50,7 +50,9 @@ part new_part(model_session& session) {
     const object_ref definition = object_of(document, "ComponentDefinition");
     const object_ref geometry = object_of(application, "TransientGeometry");
     const object_ref objects = object_of(application, "TransientObjects");
-    document->get("UnitsOfMeasure");  // numbers are centimetres whatever the document shows
+    // Kept: read and not used, since numbers are centimetres in any document; model_logs_test holds
+    // it.
+    document->get("UnitsOfMeasure");
     session.show_percent(75);
     return {application, definition,
             object_of(object_of(definition, "WorkPlanes"), "Item", {XY_PLANE}), geometry, objects};

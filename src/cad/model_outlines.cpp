@@ -203,13 +203,6 @@ std::vector<point2> outer_rotor_points(const design_params& design) {
     return points;
 }
 
-std::string_view name_of(port_body_kind kind) {
-    static constexpr std::array<std::string_view, 5> NAMES = {
-        "Inlet Port Lower", "Outlet Port Lower", "Metering Groove", "Outlet Port Upper",
-        "Inlet Port Upper"};
-    return NAMES[static_cast<std::size_t>(kind)];
-}
-
 std::vector<port_body> port_bodies(const design_params& design, const port_params& ports,
                                    const entries& boxes) {
     const porting of{design, ports, boxes};

@@ -11,7 +11,6 @@
 #include "geometry/point2.hpp"
 #include "ports/port_params.hpp"
 
-#include <string_view>
 #include <vector>
 
 namespace kvt {
@@ -57,16 +56,13 @@ struct port_body {
     double height() const { return to_z - from_z; }
 };
 
-/// The name of a body in lists: "Inlet Port Lower" ..
-std::string_view name_of(port_body_kind kind);
-
 /// The bodies of a design, as in the STEP file of the ports. A body whose outline is missing or was
 /// refused is left out.
 ///     inlet and outlet lower: always      from -d to 0      d = thick, thick/2 when double-sided
 ///     groove: with metering_groove        from -groove_depth_mm to 0
 ///     outlet and inlet upper: from t0 to t0 + thick/2 when double-sided,
-///                             else with shadow_ports to t0 + thick/5       t0 = thick +
-///                             axial_clear
+///                             else with shadow_ports to t0 + thick/5
+/// t0 is upper_port_height.
 std::vector<port_body> port_bodies(const design_params& design, const port_params& ports,
                                    const entries& boxes);
 
@@ -74,8 +70,8 @@ std::vector<port_body> port_bodies(const design_params& design, const port_param
 double upper_port_height(const design_params& design);
 
 /// The distinct points of a closed outline and points between them, all on its straight lines, so
-/// that one smooth closed spline through them follows the lines. With a half of the mean distance
-/// of neighbouring points:
+/// that one smooth closed spline through them follows the lines. a is half of the mean distance of
+/// neighbouring points:
 ///     (1) a line longer than 3 a is divided into ceil(length / a) equal parts
 ///     (2) the two lines at a point where the direction turns by more than 10 degrees get points at
 ///         0.02, 0.1 and 0.4 of their length from it

@@ -227,7 +227,11 @@ void porting(model_session& session) {
     for (const port_body& body : port_bodies(source.design, source.ports, source.boxes)) {
         const object_ref profile = port_profile(made, planes.of(body), body);
         const extrusion how{.depth = body.height(), .side = body.is_lower() ? DOWN : UP};
-        is_first ? add_model(made, profile, how) : add_further_body(made, profile, how);
+        if (is_first) {
+            add_model(made, profile, how);
+        } else {
+            add_further_body(made, profile, how);
+        }
         is_first = false;
     }
     session.show_percent(70);
