@@ -90,12 +90,6 @@ std::string capacity_unit_list() {
     return list;
 }
 
-/// A check that adds nothing to the help text: the option's own words name the values.
-CLI::Validator plain(CLI::Validator check) {
-    check.description("");
-    return check;
-}
-
 void add_design_options(CLI::App& command, command_line& line) {
     design_source& source = line.calc.source;
     command.add_option("PROJECT.KVT", source.project, "Project file to open")->required();

@@ -9,6 +9,7 @@
 #include "core/text_table.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
+#include "kvt/option_check.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -19,12 +20,6 @@ namespace kvt {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A check that adds nothing to the help text: the option's own words name the values.
-CLI::Validator plain(CLI::Validator check) {
-    check.description("");
-    return check;
-}
 
 /// The delivered files: in the program's folder, else beside the installed program, else where the
 /// build has gathered them.

@@ -10,6 +10,7 @@
 #include "core/text_table.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
+#include "kvt/option_check.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -46,13 +47,6 @@ std::string list_of(const std::vector<std::string>& words) {
         list += (list.empty() ? "" : "|") + word;
     }
     return list;
-}
-
-/// A check that adds nothing to the help text: the option's own words name the values.
-CLI::Validator one_of(const std::vector<std::string>& words) {
-    CLI::Validator check = CLI::IsMember(words);
-    check.description("");
-    return check;
 }
 
 model_kind kind_of(const std::string& word) {
@@ -158,20 +152,20 @@ bool has_ports(const program& kavetta, const batch_result& result) {
 void add_model_options(CLI::App& command, model_command_request& request) {
     command.add_option("--package", request.package, "CAD package that builds the models")
         ->type_name(list_of(package_codes()))
-        ->check(one_of(package_codes()))
+        ->check(plain(CLI::IsMember(package_codes())))
         ->required();
     command.add_option("--what", request.what, "Models to build, with commas between them")
         ->type_name("trochoid,inner,outer,porting,assembly")
         ->delimiter(',')
         ->allow_extra_args(false)
-        ->check(one_of(model_words()))
+        ->check(plain(CLI::IsMember(model_words())))
         ->required();
     command
         .add_option("--host", request.host,
                     "com: drive the package that is installed (the default); recorder: none, its\n"
                     "calls are only written down")
         ->type_name("com|recorder")
-        ->check(one_of({PACKAGES_OF_THIS_MACHINE, RECORDER}));
+        ->check(plain(CLI::IsMember({PACKAGES_OF_THIS_MACHINE, RECORDER})));
     CLI::Option* log =
         command.add_option("--log", request.log_file, "File for the recorder's calls, a line each");
     log->type_name("FILE");

@@ -1,4 +1,4 @@
-// option_check: a check of an option's text, whose help text says nothing of it.
+// option_check: checks of an option's text, of which its help text says nothing.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -9,6 +9,12 @@ namespace kvt {
 /// A check that answers what is wrong with a text, or nothing.
 inline CLI::Validator check_of(std::string (*problem)(const std::string& text)) {
     return CLI::Validator([problem](std::string& text) { return problem(text); }, "");
+}
+
+/// A check that adds nothing to the help text: the option's own words name the values.
+inline CLI::Validator plain(CLI::Validator check) {
+    check.description("");
+    return check;
 }
 
 }  // namespace kvt
