@@ -23,25 +23,15 @@ constexpr std::int32_t PROFILE_IS_VALID = 0;
 
 /// What the packages answer that is no object.
 std::optional<value> scripted_answer(std::string_view name) {
-    if (name == "GetTypeName2") {
-        return std::string("RefPlane");
-    }
-    if (name == "GetUserPreferenceStringValue") {
-        return std::string("part.prtdot");
-    }
-    if (name == "GetTemplateFile") {
-        return std::string("standard.ipt");
-    }
-    if (name == "End") {
-        return PROFILE_IS_VALID;
-    }
-    if (name == "Select2") {
-        return true;
-    }
-    if (name == "Status") {
-        return FEATURE_IS_OK;
-    }
-    return std::nullopt;
+    static const std::map<std::string_view, value> ANSWERS = {
+        {"GetTypeName2", std::string("RefPlane")},
+        {"GetUserPreferenceStringValue", std::string("part.prtdot")},
+        {"GetTemplateFile", std::string("standard.ipt")},
+        {"End", PROFILE_IS_VALID},
+        {"Select2", true},
+        {"Status", FEATURE_IS_OK}};
+    const auto found = ANSWERS.find(name);
+    return found == ANSWERS.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool begins_with_one_of(std::string_view name, std::initializer_list<std::string_view> words) {
