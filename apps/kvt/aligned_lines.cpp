@@ -1,6 +1,6 @@
 #include "kvt/aligned_lines.hpp"
 
-#include "output/report/columned_line.hpp"
+#include "base/utf8_text.hpp"
 
 #include <algorithm>
 #include <cstddef>

@@ -2,6 +2,7 @@
 
 #include "app/files/print_project.hpp"
 #include "app/program.hpp"
+#include "base/letter_case.hpp"
 #include "base/text_file.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
@@ -9,7 +10,6 @@
 #include "output/report/pdf_printer.hpp"
 #include "output/report/text_printer.hpp"
 
-#include <algorithm>
 #include <filesystem>
 #include <ostream>
 
@@ -17,13 +17,8 @@ namespace kvt {
 
 namespace {
 
-/// ".pdf" of "pump.PDF".
-std::string ending_of(const std::string& file) {
-    std::string ending = std::filesystem::path(file).extension().string();
-    std::ranges::transform(ending, ending.begin(), [](char c) {
-        return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return ending;
+bool ends_in(const std::string& file, std::string_view ending) {
+    return is_same_ignoring_case(std::filesystem::path(file).extension().string(), ending);
 }
 
 std::string text_bytes(const text_printer& text) {
@@ -49,7 +44,7 @@ void print(const program& kavetta, const std::string& date, report_printer& prin
 }
 
 void write_report(const program& kavetta, const report_request& request, std::ostream& out) {
-    if (ending_of(request.file) == ".pdf") {
+    if (ends_in(request.file, ".pdf")) {
         pdf_printer pdf;
         print(kavetta, request.date, pdf);
         write_file(request.file, pdf.bytes(), disk_write::left_to_the_system);
@@ -67,8 +62,9 @@ void write_report(const program& kavetta, const report_request& request, std::os
 }  // namespace
 
 std::string report_file_problem(const std::string& file) {
-    const std::string ending = ending_of(file);
-    return ending == ".txt" || ending == ".pdf" ? "" : "'" + file + "' is no FILE.txt or FILE.pdf";
+    return ends_in(file, ".txt") || ends_in(file, ".pdf")
+               ? ""
+               : "'" + file + "' is no FILE.txt or FILE.pdf";
 }
 
 int report_design(const report_request& request, std::ostream& out, std::ostream& err) {

@@ -8,9 +8,12 @@
 
 namespace kvt {
 
-/// Starts a program in a folder, standard streams on nothing, in a process group or session of its
-/// own. Throws path_file_access with the system's reason.
+/// What a started program is put into: a process group of its own, which can be ended with its
+/// children, or a session of its own, which goes on without the program that started it.
 enum class process_tie { group, own_session };
+
+/// Starts a program in a folder, standard streams on nothing. Throws path_file_access with the
+/// system's reason.
 pid_t start_process(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                     const std::filesystem::path& folder, process_tie tie);
 

@@ -4,6 +4,7 @@
 
 #include "base/code_page.hpp"
 #include "base/text_file.hpp"
+#include "base/trimmed.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -25,16 +26,10 @@ std::vector<std::string> utf8_lines(std::string_view bytes) {
     return lines;
 }
 
-std::string without_blanks_around(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    const std::size_t last = text.find_last_not_of(" \t");
-    return first == std::string::npos ? "" : text.substr(first, last - first + 1);
-}
-
 /// 0 for anything but "1" and "2": the messages are then English and the next write leaves line 5
 /// empty.
 std::int16_t language_of_line(const std::string& line) {
-    const std::string code = without_blanks_around(line);
+    const std::string_view code = trimmed(line);
     if (code == "1") {
         return ENGLISH;
     }

@@ -1,5 +1,7 @@
 #include "gtsuite/model_name.hpp"
 
+#include "base/letter_case.hpp"
+
 #include <algorithm>
 #include <cctype>
 #include <charconv>
@@ -10,12 +12,6 @@ namespace kvt {
 namespace {
 
 constexpr std::string_view ENDING = ".gtm";
-
-bool is_same_ignoring_case(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, [](unsigned char left, unsigned char right) {
-        return std::tolower(left) == std::tolower(right);
-    });
-}
 
 /// The number of a file of the project; nothing for a file of another name.
 std::optional<unsigned long long> model_number(std::string_view file, std::string_view project) {

@@ -1,11 +1,11 @@
 #include "gtsuite/model_text.hpp"
 
 #include "base/code_page.hpp"
+#include "base/letter_case.hpp"
 #include "base/run_time_error.hpp"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 
 namespace kvt {
@@ -28,21 +28,14 @@ std::string_view name_of(char character) {
     return found == CHARACTER_NAMES.end() ? std::string_view() : found->name;
 }
 
-std::string lower_case(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return lower;
-}
-
 /// An XML declaration that names another encoding than UTF-8 means the code page.
 model_encoding encoding_of(const model_lines& lines) {
     if (lines.empty() || lines.front().find("<?xml") == std::string::npos) {
         return model_encoding::utf8;
     }
     const std::optional<std::string_view> named = attribute(lines.front(), "encoding");
-    return !named || lower_case(*named) == "utf-8" ? model_encoding::utf8
-                                                   : model_encoding::code_page;
+    return !named || is_same_ignoring_case(*named, "utf-8") ? model_encoding::utf8
+                                                            : model_encoding::code_page;
 }
 
 bool is_line_of_value(std::string_view line, std::string_view a_id) {

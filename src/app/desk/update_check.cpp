@@ -4,6 +4,7 @@
 #include "app/program.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
+#include "base/trimmed.hpp"
 #include "core/internet_control.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -21,21 +22,13 @@ constexpr const char* LOCAL_FOLDER = "updates";
 constexpr const char* LIST_NAME = "KVT_updates.upd";
 constexpr std::string_view BLANKS = " \t\r\n";
 
-std::string without_blanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(BLANKS);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return std::string(text.substr(first, text.find_last_not_of(BLANKS) - first + 1));
-}
-
 std::string named_server(const std::filesystem::path& folder) {
     if (const char* variable = std::getenv(SERVER_VARIABLE)) {
-        return without_blanks(variable);
+        return std::string(trimmed(variable, BLANKS));
     }
     try {
         const auto lines = split_lines(read_file(folder / UPDATE_SERVER_FILE, LARGEST_TEXT));
-        return lines.empty() ? std::string() : without_blanks(lines.front());
+        return lines.empty() ? std::string() : std::string(trimmed(lines.front(), BLANKS));
     } catch (const run_time_error&) {
         return {};  // without the file the check is off
     }

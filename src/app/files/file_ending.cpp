@@ -1,20 +1,14 @@
 #include "app/files/file_ending.hpp"
 
-#include <algorithm>
+#include "base/letter_case.hpp"
 
 namespace kvt {
 
 namespace {
 
-/// Endings are ASCII.
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool ends_in(std::string_view path, std::string_view ending) {
     return path.size() >= ending.size() &&
-           std::ranges::equal(path.substr(path.size() - ending.size()), ending,
-                              [](char a, char b) { return lower(a) == lower(b); });
+           is_same_ignoring_case(path.substr(path.size() - ending.size()), ending);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "app/stages/design_assist.hpp"
 #include "base/code_page.hpp"
 #include "base/run_time_error.hpp"
+#include "base/utf8_text.hpp"
 #include "base/whole_file.hpp"
 #include "core/failure_text.hpp"
 #include "core/recent_list.hpp"
@@ -79,15 +80,11 @@ void load_and_remember(program& kavetta, user& person, std::string_view path) {
 
 /// The name without its last four characters, whatever they are; empty for four characters or
 /// fewer.
-std::string without_last_four(const std::string& name) {
-    std::size_t end = name.size();
-    for (int cut = 0; cut < 4 && end > 0; ++cut) {
-        --end;
-        while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80U) {
-            --end;  // continuation bytes belong to the character before them
-        }
+std::string without_last_four(std::string name) {
+    for (int cut = 0; cut < 4; ++cut) {
+        drop_last_character(name);
     }
-    return name.substr(0, end);
+    return name;
 }
 
 /// Line 2 has "?" for what the code page doesn't hold. A name that Save As took from the file's

@@ -1,7 +1,8 @@
 #include "app/stages/near_names.hpp"
 
+#include "base/letter_case.hpp"
+
 #include <algorithm>
-#include <cctype>
 #include <numeric>
 #include <utility>
 
@@ -12,8 +13,7 @@ namespace {
 constexpr std::size_t MOST_NAMES = 3;
 
 bool same_letter(char a, char b) {
-    return std::tolower(static_cast<unsigned char>(a)) ==
-           std::tolower(static_cast<unsigned char>(b));
+    return lower_case(a) == lower_case(b);
 }
 
 bool begins_with(std::string_view name, std::string_view typed) {

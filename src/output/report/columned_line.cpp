@@ -1,6 +1,9 @@
 #include "output/report/columned_line.hpp"
 
+#include "base/utf8_text.hpp"
+
 #include <algorithm>
+#include <cstddef>
 
 namespace kvt {
 
@@ -11,11 +14,6 @@ bool is_control(char c) {
 }
 
 }  // namespace
-
-std::size_t character_count(std::string_view utf8) {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        utf8, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
 
 int item_column(const report_item& item, int last) {
     return last == 0 ? item.column : std::max(item.column, last + 2);

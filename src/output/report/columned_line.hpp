@@ -4,15 +4,10 @@
 
 #include "core/report_printer.hpp"
 
-#include <cstddef>
 #include <initializer_list>
 #include <string>
-#include <string_view>
 
 namespace kvt {
-
-/// The number of characters of a UTF-8 text.
-std::size_t character_count(std::string_view utf8);
 
 /// The column in which an item begins when the line so far ends in column `last`, 0 for an empty
 /// line: its own, or the second one behind `last`.

@@ -2,6 +2,7 @@
 
 #include "base/code_page.hpp"
 #include "base/number_text.hpp"
+#include "base/utf8_text.hpp"
 #include "output/report/columned_line.hpp"
 
 #include <algorithm>

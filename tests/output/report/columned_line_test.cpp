@@ -30,9 +30,5 @@ TEST(columned_line, stays_one_line) {
     EXPECT_EQ(columned_line({{1, "a\r\nb\tc"}}), "a??b?c");
 }
 
-TEST(character_count, counts_characters_and_not_bytes) {
-    EXPECT_EQ(character_count("Äußerer °"), 9U);
-}
-
 }  // namespace
 }  // namespace kvt
