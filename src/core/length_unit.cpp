@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 namespace kvt {
 
@@ -51,12 +52,18 @@ const length_unit& length_unit_of_project(std::string_view text) {
     return row_of(&length_unit::project_text, text, UNITS[1]);
 }
 
-std::string_view form_text(std::string_view form, std::string_view name, std::int16_t language,
-                           unit_system system) {
+const text_row* find_text(std::string_view form, std::string_view name, unit_system system) {
     const text_kind kind =
         system == unit_system::metric ? text_kind::caption_mm : text_kind::caption_inch;
     const text_row* row = find_text(kind, form, name);
-    return row == nullptr ? form_text(form, name, language) : row_text(*row, language);
+    return row == nullptr ? find_caption(form, name) : row;
+}
+
+std::string_view form_text(std::string_view form, std::string_view name, std::int16_t language,
+                           unit_system system) {
+    const text_row* row = find_text(form, name, system);
+    assert(row != nullptr);
+    return row_text(*row, language);
 }
 
 }  // namespace kvt

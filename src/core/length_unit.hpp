@@ -52,7 +52,10 @@ const length_unit& length_unit_of(const app_state& state);
 /// The unit of line 3 of a project file; inches for a text that is not in the table.
 const length_unit& length_unit_of_project(std::string_view text);
 
-/// The text of a row that must be there, by the captions of the system of units where it has such.
+/// The row of a control among the captions of a system of units, else find_caption; nullptr without
+/// either.
+const text_row* find_text(std::string_view form, std::string_view name, unit_system system);
+/// The text of that row, which must be there.
 std::string_view form_text(std::string_view form, std::string_view name, std::int16_t language,
                            unit_system system);
 

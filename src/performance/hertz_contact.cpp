@@ -57,7 +57,7 @@ void set_contact_stress(double thick, std::size_t a, perf_results& results) {
             double& stress = results.hertz_stress[i][j][a];
             if (equiv_r >= 0.0) {
                 // Kept: the divisor is a full turn, and the load sharing is the model's own; so the
-                // stress reads lower than a textbook line contact; textbook_contact_test holds it.
+                // stress reads lower than a textbook line contact; how_sure_contact_test holds it.
                 stress = checked_sqrt(
                     checked_divide(results.combined_modulus * results.contact_force[i][j][a],
                                    thick * TWO_PI_P * equiv_r));

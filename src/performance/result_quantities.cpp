@@ -56,6 +56,16 @@ constexpr shown_number BAR = {.over = BAR_PA};
 constexpr shown_number PSI = {.over = BAR_PA, .then = PSI_PER_BAR};
 constexpr shown_number PER_CENT = {.times = 100.0};
 
+/// A number of the design sheet, with its unit behind it.
+constexpr shown_number on_sheet(const shown_number& number, std::string_view unit, double steps) {
+    shown_number shown = number;
+    shown.digits = rounded;
+    shown.steps = steps;
+    shown.unit = unit;
+    return shown;
+}
+constexpr shown_number SHEET_PERCENTAGE = on_sheet(PER_CENT, " %", 10.0);
+
 // The uses, a list a result.
 constexpr std::array PRESSURES = {
     result_use{summary, 0, "grid_axes", in_table(1.0, BAR_PA), in_table(1.0, BAR_PA, PSI_PER_BAR)},
@@ -148,6 +158,23 @@ constexpr std::array RIPPLE_PERCENT = {result_use{.place = perf_res,
                                                   .lead_in = message::pressure_ripple},
                                        result_use{numbers, 5, "ripple_percent", NUMBER}};
 
+// The extremes of the grid on the design sheet.
+constexpr shown_number SHEET_FLOW = on_sheet(LITRES_MINUTE, " Lit/min", 1000.0);
+constexpr shown_number SHEET_GALLONS = on_sheet(GALLONS_MINUTE, " USGall/min", 1000.0);
+constexpr std::array FLOW_MAX = {result_use{sheet, 1, "flow_max", SHEET_FLOW, SHEET_GALLONS}};
+constexpr std::array FLOW_MIN = {result_use{sheet, 2, "flow_min", SHEET_FLOW, SHEET_GALLONS}};
+constexpr std::array POWER_MAX = {result_use{sheet, 3, "power_max",
+                                             on_sheet({.over = WATTS_PER_KILOWATT}, " kW", 1000.0),
+                                             on_sheet(HORSEPOWER, " hp", 1000.0)}};
+constexpr std::array VOL_EFF_MAX = {result_use{sheet, 4, "vol_eff_max", SHEET_PERCENTAGE}};
+constexpr std::array VOL_EFF_MIN = {result_use{sheet, 5, "vol_eff_min", SHEET_PERCENTAGE}};
+constexpr std::array MECH_EFF_MAX = {result_use{sheet, 6, "mech_eff_max", SHEET_PERCENTAGE}};
+constexpr std::array MECH_EFF_MIN = {result_use{sheet, 7, "mech_eff_min", SHEET_PERCENTAGE}};
+constexpr std::array OVERALL_EFF_MAX = {result_use{sheet, 8, "overall_eff_max", SHEET_PERCENTAGE}};
+constexpr std::array OVERALL_EFF_MIN = {result_use{sheet, 9, "overall_eff_min", SHEET_PERCENTAGE}};
+constexpr std::array HERTZ_MAX = {result_use{sheet, 10, "hertz_max", on_sheet(NUMBER, " MPa", 10.0),
+                                             on_sheet(KSI, " ksi", 10.0)}};
+
 constexpr std::size_t WHOLE_TURN = ANGLE_ARRAY_LAST + 1;
 constexpr std::size_t CONTACT_ANGLES = CONTACT_ANGLE_LAST + 1;
 constexpr std::size_t STEPS_OF_A_TURN = RIPPLE_STEPS;
@@ -165,17 +192,17 @@ constexpr std::size_t STEPS_OF_A_TURN = RIPPLE_STEPS;
 constexpr result_quantity QUANTITIES[] = {
     KVT_RESULT(dyn_visc, result_value, brief),
     KVT_RESULT(tip_radius, result_value, brief),
-    KVT_RESULT(flow_max, result_value, brief),
-    KVT_RESULT(flow_min, result_value, brief),
-    KVT_RESULT(vol_eff_max, result_value, brief),
-    KVT_RESULT(vol_eff_min, result_value, brief),
-    KVT_RESULT(power_max, result_value, brief),
+    KVT_RESULT(flow_max, result_value, brief, FLOW_MAX),
+    KVT_RESULT(flow_min, result_value, brief, FLOW_MIN),
+    KVT_RESULT(vol_eff_max, result_value, brief, VOL_EFF_MAX),
+    KVT_RESULT(vol_eff_min, result_value, brief, VOL_EFF_MIN),
+    KVT_RESULT(power_max, result_value, brief, POWER_MAX),
     KVT_RESULT(power_min, result_value, brief),
-    KVT_RESULT(mech_eff_max, result_value, brief),
-    KVT_RESULT(mech_eff_min, result_value, brief),
-    KVT_RESULT(overall_eff_max, result_value, brief),
-    KVT_RESULT(overall_eff_min, result_value, brief),
-    KVT_RESULT(hertz_max, result_value, brief),
+    KVT_RESULT(mech_eff_max, result_value, brief, MECH_EFF_MAX),
+    KVT_RESULT(mech_eff_min, result_value, brief, MECH_EFF_MIN),
+    KVT_RESULT(overall_eff_max, result_value, brief, OVERALL_EFF_MAX),
+    KVT_RESULT(overall_eff_min, result_value, brief, OVERALL_EFF_MIN),
+    KVT_RESULT(hertz_max, result_value, brief, HERTZ_MAX),
     KVT_RESULT(ripple_max, result_value, brief),
     KVT_RESULT(ripple_min, result_value, brief),
     KVT_RESULT(ripple_percent, result_value, brief, RIPPLE_PERCENT),
@@ -289,6 +316,38 @@ constexpr result_quantity QUANTITIES[] = {
 #undef KVT_RESULT
 #undef KVT_ANGLE_ARRAY
 
+// The number of a source at a point.
+
+double number_at(result_value field, const perf_results& results, const result_point&) {
+    return results.*field;
+}
+double number_at(worked_out_value work_out, const perf_results& results, const result_point&) {
+    return work_out(results);
+}
+double number_at(speed_list list, const perf_results& results, const result_point& at) {
+    return (results.*list.member)[at.speed];
+}
+double number_at(pressure_list list, const perf_results& results, const result_point& at) {
+    return (results.*list.member)[at.pressure];
+}
+double number_at(result_grid grid, const perf_results& results, const result_point& at) {
+    return (results.*grid)[at.speed][at.pressure];
+}
+double number_at(worked_out_grid work_out, const perf_results& results, const result_point& at) {
+    return work_out(results)[at.speed][at.pressure];
+}
+double number_at(const angle_array& array, const perf_results& results, const result_point& at) {
+    constexpr std::size_t STEPS_A_DEGREE = STEPS_OF_A_TURN / ANGLE_ARRAY_LAST;
+    const bool is_of_steps = array.used_count == STEPS_OF_A_TURN;
+    return (results.*array.member)[at.degree * (is_of_steps ? STEPS_A_DEGREE : 1)];
+}
+double number_at(speed_angles angles, const perf_results& results, const result_point& at) {
+    return (results.*angles)[at.speed][at.degree];
+}
+double number_at(grid_angles angles, const perf_results& results, const result_point& at) {
+    return (results.*angles)[at.speed][at.pressure][at.degree];
+}
+
 }  // namespace
 
 std::span<const result_quantity> result_quantities() {
@@ -315,6 +374,21 @@ std::optional<used_result> result_at(result_place place, std::string_view quanti
         }
     }
     return std::nullopt;
+}
+
+std::optional<used_result> result_named(result_place place, std::string_view name) {
+    for (const used_result& result : results_at(place)) {
+        if (result.use->name == name) {
+            return result;
+        }
+    }
+    return std::nullopt;
+}
+
+double value_at(const result_quantity& quantity, const perf_results& results,
+                const result_point& at) {
+    return std::visit([&](const auto& source) { return number_at(source, results, at); },
+                      quantity.source);
 }
 
 double value_of(const result_quantity& quantity, const perf_results& results) {

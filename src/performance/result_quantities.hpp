@@ -46,7 +46,8 @@ enum class result_place {
     perf_res,  ///< the result form; the name is that of the control
     numbers,   ///< the numbers of the JSON report, in the units of the records
     chart,     ///< the result charts; the name is that of the chart, of an axis or of a legend
-    data       ///< the data files, the workbook and the result tables; the name is the column's
+    data,      ///< the data files, the workbook and the result tables; the name is the column's
+    sheet      ///< the design sheet, with those of perf_res behind them; the name is a caption
 };
 
 /// What happens to the digits behind the last one that is shown.
@@ -106,6 +107,19 @@ std::vector<used_result> results_at(result_place place);
 /// One of them, by the name of the result; nothing when the place does not show it.
 std::optional<used_result> result_at(result_place place, std::string_view quantity);
 
+/// One of the results of a place, by its name there; nothing when the place has none of that name.
+std::optional<used_result> result_named(result_place place, std::string_view name);
+
+/// Where a number of a result stands: speed and pressure 0 .. 5, whole degrees of the inner rotor.
+/// What a result is not spread over does not count.
+struct result_point {
+    std::size_t speed = 0, pressure = 0, degree = 0;
+};
+
+/// The number of a result at a point, in the units of the record. An array over the steps of 0.1
+/// degree gives its element 10 degree.
+double value_at(const result_quantity& quantity, const perf_results& results,
+                const result_point& at);
 /// The one number of a result that is not spread over anything.
 double value_of(const result_quantity& quantity, const perf_results& results);
 /// Whether a result is a table over speeds and pressures, and that table.

@@ -66,6 +66,15 @@ TEST(length_unit, has_captions_and_names_of_its_own_in_every_row) {
     EXPECT_EQ(buttons.size(), length_units().size());
 }
 
+TEST(length_unit, chooses_the_row_of_its_system_where_a_text_has_two) {
+    EXPECT_EQ(form_text("charts", "xaxis_title", ENGLISH, unit_system::metric),
+              "Delivery Pressure (bar)");
+    EXPECT_EQ(form_text("charts", "xaxis_title", GERMAN, unit_system::imperial),
+              "Lieferungsdruck (psi)");
+    EXPECT_EQ(form_text("data", "speed", ENGLISH, unit_system::imperial), "Pump Speed (rpm)");
+    EXPECT_EQ(find_text("charts", "no_such_row", unit_system::metric), nullptr);
+}
+
 }  // namespace
 
 }  // namespace kvt

@@ -4,6 +4,7 @@
 
 #include "core/app_state.hpp"
 
+#include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <set>
@@ -140,6 +141,44 @@ TEST(result_quantities, give_half_of_the_load_angle) {
     EXPECT_EQ(text("side_load_direction", -1.0), "-28.65 °");
     EXPECT_NEAR(shown(result_place::numbers, "side_load_direction", -1.0, unit_system::metric),
                 -28.647889, 1e-6);
+}
+
+TEST(result_quantities, are_found_by_the_name_that_a_place_gives_them) {
+    EXPECT_EQ(result_named(result_place::chart, "ve")->quantity->name, "vol_eff");
+    EXPECT_EQ(result_named(result_place::data, "rate")->quantity->name, "chamber_rate");
+    EXPECT_FALSE(result_named(result_place::data, "angle"));
+    EXPECT_FALSE(result_named(result_place::chart, "vol_eff"));
+}
+
+/// Each kind of source once; its number stands at speed 2, pressure 3 and 17 degrees.
+TEST(result_quantities, have_a_number_at_each_point) {
+    perf_results results;
+    results.dyn_visc = 1.0;
+    results.cutter_r = -2.0;
+    results.side_load[5][5] = 3.0;
+    results.speed_rpm[2] = 4.0;
+    results.press_pa[3] = 5.0;
+    results.flow_m3s[2][3] = 6.0;
+    results.hertz_stress[2][3][17] = 7.0;
+    results.chamber_rate[170] = 8.0;
+    results.equiv_r[17] = 9.0;
+    results.sliding_velocity[2][17] = 10.0;
+    const auto number = [&](std::string_view name) {
+        const std::span<const result_quantity> all = result_quantities();
+        const auto found = std::ranges::find(all, name, &result_quantity::name);
+        return value_at(*found, results, {2, 3, 17});
+    };
+    EXPECT_EQ(number("dyn_visc"), 1.0);
+    EXPECT_EQ(number("max_cutter_inner"), -2.0);
+    EXPECT_EQ(number("max_shaft_side_load"), 3.0);
+    EXPECT_EQ(number("speed_rpm"), 4.0);
+    EXPECT_EQ(number("press_pa"), 5.0);
+    EXPECT_EQ(number("flow_m3s"), 6.0);
+    EXPECT_EQ(number("largest_stress"), 7.0);
+    EXPECT_EQ(number("hertz_stress"), 7.0);
+    EXPECT_EQ(number("chamber_rate"), 8.0);
+    EXPECT_EQ(number("equiv_r"), 9.0);
+    EXPECT_EQ(number("sliding_velocity"), 10.0);
 }
 
 TEST(result_quantities, take_load_and_stress_from_the_record) {

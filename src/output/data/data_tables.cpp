@@ -3,7 +3,6 @@
 #include "core/text_table.hpp"
 #include "performance/result_quantities.hpp"
 
-#include <algorithm>
 #include <array>
 #include <cassert>
 #include <optional>
@@ -11,8 +10,6 @@
 namespace kvt {
 
 namespace {
-
-constexpr std::string_view ANGLE = "angle";
 
 /// A column: the result, by its name among the data, or the angle; and the row of the texts that
 /// heads it.
@@ -23,6 +20,8 @@ struct column_row {
 
 constexpr column_row SPEED = {"speed"};
 constexpr column_row PRESSURE = {"pressure"};
+/// No result: the degrees.
+constexpr std::string_view ANGLE = "angle";
 constexpr column_row ANGLES = {ANGLE};
 
 /// Counts of speeds, pressures and angles that a block runs over, the last one fastest.
@@ -69,60 +68,13 @@ constexpr block_row BLOCKS[] = {
 constexpr std::array<std::string_view, 5> FILE_WORDS = {"flow", "torque", "contact", "efficiency",
                                                         "volumetric"};
 
-/// Where a row stands.
-struct data_place {
-    std::size_t speed, pressure, angle;
-};
-
-// The number that a result has at a place, in the units of the records.
-
-double value_at(const perf_results& results, speed_list list, const data_place& at) {
-    return (results.*list.member)[at.speed];
-}
-double value_at(const perf_results& results, pressure_list list, const data_place& at) {
-    return (results.*list.member)[at.pressure];
-}
-double value_at(const perf_results& results, result_grid grid, const data_place& at) {
-    return (results.*grid)[at.speed][at.pressure];
-}
-/// Element 10 a of an array with a step of 0.1 degree.
-double value_at(const perf_results& results, const angle_array& array, const data_place& at) {
-    return (results.*array.member)[at.angle * (array.used_count / TURN_DEGREES)];
-}
-double value_at(const perf_results& results, speed_angles angles, const data_place& at) {
-    return (results.*angles)[at.speed][at.angle];
-}
-double value_at(const perf_results& results, grid_angles angles, const data_place& at) {
-    return (results.*angles)[at.speed][at.pressure][at.angle];
-}
-/// No file has a column of one number, nor of one that is worked out.
-template <typename other>
-double value_at(const perf_results&, const other&, const data_place&) {
-    assert(false);
-    return 0.0;
-}
-
 /// A column with its result found; nothing for the angle.
 using data_column = std::optional<used_result>;
 
-data_column find_column(std::string_view result) {
-    for (const used_result& found : results_at(result_place::data)) {
-        if (found.use->name == result) {
-            return found;
-        }
-    }
-    assert(result == ANGLE);
-    return std::nullopt;
-}
-
-double shown_at(const data_column& column, const data_place& at, const file_source& source) {
-    if (!column) {
-        return static_cast<double>(at.angle);
-    }
-    const double value =
-        std::visit([&](const auto& from) { return value_at(source.results, from, at); },
-                   column->quantity->source);
-    return shown_value(value, *column->use, source.unit.system);
+double shown_at(const data_column& column, const result_point& at, const file_source& source) {
+    return column ? shown_value(value_at(*column->quantity, source.results, at), *column->use,
+                                source.unit.system)
+                  : static_cast<double>(at.degree);
 }
 
 void append_rows(const std::vector<data_column>& columns, const block_size& size,
@@ -130,9 +82,9 @@ void append_rows(const std::vector<data_column>& columns, const block_size& size
     values.reserve(size.speeds * size.pressures * size.angles * columns.size());
     for (std::size_t speed = 0; speed < size.speeds; ++speed) {
         for (std::size_t pressure = 0; pressure < size.pressures; ++pressure) {
-            for (std::size_t angle = 0; angle < size.angles; ++angle) {
+            for (std::size_t degree = 0; degree < size.angles; ++degree) {
                 for (const data_column& column : columns) {
-                    values.push_back(shown_at(column, {speed, pressure, angle}, source));
+                    values.push_back(shown_at(column, {speed, pressure, degree}, source));
                 }
             }
         }
@@ -148,7 +100,8 @@ data_block make_block(const block_row& row, const file_source& source) {
     for (const column_row& column : row.columns) {
         if (!column.result.empty()) {
             block.headers.emplace_back(data_text(column.header, source));
-            columns.push_back(find_column(column.result));
+            columns.push_back(result_named(result_place::data, column.result));
+            assert(columns.back() || column.result == ANGLE);
         }
     }
     append_rows(columns, row.size, source, block.values);
@@ -163,9 +116,7 @@ std::string text_of_file(data_file file, std::string_view end, const file_source
 }  // namespace
 
 std::string_view data_text(std::string_view row, const file_source& source) {
-    const text_row* of_unit = find_text(source.unit.captions, "data", row);
-    return of_unit != nullptr ? row_text(*of_unit, source.language)
-                              : form_text("data", row, source.language);
+    return form_text("data", row, source.language, source.unit.system);
 }
 
 data_table make_data_table(data_file file, const file_source& source) {

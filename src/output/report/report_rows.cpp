@@ -3,6 +3,7 @@
 #include "base/checked_math.hpp"
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
+#include "performance/perf_units.hpp"
 
 #include <array>
 
@@ -78,15 +79,13 @@ std::string cut_number(const source& from, double number, double divisor = 1.0) 
 }
 
 std::string power_hp(const source& from) {
-    constexpr double WATTS_A_HORSEPOWER = 746.0;
-    return cut_number(from, from.results.power_max * 10.0 / WATTS_A_HORSEPOWER, 10.0);
+    return cut_number(from, from.results.power_max * 10.0 / WATTS_PER_HORSEPOWER, 10.0);
 }
 
 /// Kept: MPa times 145.04 is psi, so the number is a thousand times the ksi that its label says;
 /// report_rows_test holds it.
 std::string stress_ksi(const source& from) {
-    constexpr double PSI_A_MPA = 145.04;
-    return cut_number(from, from.results.hertz_max * PSI_A_MPA);
+    return cut_number(from, from.results.hertz_max * PSI_PER_MPA);
 }
 
 std::string power_w(const source& from) {

@@ -23,12 +23,9 @@ std::string heading_of(std::string_view name, std::int16_t language, unit_system
     return std::string(text);
 }
 
-result_use use_of(std::string_view quantity) {
-    return *result_at(result_place::data, quantity)->use;
-}
-
-std::vector<std::string> grid_heads(const perf_list& values, const result_use& use,
+std::vector<std::string> grid_heads(const perf_list& values, std::string_view name,
                                     unit_system system) {
+    const result_use& use = *result_named(result_place::data, name)->use;
     std::vector<std::string> heads;
     for (const double value : values) {
         heads.push_back(number_text(shown_value(value, use, system)));
@@ -42,8 +39,8 @@ result_table grid_table(const used_result& result, const perf_results& results,
     table.name = heading_of(result.use->name, language, system);
     table.row_caption = heading_of("speed", language, system);
     table.column_caption = heading_of("pressure", language, system);
-    table.row_heads = grid_heads(results.speed_rpm, use_of("speed_rpm"), system);
-    table.column_heads = grid_heads(results.press_pa, use_of("press_pa"), system);
+    table.row_heads = grid_heads(results.speed_rpm, "speed", system);
+    table.column_heads = grid_heads(results.press_pa, "pressure", system);
     for (const perf_list& of_speed : grid_of(*result.quantity, results)) {
         std::vector<std::optional<double>>& row = table.cells.emplace_back();
         for (const double value : of_speed) {
@@ -53,20 +50,25 @@ result_table grid_table(const used_result& result, const perf_results& results,
     return table;
 }
 
-/// A column over the angle: the degrees at which it is computed, and the elements a degree.
+/// A column over the angle, by its name, and the degrees at which it is computed.
 struct angle_column {
-    std::string_view quantity;
-    const perf_array* values;
+    std::string_view name;
     std::size_t first_degree, last_degree;
-    std::size_t steps_a_degree = 1;
 };
 
-std::optional<double> value_at(const angle_column& column, std::size_t degree,
-                               const result_use& use, unit_system system) {
-    if (degree < column.first_degree || degree > column.last_degree) {
+constexpr std::size_t LAST_DEGREE = ANGLE_ARRAY_LAST;
+constexpr std::array ANGLE_COLUMNS = {
+    angle_column{"rate", 0, LAST_DEGREE - 1}, angle_column{"ripple", 0, LAST_DEGREE - 1},
+    angle_column{"sliding", 1, LAST_DEGREE}, angle_column{"force", 1, CONTACT_ANGLE_LAST},
+    angle_column{"stress", 1, CONTACT_ANGLE_LAST}};
+
+std::optional<double> shown_at(const angle_column& column, const used_result& result,
+                               const perf_results& results, const result_point& at,
+                               unit_system system) {
+    if (at.degree < column.first_degree || at.degree > column.last_degree) {
         return std::nullopt;
     }
-    return shown_value((*column.values)[degree * column.steps_a_degree], use, system);
+    return shown_value(value_at(*result.quantity, results, at), *result.use, system);
 }
 
 std::string rounded_to_shown_digits(double value) {
@@ -93,28 +95,19 @@ std::vector<result_table> grid_tables(const perf_results& results, std::int16_t 
 
 result_table angle_table(const perf_results& results, std::size_t speed, std::size_t pressure,
                          std::int16_t language, unit_system system) {
-    constexpr std::size_t LAST = ANGLE_ARRAY_LAST;
-    constexpr std::size_t STEPS = RIPPLE_STEPS / LAST;
-    const std::array columns = {
-        angle_column{"chamber_rate", &results.chamber_rate, 0, LAST - 1, STEPS},
-        angle_column{"ripple_pressure", &results.ripple_pressure, 0, LAST - 1, STEPS},
-        angle_column{"sliding_velocity", &results.sliding_velocity[speed], 1, LAST},
-        angle_column{"contact_force", &results.contact_force[speed][pressure], 1,
-                     CONTACT_ANGLE_LAST},
-        angle_column{"hertz_stress", &results.hertz_stress[speed][pressure], 1,
-                     CONTACT_ANGLE_LAST}};
     result_table table;
     table.name = std::string(form_text("result_tables", "angle_tab", language));
     table.row_caption = heading_of("angle", language, system);
-    table.cells.resize(LAST + 1);
-    for (std::size_t degree = 0; degree <= LAST; ++degree) {
+    table.cells.resize(LAST_DEGREE + 1);
+    for (std::size_t degree = 0; degree <= LAST_DEGREE; ++degree) {
         table.row_heads.push_back(number_text(static_cast<double>(degree)));
     }
-    for (const angle_column& column : columns) {
-        const result_use use = use_of(column.quantity);
-        table.column_heads.push_back(heading_of(use.name, language, system));
-        for (std::size_t degree = 0; degree <= LAST; ++degree) {
-            table.cells[degree].push_back(value_at(column, degree, use, system));
+    for (const angle_column& column : ANGLE_COLUMNS) {
+        const used_result result = *result_named(result_place::data, column.name);
+        table.column_heads.push_back(heading_of(column.name, language, system));
+        for (std::size_t degree = 0; degree <= LAST_DEGREE; ++degree) {
+            table.cells[degree].push_back(
+                shown_at(column, result, results, {speed, pressure, degree}, system));
         }
     }
     return table;

@@ -32,11 +32,14 @@ struct port_files {
         build_metering_groove(work);
     }
 
+    file_source source() const {
+        return {tested.design, tested.rotors, tested.ports, results, tested.boxes, choices, "pump"};
+    }
+
     std::vector<cnc_section> sections(void (*write)(const file_source&, port_side, text_lines&),
                                       port_side side) const {
         text_lines text;
-        write({tested.design, tested.rotors, tested.ports, results, tested.boxes, choices, "pump"},
-              side, text);
+        write(source(), side, text);
         return cnc_reader(text.bytes(), choices.cnc_res_digits).sections();
     }
 };
@@ -265,25 +268,13 @@ TEST(port_gcode_gap, measures_the_arcs_and_not_their_chords) {
     files.tested.boxes.outlet_start_outer = "14.5";
     port_work work = files.tested.work();
     ASSERT_EQ(build_outlet_port(work), port_end::finished);
-    const file_source source{files.tested.design,
-                             files.tested.rotors,
-                             files.tested.ports,
-                             files.results,
-                             files.tested.boxes,
-                             files.choices,
-                             "pump"};
+    const file_source source = files.source();
     EXPECT_LT(port_gcode_gap(source, port_side::outlet), 1e-6);
 }
 
 TEST(port_gcode_gap, is_small_for_sound_ports_and_tells_codes_that_leave_their_outline) {
     port_files files;
-    const file_source source{files.tested.design,
-                             files.tested.rotors,
-                             files.tested.ports,
-                             files.results,
-                             files.tested.boxes,
-                             files.choices,
-                             "pump"};
+    const file_source source = files.source();
     EXPECT_LT(port_gcode_gap(source, port_side::inlet), CONTOUR_TOLERANCE_MM);
     EXPECT_LT(port_gcode_gap(source, port_side::outlet), CONTOUR_TOLERANCE_MM);
     files.tested.ports.inlet.built.f = 0.0;
