@@ -29,7 +29,7 @@ json json_legend(const std::optional<chart_legend>& legend) {
         return list;
     }
     for (const legend_row& row : legend->rows) {
-        const chart_colour colour = series_colour(row.series);
+        const rgb_colour colour = series_colour(row.series);
         list.push_back(
             json::array({row.label.text, json::array({colour.red, colour.green, colour.blue})}));
     }

@@ -1,6 +1,7 @@
 #include "pictures/explanation_painting.hpp"
 
 #include "core/text_table.hpp"
+#include "views/outline_looks.hpp"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -21,35 +22,8 @@ constexpr double TEXT_GAP = 4.0;  ///< between a leader and its text
 constexpr double ARROW_LENGTH = 8.0;
 constexpr double ARROW_HALF_WIDTH = 2.5;
 
-const QColor DIMENSION_COLOUR(0x1f, 0x3a, 0x68);
-const QColor LEADER_COLOUR(0x70, 0x70, 0x70);
-
-struct outline_look {
-    outline_style style;
-    QColor pen, fill;
-    double width;
-    Qt::PenStyle dashes = Qt::SolidLine;
-};
-
-const outline_look& look_of(outline_style style) {
-    static const outline_look LOOKS[] = {
-        {outline_style::body, QColor(0x20, 0x20, 0x20), QColor(0xd5, 0xdd, 0xe6), 1.5},
-        {outline_style::space, QColor(0x20, 0x20, 0x20), QColor(0xff, 0xff, 0xff), 1.5},
-        {outline_style::shaft, QColor(0x20, 0x20, 0x20), QColor(0xb4, 0xbd, 0xc7), 1.0},
-        {outline_style::housing, QColor(0x90, 0x90, 0x90), QColor(0xec, 0xe6, 0xdb), 1.0},
-        {outline_style::background, QColor(0xa8, 0xa8, 0xa8), QColor(), 1.0},
-        {outline_style::axis, QColor(0x90, 0x90, 0x90), QColor(), 0.8, Qt::DashDotLine},
-        {outline_style::inlet, QColor(0x00, 0x00, 0xff), QColor(0xe3, 0xe6, 0xff), 2.0},
-        {outline_style::outlet, QColor(0xff, 0x00, 0x00), QColor(0xff, 0xe6, 0xe6), 2.0},
-        {outline_style::groove, QColor(0xff, 0x80, 0x00), QColor(0xff, 0xee, 0xdd), 2.0},
-    };
-    for (const outline_look& look : LOOKS) {
-        if (look.style == style) {
-            return look;
-        }
-    }
-    assert(false);
-    return LOOKS[0];
+QColor colour_of(const rgb_colour& colour) {
+    return {colour.red, colour.green, colour.blue};
 }
 
 class explanation_painter {
@@ -100,10 +74,11 @@ class explanation_painter {
 
     void paint(const explained_outline& outline) {
         const outline_look& look = look_of(outline.style);
-        painter_->setPen(
-            QPen(look.pen, look.width * size_, look.dashes, Qt::FlatCap, Qt::RoundJoin));
-        if (outline.is_filled) {
-            painter_->setBrush(look.fill);
+        painter_->setPen(QPen(colour_of(look.line), look.width * size_,
+                              look.is_dashed ? Qt::DashDotLine : Qt::SolidLine, Qt::FlatCap,
+                              Qt::RoundJoin));
+        if (outline.is_filled && look.fill) {
+            painter_->setBrush(colour_of(*look.fill));
             painter_->drawPolygon(pixels(outline.points));
         } else {
             painter_->setBrush(Qt::NoBrush);
@@ -113,7 +88,7 @@ class explanation_painter {
 
     void paint_lines(const explained_parameter& parameter) {
         painter_->setBrush(Qt::NoBrush);
-        painter_->setPen(QPen(LEADER_COLOUR, 0.8 * size_));
+        painter_->setPen(QPen(colour_of(LEADER_COLOUR), 0.8 * size_));
         painter_->drawPolyline(pixels(parameter.leader));
         for (const extension_line& line : parameter.extensions) {
             painter_->drawLine(pixel(line.from), pixel(line.to));
@@ -122,7 +97,7 @@ class explanation_painter {
             const point2 before = parameter.leader[parameter.leader.size() - 2];
             paint_arrow(pixel(parameter.leader.back()), pixel(before));
         }
-        painter_->setPen(QPen(DIMENSION_COLOUR, 1.2 * size_));
+        painter_->setPen(QPen(colour_of(DIMENSION_COLOUR), 1.2 * size_));
         for (const measured_line& line : parameter.lines) {
             paint(line);
         }
@@ -169,7 +144,7 @@ class explanation_painter {
         const QPointF across = QPointF(-way.y(), way.x()) / length * ARROW_HALF_WIDTH * size_;
         const QPen pen = painter_->pen();
         painter_->setPen(Qt::NoPen);
-        painter_->setBrush(DIMENSION_COLOUR);
+        painter_->setBrush(colour_of(DIMENSION_COLOUR));
         painter_->drawPolygon(QPolygonF{tip, tip - along + across, tip - along - across});
         painter_->setPen(pen);
         painter_->setBrush(Qt::NoBrush);

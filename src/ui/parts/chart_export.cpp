@@ -73,7 +73,7 @@ std::string csv_file(const shown_chart& shown, char decimal_mark) {
     result_chart chart = shown.chart;
     chart.curves.clear();
     for (std::size_t index = 0; index < shown.chart.curves.size(); ++index) {
-        if (!shown.hidden[index]) {
+        if (!is_hidden(shown.hidden, index)) {
             chart.curves.push_back(shown.chart.curves[index]);
         }
     }

@@ -24,13 +24,12 @@ constexpr QColor LEGEND_FAINT_INK(160, 160, 160);
 constexpr QColor READING(255, 255, 255);
 
 QColor colour_of(int series) {
-    const chart_colour colour = series_colour(series);
+    const rgb_colour colour = series_colour(series);
     return {colour.red, colour.green, colour.blue};
 }
 
-bool is_hidden(int series, const hidden_curves& hidden) {
-    const auto index = static_cast<std::size_t>(series - 1);
-    return index < hidden.size() && hidden[index];
+bool is_series_hidden(int series, const hidden_curves& hidden) {
+    return is_hidden(hidden, static_cast<std::size_t>(series - 1));
 }
 
 QLineF in_pixels(const chart_line& line) {
@@ -99,7 +98,7 @@ void paint_curves(QPainter& painter, const chart_drawing& drawing, const hidden_
         for (; next < segments.size() && segments[next].series == series; ++next) {
             curve.append(in_pixels(point2{segments[next].x2, segments[next].y2}));
         }
-        if (!is_hidden(series, hidden)) {
+        if (!is_series_hidden(series, hidden)) {
             paint_curve(painter, series, curve);
         }
     }
@@ -160,7 +159,7 @@ void paint_legend(QPainter& painter, const chart_legend& legend, const hidden_cu
     painter.setPen(LEGEND_INK);
     paint_label(painter, legend.caption);
     for (const legend_row& row : legend.rows) {
-        paint_legend_row(painter, row, is_hidden(row.series, hidden));
+        paint_legend_row(painter, row, is_series_hidden(row.series, hidden));
     }
 }
 

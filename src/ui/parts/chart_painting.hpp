@@ -8,14 +8,9 @@
 #include <QRectF>
 #include <QSize>
 
-#include <vector>
-
 class QPainter;
 
 namespace kvt {
-
-/// hidden_curves[i] tells that curve i, of series i + 1, is not shown.
-using hidden_curves = std::vector<bool>;
 
 /// The delivered font in a size of its own, so that texts keep their room on every screen.
 QFont chart_font();

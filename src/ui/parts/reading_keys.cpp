@@ -10,27 +10,22 @@ namespace {
 
 constexpr int STEPS_WITH_CTRL = 10;
 
-bool is_shown(std::size_t curve, const std::vector<bool>& hidden) {
-    return curve >= hidden.size() || !hidden[curve];
-}
-
 /// The nearest curve in a direction that is shown; curve itself when there is none.
-std::size_t shown_curve(const result_chart& chart, const std::vector<bool>& hidden,
-                        std::size_t curve, int direction) {
+std::size_t shown_curve(const result_chart& chart, const hidden_curves& hidden, std::size_t curve,
+                        int direction) {
     const int count = static_cast<int>(chart.curves.size());
     for (int next = static_cast<int>(curve) + direction; next >= 0 && next < count;
          next += direction) {
-        if (is_shown(static_cast<std::size_t>(next), hidden)) {
+        if (!is_hidden(hidden, static_cast<std::size_t>(next))) {
             return static_cast<std::size_t>(next);
         }
     }
     return curve;
 }
 
-std::optional<chart_reading> first_reading(const result_chart& chart,
-                                           const std::vector<bool>& hidden) {
+std::optional<chart_reading> first_reading(const result_chart& chart, const hidden_curves& hidden) {
     for (std::size_t curve = 0; curve < chart.curves.size(); ++curve) {
-        if (is_shown(curve, hidden)) {
+        if (!is_hidden(hidden, curve)) {
             return chart_reading{curve, 0};
         }
     }
@@ -47,8 +42,7 @@ std::size_t moved_point(const result_chart& chart, const chart_reading& reading,
 
 }  // namespace
 
-std::optional<chart_reading> next_reading(const result_chart& chart,
-                                          const std::vector<bool>& hidden,
+std::optional<chart_reading> next_reading(const result_chart& chart, const hidden_curves& hidden,
                                           const std::optional<chart_reading>& reading, int key,
                                           bool with_ctrl) {
     const bool is_sideways = key == Qt::Key_Left || key == Qt::Key_Right;

@@ -12,8 +12,7 @@ namespace kvt {
 /// Up and Down to the same point of the curve before or after it that is shown. At an end they
 /// stay. Without a reading any of them reads the first point of the first curve that is shown.
 /// Nothing for another key, and when no curve is shown. key is a Qt::Key.
-std::optional<chart_reading> next_reading(const result_chart& chart,
-                                          const std::vector<bool>& hidden,
+std::optional<chart_reading> next_reading(const result_chart& chart, const hidden_curves& hidden,
                                           const std::optional<chart_reading>& reading, int key,
                                           bool with_ctrl);
 

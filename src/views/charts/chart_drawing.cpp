@@ -3,6 +3,7 @@
 
 #include "base/checked_math.hpp"
 #include "base/number_text.hpp"
+#include "base/utf8_text.hpp"
 #include "views/charts/axis_marks.hpp"
 
 #include <algorithm>
@@ -78,16 +79,6 @@ point2 place_on(const chart_axes& axes, const result_chart& chart, const chart_c
                 std::size_t point) {
     const int step = chart.first_step + static_cast<int>(point);
     return {axes.x(step, chart.steps), axes.y(curve.values[point])};
-}
-
-/// Ends before the last character of a UTF-8 text.
-void drop_last_character(std::string& text) {
-    while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) {
-        text.pop_back();
-    }
-    if (!text.empty()) {
-        text.pop_back();
-    }
 }
 
 /// The longest beginning of a text that leaves room for the ellipsis behind it.
@@ -278,10 +269,6 @@ void fit_texts(const chart_size& size, const text_metrics& metrics, chart_drawin
     }
 }
 
-bool is_hidden(const std::vector<bool>& hidden, std::size_t curve) {
-    return curve < hidden.size() && hidden[curve];
-}
-
 /// "3.6 bar", "36.1°"
 std::string with_unit(const std::string& number, const std::string& unit) {
     return unit == "°" ? number + unit : number + " " + unit;
@@ -316,9 +303,13 @@ chart_drawing draw_chart(const result_chart& chart, const chart_size& size,
     return drawing;
 }
 
+bool is_hidden(const hidden_curves& hidden, std::size_t curve) {
+    return curve < hidden.size() && hidden[curve];
+}
+
 std::optional<chart_reading> nearest_reading(const result_chart& chart,
                                              const chart_drawing& drawing, point2 place,
-                                             const std::vector<bool>& hidden, double reach) {
+                                             const hidden_curves& hidden, double reach) {
     const chart_axes axes = axes_of(chart, drawing);
     std::optional<chart_reading> nearest;
     double least = reach;

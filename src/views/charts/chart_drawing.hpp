@@ -88,11 +88,15 @@ struct chart_reading {
     friend bool operator==(const chart_reading&, const chart_reading&) = default;
 };
 
+/// hidden_curves[i] tells that curve i, of series i + 1, is not shown; curves behind its end are.
+using hidden_curves = std::vector<bool>;
+bool is_hidden(const hidden_curves& hidden, std::size_t curve);
+
 /// The point of the visible curves that lies nearest to a place, twips; nothing when no curve is
-/// visible or the nearest lies farther away than reach. hidden[i] tells that curve i is not shown.
+/// visible or the nearest lies farther away than reach.
 std::optional<chart_reading> nearest_reading(const result_chart& chart,
                                              const chart_drawing& drawing, point2 place,
-                                             const std::vector<bool>& hidden, double reach);
+                                             const hidden_curves& hidden, double reach);
 
 /// Where a point of a curve stands, twips.
 point2 place_of(const result_chart& chart, const chart_drawing& drawing,

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <cstddef>
 
 namespace kvt {
@@ -46,7 +45,7 @@ constexpr std::array<axis_row, CHARTS.size()> AXES = {{
     PERCENT_AXIS,
 }};
 
-constexpr std::array<chart_colour, 5> COLOURS = {
+constexpr std::array<rgb_colour, 5> COLOURS = {
     {{255, 255, 128}, {128, 255, 128}, {255, 192, 128}, {128, 255, 255}, {255, 128, 128}}};
 
 /// The first speed, or pressure, that is drawn; the lowest is not.
@@ -65,29 +64,17 @@ struct chart_source {
     unit_system system;
 };
 
-/// The text of a control: for imperial units the row NAME_inch where there is one; the row of the
-/// form, else the one that the charts have alike.
+/// The text of a control in the units of the chart: of the form's row, else of the one that the
+/// charts have alike.
 std::string text_of(const chart_source& from, std::string_view name) {
-    const std::string inch_name = std::string(name) + "_inch";
-    for (const std::string_view form : {from.row.form, std::string_view("charts")}) {
-        const bool imperial = from.system == unit_system::imperial;
-        const text_row* row = imperial ? find_caption(form, inch_name) : nullptr;
-        row = row != nullptr ? row : find_caption(form, name);
-        if (row != nullptr) {
-            return std::string(row_text(*row, from.language));
-        }
-    }
-    assert(false);
-    return {};
+    const text_row* row = find_text(from.row.form, name, from.system);
+    return std::string(row == nullptr ? form_text("charts", name, from.language, from.system)
+                                      : row_text(*row, from.language));
 }
 
 /// The result that a chart draws.
 used_result drawn_result(const chart_source& from) {
-    const std::vector<used_result> results = results_at(result_place::chart);
-    const auto found = std::ranges::find(
-        results, from.row.name, [](const used_result& result) { return result.use->name; });
-    assert(found != results.end());
-    return *found;
+    return *result_named(result_place::chart, from.row.name);
 }
 
 double in_shown_units(const chart_source& from, double value) {
@@ -277,7 +264,7 @@ const chart_row* find_chart(std::string_view form) {
     return found == CHARTS.end() ? nullptr : found;
 }
 
-chart_colour series_colour(int series) {
+rgb_colour series_colour(int series) {
     return COLOURS.at(static_cast<std::size_t>(series - 1));
 }
 

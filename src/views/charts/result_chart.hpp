@@ -5,6 +5,7 @@
 
 #include "core/length_unit.hpp"
 #include "performance/perf_results.hpp"
+#include "views/rgb_colour.hpp"
 
 #include <cstdint>
 #include <span>
@@ -30,12 +31,7 @@ const chart_row* find_chart(std::string_view form);
 
 /// The colours of the curves by series, 1 .. 5 at index 0 .. 4; the one curve of the ripple has the
 /// first.
-struct chart_colour {
-    std::uint8_t red, green, blue;
-
-    friend bool operator==(const chart_colour&, const chart_colour&) = default;
-};
-chart_colour series_colour(int series);
+rgb_colour series_colour(int series);
 
 struct chart_curve {
     int series = 1;              ///< 1 .. 5: its colour

@@ -82,7 +82,7 @@ class graphview2_test : public desktop_test {
     }
     /// How many dots of the window have a colour of the curves.
     static int dots_of_curve(graphview2& chart, int series) {
-        const chart_colour colour = series_colour(series);
+        const rgb_colour colour = series_colour(series);
         const QImage seen = chart.grab().toImage();
         int dots = 0;
         for (int y = 0; y < seen.height(); ++y) {

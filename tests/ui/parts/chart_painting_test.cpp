@@ -18,7 +18,7 @@ QImage picture_of(const sample_window& window) {
 }
 
 QColor colour_of(int series) {
-    const chart_colour colour = series_colour(series);
+    const rgb_colour colour = series_colour(series);
     return {colour.red, colour.green, colour.blue};
 }
 

@@ -47,11 +47,11 @@ TEST(chart_rows, are_the_charts_of_the_form_table) {
 }
 
 TEST(series_colour, is_pastel) {
-    EXPECT_EQ(series_colour(1), (chart_colour{255, 255, 128}));
-    EXPECT_EQ(series_colour(2), (chart_colour{128, 255, 128}));
-    EXPECT_EQ(series_colour(3), (chart_colour{255, 192, 128}));
-    EXPECT_EQ(series_colour(4), (chart_colour{128, 255, 255}));
-    EXPECT_EQ(series_colour(5), (chart_colour{255, 128, 128}));
+    EXPECT_EQ(series_colour(1), (rgb_colour{255, 255, 128}));
+    EXPECT_EQ(series_colour(2), (rgb_colour{128, 255, 128}));
+    EXPECT_EQ(series_colour(3), (rgb_colour{255, 192, 128}));
+    EXPECT_EQ(series_colour(4), (rgb_colour{128, 255, 255}));
+    EXPECT_EQ(series_colour(5), (rgb_colour{255, 128, 128}));
 }
 
 TEST(make_chart, draws_a_curve_a_speed_but_the_lowest) {
