@@ -13,7 +13,7 @@ void batch_user::show_hints(const std::vector<hint>& hints, std::int16_t languag
 }
 
 void batch_user::show_message(std::string_view text) {
-    messages_.emplace_back(text);
+    silent_user::show_message(text);
     std::string lines(text);
     std::ranges::replace(lines, '\r', '\n');
     err_ << lines << '\n';
@@ -22,31 +22,6 @@ void batch_user::show_message(std::string_view text) {
 answer batch_user::ask(std::string_view question, question_buttons) {
     err_ << question << " Yes\n";
     return answer::yes;
-}
-
-bool batch_user::ask_to_go_on(std::string_view failure) {
-    show_message(failure);
-    return false;
-}
-
-std::optional<std::string> batch_user::choose_file(const file_dialog&) {
-    return std::nullopt;
-}
-
-std::optional<std::string> batch_user::ask_project_name() {
-    return std::nullopt;
-}
-
-start_choice batch_user::ask_new_or_open() {
-    return start_choice::neither;
-}
-
-std::optional<std::string> batch_user::ask_modelling_package(std::string_view) {
-    return std::nullopt;
-}
-
-std::unique_ptr<report_printer> batch_user::choose_printer(const print_request&) {
-    return nullptr;
 }
 
 void batch_user::show_status(std::string_view text) {

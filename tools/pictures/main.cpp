@@ -6,16 +6,14 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "app/stages/silent_user.hpp"
 #include "base/run_time_error.hpp"
-#include "core/report_printer.hpp"
-#include "core/user.hpp"
 #include "pictures/explanation_painting.hpp"
 #include "pictures/gt_guide_painting.hpp"
 #include "views/port_explanation.hpp"
 #include "views/rotor_explanation.hpp"
 
 #include <QGuiApplication>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -24,59 +22,18 @@ namespace {
 constexpr int WIDTH = 1800;       ///< pixels; twice what a window shows, for dense screens
 constexpr int JPEG_QUALITY = 95;  ///< thin lines stay clean
 
-/// Nobody is there to answer; a message means that the design was refused.
-class silent_user : public kvt::user {
-  public:
-    void show_message(std::string_view text) override {
-        std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
-        has_refused = true;
-    }
-    kvt::answer ask(std::string_view, kvt::question_buttons) override {
-        return kvt::answer::cancel;
-    }
-    bool ask_to_go_on(std::string_view failure) override {
-        show_message(failure);
-        return false;
-    }
-    std::optional<std::string> choose_file(const kvt::file_dialog&) override {
-        return std::nullopt;
-    }
-    void open_file(std::string_view) override {}
-    std::unique_ptr<kvt::report_printer> choose_printer(const kvt::print_request&) override {
-        return nullptr;
-    }
-    std::optional<std::string> ask_project_name() override { return std::nullopt; }
-    kvt::start_choice ask_new_or_open() override { return kvt::start_choice::neither; }
-    std::optional<std::string> ask_modelling_package(std::string_view) override {
-        return std::nullopt;
-    }
-    void show_status(std::string_view) override {}
-    void show_form(std::string_view) override {}
-    void unload_form(std::string_view) override {}
-    void set_focus(std::string_view) override {}
-    void set_busy(bool) override {}
-    void show_progress(std::string_view, int) override {}
-    void show_titled_progress(std::string_view, int) override {}
-    void start_tool(const kvt::started_tool&) override {}
-    bool is_tool_running() override { return false; }
-    void end_tool() override {}
-    void start_detached(const kvt::started_tool&) override {}
-    bool wait(std::chrono::milliseconds) override { return true; }
-
-    bool has_refused = false;
-};
-
-/// The design with its ports. The report of the ports goes to a folder that does not stay.
+/// The design with its ports. A message means that it was refused. Without a folder of the program
+/// no report of the ports is written.
 bool calculate(const char* design, kvt::program& kavetta) {
-    const QTemporaryDir folder;
-    silent_user person;
+    kvt::silent_user person;
     kvt::load_project(kavetta, person, design);
-    kavetta.folder = folder.path().toStdString();
-    kavetta.app_state.projects_folder = folder.path().toStdString();
     const bool has_rotors = kvt::calculate_profiles(kavetta, person) == kvt::run_end::ok;
-    return has_rotors &&
-           kvt::design_ports(kavetta, person) == kvt::ports_designed{true, true, true} &&
-           !person.has_refused;
+    const bool has_ports =
+        has_rotors && kvt::design_ports(kavetta, person) == kvt::ports_designed{true, true, true};
+    for (const std::string& message : person.messages()) {
+        std::fprintf(stderr, "%s\n", message.c_str());
+    }
+    return has_ports && person.messages().empty();
 }
 
 bool write(const kvt::explanation& drawing, std::int16_t language, const QString& path) {
