@@ -23,7 +23,7 @@ int calc_design(const calc_request& request, std::ostream& out, std::ostream& er
     if (request.json_file.empty()) {
         return exit_status(result);
     }
-    const std::string report = json_report(kavetta, person.messages(), result, request.full);
+    const std::string report = json_report(kavetta, person.messages(), result, request.full, request.exact);
     if (request.json_file == "-") {
         out << report;
         return exit_status(result);

@@ -13,6 +13,7 @@ struct calc_request {
     design_source source;
     std::string json_file;  ///< path of the JSON file; "-" is standard output; empty for none
     bool full = false;      ///< arrays and view too
+    bool exact = false;     ///< the exact figures too
     calc_stage last = calc_stage::performance;
     std::string date;  ///< of the port report; empty: today
 };

@@ -126,6 +126,8 @@ CLI::App* add_calc(CLI::App& app, command_line& line) {
         ->type_name("FILE|-");
     calc->add_flag("--full", line.calc.full,
                    "JSON with all profile points and the lines of the Design view");
+    calc->add_flag("--exact", line.calc.exact,
+                   "JSON with the exact figures of geometry and textbooks beside the product's");
     add_stage_option(*calc, line);
     return calc;
 }

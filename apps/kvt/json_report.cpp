@@ -4,6 +4,7 @@
 #include "app/program.hpp"
 #include "base/number_text.hpp"
 #include "kvt/json_charts.hpp"
+#include "kvt/json_exact.hpp"
 #include "kvt/json_fields.hpp"
 #include "kvt/json_performance.hpp"
 #include "kvt/json_view.hpp"
@@ -179,7 +180,7 @@ json json_ports(const port_params& ports, bool full) {
 }  // namespace
 
 std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
-                        const batch_result& result, bool full) {
+                        const batch_result& result, bool full, bool exact) {
     json report = json::object();
     report["ended"] = batch_end_name(result.end);
     report["messages"] = messages;
@@ -204,6 +205,9 @@ std::string json_report(const program& kavetta, const std::vector<std::string>& 
             report["charts"] = json_charts(kavetta.perf_results, kavetta.app_state.language,
                                            length_unit_of(kavetta.app_state).system);
         }
+    }
+    if (exact) {
+        report["exact"] = json_exact(kavetta, result);
     }
     return json_text(report, full);
 }

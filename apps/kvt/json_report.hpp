@@ -14,9 +14,9 @@ struct program;
 /// {"ended", "messages", "hints", "entries", "labels", "numbers", "design_params",
 /// "rotor_profiles"}, UTF-8, ended by a line feed. The two records are absent when the run did not
 /// get to them. full adds the arrays, each cut to its used length, "view", the lines and arcs
-/// of the Design view in twips, and "charts", the result charts. Doubles read back to the same
-/// value.
+/// of the Design view in twips, and "charts", the result charts; exact adds the object "exact".
+/// Doubles read back to the same value.
 std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
-                        const batch_result& result, bool full);
+                        const batch_result& result, bool full, bool exact = false);
 
 }  // namespace kvt

@@ -1,5 +1,6 @@
-// The capacity against the volume that a pair without clearance sweeps, by the rates at its
-// contacts and by exact areas of a chamber over a full turn; the tables of the page how-sure.
+// The capacity against the volume that a pair without clearance sweeps: the tables of the page
+// how-sure are made of the exact figures. The volume is checked by areas of a chamber over a full
+// turn, from the points that are cut.
 //
 // A chamber is the polygon of the outer profile from the contact point of one lobe to that of the
 // next, and of the inner profile back. The common normal of a contact goes through the pitch point
@@ -8,6 +9,7 @@
 #include "base/fixed_number.hpp"
 #include "base/number_text.hpp"
 #include "base/whole_file.hpp"
+#include "exact/swept_volume.hpp"
 #include "support/performance_case.hpp"
 #include "support/sample_design.hpp"
 
@@ -149,29 +151,8 @@ class rotor_pair {
     std::vector<point> inner_, outer_;
 };
 
-/// Swept volume from the contact points alone: a rotor that turns with w about its centre sweeps w
-/// (q^2 - p^2) / 2 between contacts at the distances p and q from it. For a pair without clearance;
-/// the sum of the positive rates, mm3 a turn.
-double volume_of_the_rates(const design_params& design) {
-    constexpr int STEPS = 20000;
-    const double lobes = design.numlobes;
-    const double lobe_distance = design.radouter + design.radinnroot + design.ecc;
-    const point outer_centre(-design.ecc, 0.0);
-    const point pitch_point((lobes - 1.0) * design.ecc, 0.0);
-    const auto contact = [&](double angle) {
-        const point centre = outer_centre + std::polar(lobe_distance, angle);
-        return centre + design.radouter * (pitch_point - centre) / std::abs(pitch_point - centre);
-    };
-    double grown = 0.0;
-    for (int n = 0; n < STEPS; ++n) {
-        const double angle = TURN * n / STEPS;  // the outer rotor
-        const point p = contact(angle);
-        const point q = contact(angle + TURN / lobes);
-        const double rate = (std::norm(q - outer_centre) - std::norm(p - outer_centre)) / 2.0 -
-                            lobes / (lobes - 1.0) * (std::norm(q) - std::norm(p)) / 2.0;
-        grown += std::max(rate, 0.0) * TURN / STEPS;
-    }
-    return (lobes - 1.0) * grown * design.thick;
+double swept_volume_of(const design_params& design) {
+    return swept_volume(nominal_pair(design));
 }
 
 /// capacity_cc without the clearance: the ring between tip and root circle, mm3 a turn.
@@ -195,41 +176,41 @@ bool page_has(const std::string& line) {
     return page.find("\n" + line + "\n") != std::string::npos;
 }
 
-class swept_volume_test : public testing::TestWithParam<const char*> {
+class capacity_of_samples : public testing::TestWithParam<const char*> {
   protected:
     performance_case sample = load_performance_case(GetParam());
-    double rates_cc = volume_of_the_rates(sample.design_params) / 1000.0;
+    double swept_cc = swept_volume_of(sample.design_params) / 1000.0;
 };
 
-TEST_P(swept_volume_test, differs_from_the_capacity_as_the_page_says) {
+TEST_P(capacity_of_samples, differs_from_the_capacity_as_the_page_says) {
     const design_params& design = sample.design_params;
     const double capacity_cc = sample.rotor_profiles.capacity_cc;
     const std::string line =
         "| " + std::string(GetParam()) + " | " + std::to_string(design.numlobes) + " | " +
-        fixed_number(rates_cc, 4) + " | " + fixed_number(capacity_cc, 4) + " | " +
-        percent_text(percent_above(capacity_cc, rates_cc)) + " | " +
-        percent_text(percent_above(capacity_of_tight_pair(design) / 1000.0, rates_cc)) + " |";
+        fixed_number(swept_cc, 4) + " | " + fixed_number(capacity_cc, 4) + " | " +
+        percent_text(percent_above(capacity_cc, swept_cc)) + " | " +
+        percent_text(percent_above(capacity_of_tight_pair(design) / 1000.0, swept_cc)) + " |";
     EXPECT_TRUE(page_has(line)) << line;
 }
 
 /// Two ways to the same volume: the polygons have 3600 points, so a few hundredths of a percent
 /// remain.
-TEST_P(swept_volume_test, agrees_with_the_rates_at_the_contacts) {
+TEST_P(capacity_of_samples, agrees_with_polygons_of_the_cut_points) {
     design_params tight = sample.design_params;
     tight.clearn_half = 0.0;
     const double polygons = rotor_pair(tight).swept_volume(tight.thick);
-    EXPECT_NEAR(polygons / 1000.0 / rates_cc, 1.0, 0.0005);
+    EXPECT_NEAR(polygons / 1000.0 / swept_cc, 1.0, 0.0005);
 }
 
 /// The contact points of the tool lie on the inner profile but for the clearance, which is
 /// clearn_half where the rotors come closest and larger on the flanks.
-TEST_P(swept_volume_test, measures_chambers_that_end_at_the_contacts) {
+TEST_P(capacity_of_samples, measures_chambers_that_end_at_the_contacts) {
     const double gap = rotor_pair(sample.design_params).largest_contact_gap();
     EXPECT_GT(gap, sample.design_params.clearn_half * 0.9);
     EXPECT_LT(gap, sample.design_params.clearn_half * 1.6);
 }
 
-INSTANTIATE_TEST_SUITE_P(samples, swept_volume_test, testing::ValuesIn(SAMPLES),
+INSTANTIATE_TEST_SUITE_P(samples, capacity_of_samples, testing::ValuesIn(SAMPLES),
                          [](const auto& row) { return std::string(row.param); });
 
 /// Tight pairs whose lobes have other proportions than those of the samples, mm.
@@ -256,14 +237,14 @@ class shape_of_lobes_test : public testing::TestWithParam<shape> {
 
 TEST_P(shape_of_lobes_test, counts_as_much_as_the_number_of_lobes) {
     const design_params design = tight_pair(GetParam());
-    const double rates = volume_of_the_rates(design);
-    EXPECT_NEAR(rotor_pair(design).swept_volume(design.thick, 180) / rates, 1.0, 0.0005)
+    const double swept = swept_volume_of(design);
+    EXPECT_NEAR(rotor_pair(design).swept_volume(design.thick, 180) / swept, 1.0, 0.0005)
         << "a pair that can be made";
     const std::string line =
         "| " + std::string(GetParam().name) + " | " + std::to_string(design.numlobes) + " | " +
         number_text(design.ecc) + " | " + number_text(design.radouter) + " | " +
         number_text(design.radinnroot) + " | " +
-        percent_text(percent_above(capacity_of_tight_pair(design), rates)) + " |";
+        percent_text(percent_above(capacity_of_tight_pair(design), swept)) + " |";
     EXPECT_TRUE(page_has(line)) << line;
 }
 

@@ -1,0 +1,137 @@
+#include "exact/polygon_overlap.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace kvt {
+
+namespace {
+
+double cross_product(const point2& a, const point2& b) {
+    return a.x * b.y - a.y * b.x;
+}
+
+double signed_area(const std::vector<point2>& points) {
+    double twice = 0.0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        twice += cross_product(points[i], points[(i + 1) % points.size()]);
+    }
+    return twice / 2.0;
+}
+
+point2 on_the_way(const point2& a, const point2& b, double share) {
+    return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share};
+}
+
+/// The part of the area integral that the edges of one polygon inside another have.
+double edges_inside(const indexed_polygon& edges, const indexed_polygon& other) {
+    double twice = 0.0;
+    std::vector<double> shares;
+    const std::vector<point2>& points = edges.points();
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const point2& a = points[i];
+        const point2& b = points[(i + 1) % points.size()];
+        shares.assign({0.0, 1.0});
+        other.add_crossings(a, b, shares);
+        std::ranges::sort(shares);
+        for (std::size_t k = 0; k + 1 < shares.size(); ++k) {
+            const double middle = (shares[k] + shares[k + 1]) / 2.0;
+            if (shares[k] < shares[k + 1] && other.contains(on_the_way(a, b, middle))) {
+                twice +=
+                    cross_product(on_the_way(a, b, shares[k]), on_the_way(a, b, shares[k + 1]));
+            }
+        }
+    }
+    return twice / 2.0;
+}
+
+}  // namespace
+
+indexed_polygon::indexed_polygon(std::vector<point2> points) : points_(std::move(points)) {
+    if (signed_area(points_) < 0.0) {
+        std::ranges::reverse(points_);
+    }
+    if (points_.empty()) {
+        return;
+    }
+    const auto [lowest, highest] = std::ranges::minmax_element(points_, {}, &point2::y);
+    bottom_ = lowest->y;
+    top_ = highest->y;
+    const auto [leftmost, rightmost] = std::ranges::minmax_element(points_, {}, &point2::x);
+    left_ = leftmost->x;
+    right_ = rightmost->x;
+    for (std::size_t edge = 0; edge < points_.size(); ++edge) {
+        const auto [low, high] = std::minmax(points_[edge].y, end_of(edge).y);
+        for (std::size_t band = band_of(low); band <= band_of(high); ++band) {
+            bands_[band].push_back(edge);
+        }
+    }
+}
+
+std::size_t indexed_polygon::band_of(double y) const {
+    const double share = top_ > bottom_ ? (y - bottom_) / (top_ - bottom_) : 0.0;
+    return static_cast<std::size_t>(
+        std::clamp(share * static_cast<double>(BANDS), 0.0, static_cast<double>(BANDS - 1)));
+}
+
+double indexed_polygon::area() const {
+    return signed_area(points_);
+}
+
+bool indexed_polygon::contains(const point2& point) const {
+    if (points_.empty() || point.y < bottom_ || point.y > top_ || point.x < left_ ||
+        point.x > right_) {
+        return false;
+    }
+    bool is_inside = false;
+    for (const std::size_t edge : bands_[band_of(point.y)]) {
+        const point2& a = points_[edge];
+        const point2& b = end_of(edge);
+        if ((a.y > point.y) != (b.y > point.y) &&
+            point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y)) {
+            is_inside = !is_inside;
+        }
+    }
+    return is_inside;
+}
+
+void indexed_polygon::add_crossings(const point2& a, const point2& b,
+                                    std::vector<double>& shares) const {
+    const auto [low, high] = std::minmax(a.y, b.y);
+    if (points_.empty() || high < bottom_ || low > top_ || std::max(a.x, b.x) < left_ ||
+        std::min(a.x, b.x) > right_) {
+        return;
+    }
+    const point2 way = difference(b, a);
+    for (std::size_t band = band_of(low); band <= band_of(high); ++band) {
+        for (const std::size_t edge : bands_[band]) {
+            const point2& c = points_[edge];
+            const point2 other = difference(end_of(edge), c);
+            const double turn = cross_product(way, other);
+            if (turn == 0.0) {
+                continue;
+            }
+            const point2 apart = difference(c, a);
+            const double share = cross_product(apart, other) / turn;
+            const double on_other = cross_product(apart, way) / turn;
+            if (share > 0.0 && share < 1.0 && on_other >= 0.0 && on_other <= 1.0) {
+                shares.push_back(share);
+            }
+        }
+    }
+}
+
+double shared_area(const indexed_polygon& a, const indexed_polygon& b) {
+    return edges_inside(a, b) + edges_inside(b, a);
+}
+
+indexed_polygon moved_aside(std::vector<point2> points) {
+    constexpr point2 ASIDE = {1.0e-7, 0.61e-7};
+    for (point2& point : points) {
+        point = {point.x + ASIDE.x, point.y + ASIDE.y};
+    }
+    return indexed_polygon(std::move(points));
+}
+
+}  // namespace kvt

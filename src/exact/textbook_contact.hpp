@@ -1,0 +1,30 @@
+// textbook_contact: the contact pressure of lobes that push, each a line contact. Source:
+// docs/formulas/exact_contact.md.
+#pragma once
+
+#include "exact/exact_pair.hpp"
+
+namespace kvt {
+
+struct contact_materials {
+    double young_inner = 0.0, young_outer = 0.0;      ///< MPa
+    double poisson_inner = 0.0, poisson_outer = 0.0;  ///< 1
+};
+
+/// 1 / ((1 - nu_i^2) / E_i + (1 - nu_o^2) / E_o), MPa
+double contact_modulus(const contact_materials& materials);
+
+struct contact_maximum {
+    double pressure = 0.0;  ///< MPa
+    double at = 0.0;        ///< angle of the lobe about the outer axis, radians
+    double force = 0.0;     ///< N, on that lobe
+};
+
+/// The largest pressure over a pitch for a torque in Nmm on the inner rotor:
+///     F = T a / sum of a^2       over the lobes below the line of centres, that the rotor pushes
+///     p0 = sqrt(F E (1/r + flank curvature) / (pi b))
+/// a is the arm of the contact normal about the inner axis. A flank hollower than the lobe has no
+/// line contact and does not count; 0 without any.
+contact_maximum largest_contact_pressure(const exact_pair& pair, double modulus, double torque);
+
+}  // namespace kvt

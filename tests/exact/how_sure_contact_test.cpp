@@ -1,0 +1,36 @@
+// The contact stress of the model against that of a textbook line contact: the table of the page
+// how-sure is made of the exact figures.
+#include "base/fixed_number.hpp"
+#include "base/whole_file.hpp"
+#include "exact/exact_figures.hpp"
+#include "support/performance_case.hpp"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace kvt {
+namespace {
+
+class contact_of_samples : public testing::TestWithParam<const char*> {};
+
+TEST_P(contact_of_samples, has_the_share_of_the_textbook_that_the_page_says) {
+    performance_case sample = load_performance_case(GetParam());
+    sample.run();
+    const double swept_cc = exact_rotors_of(sample.design_params).swept_cc;
+    const exact_performance exact = exact_performance_of(sample.design_params, swept_cc,
+                                                         sample.perf_inputs, sample.perf_results);
+    const double textbook = exact.contact.back().pressure;
+    const std::string line =
+        "| " + std::string(GetParam()) + " | " + fixed_number(textbook, 0) + " | " +
+        fixed_number(sample.perf_results.hertz_max / textbook, 3) + " |";
+    const std::string page =
+        read_file(std::filesystem::path(KVT_TEST_DATA) / "../../docs/formulas/how-sure.md");
+    EXPECT_NE(page.find("\n" + line + "\n"), std::string::npos) << line;
+}
+
+INSTANTIATE_TEST_SUITE_P(samples, contact_of_samples, testing::ValuesIn(SAMPLES),
+                         [](const auto& row) { return std::string(row.param); });
+
+}  // namespace
+}  // namespace kvt
