@@ -52,6 +52,7 @@ consteval auto form_rows() {
 #include "core/texts/report.inc"
 #include "core/texts/result_tables.inc"
 #include "core/texts/select_graphs.inc"
+#include "core/texts/sheet.inc"
 #include "core/texts/step.inc"
 #include "core/texts/viewwinfrm.inc"
     });

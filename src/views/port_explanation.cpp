@@ -74,21 +74,38 @@ class port_drawing {
           groove_centre_{-design.ecc / 2.0, 0.0},
           unit_(design.maxdiameter / 100.0) {}
 
-    explanation run() {
+    explanation with_section() {
         drawing_.left = at(-116.0, 0.0).x;
         drawing_.right = at(172.0, 0.0).x;
         drawing_.bottom = -66.0 * unit_;
         drawing_.top = 66.0 * unit_;
-        add_outlines();
-        for (const explained_port& port : {outlet_of(ports_), inlet_of(ports_)}) {
-            name_port(port);
-            name_inner_angles(port);
-            name_outer_angles(port);
-            name_radii(port);
-        }
+        add_outlines({true, true, true});
+        name_all(outlet_of(ports_));
+        name_all(inlet_of(ports_));
         name_corner();
         name_groove();
         add_section();
+        return std::move(drawing_);
+    }
+
+    explanation face(const drawn_ports& drawn) {
+        drawing_.left = at(-66.0, 0.0).x;
+        drawing_.right = at(66.0, 0.0).x;
+        drawing_.bottom = -66.0 * unit_;
+        drawing_.top = 66.0 * unit_;
+        add_outlines(drawn);
+        if (drawn.outlet) {
+            name_all(outlet_of(ports_));
+        }
+        if (drawn.inlet) {
+            name_all(inlet_of(ports_));
+        }
+        if (drawn.outlet && ports_.outlet.built.f > 0.0) {
+            name_corner();
+        }
+        if (drawn.groove) {
+            name_groove();
+        }
         return std::move(drawing_);
     }
 
@@ -108,7 +125,14 @@ class port_drawing {
         return name(label, at(62.0, y), text_side::right_of);
     }
 
-    void add_outlines() {
+    void name_all(const explained_port& port) {
+        name_port(port);
+        name_inner_angles(port);
+        name_outer_angles(port);
+        name_radii(port);
+    }
+
+    void add_outlines(const drawn_ports& drawn) {
         const auto last = [](std::int16_t index) { return static_cast<std::size_t>(index); };
         add(outline_style::background,
             listed_points(rotors_.outer_x, rotors_.outer_y, last(rotors_.outer_last)), false);
@@ -116,12 +140,19 @@ class port_drawing {
             listed_points(rotors_.inner_x, rotors_.inner_y,
                           static_cast<std::size_t>(PROFILE_POINTS) - 1),
             false);
-        add(outline_style::groove,
-            listed_points(ports_.groove_x, ports_.groove_y, last(ports_.groove_main_last)), true);
-        add(outline_style::inlet,
-            listed_points(ports_.inlet.x, ports_.inlet.y, last(ports_.inlet.last)), true);
-        add(outline_style::outlet,
-            listed_points(ports_.outlet.x, ports_.outlet.y, last(ports_.outlet.last)), true);
+        if (drawn.groove) {
+            add(outline_style::groove,
+                listed_points(ports_.groove_x, ports_.groove_y, last(ports_.groove_main_last)),
+                true);
+        }
+        if (drawn.inlet) {
+            add(outline_style::inlet,
+                listed_points(ports_.inlet.x, ports_.inlet.y, last(ports_.inlet.last)), true);
+        }
+        if (drawn.outlet) {
+            add(outline_style::outlet,
+                listed_points(ports_.outlet.x, ports_.outlet.y, last(ports_.outlet.last)), true);
+        }
         add(outline_style::axis, {at(-60.0, 0.0), at(60.0, 0.0)}, false);
         add(outline_style::axis, {at(0.0, -30.0), at(0.0, 30.0)}, false);
         add(outline_style::axis, {{0.0, -30.0 * unit_}, {0.0, 30.0 * unit_}}, false);
@@ -260,7 +291,12 @@ class port_drawing {
 
 explanation explain_ports(const design_params& design, const rotor_profiles& rotors,
                           const port_params& ports) {
-    return port_drawing(design, rotors, ports).run();
+    return port_drawing(design, rotors, ports).with_section();
+}
+
+explanation explain_face(const design_params& design, const rotor_profiles& rotors,
+                         const port_params& ports, const drawn_ports& drawn) {
+    return port_drawing(design, rotors, ports).face(drawn);
 }
 
 }  // namespace kvt

@@ -16,4 +16,14 @@ namespace kvt {
 explanation explain_ports(const design_params& design, const rotor_profiles& rotors,
                           const port_params& ports);
 
+/// Which outlines a drawing shows.
+struct drawn_ports {
+    bool inlet = true, outlet = true, groove = true;
+};
+
+/// The face of the housing alone, of any design whose ports were finished: what is not drawn has no
+/// names either, nor has the radius of sharp corners.
+explanation explain_face(const design_params& design, const rotor_profiles& rotors,
+                         const port_params& ports, const drawn_ports& drawn);
+
 }  // namespace kvt

@@ -35,19 +35,33 @@ class rotor_drawing {
           inner_(listed_points(rotors.inner_x, rotors.inner_y,
                                static_cast<std::size_t>(PROFILE_POINTS) - 1)) {}
 
-    explanation run() {
+    explanation pair_and_side_view() {
         drawing_.left = at(-116.0, 0.0).x;
         drawing_.right = at(172.0, 0.0).x;
         drawing_.bottom = -78.0 * unit_;
         drawing_.top = 74.0 * unit_;
         add_pair();
         add_side_view();
-        name_lobes();
-        name_materials();
-        name_outer_rotor();
-        name_inner_rotor();
-        name_clearances();
-        name_sizes();
+        name_pair();
+        return std::move(drawing_);
+    }
+
+    explanation pair() {
+        drawing_.left = at(-63.0, 0.0).x;
+        drawing_.right = at(63.0, 0.0).x;
+        drawing_.bottom = -70.0 * unit_;
+        drawing_.top = 62.0 * unit_;
+        add_pair();
+        name_pair();
+        return std::move(drawing_);
+    }
+
+    explanation side_view() {
+        drawing_.left = at(108.0, 0.0).x;
+        drawing_.right = at(152.0, 0.0).x + design_.thick + design_.axial_clear;
+        drawing_.bottom = -70.0 * unit_;
+        drawing_.top = 68.0 * unit_;
+        add_side_view();
         return std::move(drawing_);
     }
 
@@ -142,6 +156,14 @@ class rotor_drawing {
                                 {{wall, bore_}, {wall, y + 2.0 * unit_}}};
     }
 
+    void name_pair() {
+        name_lobes();
+        name_materials();
+        name_outer_rotor();
+        name_inner_rotor();
+        name_clearances();
+        name_sizes();
+    }
     void name_lobes() {
         const double radius = (lobe_centre_radius(design_, rotors_) + radius_) / 2.0;
         for (int lobe = 1; lobe <= design_.numlobes; ++lobe) {
@@ -179,6 +201,9 @@ class rotor_drawing {
         root_radius.lines = {{outer_, root}};
         root_radius.leader = {root_radius.text_at, root};
 
+        if (design_.fillet <= 0.0) {
+            return;
+        }
         explained_parameter& fillet = name_left("Label6", -24.0);
         fillet.leader = {fillet.text_at, middle_of_fillet(lobe_near(180.0))};
         fillet.leader_has_arrow = true;
@@ -250,7 +275,15 @@ class rotor_drawing {
 }  // namespace
 
 explanation explain_rotors(const design_params& design, const rotor_profiles& rotors) {
-    return rotor_drawing(design, rotors).run();
+    return rotor_drawing(design, rotors).pair_and_side_view();
+}
+
+explanation explain_pair(const design_params& design, const rotor_profiles& rotors) {
+    return rotor_drawing(design, rotors).pair();
+}
+
+explanation explain_side_view(const design_params& design, const rotor_profiles& rotors) {
+    return rotor_drawing(design, rotors).side_view();
 }
 
 }  // namespace kvt

@@ -14,4 +14,9 @@ namespace kvt {
 /// design with large ones.
 explanation explain_rotors(const design_params& design, const rotor_profiles& rotors);
 
+/// The two parts of it alone, of any calculated pair: each fills its own picture. Without fillets
+/// their radius has no name.
+explanation explain_pair(const design_params& design, const rotor_profiles& rotors);
+explanation explain_side_view(const design_params& design, const rotor_profiles& rotors);
+
 }  // namespace kvt

@@ -97,6 +97,15 @@ bool are_older_ones_wanted(const program& kavetta, user& person) {
     return person.ask(question, question_buttons::yes_no) == answer::yes;
 }
 
+/// The first of the files needs profiles.
+bool may_write_any(const program& kavetta, user& person, std::span<const written_file> files) {
+    const bool is_older = std::ranges::any_of(files, [&](const written_file& file) {
+        return has_results(kavetta, file) && older_entries(kavetta, file) != nullptr;
+    });
+    return has_results_told(kavetta, person, files.front()) &&
+           (!is_older || are_older_ones_wanted(kavetta, person));
+}
+
 }  // namespace
 
 const noted_entries* older_entries(const program& kavetta, const written_file& file) {
@@ -118,12 +127,11 @@ bool may_write(const program& kavetta, user& person, const written_file& file) {
 }
 
 bool may_open_cnc_form(const program& kavetta, user& person) {
-    const std::span<const written_file> files = files_of(file_group::cnc);
-    const bool is_older = std::ranges::any_of(files, [&](const written_file& file) {
-        return has_results(kavetta, file) && older_entries(kavetta, file) != nullptr;
-    });
-    return has_results_told(kavetta, person, files.front()) &&
-           (!is_older || are_older_ones_wanted(kavetta, person));
+    return may_write_any(kavetta, person, files_of(file_group::cnc));
+}
+
+bool may_write_design(const program& kavetta, user& person) {
+    return may_write_any(kavetta, person, written_files());
 }
 
 bool has_results(const program& kavetta, user& person,

@@ -27,6 +27,10 @@ bool may_write(const program& kavetta, user& person, const written_file& file);
 /// question is about everything that can be written.
 bool may_open_cnc_form(const program& kavetta, user& person);
 
+/// The same for a file about the whole design: profiles must be there, and the question is about
+/// everything that the records hold of the open project.
+bool may_write_design(const program& kavetta, user& person);
+
 /// False, told, when a file of these names has no results of the open project.
 bool has_results(const program& kavetta, user& person,
                  const std::set<std::string, std::less<>>& cnc_files);

@@ -3,6 +3,7 @@
 #include "app/desk/exit_program.hpp"
 #include "app/desk/explanation_windows.hpp"
 #include "app/desk/update_check.hpp"
+#include "app/files/design_sheet_file.hpp"
 #include "app/files/file_output.hpp"
 #include "app/files/performance_files.hpp"
 #include "app/files/print_project.hpp"
@@ -10,6 +11,7 @@
 #include "app/gt/gt_simulation.hpp"
 #include "app/models/solid_models.hpp"
 #include "ui/parts/internet_transfer.hpp"
+#include "ui/parts/sheet_pdf.hpp"
 #include "ui/shell/help_file.hpp"
 
 #include <array>
@@ -30,6 +32,11 @@ void check_now(program& kavetta, user& person) {
     check_for_updates_now(kavetta, person, internet);
 }
 
+void save_sheet(program& kavetta, user& person) {
+    sheet_pdf pdf(system_paper());
+    save_design_sheet(kavetta, person, pdf);
+}
+
 constexpr auto MENU = menu_kind::menu;
 constexpr auto ENTRY = menu_kind::entry;
 constexpr auto NO_KEY = "";
@@ -45,6 +52,7 @@ const std::array MENU_ROWS = {
                  return false;
              }},
     menu_row{"mnufileprint", "mnufile", ENTRY, false, "Ctrl+P", going_on<print_project>},
+    menu_row{"mnufilesheet", "mnufile", ENTRY, false, "Ctrl+Shift+P", going_on<save_sheet>},
     menu_row{"mnufileexit", "mnufile", ENTRY, false, "Ctrl+Q", exit_program},
     menu_row{"sep", "mnufile", menu_kind::separator},
     menu_row{"mnufileprev", "mnufile", menu_kind::recent_entries},
