@@ -13,8 +13,8 @@ namespace kvt {
 namespace {
 
 constexpr double DEGREE = std::numbers::pi / 180.0;
-constexpr double SAGITTA = 0.0005;  ///< mm, of the chamber's polygon
-constexpr double OPEN = 1e-4;       ///< mm2; below it rounding of the polygons
+constexpr double SAGITTA = 0.002;  ///< mm, of the chamber's polygon
+constexpr double OPEN = 1e-4;      ///< mm2; below it rounding of the polygons
 constexpr double NEARNESS = 1e-3 * DEGREE;
 constexpr double SHARE_WITH_SPEED = 0.1;  ///< of a chamber's largest opened area
 

@@ -150,7 +150,7 @@ TEST_F(port_timing_of_sample, oil_speed_is_rates_over_areas) {
 
 TEST(port_timing, areas_never_exceed_the_chamber_or_the_port) {
     random_values random(property_seed());
-    for (int run = 0; run < property_count(12); ++run) {
+    for (int run = 0; run < property_count(8); ++run) {
         const program kavetta = random_design(random);
         const exact_pair pair = nominal_pair(kavetta.design_params);
         const lobe_outline outline = outline_of_lobe(kavetta.design_params);

@@ -75,7 +75,7 @@ Qt::Alignment qt_alignment(sheet_alignment alignment) {
     return Qt::AlignHCenter;
 }
 
-void paint_path(QPainter& painter, const sheet_path& path, double dots_per_mm) {
+void paint_path(QPainter& painter, const page_path& path, double dots_per_mm) {
     QPolygonF points;
     for (const point2& point : path.points) {
         points.append(QPointF(point.x, point.y) * dots_per_mm);
@@ -89,7 +89,7 @@ void paint_path(QPainter& painter, const sheet_path& path, double dots_per_mm) {
     }
 }
 
-void paint_text(QPainter& painter, const sheet_text& text, double dots_per_mm) {
+void paint_text(QPainter& painter, const page_text& text, double dots_per_mm) {
     const sheet_box& box = text.box;
     painter.setFont(qt_font(text.font, dots_per_mm));
     painter.drawText(QRectF(box.left * dots_per_mm, box.top * dots_per_mm, box.width * dots_per_mm,
@@ -142,11 +142,11 @@ std::string sheet_pdf::document(const std::vector<sheet_page>& pages, std::strin
 }
 
 void paint_sheet_page(QPainter& painter, const sheet_page& page, double dots_per_mm) {
-    for (const sheet_path& path : page.paths) {
+    for (const page_path& path : page.paths) {
         paint_path(painter, path, dots_per_mm);
     }
     painter.setPen(Qt::black);
-    for (const sheet_text& text : page.texts) {
+    for (const page_text& text : page.texts) {
         paint_text(painter, text, dots_per_mm);
     }
 }

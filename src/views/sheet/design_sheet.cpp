@@ -196,7 +196,7 @@ class sheet_flow {
         return (cell == 0 ? place.width - values * place.value_width : place.value_width) -
                CELL_INDENT;
     }
-    laid_row laid(const sheet_row& row, const table_place& place) const {
+    laid_row laid(const page_row& row, const table_place& place) const {
         laid_row lines;
         std::size_t most = 1;
         for (std::size_t cell = 0; cell < row.size(); ++cell) {
@@ -207,14 +207,14 @@ class sheet_flow {
         lines.height = static_cast<double>(most) * line_height(TEXT_FONT) + 0.7;
         return lines;
     }
-    double height_of_rows(const std::vector<sheet_row>& rows, const table_place& place) const {
-        return std::accumulate(
-            rows.begin(), rows.end(), 0.0,
-            [&](double sum, const sheet_row& row) { return sum + laid(row, place).height; });
+    double height_of_rows(const std::vector<page_row>& rows, const table_place& place) const {
+        return std::accumulate(rows.begin(), rows.end(), 0.0, [&](double sum, const page_row& row) {
+            return sum + laid(row, place).height;
+        });
     }
     double heading_height() const { return line_height(TABLE_HEADING_FONT) + 1.0; }
 
-    void add_row(const sheet_row& row, const table_place& place, double top) {
+    void add_row(const page_row& row, const table_place& place, double top) {
         const laid_row lines = laid(row, place);
         double left = place.left;
         for (std::size_t cell = 0; cell < row.size(); ++cell) {
@@ -230,12 +230,12 @@ class sheet_flow {
             straight_line({place.left, bottom}, {place.left + place.width, bottom}, RULE_PEN));
     }
     /// Answers where it ends.
-    double add_table(std::string_view heading, const std::vector<sheet_row>& rows,
+    double add_table(std::string_view heading, const std::vector<page_row>& rows,
                      const table_place& place, double top) {
         add_lines(page(), {own_text(heading)}, {place.left, top, place.width, 0.0},
                   TABLE_HEADING_FONT);
         top += heading_height();
-        for (const sheet_row& row : rows) {
+        for (const page_row& row : rows) {
             add_row(row, place, top);
             top += laid(row, place).height;
         }
@@ -243,7 +243,7 @@ class sheet_flow {
     }
 
     /// Entries at the left, results at the right.
-    void add_tables(const std::vector<sheet_row>& given, const std::vector<sheet_row>& found) {
+    void add_tables(const std::vector<page_row>& given, const std::vector<page_row>& found) {
         const double width = (content_.width - GUTTER) / 2.0;
         const table_place left{content_.left, width, VALUE_WIDTH};
         const table_place right{content_.left + width + GUTTER, width, VALUE_WIDTH};
@@ -301,7 +301,7 @@ class sheet_flow {
                     texts_of_dimensions(), paper_.metrics);
         top_ += FACE_HEIGHT + 1.0;
         const table_place place{content_.left, content_.width, PORT_VALUE_WIDTH};
-        const std::vector<sheet_row> rows = port_rows(source_);
+        const std::vector<page_row> rows = port_rows(source_);
         need(heading_height() + height_of_rows(rows, place));
         top_ = add_table("entries", rows, place, top_);
     }
@@ -311,7 +311,7 @@ class sheet_flow {
             add_missing("performance", "no_performance");
             return;
         }
-        const std::vector<sheet_row> found = performance_result_rows(source_);
+        const std::vector<page_row> found = performance_result_rows(source_);
         const table_place half{0.0, (content_.width - GUTTER) / 2.0, VALUE_WIDTH};
         need(SECTION_GAP + line_height(HEADING_FONT) + 2.0 + heading_height() +
              height_of_rows(found, half));

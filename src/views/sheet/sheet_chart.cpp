@@ -19,6 +19,7 @@ constexpr double SAMPLE_SHARE = 0.45;  ///< of a curve's room in the legend
 constexpr double SAMPLE_GAP = 1.0;     ///< mm, to its text
 constexpr double INDENT = 4.0;         ///< of the legend
 constexpr int LEGEND_LINES = 2;
+constexpr double LEGEND_GAP = 1.0;  ///< above it
 
 constexpr sheet_font FONT = {6.5, false};
 constexpr sheet_font TITLE_FONT = {6.5, true};
@@ -95,7 +96,7 @@ class chart_on_paper {
         const std::vector<chart_segment>& segments = drawing_.graph_line;
         for (std::size_t first = 0, next = 0; first < segments.size(); first = next) {
             const int series = segments[first].series;
-            sheet_path curve{
+            page_path curve{
                 {on_paper(segments[first].x1, segments[first].y1)}, pen_of(series), std::nullopt};
             for (; next < segments.size() && segments[next].series == series; ++next) {
                 curve.points.push_back(on_paper(segments[next].x2, segments[next].y2));
@@ -143,7 +144,7 @@ void add_chart(sheet_page& page, const result_chart& chart, const sheet_box& are
                const sheet_metrics& metrics) {
     const double legend = LEGEND_LINES * line_height(FONT);
     const chart_size size{area.width / MM + CHART_FRAME.width,
-                          (area.height - legend) / MM + CHART_FRAME.height};
+                          (area.height - legend - LEGEND_GAP) / MM + CHART_FRAME.height};
     const text_metrics in_twips = [&](std::string_view text) {
         return text_extent{metrics(text, TITLE_FONT) / MM, line_height(TITLE_FONT) / MM};
     };

@@ -108,7 +108,7 @@ class drawing_layout {
 
     void add_outline(const explained_outline& outline) {
         const outline_look& look = look_of(outline.style);
-        sheet_path path{on_paper(outline.points), std::nullopt, std::nullopt};
+        page_path path{on_paper(outline.points), std::nullopt, std::nullopt};
         path.pen = {look.line, look.width * MM_A_WIDTH,
                     look.is_dashed ? sheet_dashes::dash_dotted : sheet_dashes::solid};
         if (outline.is_filled) {

@@ -28,11 +28,11 @@ double line_height(const sheet_font& font) {
     return font.points * MM_PER_POINT * LINE_SPACING;
 }
 
-sheet_path straight_line(const point2& from, const point2& to, const sheet_pen& pen) {
+page_path straight_line(const point2& from, const point2& to, const sheet_pen& pen) {
     return {{from, to}, pen, std::nullopt};
 }
 
-sheet_path rectangle(const sheet_box& box, const sheet_pen& pen) {
+page_path rectangle(const sheet_box& box, const sheet_pen& pen) {
     return {{{box.left, box.top},
              {box.right(), box.top},
              {box.right(), box.bottom()},

@@ -35,7 +35,7 @@ struct sheet_pen {
 };
 
 /// A polyline, or the area within it. It is filled first.
-struct sheet_path {
+struct page_path {
     std::vector<point2> points;
     std::optional<sheet_pen> pen;
     std::optional<rgb_colour> fill;
@@ -49,7 +49,7 @@ struct sheet_font {
 enum class sheet_alignment { left, right, centre };
 
 /// One line, in the middle of its box's height.
-struct sheet_text {
+struct page_text {
     sheet_box box;
     std::string text;
     sheet_font font;
@@ -58,8 +58,8 @@ struct sheet_text {
 
 /// Paths below texts, each in their order.
 struct sheet_page {
-    std::vector<sheet_path> paths;
-    std::vector<sheet_text> texts;
+    std::vector<page_path> paths;
+    std::vector<page_text> texts;
 };
 
 /// The width of a text, mm.
@@ -72,8 +72,8 @@ inline constexpr rgb_colour SHEET_GREY = {150, 150, 150};
 /// The height of a line of text, mm: 1.2 times its letters.
 double line_height(const sheet_font& font);
 
-sheet_path straight_line(const point2& from, const point2& to, const sheet_pen& pen);
-sheet_path rectangle(const sheet_box& box, const sheet_pen& pen);
+page_path straight_line(const point2& from, const point2& to, const sheet_pen& pen);
+page_path rectangle(const sheet_box& box, const sheet_pen& pen);
 
 /// The words of a text in lines that are no wider than `width`. A single word that is wider is cut
 /// and ends in an ellipsis.

@@ -123,7 +123,7 @@ std::string value_of(const entry_row& row, const entries& boxes, const sheet_sou
     return typed.empty() ? "" : typed + unit_text(row.unit, source);
 }
 
-sheet_row single_row(const entry_row& row, const entries& boxes, const sheet_source& source) {
+page_row single_row(const entry_row& row, const entries& boxes, const sheet_source& source) {
     return {caption(row.form, row.label, source), value_of(row, boxes, source)};
 }
 
@@ -186,7 +186,7 @@ std::string result_text(const used_result& result, const sheet_source& source) {
         shown_text(value_of(*result.quantity, source.results), *result.use, source.unit));
 }
 
-void add_speed_limit(std::vector<sheet_row>& rows, const sheet_source& source) {
+void add_speed_limit(std::vector<page_row>& rows, const sheet_source& source) {
     if (const std::optional<speed_limit> limit = limit_of_speed(source.results)) {
         rows.push_back({std::string(message_text(*limit == speed_limit::tip_velocity
                                                      ? message::speed_limited_by_tip
@@ -209,8 +209,8 @@ std::string sheet_text_of(std::string_view name, const sheet_source& source) {
     return caption("sheet", name, source);
 }
 
-std::vector<sheet_row> rotor_entry_rows(const sheet_source& source) {
-    std::vector<sheet_row> rows;
+std::vector<page_row> rotor_entry_rows(const sheet_source& source) {
+    std::vector<page_row> rows;
     for (const entry_row& row : ROTOR_ENTRIES) {
         rows.push_back(single_row(row, source.of_profiles.boxes, source));
     }
@@ -219,7 +219,7 @@ std::vector<sheet_row> rotor_entry_rows(const sheet_source& source) {
     return rows;
 }
 
-std::vector<sheet_row> rotor_result_rows(const sheet_source& source) {
+std::vector<page_row> rotor_result_rows(const sheet_source& source) {
     const rotor_profiles& rotors = source.rotors;
     return {
         {caption("Form1", "Label11", source),
@@ -233,9 +233,9 @@ std::vector<sheet_row> rotor_result_rows(const sheet_source& source) {
     };
 }
 
-std::vector<sheet_row> port_rows(const sheet_source& source) {
+std::vector<page_row> port_rows(const sheet_source& source) {
     const entries& boxes = source.of_ports->boxes;
-    std::vector<sheet_row> rows = {
+    std::vector<page_row> rows = {
         {"", caption(PORTS, "Frame2", source), caption(PORTS, "Frame3", source)}};
     for (const port_entry_row& row : PORT_ENTRIES) {
         rows.push_back({caption(PORTS, row.inlet.label, source), value_of(row.inlet, boxes, source),
@@ -255,9 +255,9 @@ std::vector<sheet_row> port_rows(const sheet_source& source) {
     return rows;
 }
 
-std::vector<sheet_row> performance_entry_rows(const sheet_source& source) {
+std::vector<page_row> performance_entry_rows(const sheet_source& source) {
     const entries& boxes = source.of_performance->boxes;
-    std::vector<sheet_row> rows;
+    std::vector<page_row> rows;
     for (const performance_row& row : PERFORMANCE_ENTRIES) {
         std::string value = boxes.*row.box;
         if (row.second != nullptr) {
@@ -268,8 +268,8 @@ std::vector<sheet_row> performance_entry_rows(const sheet_source& source) {
     return rows;
 }
 
-std::vector<sheet_row> performance_result_rows(const sheet_source& source) {
-    std::vector<sheet_row> rows;
+std::vector<page_row> performance_result_rows(const sheet_source& source) {
+    std::vector<page_row> rows;
     for (const used_result& result : results_at(result_place::sheet)) {
         rows.push_back({sheet_text_of(result.use->name, source), result_text(result, source)});
     }

@@ -29,7 +29,7 @@ class reading_writer : public sheet_writer {
         }
         titles.emplace_back(title);
         for (const sheet_page& page : pages) {
-            for (const sheet_text& text : page.texts) {
+            for (const page_text& text : page.texts) {
                 words.push_back(text.text);
             }
         }

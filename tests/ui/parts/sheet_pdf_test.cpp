@@ -67,7 +67,7 @@ TEST_F(sheet_pdf_test, has_every_text_of_the_pages) {
         EXPECT_EQ(qt_text(read(pdf.document(pages, "title"))).count('\f'),
                   static_cast<qsizetype>(pages.size()));
         for (const sheet_page& page : pages) {
-            for (const sheet_text& text : page.texts) {
+            for (const page_text& text : page.texts) {
                 EXPECT_TRUE(found.contains(qt_text(text.text).simplified())) << text.text;
             }
         }

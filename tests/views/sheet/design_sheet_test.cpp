@@ -18,7 +18,7 @@ using texts = std::vector<std::string>;
 bool is_written(const std::vector<sheet_page>& pages, std::string_view text) {
     return std::ranges::any_of(pages, [&](const sheet_page& page) {
         return std::ranges::any_of(page.texts,
-                                   [&](const sheet_text& each) { return each.text == text; });
+                                   [&](const page_text& each) { return each.text == text; });
     });
 }
 
@@ -145,7 +145,7 @@ TEST_F(design_sheet_of_one, draws_the_pair_to_the_scale_it_names) {
     EXPECT_TRUE(is_written({all.front()}, "Scale 1:1") || is_written({all.front()}, "Scale 1:1.5"));
     double left = 1e9;
     double right = -1e9;
-    for (const sheet_path& path : all.front().paths) {
+    for (const page_path& path : all.front().paths) {
         if (path.fill == rgb_colour{0xd5, 0xdd, 0xe6} && path.points.size() == 181U) {
             for (const point2& point : path.points) {
                 left = std::min(left, point.x);

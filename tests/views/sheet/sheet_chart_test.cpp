@@ -26,7 +26,7 @@ TEST(sheet_chart, stays_in_its_area) {
     for (const chart_row& chart : chart_rows()) {
         for (const std::int16_t language : {ENGLISH, GERMAN}) {
             const sheet_page page = drawn(chart.kind, language);
-            for (const sheet_path& path : page.paths) {
+            for (const page_path& path : page.paths) {
                 for (const point2& point : path.points) {
                     EXPECT_GE(point.x, AREA.left);
                     EXPECT_LE(point.x, AREA.right());
@@ -34,7 +34,7 @@ TEST(sheet_chart, stays_in_its_area) {
                     EXPECT_LE(point.y, AREA.bottom());
                 }
             }
-            for (const sheet_text& text : page.texts) {
+            for (const page_text& text : page.texts) {
                 const sheet_box box = extent_of(text, even_width);
                 EXPECT_GE(box.left, AREA.left - 0.1) << text.text;
                 EXPECT_LE(box.right(), AREA.right() + 0.1) << text.text;
@@ -56,7 +56,7 @@ TEST(sheet_chart, writes_nothing_over_anything_else) {
 
 TEST(sheet_chart, tells_five_curves_apart_without_colours) {
     std::set<std::pair<sheet_dashes, double>> looks;
-    for (const sheet_path& path : drawn(chart_kind::flow).paths) {
+    for (const page_path& path : drawn(chart_kind::flow).paths) {
         if (path.points.size() > 2) {
             looks.insert({path.pen->dashes, path.pen->width});
         }
@@ -68,13 +68,13 @@ TEST(sheet_chart, has_a_curve_and_a_sample_for_each_speed) {
     const sheet_page page = drawn(chart_kind::flow);
     const auto is_written = [&](std::string_view text) {
         return std::ranges::any_of(page.texts,
-                                   [&](const sheet_text& each) { return each.text == text; });
+                                   [&](const page_text& each) { return each.text == text; });
     };
     const result_chart chart =
         make_chart(chart_kind::flow, chart_results(), ENGLISH, unit_system::metric);
     const std::size_t points = chart.curves.front().values.size();
     EXPECT_EQ(std::ranges::count_if(
-                  page.paths, [&](const sheet_path& path) { return path.points.size() == points; }),
+                  page.paths, [&](const page_path& path) { return path.points.size() == points; }),
               5);
     EXPECT_TRUE(is_written(chart.title));
     EXPECT_TRUE(is_written(chart.legend_caption));

@@ -50,9 +50,9 @@ class sheet_drawing_of_pair : public testing::Test {
         add_drawing(page, pair, {AREA, COLUMN, scale}, name_of, even_width);
         return page;
     }
-    static std::vector<sheet_text> names_in(const sheet_page& page) {
-        std::vector<sheet_text> names;
-        std::ranges::copy_if(page.texts, std::back_inserter(names), [](const sheet_text& text) {
+    static std::vector<page_text> names_in(const sheet_page& page) {
+        std::vector<page_text> names;
+        std::ranges::copy_if(page.texts, std::back_inserter(names), [](const page_text& text) {
             return text.text.starts_with("Name of");
         });
         return names;
@@ -86,7 +86,7 @@ TEST_F(sheet_drawing_of_pair, keeps_names_apart_however_small_it_is) {
     for (const double scale : {0.01, 0.1, 0.5, 0.9}) {
         const sheet_page page = drawn(scale);
         std::vector<sheet_box> boxes;
-        for (const sheet_text& text : page.texts) {
+        for (const page_text& text : page.texts) {
             if (text.text.size() < 3) {
                 continue;  // the number of a lobe
             }
@@ -101,7 +101,7 @@ TEST_F(sheet_drawing_of_pair, keeps_names_apart_however_small_it_is) {
 
 TEST_F(sheet_drawing_of_pair, leads_from_the_column_to_the_dimension) {
     const sheet_page page = drawn(0.5);
-    const auto starts_beside_a_column = [](const sheet_path& path) {
+    const auto starts_beside_a_column = [](const page_path& path) {
         const double x = path.points.front().x;
         return path.points.size() > 1 && (std::abs(x - 51.2) < 1e-9 || std::abs(x - 138.8) < 1e-9);
     };
@@ -114,7 +114,7 @@ TEST_F(sheet_drawing_of_pair, leads_from_the_column_to_the_dimension) {
 TEST_F(sheet_drawing_of_pair, arrows_are_as_large_at_every_scale) {
     const auto arrows = [](const sheet_page& page) {
         std::vector<double> lengths;
-        for (const sheet_path& path : page.paths) {
+        for (const page_path& path : page.paths) {
             if (path.fill && !path.pen) {
                 const point2 foot{(path.points[1].x + path.points[2].x) / 2.0,
                                   (path.points[1].y + path.points[2].y) / 2.0};

@@ -22,7 +22,7 @@ inline sheet_paper letter_paper() {
 }
 
 /// Where the letters of a text stand.
-inline sheet_box extent_of(const sheet_text& text, const sheet_metrics& metrics) {
+inline sheet_box extent_of(const page_text& text, const sheet_metrics& metrics) {
     const double width = metrics(text.text, text.font);
     const double height = line_height(text.font);
     double left = text.box.left;
@@ -48,7 +48,7 @@ inline std::vector<std::string> misplaced_texts(const sheet_page& page, const sh
                            paper.size.height - 2.0 * LEAST_MARGIN};
     std::vector<std::string> findings;
     std::vector<sheet_box> boxes;
-    for (const sheet_text& text : page.texts) {
+    for (const page_text& text : page.texts) {
         const sheet_box box = extent_of(text, paper.metrics);
         if (!text.text.empty() && (box.left < inside.left || box.right() > inside.right() ||
                                    box.top < inside.top || box.bottom() > inside.bottom())) {
@@ -68,7 +68,7 @@ inline std::vector<std::string> misplaced_texts(const sheet_page& page, const sh
 inline std::size_t paths_outside(const sheet_page& page, const sheet_paper& paper) {
     constexpr double LEAST_MARGIN = 8.0;
     std::size_t count = 0;
-    for (const sheet_path& path : page.paths) {
+    for (const page_path& path : page.paths) {
         for (const point2& point : path.points) {
             if (point.x < LEAST_MARGIN || point.x > paper.size.width - LEAST_MARGIN ||
                 point.y < LEAST_MARGIN || point.y > paper.size.height - LEAST_MARGIN) {

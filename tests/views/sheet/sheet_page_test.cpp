@@ -50,7 +50,7 @@ TEST(sheet_page, puts_lines_below_each_other) {
 }
 
 TEST(sheet_page, rectangles_close) {
-    const sheet_path frame = rectangle({1.0, 2.0, 3.0, 4.0}, {});
+    const page_path frame = rectangle({1.0, 2.0, 3.0, 4.0}, {});
     ASSERT_EQ(frame.points.size(), 5U);
     EXPECT_EQ(frame.points.front(), frame.points.back());
     EXPECT_EQ(frame.points[2], (point2{4.0, 6.0}));

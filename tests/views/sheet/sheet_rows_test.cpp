@@ -12,19 +12,19 @@
 namespace kvt {
 namespace {
 
-using rows = std::vector<sheet_row>;
+using rows = std::vector<page_row>;
 
-const sheet_row* find_row(const rows& table, std::string_view name) {
+const page_row* find_row(const rows& table, std::string_view name) {
     const auto found =
-        std::ranges::find_if(table, [&](const sheet_row& row) { return row.front() == name; });
+        std::ranges::find_if(table, [&](const page_row& row) { return row.front() == name; });
     return found == table.end() ? nullptr : &*found;
 }
 
 class sheet_rows : public testing::Test {
   protected:
-    static sheet_row row(const rows& table, std::string_view name) {
-        const sheet_row* found = find_row(table, name);
-        return found == nullptr ? sheet_row{"no row", std::string(name)} : *found;
+    static page_row row(const rows& table, std::string_view name) {
+        const page_row* found = find_row(table, name);
+        return found == nullptr ? page_row{"no row", std::string(name)} : *found;
     }
 
     program kavetta = performed_design("n07_engine_oil_groove");
@@ -32,7 +32,7 @@ class sheet_rows : public testing::Test {
 
 TEST_F(sheet_rows, entries_have_their_unit) {
     const rows table = rotor_entry_rows(source_of_sheet(kavetta));
-    EXPECT_EQ(row(table, "Eccentricity"), (sheet_row{"Eccentricity", kavetta.entries.ecc + " mm"}));
+    EXPECT_EQ(row(table, "Eccentricity"), (page_row{"Eccentricity", kavetta.entries.ecc + " mm"}));
     EXPECT_EQ(row(table, "No. Outer Lobes").at(1), "7");
     EXPECT_EQ(row(table, "Outer Rotor Root Radius").at(1), kavetta.entries.outer_root + " mm");
     EXPECT_EQ(table.size(), 14U);
@@ -41,7 +41,7 @@ TEST_F(sheet_rows, entries_have_their_unit) {
 TEST_F(sheet_rows, empty_entries_have_no_unit) {
     kavetta.entries.port_radii = "";
     EXPECT_EQ(row(port_rows(source_of_sheet(kavetta)), "Port Fillet Radii"),
-              (sheet_row{"Port Fillet Radii", "", ""}));
+              (page_row{"Port Fillet Radii", "", ""}));
 }
 
 TEST_F(sheet_rows, results_are_those_of_the_forms) {
@@ -55,10 +55,10 @@ TEST_F(sheet_rows, results_are_those_of_the_forms) {
 
 TEST_F(sheet_rows, ports_stand_side_by_side) {
     const rows table = port_rows(source_of_sheet(kavetta));
-    EXPECT_EQ(table.front(), (sheet_row{"", "Inlet Port", "Outlet Port"}));
+    EXPECT_EQ(table.front(), (page_row{"", "Inlet Port", "Outlet Port"}));
     EXPECT_EQ(row(table, "Start Angle Inner Radius"),
-              (sheet_row{"Start Angle Inner Radius", kavetta.entries.inlet_start_inner + "°",
-                         kavetta.entries.outlet_start_inner + "°"}));
+              (page_row{"Start Angle Inner Radius", kavetta.entries.inlet_start_inner + "°",
+                        kavetta.entries.outlet_start_inner + "°"}));
     EXPECT_EQ(row(table, "End Angle Outer Radius").at(2), kavetta.entries.outlet_end_outer + "°");
     EXPECT_EQ(row(table, "Outer Radius").at(1), kavetta.entries.inlet_outer_radius + " mm");
     EXPECT_EQ(row(table, "Length (°)").at(2), kavetta.entries.groove_length);
@@ -69,7 +69,7 @@ TEST_F(sheet_rows, a_port_says_its_type) {
     kavetta.entries.outlet_double_sided = "0";
     kavetta.entries.shadow_ports = "1";
     EXPECT_EQ(row(port_rows(source_of_sheet(kavetta)), "Porting Type"),
-              (sheet_row{"Porting Type", "double sided", "with shadow port"}));
+              (page_row{"Porting Type", "double sided", "with shadow port"}));
     kavetta.entries.shadow_ports = "0";
     EXPECT_EQ(row(port_rows(source_of_sheet(kavetta)), "Porting Type").at(2), "single sided");
 }
