@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Compares what two builds of kvt write, byte by byte. Usage: compare_programs.py KVT KVT.
 
-Both calculate and export every design of examples and tests/data/designs, each in a folder of its own with the same
-name. A difference in one digit is reported with its file.
+Both calculate and export every design of examples and tests/data/designs and log the calls of its models, each in a folder of
+its own with the same name. A difference in one digit is reported with its file.
 """
 import filecmp
 import pathlib
@@ -16,6 +16,8 @@ DATE = "2021-11-03"
 COMMANDS = {
     "calc": ("--json", "results.json"),
     "export": ("--out", ".", "--tool", "2", "--groove-tool", "1", "--gt", "--data", "--date", DATE),
+    "model": ("--package", "acad", "--what", "trochoid,inner,outer,porting,assembly", "--host", "recorder", "--log",
+              "calls.log", "--full-log"),
 }
 
 
