@@ -12,6 +12,17 @@
 namespace kvt {
 namespace {
 
+/// The textbook's largest pressure at the largest torque of the model, friction included.
+double at_drive_torque(const performance_case& sample) {
+    const perf_results& results = sample.perf_results;
+    const contact_materials materials{
+        sample.perf_inputs.young_inner_mpa, sample.perf_inputs.young_outer_mpa,
+        sample.perf_inputs.poisson_inner, sample.perf_inputs.poisson_outer};
+    return largest_contact_pressure(nominal_pair(sample.design_params), contact_modulus(materials),
+                                    results.drive_torque.back().back() * 1000.0)
+        .pressure;
+}
+
 class contact_of_samples : public testing::TestWithParam<const char*> {};
 
 TEST_P(contact_of_samples, has_the_share_of_the_textbook_that_the_page_says) {

@@ -26,7 +26,8 @@ constexpr double MARGIN = 13.0;
 constexpr double GUTTER = 6.0;         ///< between two things side by side
 constexpr double SECTION_GAP = 3.5;    ///< above a heading
 constexpr double CELL_INDENT = 1.0;    ///< of the text in a cell
-constexpr double NAME_COLUMN = 34.0;   ///< of the dimensions at each side of a drawing
+constexpr double NAME_COLUMN = 32.0;   ///< of the dimensions at each side of a drawing
+constexpr double LEADER_ROOM = 4.0;    ///< between the names and the drawing
 constexpr double PAIR_HEIGHT = 98.0;   ///< of the drawing of the pair
 constexpr double FACE_HEIGHT = 96.0;   ///< of the drawing of the ports
 constexpr double CHART_HEIGHT = 66.0;  ///< with its legend
@@ -266,7 +267,7 @@ class sheet_flow {
     void add_rotors() {
         const explanation pair = explain_pair(source_.design, source_.rotors);
         const explanation side = explain_side_view(source_.design, source_.rotors);
-        const double room = content_.width - 2.0 * NAME_COLUMN - 2.0 * GUTTER;
+        const double room = content_.width - 2.0 * NAME_COLUMN - 2.0 * LEADER_ROOM;
         const double scale = standard_scale(
             std::min(room / (width_of(pair) + width_of(side)), DRAWN_PAIR / height_of(side)));
         add_heading("rotors", scale_remark(scale));
@@ -291,7 +292,7 @@ class sheet_flow {
         need(SECTION_GAP + line_height(HEADING_FONT) + FACE_HEIGHT);
         const explanation face =
             explain_face(source_.design, source_.rotors, source_.ports, source_.outlines);
-        const double room = content_.width - 2.0 * NAME_COLUMN - 2.0 * GUTTER;
+        const double room = content_.width - 2.0 * NAME_COLUMN - 2.0 * LEADER_ROOM;
         const double scale =
             standard_scale(std::min(room / width_of(face), FACE_HEIGHT / height_of(face)));
         add_heading("ports", scale_remark(scale));
@@ -324,17 +325,21 @@ class sheet_flow {
     /// Two beside each other.
     void add_charts() {
         const double width = (content_.width - GUTTER) / 2.0;
+        top_ += SECTION_GAP;
+        need(heading_height() + CHART_HEIGHT);
+        top_ = add_lines(page(), {own_text("charts")}, {content_.left, top_, width, 0.0},
+                         TABLE_HEADING_FONT) +
+               1.0;
         for (std::size_t i = 0; i < CHARTS.size(); ++i) {
             const bool is_left = i % 2 == 0;
             if (is_left) {
-                top_ += i == 0 ? SECTION_GAP : 0.0;
                 need(CHART_HEIGHT);
             }
             const double left = content_.left + (is_left ? 0.0 : width + GUTTER);
             add_chart(page(),
                       make_chart(CHARTS[i], source_.results, source_.language, source_.unit.system),
                       {left, top_, width, CHART_HEIGHT}, paper_.metrics);
-            top_ += is_left ? 0.0 : CHART_HEIGHT;
+            top_ += is_left ? 0.0 : CHART_HEIGHT + SECTION_GAP;
         }
     }
 

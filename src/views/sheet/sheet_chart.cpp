@@ -2,6 +2,7 @@
 
 #include "views/charts/chart_drawing.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
@@ -19,6 +20,9 @@ constexpr double SAMPLE_SHARE = 0.45;  ///< of a curve's room in the legend
 constexpr double SAMPLE_GAP = 1.0;     ///< mm, to its text
 constexpr double INDENT = 4.0;         ///< of the legend
 constexpr int LEGEND_LINES = 2;
+/// A chart leaves more room at its right than it needs, and less at its left.
+constexpr double NUMBER_ROOM = 5.0;
+constexpr double NUMBER_GAP = 0.5;
 constexpr double LEGEND_GAP = 1.0;  ///< above it
 
 constexpr sheet_font FONT = {6.5, false};
@@ -54,8 +58,9 @@ sheet_alignment alignment_of(chart_alignment alignment) {
 /// Puts the parts of a chart on a page; its client area begins at a corner.
 class chart_on_paper {
   public:
-    chart_on_paper(sheet_page& page, const chart_drawing& drawing, const point2& corner)
-        : page_(page), drawing_(drawing), corner_(corner) {}
+    chart_on_paper(sheet_page& page, const chart_drawing& drawing, const point2& corner,
+                   const sheet_metrics& metrics)
+        : page_(page), drawing_(drawing), corner_(corner), metrics_(metrics) {}
 
     void run() {
         add_grid();
@@ -78,11 +83,23 @@ class chart_on_paper {
         page_.paths.push_back(
             straight_line(on_paper(line.x1, line.y1), on_paper(line.x2, line.y2), pen));
     }
-    void add_label(const chart_label& label, const sheet_font& font) {
-        if (label.visible) {
-            page_.texts.push_back(
-                {on_paper(label.box), label.text, font, alignment_of(label.alignment)});
-        }
+    /// A text in its box, cut where it is wider.
+    void add_text(const sheet_box& box, const chart_label& label, const sheet_font& font) {
+        page_.texts.push_back({box, fitted_text(label.text, box.width, font, metrics_), font,
+                               alignment_of(label.alignment)});
+    }
+    /// The numbers end before the axis and may begin left of the chart's own room.
+    void add_y_marker(const chart_label& label) {
+        sheet_box box = on_paper(label.box);
+        box.left -= NUMBER_ROOM;
+        box.width += NUMBER_ROOM;
+        add_text(box, label, FONT);
+    }
+    /// A number has the way to the next one.
+    void add_x_marker(const chart_label& label, double spacing) {
+        sheet_box box = on_paper(label.box);
+        box.width = spacing - NUMBER_GAP;
+        add_text(box, label, FONT);
     }
 
     void add_grid() {
@@ -107,18 +124,21 @@ class chart_on_paper {
 
     void add_texts() {
         for (const chart_label& marker : drawing_.yaxis_marker) {
-            add_label(marker, FONT);
+            add_y_marker(marker);
         }
+        const auto steps = static_cast<double>(drawing_.xaxis_marker.size()) - 1.0;
+        const double spacing = on_paper(drawing_.Picture1).width / std::max(steps, 1.0);
         for (const chart_label& marker : drawing_.xaxis_marker) {
-            add_label(marker, FONT);
+            add_x_marker(marker, spacing);
         }
-        add_label(drawing_.xaxis_title, FONT);
-        add_label(drawing_.graph_title, TITLE_FONT);
+        add_text(on_paper(drawing_.xaxis_title.box), drawing_.xaxis_title, FONT);
+        add_text(on_paper(drawing_.graph_title.box), drawing_.graph_title, TITLE_FONT);
     }
 
     sheet_page& page_;
     const chart_drawing& drawing_;
     const point2 corner_;
+    const sheet_metrics& metrics_;
 };
 
 /// What the curves stand for, in two lines below the chart: over them it would hide some.
@@ -145,11 +165,8 @@ void add_chart(sheet_page& page, const result_chart& chart, const sheet_box& are
     const double legend = LEGEND_LINES * line_height(FONT);
     const chart_size size{area.width / MM + CHART_FRAME.width,
                           (area.height - legend - LEGEND_GAP) / MM + CHART_FRAME.height};
-    const text_metrics in_twips = [&](std::string_view text) {
-        return text_extent{metrics(text, TITLE_FONT) / MM, line_height(TITLE_FONT) / MM};
-    };
-    const chart_drawing drawing = draw_chart(chart, size, std::nullopt, in_twips);
-    chart_on_paper(page, drawing, {area.left, area.top}).run();
+    chart_on_paper(page, draw_chart(chart, size), {area.left + NUMBER_ROOM, area.top}, metrics)
+        .run();
     if (!chart.legend_caption.empty()) {
         add_legend(page, chart,
                    {area.left + INDENT, area.bottom() - legend, area.width - 2.0 * INDENT, legend});

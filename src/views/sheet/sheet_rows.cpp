@@ -283,6 +283,9 @@ std::vector<page_row> performance_result_rows(const sheet_source& source) {
 
 dimension_text dimension_of(const explained_parameter& parameter, const sheet_source& source) {
     dimension_text text{caption(parameter.form, parameter.label, source), {}};
+    if (find_row(GROOVE_ENTRIES, parameter) != nullptr) {
+        text.name = caption(PORTS, "metering_groove", source) + ": " + text.name;
+    }
     const auto [row, boxes] = entry_of(parameter, source);
     if (row != nullptr && boxes != nullptr) {
         const std::string value = value_of(*row, *boxes, source);

@@ -98,7 +98,7 @@ TEST_F(design_sheet_file, says_why_it_was_not_written) {
     save();
     EXPECT_FALSE(std::filesystem::exists(path()));
     ASSERT_EQ(person.statuses.size(), 1U);
-    EXPECT_TRUE(person.statuses[0].starts_with("Could not be saved: " + path()))
+    EXPECT_TRUE(person.statuses[0].starts_with("The file could not be saved: " + path()))
         << person.statuses[0];
 }
 
