@@ -32,9 +32,10 @@ TEST_P(contact_of_samples, has_the_share_of_the_textbook_that_the_page_says) {
     const exact_performance exact = exact_performance_of(sample.design_params, swept_cc,
                                                          sample.perf_inputs, sample.perf_results);
     const double textbook = exact.contact.back().pressure;
-    const std::string line = "| " + std::string(GetParam()) + " | " + fixed_number(textbook, 0) +
-                             " | " + fixed_number(sample.perf_results.hertz_max / textbook, 3) +
-                             " |";
+    const std::string line =
+        "| " + std::string(GetParam()) + " | " + fixed_number(textbook, 0) + " | " +
+        fixed_number(sample.perf_results.hertz_max / textbook, 3) + " | " +
+        fixed_number(sample.perf_results.hertz_max / at_drive_torque(sample), 3) + " |";
     const std::string page =
         read_file(std::filesystem::path(KVT_TEST_DATA) / "../../docs/formulas/how-sure.md");
     EXPECT_NE(page.find("\n" + line + "\n"), std::string::npos) << line;

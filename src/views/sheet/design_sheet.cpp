@@ -264,12 +264,18 @@ class sheet_flow {
     }
     std::string scale_remark(double scale) const { return own_text("scale") + scale_text(scale); }
 
+    /// Both beside each other, the pair with its names at both sides.
+    double scale_of_pair(const explanation& pair, const explanation& side) const {
+        const double room = content_.width - 2.0 * NAME_COLUMN;
+        return standard_scale(
+            std::min({(room - 2.0 * LEADER_ROOM) / (width_of(pair) + width_of(side)),
+                      (room - LEAST_PAIR) / width_of(side), DRAWN_PAIR / height_of(side)}));
+    }
+
     void add_rotors() {
         const explanation pair = explain_pair(source_.design, source_.rotors);
         const explanation side = explain_side_view(source_.design, source_.rotors);
-        const double room = content_.width - 2.0 * NAME_COLUMN - 2.0 * LEADER_ROOM;
-        const double scale = standard_scale(
-            std::min(room / (width_of(pair) + width_of(side)), DRAWN_PAIR / height_of(side)));
+        const double scale = scale_of_pair(pair, side);
         add_heading("rotors", scale_remark(scale));
         add_older_remark(source_.of_profiles);
         const double side_width = std::max(width_of(side) * scale, LEAST_SIDE_VIEW);
@@ -368,6 +374,7 @@ class sheet_flow {
 
     static constexpr double VALUE_WIDTH = 36.0;
     static constexpr double PORT_VALUE_WIDTH = 50.0;
+    static constexpr double LEAST_PAIR = 40.0;  ///< between its names
     static constexpr double LEAST_SIDE_VIEW = 30.0;
     static constexpr double DRAWN_PAIR = PAIR_HEIGHT - 12.0;  ///< less the texts above and below
 

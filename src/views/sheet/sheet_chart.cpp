@@ -95,11 +95,13 @@ class chart_on_paper {
         box.width += NUMBER_ROOM;
         add_text(box, label, FONT);
     }
-    /// A number has the way to the next one.
-    void add_x_marker(const chart_label& label, double spacing) {
+    /// A number stands below its place on the axis and has half of the way to the next ones.
+    void add_x_marker(const chart_label& label, double place, double spacing) {
         sheet_box box = on_paper(label.box);
         box.width = spacing - NUMBER_GAP;
-        add_text(box, label, FONT);
+        box.left = place - box.width / 2.0;
+        page_.texts.push_back({box, fitted_text(label.text, box.width, FONT, metrics_), FONT,
+                               sheet_alignment::centre});
     }
 
     void add_grid() {
@@ -126,10 +128,13 @@ class chart_on_paper {
         for (const chart_label& marker : drawing_.yaxis_marker) {
             add_y_marker(marker);
         }
+        const sheet_box plot = on_paper(drawing_.Picture1);
         const auto steps = static_cast<double>(drawing_.xaxis_marker.size()) - 1.0;
-        const double spacing = on_paper(drawing_.Picture1).width / std::max(steps, 1.0);
+        const double spacing = plot.width / std::max(steps, 1.0);
+        double place = plot.left;
         for (const chart_label& marker : drawing_.xaxis_marker) {
-            add_x_marker(marker, spacing);
+            add_x_marker(marker, place, spacing);
+            place += spacing;
         }
         add_text(on_paper(drawing_.xaxis_title.box), drawing_.xaxis_title, FONT);
         add_text(on_paper(drawing_.graph_title.box), drawing_.graph_title, TITLE_FONT);

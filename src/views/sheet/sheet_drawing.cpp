@@ -86,9 +86,7 @@ class drawing_layout {
                 add_centred_name(parameter);
             }
         }
-        for (const explained_mark& mark : drawing_.marks) {
-            add_mark(mark);
-        }
+        add_marks();
     }
 
   private:
@@ -232,10 +230,10 @@ class drawing_layout {
 
     /// Beyond its dimension line; without one where the drawing has it.
     void add_centred_name(const explained_parameter& parameter) {
-        const placed_name name = named(parameter, place_.area.width);
+        const double width = place_.area.width - 2.0 * place_.column_width;
+        const placed_name name = named(parameter, width);
         const point2 at = on_paper(parameter.text_at);
-        sheet_box box{at.x - place_.area.width / 2.0, at.y - name.height() / 2.0, place_.area.width,
-                      name.height()};
+        sheet_box box{at.x - width / 2.0, at.y - name.height() / 2.0, width, name.height()};
         if (!parameter.lines.empty()) {
             const double line = on_paper(parameter.leader.empty() ? parameter.lines.front().from
                                                                   : parameter.leader.front())
@@ -247,14 +245,24 @@ class drawing_layout {
         add_name(name, box, sheet_alignment::centre);
     }
 
-    void add_mark(const explained_mark& mark) {
+    /// One that would lie over the mark before it is left out: many lobes, drawn small.
+    void add_marks() {
+        std::vector<sheet_box> taken;
+        for (const explained_mark& mark : drawing_.marks) {
+            const sheet_box box = box_of(mark);
+            const bool is_free = std::ranges::none_of(
+                taken, [&](const sheet_box& other) { return overlap(box, other); });
+            if (is_free) {
+                page_.texts.push_back({box, mark.text, MARK_FONT, sheet_alignment::centre});
+                taken.push_back(box);
+            }
+        }
+    }
+    sheet_box box_of(const explained_mark& mark) const {
         const point2 at = on_paper(mark.at);
         const double width = metrics_(mark.text, MARK_FONT);
         const double height = line_height(MARK_FONT);
-        page_.texts.push_back({{at.x - width / 2.0, at.y - height / 2.0, width, height},
-                               mark.text,
-                               MARK_FONT,
-                               sheet_alignment::centre});
+        return {at.x - width / 2.0, at.y - height / 2.0, width, height};
     }
 
     sheet_page& page_;

@@ -24,6 +24,10 @@ std::vector<std::string> words_of(std::string_view text) {
 
 }  // namespace
 
+bool overlap(const sheet_box& a, const sheet_box& b) {
+    return a.left < b.right() && b.left < a.right() && a.top < b.bottom() && b.top < a.bottom();
+}
+
 double line_height(const sheet_font& font) {
     return font.points * MM_PER_POINT * LINE_SPACING;
 }

@@ -26,6 +26,9 @@ struct sheet_box {
     point2 middle() const { return {left + width / 2.0, top + height / 2.0}; }
 };
 
+/// Whether two boxes share more than an edge.
+bool overlap(const sheet_box& a, const sheet_box& b);
+
 enum class sheet_dashes { solid, dotted, dashed, dash_dotted };
 
 struct sheet_pen {

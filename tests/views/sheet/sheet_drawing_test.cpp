@@ -92,7 +92,7 @@ TEST_F(sheet_drawing_of_pair, keeps_names_apart_however_small_it_is) {
             }
             const sheet_box box = extent_of(text, even_width);
             for (const sheet_box& other : boxes) {
-                EXPECT_FALSE(overlap(box, other)) << text.text << " at " << scale;
+                EXPECT_FALSE(overlap_clearly(box, other)) << text.text << " at " << scale;
             }
             boxes.push_back(box);
         }

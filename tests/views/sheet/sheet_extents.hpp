@@ -35,10 +35,11 @@ inline sheet_box extent_of(const page_text& text, const sheet_metrics& metrics) 
 }
 
 /// Boxes that share more than rounding.
-inline bool overlap(const sheet_box& a, const sheet_box& b) {
+inline bool overlap_clearly(const sheet_box& a, const sheet_box& b) {
     constexpr double ROUNDING = 0.05;
-    return a.left + ROUNDING < b.right() && b.left + ROUNDING < a.right() &&
-           a.top + ROUNDING < b.bottom() && b.top + ROUNDING < a.bottom();
+    return overlap(
+        {a.left + ROUNDING, a.top + ROUNDING, a.width - 2.0 * ROUNDING, a.height - 2.0 * ROUNDING},
+        b);
 }
 
 /// Which texts of a page leave the paper's margin or lie over others, one line each.
@@ -55,7 +56,7 @@ inline std::vector<std::string> misplaced_texts(const sheet_page& page, const sh
             findings.push_back("off the page: " + text.text);
         }
         for (std::size_t i = 0; i < boxes.size(); ++i) {
-            if (overlap(box, boxes[i])) {
+            if (overlap_clearly(box, boxes[i])) {
                 findings.push_back(text.text + " over " + page.texts[i].text);
             }
         }
