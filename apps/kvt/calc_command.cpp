@@ -1,6 +1,7 @@
 #include "kvt/calc_command.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
@@ -23,13 +24,14 @@ int calc_design(const calc_request& request, std::ostream& out, std::ostream& er
     if (request.json_file.empty()) {
         return exit_status(result);
     }
-    const std::string report = json_report(kavetta, person.messages(), result, request.full, request.exact);
+    const std::string report =
+        json_report(kavetta, person.messages(), result, request.full, request.exact);
     if (request.json_file == "-") {
         out << report;
         return exit_status(result);
     }
     try {
-        write_file(request.json_file, report, disk_write::left_to_the_system);
+        write_file(path_of_utf8(request.json_file), report, disk_write::left_to_the_system);
     } catch (const run_time_error& error) {
         err << request.json_file << ": " << run_time_error_line(error, request.source.language)
             << '\n';

@@ -12,7 +12,7 @@
 #include "kvt/model_command.hpp"
 #include "kvt/option_check.hpp"
 #include "kvt/report_command.hpp"
-#include "kvt/standard_streams.hpp"
+#include "kvt/printed_status.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

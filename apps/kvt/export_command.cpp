@@ -2,6 +2,7 @@
 
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
 #include "kvt/export_files.hpp"
@@ -16,7 +17,7 @@ namespace {
 
 /// <name of the input>.KVT.
 std::string exported_project_name(const design_source& source) {
-    std::filesystem::path name = std::filesystem::path(source.project).filename();
+    std::filesystem::path name = path_of_utf8(source.project).filename();
     name.replace_extension(".KVT");
     return name.string();
 }

@@ -1,6 +1,7 @@
 #include "kvt/export_folder.hpp"
 
 #include "app/stages/batch_run.hpp"
+#include "base/path_text.hpp"
 
 #include <ostream>
 
@@ -24,7 +25,7 @@ void export_folder::write(std::string_view name, const text_writer& writer) {
 void export_folder::write_whole(std::string_view name, const std::function<std::string()>& bytes) {
     const std::string path = path_of(name);
     try {
-        write_file(path, bytes(), disk_write::left_to_the_system);
+        write_file(path_of_utf8(path), bytes(), disk_write::left_to_the_system);
     } catch (const run_time_error& error) {
         note(path, run_time_error_line(error, language_));
         refuse();

@@ -2,6 +2,7 @@
 
 #include "app/files/cnc_output.hpp"
 #include "base/number_text.hpp"
+#include "base/path_text.hpp"
 #include "kvt/given_date.hpp"
 #include "kvt/option_check.hpp"
 #include "output/written_files.hpp"
@@ -114,7 +115,10 @@ void add_performance_options(CLI::App& command, export_request& files) {
 }  // namespace
 
 void add_export_options(CLI::App& command, export_request& files) {
-    command.add_option("--out", files.folder, "Folder to write to; created when it is missing")
+    command
+        .add_option_function<std::string>(
+            "--out", [&files](const std::string& folder) { files.folder = path_of_utf8(folder); },
+            "Folder to write to; created when it is missing")
         ->type_name("DIR")
         ->required();
     add_file_options(command, files);

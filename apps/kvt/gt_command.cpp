@@ -6,6 +6,8 @@
 #include "app/gt/gt_model.hpp"
 #include "app/gt/gt_simulation.hpp"
 #include "app/program.hpp"
+#include "base/environment.hpp"
+#include "base/path_text.hpp"
 #include "core/text_table.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
@@ -25,7 +27,7 @@ namespace fs = std::filesystem;
 /// build has gathered them.
 fs::path delivered_file(const char* name) {
     std::error_code error;
-    const fs::path beside = fs::read_symlink("/proc/self/exe", error).parent_path();
+    const fs::path beside = running_program().parent_path();
     for (const fs::path& folder : {program_folder(), beside / KVT_INSTALLED_SHARE_FOLDER}) {
         if (fs::is_regular_file(folder / name, error)) {
             return folder / name;
@@ -48,10 +50,10 @@ std::optional<gt_result> change_given_model(const program& kavetta, batch_user& 
                                             const gt_command_request& request) {
     try {
         const pump_values pump =
-            model_values(kavetta, {request.fluid, request.txt_file, request.bearing_length_mm,
-                                   request.bearing_clearance_um});
-        return gt_result{request.out_file,
-                         write_changed_model(request.gtm_file, request.out_file, pump)};
+            model_values(kavetta, {request.fluid, path_of_utf8(request.txt_file),
+                                   request.bearing_length_mm, request.bearing_clearance_um});
+        const fs::path out = path_of_utf8(request.out_file);
+        return gt_result{out, write_changed_model(path_of_utf8(request.gtm_file), out, pump)};
     } catch (const run_time_error& error) {
         person.show_status(error.detail() + ": " +
                            run_time_error_line(error, request.source.language));

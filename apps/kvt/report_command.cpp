@@ -3,6 +3,7 @@
 #include "app/files/print_project.hpp"
 #include "app/program.hpp"
 #include "base/letter_case.hpp"
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
@@ -18,7 +19,7 @@ namespace kvt {
 namespace {
 
 bool ends_in(const std::string& file, std::string_view ending) {
-    return is_same_ignoring_case(std::filesystem::path(file).extension().string(), ending);
+    return is_same_ignoring_case(path_of_utf8(file).extension().string(), ending);
 }
 
 std::string text_bytes(const text_printer& text) {
@@ -47,7 +48,7 @@ void write_report(const program& kavetta, const report_request& request, std::os
     if (ends_in(request.file, ".pdf")) {
         pdf_printer pdf;
         print(kavetta, request.date, pdf);
-        write_file(request.file, pdf.bytes(), disk_write::left_to_the_system);
+        write_file(path_of_utf8(request.file), pdf.bytes(), disk_write::left_to_the_system);
         return;
     }
     text_printer text;
@@ -55,7 +56,7 @@ void write_report(const program& kavetta, const report_request& request, std::os
     if (request.file.empty()) {
         print_lines(text, out);
     } else {
-        write_file(request.file, text_bytes(text), disk_write::left_to_the_system);
+        write_file(path_of_utf8(request.file), text_bytes(text), disk_write::left_to_the_system);
     }
 }
 

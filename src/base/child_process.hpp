@@ -13,7 +13,8 @@ namespace kvt {
 enum class process_tie { group, own_session };
 
 /// Starts a program in a folder, standard streams on nothing. Throws path_file_access with the
-/// system's reason.
+/// system's reason. Answers what the system knows it by: the process, on Windows the job of a
+/// group.
 pid_t start_process(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                     const std::filesystem::path& folder, process_tie tie);
 

@@ -1,9 +1,10 @@
 #include "base/scratch_folder.hpp"
 
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
+#include "base/system_file.hpp"
 
 #include <cerrno>
-#include <cstdlib>
 #include <string>
 #include <system_error>
 
@@ -14,11 +15,11 @@ namespace fs = std::filesystem;
 scratch_folder::scratch_folder() {
     std::error_code error;
     std::string name = (fs::temp_directory_path(error) / "kvt-XXXXXX").string();
-    if (error || ::mkdtemp(name.data()) == nullptr) {
+    if (error || !make_private_folder(name)) {
         throw run_time_error(failure::path_file_access, name,
                              {file_fault::reason::system, error ? error.value() : errno});
     }
-    path_ = name;
+    path_ = path_of_utf8(name);
 }
 
 scratch_folder::~scratch_folder() {

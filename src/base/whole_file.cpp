@@ -3,12 +3,11 @@
 
 #include "base/file_lock.hpp"
 #include "base/run_time_error.hpp"
+#include "base/system_file.hpp"
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <optional>
-#include <sys/stat.h>
 #include <system_error>
 
 namespace kvt {
@@ -21,6 +20,8 @@ namespace {
 constexpr int TEMPORARY_NAME_COUNT = 1000;
 constexpr std::string_view TEMPORARY_START = ".kvt-";
 constexpr std::string_view TEMPORARY_END = ".tmp";
+/// Who may read and write a new file.
+constexpr int EVERYBODY = 0666;
 
 [[noreturn]] void fail(failure kind, const fs::path& path, file_fault fault = {}) {
     throw run_time_error(kind, path.string(), fault);
@@ -40,7 +41,7 @@ void require_folder(const fs::path& path) {
 
 bool wrote_all(const descriptor& file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t count = ::write(file.number(), bytes.data(), bytes.size());
+        const std::ptrdiff_t count = write_bytes(file, bytes);
         if (count > 0) {
             bytes.remove_prefix(static_cast<std::size_t>(count));
         } else if (count == 0 || errno != EINTR) {
@@ -50,25 +51,9 @@ bool wrote_all(const descriptor& file, std::string_view bytes) {
     return true;
 }
 
-/// Devices and some file systems have nothing to flush, which is no failure.
-bool reached_the_disk(const descriptor& file) {
-    return ::fsync(file.number()) == 0 || errno == EINVAL || errno == ENOTSUP;
-}
-
-/// The name of a file is on the disk once its folder is. A folder that can't be opened for reading
-/// is left to the system.
-void flush_folder(const fs::path& folder) {
-    const descriptor open_folder(
-        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (open_folder.is_open()) {
-        static_cast<void>(reached_the_disk(open_folder));
-    }
-}
-
 /// Opens the file itself with further flags and writes bytes from its start.
 void write_to(const fs::path& path, int flags, std::string_view bytes) {
-    constexpr mode_t EVERYBODY = 0666;  // less what the umask takes away
-    descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC | flags, EVERYBODY));
+    descriptor file = open_file(path, O_WRONLY | O_CLOEXEC | flags, EVERYBODY);
     if (!file.is_open() || !wrote_all(file, bytes) || !reached_the_disk(file) || !file.close()) {
         fail_access(path, errno);
     }
@@ -88,9 +73,8 @@ bool is_temporary_name(std::string_view name) {
 /// Whoever writes a temporary file holds its lock, so one without belongs to a program that was
 /// killed.
 void remove_if_left_over(const fs::path& path) {
-    const descriptor file(::open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    struct stat status = {};
-    if (file.is_open() && ::fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
+    const descriptor file = open_file(path, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (file.is_open() && kind_of(file) == file_kind::plain &&
         try_lock(file) == lock_answer::taken && is_at(file, path)) {
         std::error_code ignored;
         fs::remove(path, ignored);
@@ -132,11 +116,9 @@ class temporary_file {
     bool is_created() const { return file_.is_open(); }
     bool write(std::string_view bytes) { return wrote_all(file_, bytes); }
     bool flush() { return reached_the_disk(file_); }
-    void take_permissions(fs::perms permissions) {
-        static_cast<void>(::fchmod(file_.number(), static_cast<mode_t>(permissions)));
-    }
+    void take_permissions(fs::perms permissions) { set_permissions(file_, permissions); }
     bool rename_to(const fs::path& target) {
-        if (::rename(path_.c_str(), target.c_str()) != 0) {
+        if (!rename_file(path_, target)) {
             return false;
         }
         // Some network file systems refuse the bytes only now, when the old file is gone.
@@ -147,7 +129,7 @@ class temporary_file {
     /// Never a file that is there already. Between creation and lock another program may take the
     /// file for a left-over one: then the next name is tried.
     bool create() {
-        descriptor file(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        descriptor file = open_file(path_, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, EVERYBODY);
         if (!file.is_open()) {
             return false;
         }
@@ -187,22 +169,22 @@ void replace_file(const fs::path& target, std::optional<fs::perms> old_permissio
 /// The old file is opened for writing without touching it: what the user may not write must not be
 /// replaced either.
 bool may_be_written(const fs::path& path) {
-    return descriptor(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK)).is_open();
+    return open_file(path, O_WRONLY | O_CLOEXEC | O_NONBLOCK).is_open();
 }
 
 /// The file that the path names, opened for reading; devices and pipes are never waited for.
 descriptor open_plain_file(const fs::path& path) {
-    descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status = {};
-    if (!file.is_open() || ::fstat(file.number(), &status) != 0) {
+    descriptor file = open_file(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const file_kind kind = file.is_open() ? kind_of(file) : file_kind::unknown;
+    if (kind == file_kind::unknown) {
         const int error = errno;
         fail(error == ENOENT ? failure::file_not_found : failure::path_file_access, path,
              {file_fault::reason::system, error});
     }
-    if (S_ISDIR(status.st_mode)) {
+    if (kind == file_kind::folder) {
         fail_access(path, EISDIR);
     }
-    if (!S_ISREG(status.st_mode)) {
+    if (kind != file_kind::plain) {
         fail(failure::path_file_access, path, {file_fault::reason::not_plain});
     }
     return file;
@@ -219,7 +201,7 @@ std::string read_file(const fs::path& path, std::size_t largest) {
     std::string bytes;
     char block[65536];
     for (;;) {
-        const ssize_t count = ::read(file.number(), block, sizeof block);
+        const std::ptrdiff_t count = read_bytes(file, block, sizeof block);
         if (count == 0) {
             return bytes;
         }
@@ -262,7 +244,7 @@ bool is_only_written_in_place(const fs::path& path) {
     if (error || !fs::is_regular_file(target, error) || !may_be_written(target)) {
         return false;
     }
-    return ::faccessat(AT_FDCWD, target.parent_path().c_str(), W_OK | X_OK, AT_EACCESS) != 0;
+    return !may_add_files(target.parent_path());
 }
 
 void write_in_place(const fs::path& path, std::string_view bytes) {

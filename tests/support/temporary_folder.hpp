@@ -1,7 +1,9 @@
 // temporary_folder: an empty folder of a test's own that goes with the test.
 #pragma once
 
-#include <cstdlib>
+#include "base/path_text.hpp"
+#include "base/system_file.hpp"
+
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -12,10 +14,10 @@ class temporary_folder {
   public:
     temporary_folder() {
         std::string name = (std::filesystem::temp_directory_path() / "kvt_test_XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) {
+        if (!make_private_folder(name)) {
             throw std::runtime_error("no temporary folder " + name);
         }
-        path_ = name;
+        path_ = path_of_utf8(name);
     }
     ~temporary_folder() {
         std::error_code ignored;
@@ -25,9 +27,11 @@ class temporary_folder {
     temporary_folder& operator=(const temporary_folder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
-    std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+    std::filesystem::path operator/(const std::string& name) const {
+        return path_ / path_of_utf8(name);
+    }
     /// The path of a file in the folder, as the text that commands take.
-    std::string file(const std::string& name) const { return (path_ / name).string(); }
+    std::string file(const std::string& name) const { return (*this / name).string(); }
 
   private:
     std::filesystem::path path_;

@@ -390,6 +390,7 @@ class test_script_test(tree_test):
         self.started = self.root / "started"
         for name in ("scripts/setup", "bin/cmake", "tools/check_tidy.py", "tools/compare_programs.py"):
             self.program(name)
+        self.program("scripts/windows/test", self.SUMMARY, status=1)
         self.program("bin/ctest", self.SUMMARY, status=1)
 
     def program(self, name, prints="", status=0):
@@ -401,7 +402,7 @@ class test_script_test(tree_test):
             (self.root / "build" / preset).mkdir(parents=True, exist_ok=True)
         path = f"{self.root / 'bin'}:{os.environ['PATH']}"
         # The run that this test is part of may leave the Clang parts out.
-        around = {name: value for name, value in os.environ.items() if name != "KVT_WITHOUT_CLANG"}
+        around = {name: value for name, value in os.environ.items() if not name.startswith("KVT_WITHOUT_")}
         done = subprocess.run([self.root / "test", *arguments], env={**around, "PATH": path, **variables},
                               capture_output=True, text=True, check=False)
         return done.returncode, done.stdout.splitlines()
@@ -416,17 +417,26 @@ class test_script_test(tree_test):
 
     def test_the_clang_parts_are_left_out_on_demand_and_named(self):
         lines = self.run_it("--all", KVT_WITHOUT_CLANG="1")[1]
-        self.assertEqual(lines[-1], "18 passed, 2 failed")
+        self.assertEqual(lines[-1], "27 passed, 3 failed")
         self.assertIn("./test: left out: clang-tidy over all sources, preset clang", lines)
         self.assertNotIn("clang", self.started.read_text())
 
     def test_with_all_it_takes_the_sanitizers_and_the_other_compiler_too(self):
         status, lines = self.run_it("--all")
-        self.assertEqual(lines[-1], "20 passed, 2 failed")
+        self.assertEqual(lines[-1], "29 passed, 3 failed")
         self.assertEqual(status, 1)
         started = self.started.read_text()
         for piece in ("--preset asan", "--preset clang", "compare_programs.py build/ci", "check_tidy.py --all"):
             self.assertIn(piece, started)
+
+    def test_the_programs_of_windows_are_compared_with_those_of_preset_ci(self):
+        self.run_it("--all")
+        self.assertIn("scripts/windows/test build/ci/apps/kvt/kvt", self.started.read_text())
+        self.started.unlink()
+        lines = self.run_it("--all", KVT_WITHOUT_WINDOWS="1")[1]
+        self.assertIn("./test: left out: the programs of Windows", lines)
+        self.assertEqual(lines[-1], "20 passed, 2 failed")
+        self.assertNotIn("windows", self.started.read_text())
 
     def test_a_skipped_test_is_named_and_not_counted(self):
         self.program("bin/ctest", self.SUMMARY + "\t  4 - output.read_by_ezdxf (Skipped)\n", status=1)
@@ -510,6 +520,19 @@ class programs_test(tree_test):
     def test_a_missing_file_is_reported(self):
         found = self.check(self.WRITES.format("1.5"), self.WRITES.format("1.5") + "rm -f b.cnc\n")
         self.assertEqual(found, ["pump/b.cnc: written by one program only"])
+
+    def nearly(self, left, right):
+        self.write("left.txt", left)
+        self.write("right.txt", right)
+        same = compare_programs.near_comparison()
+        return same(self.root / "left.txt", self.root / "right.txt")
+
+    def test_nearly_the_same_are_last_digits_and_separators(self):
+        self.assertTrue(self.nearly("G1 X1.00000000000001 out\\a", "G1 X1.00000000000002 out/a"))
+        self.assertTrue(self.nearly('{"date": "11/22/2026"}', '{"date": "11/22/26"}'))
+        self.assertFalse(self.nearly("G1 X1.0001", "G1 X1.0002"))
+        self.assertFalse(self.nearly("G1 X1.0001", "G2 X1.0001"))
+        self.assertFalse(self.nearly("G1 X1 Y2", "G1 X1"))
 
     def test_programs_that_write_nothing_are_reported(self):
         self.assertEqual(self.check("#!/bin/sh\n", "#!/bin/sh\n"), ["nothing was written, so nothing was compared"])

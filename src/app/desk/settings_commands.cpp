@@ -1,6 +1,7 @@
 #include "app/desk/settings_commands.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/recent_list.hpp"
@@ -55,7 +56,7 @@ void save_settings(const program& kavetta) {
 std::string existing_folder_of(const program& kavetta, const std::string& path) {
     const std::string folder = folder_of_path(path);
     std::error_code ignored;
-    if (!folder.empty() && std::filesystem::is_directory(folder, ignored)) {
+    if (!folder.empty() && std::filesystem::is_directory(path_of_utf8(folder), ignored)) {
         return folder;
     }
     return (kavetta.folder / "projects").string();

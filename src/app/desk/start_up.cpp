@@ -6,12 +6,13 @@
 #include "app/desk/update_check.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
+#include "base/environment.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "core/capacity_unit.hpp"
 #include "core/user.hpp"
 
-#include <cstdlib>
 #include <system_error>
 
 namespace kvt {
@@ -19,12 +20,6 @@ namespace kvt {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The value of an environment variable; empty when it is not set.
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
 
 void create_folder(const fs::path& folder) {
     std::error_code error;
@@ -45,11 +40,8 @@ void copy_missing(const fs::path& from, const fs::path& to) {
 }  // namespace
 
 fs::path program_folder() {
-    const std::string named = environment("KAVETTA_HOME");
-    if (!named.empty()) {
-        return fs::absolute(named);
-    }
-    return fs::path(environment("HOME")) / ".local" / "share" / "Kavetta";
+    const std::string named = environment_variable("KAVETTA_HOME").value_or("");
+    return named.empty() ? user_data_folder() / "Kavetta" : fs::absolute(path_of_utf8(named));
 }
 
 void fill_program_folder(const fs::path& folder, const fs::path& share) {

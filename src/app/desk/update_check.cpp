@@ -2,6 +2,8 @@
 
 #include "app/desk/program_title.hpp"
 #include "app/program.hpp"
+#include "base/environment.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "base/trimmed.hpp"
@@ -9,7 +11,6 @@
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 
-#include <cstdlib>
 #include <vector>
 
 namespace kvt {
@@ -23,8 +24,8 @@ constexpr const char* LIST_NAME = "KVT_updates.upd";
 constexpr std::string_view BLANKS = " \t\r\n";
 
 std::string named_server(const std::filesystem::path& folder) {
-    if (const char* variable = std::getenv(SERVER_VARIABLE)) {
-        return std::string(trimmed(variable, BLANKS));
+    if (const std::optional<std::string> variable = environment_variable(SERVER_VARIABLE)) {
+        return std::string(trimmed(*variable, BLANKS));
     }
     try {
         const auto lines = split_lines(read_file(folder / UPDATE_SERVER_FILE, LARGEST_TEXT));
@@ -69,7 +70,7 @@ class fetched_files {
 
   private:
     std::filesystem::path path_of(const std::string& name) const {
-        return kavetta_.folder / LOCAL_FOLDER / name;
+        return kavetta_.folder / LOCAL_FOLDER / path_of_utf8(name);
     }
 
     const program& kavetta_;

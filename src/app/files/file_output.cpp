@@ -5,6 +5,7 @@
 #include "app/files/written_results.hpp"
 #include "app/program.hpp"
 #include "app/stages/porting_type.hpp"
+#include "base/path_text.hpp"
 #include "base/short_date.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -109,7 +110,7 @@ void write_gt_step_file(const program& kavetta, const written_file& file,
     if (!is_there(file.needs, kavetta.port_params, kavetta.entries)) {
         return;
     }
-    const std::string path = (std::filesystem::path(folder) / file_name(file)).string();
+    const std::string path = (path_of_utf8(folder) / file_name(file)).string();
     const auto failed = save_text(
         path, [&](text_lines& text) { file.write(source_of(kavetta, file, path), text); });
     if (failed) {

@@ -3,6 +3,7 @@
 #include "app/desk/settings_commands.hpp"
 #include "app/files/file_output.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
@@ -39,8 +40,7 @@ void write_port_report(const program& kavetta, user& person) {
     text_lines text;
     const written_file& report = files_of(file_group::report).front();
     report.write(source_of(kavetta), text);
-    const std::filesystem::path path =
-        std::filesystem::path(project_folder(kavetta)) / file_name(report);
+    const std::filesystem::path path = path_of_utf8(project_folder(kavetta)) / file_name(report);
     try {
         write_file(path, text.bytes());
     } catch (const run_time_error& error) {

@@ -3,6 +3,7 @@
 #include "app/desk/program_title.hpp"
 #include "app/desk/settings_commands.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/user.hpp"
 
@@ -16,7 +17,7 @@ namespace {
 print_request request_of(const program& kavetta) {
     const std::string& project = kavetta.app_state.project_name;
     const std::string name = project.empty() ? std::string(PROGRAM_NAME) : project;
-    return {name, (std::filesystem::path(project_folder(kavetta)) / (name + ".pdf")).string()};
+    return {name, (path_of_utf8(project_folder(kavetta)) / path_of_utf8(name + ".pdf")).string()};
 }
 
 }  // namespace

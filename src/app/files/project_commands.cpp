@@ -9,6 +9,7 @@
 #include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
 #include "base/code_page.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/utf8_text.hpp"
 #include "base/whole_file.hpp"
@@ -117,13 +118,14 @@ bool is_saved_all_the_same(const program& kavetta, user& person) {
 /// Overwrites the file where it stands when its folder lets it do nothing else and the user agrees.
 /// False when the user doesn't.
 bool write_project_asking(const program& kavetta, user& person, const project_record& record) {
-    const std::string& path = record.project_path;
+    const std::filesystem::path path = path_of_utf8(record.project_path);
     if (!is_only_written_in_place(path)) {
         write_file(path, write_project(record));
         return true;
     }
     const std::string question =
-        path + std::string(message_text(message::write_in_place, kavetta.app_state.language));
+        record.project_path +
+        std::string(message_text(message::write_in_place, kavetta.app_state.language));
     if (person.ask(question, question_buttons::yes_no) != answer::yes) {
         return false;
     }
@@ -153,7 +155,8 @@ bool write_project_as(program& kavetta, user& person, const std::string& path) {
 
 void load_entries(program& kavetta, user& person, const std::string& path) {
     app_state& state = kavetta.app_state;
-    const project_record record = read_project(read_file(path, LARGEST_TEXT), state.project_name);
+    const project_record record =
+        read_project(read_file(path_of_utf8(path), LARGEST_TEXT), state.project_name);
     assign_project_record(kavetta, record);
     reset_results(kavetta, person);
 }

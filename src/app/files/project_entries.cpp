@@ -5,6 +5,7 @@
 #include "app/stages/porting_type.hpp"
 #include "base/fixed4.hpp"
 #include "base/number_text.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/capacity_unit.hpp"
@@ -176,7 +177,7 @@ void assign_unsaved_entries(program& kavetta, const project_record& record) {
 }
 
 void write_entries(const program& kavetta, std::string_view path, disk_write kind) {
-    write_file(std::string(path), write_project(project_record_of(kavetta, path)), kind);
+    write_file(path_of_utf8(path), write_project(project_record_of(kavetta, path)), kind);
 }
 
 }  // namespace kvt

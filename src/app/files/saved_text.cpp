@@ -3,6 +3,7 @@
 #include "app/desk/program_title.hpp"
 #include "app/desk/settings_commands.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -58,7 +59,7 @@ std::optional<text_failure> save_text(const std::string& path, const text_writer
     } catch (const run_time_error& error) {
         failed = text_failure{error, true};
     }
-    const auto not_saved = failure_of([&] { write_file(path, text.bytes(), kind); });
+    const auto not_saved = failure_of([&] { write_file(path_of_utf8(path), text.bytes(), kind); });
     return not_saved ? not_saved : failed;
 }
 
@@ -92,7 +93,7 @@ std::optional<saved_text> ask_and_save_bytes(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<std::string(const std::string& path)>& bytes_of) {
     return ask_and_save(kavetta, person, dialog, [&](const std::string& path) {
-        return failure_of([&] { write_file(path, bytes_of(path)); });
+        return failure_of([&] { write_file(path_of_utf8(path), bytes_of(path)); });
     });
 }
 

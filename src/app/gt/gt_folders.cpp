@@ -1,5 +1,6 @@
 #include "app/gt/gt_folders.hpp"
 
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 
 namespace kvt {
@@ -80,7 +81,7 @@ fs::path named_file(const fs::path& folder, const std::string& name) {
     if (name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) {
         throw run_time_error(failure::invalid_property_value, "no file name: " + name);
     }
-    return folder / name;
+    return folder / path_of_utf8(name);
 }
 
 void copy_over(const fs::path& from, const fs::path& to) {

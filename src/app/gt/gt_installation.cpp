@@ -1,11 +1,12 @@
 #include "app/gt/gt_installation.hpp"
 
+#include "base/environment.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
+#include "base/system_file.hpp"
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <unistd.h>
 #include <vector>
 
 namespace kvt {
@@ -19,13 +20,12 @@ constexpr std::array EDITOR_NAMES = {"GTise.bat", "gtise.sh", "gtise"};
 
 /// The folder of the installation; empty without one.
 fs::path gt_home() {
-    const char* named = std::getenv("GTIHOME");
-    return named == nullptr ? "" : named;
+    return path_of_utf8(environment_variable("GTIHOME").value_or(""));
 }
 
 bool can_be_executed(const fs::path& file) {
     std::error_code error;
-    return fs::is_regular_file(file, error) && ::access(file.c_str(), X_OK) == 0;
+    return fs::is_regular_file(file, error) && may_be_executed(file);
 }
 
 }  // namespace

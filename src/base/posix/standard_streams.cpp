@@ -1,12 +1,8 @@
-#include "kvt/standard_streams.hpp"
-
-#include "base/run_time_error.hpp"
-#include "kvt/exit_status.hpp"
+#include "base/standard_streams.hpp"
 
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
-#include <ostream>
 #include <unistd.h>
 
 namespace kvt {
@@ -19,15 +15,6 @@ void guard_standard_streams() {
             static_cast<void>(::open("/dev/null", O_RDONLY));
         }
     }
-}
-
-int status_after_printing(int status, std::ostream& out, std::ostream& err, std::int16_t language) {
-    if (out.flush()) {
-        return status;
-    }
-    err << "standard output: "
-        << run_time_error_line(run_time_error(failure::path_file_access), language) << '\n';
-    return status == EXIT_OK ? EXIT_REFUSED : status;
 }
 
 }  // namespace kvt
