@@ -4,6 +4,7 @@
 #include "core/capacity_unit.hpp"
 #include "kvt/assist_command.hpp"
 #include "kvt/calc_command.hpp"
+#include "kvt/excel_command.hpp"
 #include "kvt/exit_status.hpp"
 #include "kvt/export_command.hpp"
 #include "kvt/export_options.hpp"
@@ -11,8 +12,8 @@
 #include "kvt/gt_command.hpp"
 #include "kvt/model_command.hpp"
 #include "kvt/option_check.hpp"
-#include "kvt/report_command.hpp"
 #include "kvt/printed_status.hpp"
+#include "kvt/report_command.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -41,6 +42,7 @@ constexpr const char* EXAMPLES =
     "  kvt report engine_oil.KVT --out engine_oil.pdf\n"
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
+    "  kvt excel engine_oil.KVT\n"
     "  kvt model engine_oil.KVT --package acad --what assembly,porting\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
@@ -57,6 +59,7 @@ struct command_line {
     assist_request assist;        ///< its source is that of calc
     gt_command_request gt;        ///< its source is that of calc
     model_command_request model;  ///< its source is that of calc
+    excel_request excel;          ///< its source is that of calc
 };
 
 const std::map<std::string, calc_stage> STAGES = {{"profiles", calc_stage::profiles},
@@ -183,11 +186,21 @@ CLI::App* add_model(CLI::App& app, command_line& line) {
     return model;
 }
 
+CLI::App* add_excel(CLI::App& app, command_line& line) {
+    CLI::App* excel =
+        app.add_subcommand("excel", "Fill a workbook in Excel with the performance of a design");
+    add_design_options(*excel, line);
+    add_host_options(*excel, line.excel.host, "Excel");
+    return excel;
+}
+
 /// Throws CLI::ValidationError for options that don't go together.
 void check_together(const command_line& line) {
-    const std::string problem = model_options_problem(line.model);
-    if (!problem.empty()) {
-        throw CLI::ValidationError("--log", problem);
+    for (const host_request* request : {&line.model.host, &line.excel.host}) {
+        const std::string problem = host_options_problem(*request);
+        if (!problem.empty()) {
+            throw CLI::ValidationError("--log", problem);
+        }
     }
 }
 
@@ -227,12 +240,18 @@ int run_model(command_line& line, std::ostream& out, std::ostream& err) {
     return build_models(line.model, out, err);
 }
 
+int run_excel(command_line& line, std::ostream& out, std::ostream& err) {
+    line.excel.source = line.calc.source;
+    return fill_excel_workbook(line.excel, out, err);
+}
+
 /// Every sub-command in the order of the help text.
 std::vector<sub_command> add_sub_commands(CLI::App& app, command_line& line) {
     app.require_subcommand(1);
     return {{add_calc(app, line), run_calc},     {add_export(app, line), run_export},
             {add_report(app, line), run_report}, {add_assist(app, line), run_assist},
-            {add_gt(app, line), run_gt},         {add_model(app, line), run_model}};
+            {add_gt(app, line), run_gt},         {add_model(app, line), run_model},
+            {add_excel(app, line), run_excel}};
 }
 
 /// Reads the options and runs the command that they name.
@@ -241,6 +260,7 @@ int run_options(int argc, const char* const* argv, command_line& line, std::ostr
     CLI::App app{ABOUT, "kvt"};
     app.footer(EXAMPLES);
     app.set_version_flag("--version", VERSION);
+    app.allow_windows_style_options(false);  // a path may begin with "/" there too
     const std::vector<sub_command> commands = add_sub_commands(app, line);
     try {
         app.parse(argc, argv);

@@ -37,7 +37,11 @@ void write_all(const program& kavetta, const export_request& request, export_fol
             folder.write(file_name(file), [&](text_lines& lines) { file.write(source, lines); });
         }
     }
-    if (request.workbook) {
+    if (request.workbook && !has_workbook_files()) {
+        folder.note(WORKBOOK_NAME,
+                    form_text("data", "no_workbook_files", kavetta.app_state.language));
+        folder.refuse();
+    } else if (request.workbook) {
         folder.write_whole(WORKBOOK_NAME,
                            [&] { return workbook_bytes(make_workbook_plan(source)); });
     }

@@ -2,10 +2,6 @@
 
 #include "app/models/solid_models.hpp"
 #include "app/program.hpp"
-#include "automation/no_host.hpp"
-#include "automation/recorder_host.hpp"
-#include "automation/system_host.hpp"
-#include "base/text_file.hpp"
 #include "cad/model_outlines.hpp"
 #include "core/text_table.hpp"
 #include "kvt/batch_user.hpp"
@@ -14,15 +10,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <memory>
 #include <ostream>
 
 namespace kvt {
 
 namespace {
-
-constexpr const char* PACKAGES_OF_THIS_MACHINE = "com";
-constexpr const char* RECORDER = "recorder";
 
 std::vector<std::string> package_codes() {
     std::vector<std::string> codes;
@@ -109,38 +101,6 @@ class model_run {
     bool has_ports_;
 };
 
-std::unique_ptr<automation::host> packages_of_this_machine() {
-    std::unique_ptr<automation::host> programs = automation::system_host();
-    return programs != nullptr ? std::move(programs) : std::make_unique<automation::no_host>();
-}
-
-int status_of(bool all_built) {
-    return all_built ? EXIT_OK : EXIT_REFUSED;
-}
-
-int write_log(const automation::recorder_host& programs, const model_command_request& request,
-              std::ostream& err) {
-    try {
-        write_file(request.log_file,
-                   programs.log(request.full_log ? automation::log_length::full
-                                                 : automation::log_length::shortened),
-                   disk_write::left_to_the_system);
-    } catch (const run_time_error& error) {
-        err << request.log_file << ": " << run_time_error_line(error, request.source.language)
-            << '\n';
-        return EXIT_REFUSED;
-    }
-    return EXIT_OK;
-}
-
-int record_models(model_run& run, const model_command_request& request, std::ostream& out,
-                  std::ostream& err) {
-    automation::recorder_host programs;
-    const int status = status_of(run.build_all(programs, out));
-    const int log_status = request.log_file.empty() ? EXIT_OK : write_log(programs, request, err);
-    return std::max(status, log_status);
-}
-
 /// Whether Design Ports left an outline that it did not refuse.
 bool has_ports(const program& kavetta, const batch_result& result) {
     return !result.ports_refused &&
@@ -160,21 +120,7 @@ void add_model_options(CLI::App& command, model_command_request& request) {
         ->allow_extra_args(false)
         ->check(plain(CLI::IsMember(model_words())))
         ->required();
-    command
-        .add_option("--host", request.host,
-                    "com: drive the package that is installed (the default); recorder: none, its\n"
-                    "calls are only written down")
-        ->type_name("com|recorder")
-        ->check(plain(CLI::IsMember({PACKAGES_OF_THIS_MACHINE, RECORDER})));
-    CLI::Option* log =
-        command.add_option("--log", request.log_file, "File for the recorder's calls, a line each");
-    log->type_name("FILE");
-    command.add_flag("--full-log", request.full_log, "Every number and every call in it")
-        ->needs(log);
-}
-
-std::string model_options_problem(const model_command_request& request) {
-    return request.log_file.empty() || request.host == RECORDER ? "" : "needs --host recorder";
+    add_host_options(command, request.host, "package");
 }
 
 int build_models(const model_command_request& request, std::ostream& out, std::ostream& err) {
@@ -187,10 +133,9 @@ int build_models(const model_command_request& request, std::ostream& out, std::o
         return status;
     }
     model_run run(kavetta, person, request, has_ports(kavetta, result));
-    if (request.host == RECORDER) {
-        return record_models(run, request, out, err);
-    }
-    return status_of(run.build_all(*packages_of_this_machine(), out));
+    return drive(
+        request.host, [&](automation::host& programs) { return run.build_all(programs, out); },
+        request.source.language, err);
 }
 
 }  // namespace kvt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/stages/batch_run.hpp"
+#include "kvt/driven_host.hpp"
 
 #include <iosfwd>
 #include <string>
@@ -17,17 +18,11 @@ struct model_command_request {
     design_source source;
     std::string package;            ///< code: "acad"
     std::vector<std::string> what;  ///< words of the models, in the order in which they are built
-    std::string host = "com";       ///< "com": the installed package; "recorder": none
-    std::string log_file;           ///< for the calls; empty: none
-    bool full_log = false;          ///< with every number and call
+    host_request host;
 };
 
 /// Adds the options of `kvt model`.
 void add_model_options(CLI::App& command, model_command_request& request);
-
-/// What is wrong with options that are right by themselves, or nothing: only the recorder has a
-/// log.
-std::string model_options_problem(const model_command_request& request);
 
 /// Calculates the design as far as the models need it and builds them. A line a model goes to
 /// `out`, the package's messages go to `err`. Answers the exit status; a model that was not built

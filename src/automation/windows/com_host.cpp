@@ -7,6 +7,7 @@
 #include "base/windows/wide_text.hpp"
 
 #include <chrono>
+#include <map>
 #include <objbase.h>
 #include <oleauto.h>
 
@@ -130,8 +131,8 @@ class exception_report {
 /// An object of another program.
 class com_object final : public object {
   public:
-    com_object(apartment_ref apartment, IDispatch* dispatch)
-        : apartment_(std::move(apartment)), dispatch_(dispatch) {}
+    com_object(apartment_ref entered, IDispatch* dispatch)
+        : apartment_(std::move(entered)), dispatch_(dispatch) {}
     ~com_object() override { dispatch_->Release(); }
     com_object(const com_object&) = delete;
     com_object& operator=(const com_object&) = delete;
@@ -180,7 +181,14 @@ class com_object final : public object {
         }
     }
 
+    /// Asked once a name: each question goes to the other program and back.
     DISPID id_of(std::string_view name) {
+        const auto known = ids_.find(name);
+        return known != ids_.end() ? known->second
+                                   : ids_.emplace(name, asked_id(name)).first->second;
+    }
+
+    DISPID asked_id(std::string_view name) {
         std::wstring wide = wide_of_utf8(name);
         LPOLESTR asked = wide.data();
         DISPID id = DISPID_UNKNOWN;
@@ -227,6 +235,7 @@ class com_object final : public object {
 
     apartment_ref apartment_;
     IDispatch* dispatch_;
+    std::map<std::string, DISPID, std::less<>> ids_;
 };
 
 bool find_class(std::string_view class_name, CLSID& id) {

@@ -17,6 +17,11 @@ void require(HRESULT done, const char* what) {
     }
 }
 
+/// For functions that only read, but don't say so.
+VARIANT* not_const(const VARIANT& read) {
+    return const_cast<VARIANT*>(&read);
+}
+
 BSTR text_of(const std::string& utf8) {
     const std::wstring wide = wide_of_utf8(utf8);
     return SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
@@ -221,7 +226,7 @@ value array_value(VARTYPE type, SAFEARRAY* array, const object_of_dispatch& obje
 /// Any other number.
 value number_value(const VARIANT& answer) {
     variant number;
-    require(VariantChangeType(&number.get(), &answer, 0, VT_R8), "answered number");
+    require(VariantChangeType(&number.get(), not_const(answer), 0, VT_R8), "answered number");
     return V_R8(&number.get());
 }
 
@@ -251,7 +256,7 @@ call_arguments::~call_arguments() = default;
 value value_of(const VARIANT& answer, const object_of_dispatch& object) {
     if (V_ISBYREF(&answer)) {
         variant copied;
-        require(VariantCopyInd(&copied.get(), &answer), "answered reference");
+        require(VariantCopyInd(&copied.get(), not_const(answer)), "answered reference");
         return value_of(copied.get(), object);
     }
     if (V_ISARRAY(&answer)) {

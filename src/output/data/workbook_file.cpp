@@ -1,5 +1,6 @@
 #include "output/data/workbook_file.hpp"
 
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/scratch_folder.hpp"
 #include "base/whole_file.hpp"
@@ -124,7 +125,7 @@ class open_workbook {
     lxw_workbook* get() const { return book_.get(); }
     std::string close() {
         require(workbook_close(book_.release()), path_);
-        return read_file(path_);
+        return read_file(path_of_utf8(path_));
     }
 
   private:
@@ -137,6 +138,10 @@ class open_workbook {
 };
 
 }  // namespace
+
+bool has_workbook_files() {
+    return true;
+}
 
 std::string workbook_bytes(std::span<const workbook_sheet> plan,
                            const std::function<void(int sheet_count)>& sheet_done) {

@@ -2,9 +2,11 @@
 #include "app/files/performance_files.hpp"
 
 #include "app/stages/calculate_performance.hpp"
+#include "automation/recorder_host.hpp"
 #include "support/performed_design.hpp"
 #include "support/temporary_folder.hpp"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -200,6 +202,51 @@ TEST_F(export_excel_test, that_fails_leaves_an_old_file_alone) {
     export_excel(kavetta, person);
     EXPECT_EQ(read_file(folder.file("pump.xlsx")), "old");
     EXPECT_EQ(person.questions, texts{NOT_POSSIBLE});
+}
+
+struct fill_excel_test : performance_files {
+    automation::recorder_host excel;
+};
+
+TEST_F(fill_excel_test, fills_a_workbook_that_stays_open) {
+    EXPECT_TRUE(fill_excel(kavetta, person, excel));
+    EXPECT_EQ(person.log,
+              (texts{"progress Writing... 0", "progress Writing... 20", "progress Writing... 40",
+                     "progress Writing... 60", "progress Writing... 80", "progress Writing... 100",
+                     "unload progressfrm"}));
+    EXPECT_EQ(files_there(), 0U);
+    EXPECT_GT(excel.calls().size(), 100U);
+}
+
+TEST_F(fill_excel_test, asks_for_no_file) {
+    export_workbook(kavetta, person, &excel);
+    EXPECT_TRUE(person.dialogs.empty());
+    EXPECT_TRUE(person.questions.empty());
+    EXPECT_EQ(person.log.back(), "unload progressfrm");
+}
+
+TEST_F(fill_excel_test, that_fails_offers_the_data_files) {
+    excel.fail_call(2, 429);
+    person.answers = {answer::yes};
+    cancel_all();
+    export_workbook(kavetta, person, &excel);
+    EXPECT_EQ(person.questions, texts{NOT_POSSIBLE});
+    EXPECT_EQ(person.dialogs.size(), 5U);
+}
+
+TEST_F(fill_excel_test, needs_a_performance_of_the_open_project) {
+    kavetta.stage_entries.perf_results.reset();
+    export_workbook(kavetta, person, &excel);
+    EXPECT_EQ(person.log, texts{"message " + NO_PERFORMANCE});
+    EXPECT_TRUE(excel.calls().empty());
+}
+
+TEST_F(fill_excel_test, that_fails_tells_the_number) {
+    excel.fail_call(2, 429);
+    EXPECT_FALSE(fill_excel(kavetta, person, excel));
+    EXPECT_EQ(person.log.back(),
+              "status The workbook was not filled, Excel answered error number 429");
+    EXPECT_NE(std::ranges::find(person.log, "unload progressfrm"), person.log.end());
 }
 
 }  // namespace

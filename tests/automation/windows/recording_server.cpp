@@ -70,7 +70,7 @@ bool remove_class(const texts& arguments) {
     return RegDeleteTreeW(HKEY_CLASSES_ROOT, name.c_str()) == ERROR_SUCCESS;
 }
 
-/// Gives out the application object, as often as it is asked for.
+/// Gives out the application object, once: the next client gets a server of its own.
 class class_factory final : public IClassFactory {
   public:
     explicit class_factory(IDispatch* application) : application_(application) {}
@@ -83,20 +83,16 @@ class class_factory final : public IClassFactory {
     // It lives as long as the process.
     ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    /// From then on the client alone keeps the application, and with it the process.
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID asked, void** found) override {
         const HRESULT given = application_->QueryInterface(asked, found);
-        // From now on the clients alone keep it, and with it the process.
-        if (is_held_) {
-            is_held_ = false;
-            application_->Release();
-        }
+        application_->Release();
         return given;
     }
     HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
 
   private:
     IDispatch* application_;
-    bool is_held_ = true;
 };
 
 void take_option(served_program& program, const std::string& option) {
@@ -123,8 +119,8 @@ int serve_class(const texts& arguments) {
     if (std::ranges::find(arguments, "running") != arguments.end()) {
         RegisterActiveObject(application, SERVED_CLASS, ACTIVEOBJECT_STRONG, &active);
     }
-    if (FAILED(CoRegisterClassObject(SERVED_CLASS, &factory, CLSCTX_LOCAL_SERVER,
-                                     REGCLS_MULTIPLEUSE, &registered))) {
+    if (FAILED(CoRegisterClassObject(SERVED_CLASS, &factory, CLSCTX_LOCAL_SERVER, REGCLS_SINGLEUSE,
+                                     &registered))) {
         return 1;
     }
     MSG message = {};

@@ -25,6 +25,8 @@ struct served_call {
     VARIANT* answer;
     EXCEPINFO* exception;
 
+    /// Asked for no result. Wine gives the server a place for one all the same.
+    bool is_procedure() const { return flags == DISPATCH_METHOD; }
     bool is_put() const { return (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0; }
     std::size_t count() const { return parameters->cArgs; }
     /// Arguments in the order in which they are written.
@@ -72,7 +74,7 @@ HRESULT fail_with(const served_call& call) {
 
 /// Refuses to give a result, as procedures of some programs do.
 HRESULT procedure_only(const served_call& call) {
-    return call.answer == nullptr ? S_OK : DISP_E_MEMBERNOTFOUND;
+    return call.is_procedure() ? S_OK : DISP_E_MEMBERNOTFOUND;
 }
 
 HRESULT two_arguments(const served_call& call) {
@@ -219,7 +221,7 @@ class served_object final : public IDispatch {
     void make_call(const served_call& call, values arguments) {
         if (call.is_put()) {
             recorded_->put(call.name, std::move(arguments.at(0)));
-        } else if (call.answer == nullptr) {
+        } else if (call.is_procedure()) {
             recorded_->run(call.name, std::move(arguments));
         } else {
             const value answer = recorded_->get(call.name, std::move(arguments));
