@@ -1,0 +1,169 @@
+#!/usr/bin/env python3
+"""kvt.exe under Wine. Usage: kvt_test.py KVT.EXE RECORDING_SERVER.EXE [UNITTEST OPTION]...
+
+The environment variable KVT_NATIVE names the kvt of this system: numbers, texts and calls are compared with its own.
+WINE names Wine.
+The recording server stands for the CAD packages and for the spreadsheet program, under their class names.
+"""
+import contextlib
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools"))
+import compare_programs  # noqa: E402
+
+DESIGN = ROOT / "tests/data/designs/n07_engine_oil_groove.KVT"
+PACKAGES = {
+    "acad": "autocad.application",
+    "SW": "sldworks.application",
+    "invent": "inventor.application",
+    "SE": "solidedge.application",
+    "CAT": "catia.application",
+}
+MODELS = ("trochoid", "inner", "outer", "porting", "assembly")
+LONGEST_WAIT = 20.0
+WINE = os.environ.get("WINE", "wine")
+NATIVE = os.environ.get("KVT_NATIVE", "")
+
+
+class program_test(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+    def start(self, *arguments):
+        return subprocess.run([WINE, KVT, *map(str, arguments)], cwd=self.folder, capture_output=True, check=False)
+
+    def native(self, *arguments):
+        return subprocess.run([NATIVE, *map(str, arguments)], cwd=self.folder, capture_output=True, check=False)
+
+
+class alone_test(program_test):
+    def test_numbers_and_files_are_those_of_this_system(self):
+        same = compare_programs.near_comparison()
+        count, found = compare_programs.findings(ROOT, (NATIVE, KVT), same, compare_programs.ALL_POINTS)
+        print(f"\n{count} files. {same}")
+        self.assertEqual(found, [])
+
+    def test_what_is_printed_is_utf_8_with_the_line_ends_of_this_system(self):
+        arguments = ("calc", DESIGN, "--language", "2")
+        self.assertEqual(self.start(*arguments).stdout, self.native(*arguments).stdout)
+        self.assertIn("Trochoidenverhältnis".encode(), self.start(*arguments).stdout)
+
+    def test_every_command_takes_names_with_umlauts(self):
+        folder = self.folder / "Prüfung Öl"
+        folder.mkdir()
+        project = shutil.copy(DESIGN, folder / "Zahnräder ß.KVT")
+        commands = {
+            "Größe.json": ("calc", project, "--json", folder / "Größe.json"),
+            "Dateien ä/inner.dxf": ("export", project, "--out", folder / "Dateien ä"),
+            "Dateien ä/Zahnräder ß.KVT": ("export", project, "--out", folder / "Dateien ä"),
+            "Bericht ö.txt": ("report", project, "--out", folder / "Bericht ö.txt"),
+            "Bericht ö.pdf": ("report", project, "--out", folder / "Bericht ö.pdf"),
+            "gefunden ü.KVT": ("assist", project, "--set", "volumereqd=20", "--write", folder / "gefunden ü.KVT"),
+            "Aufrufe ü.log": ("excel", project, "--host", "recorder", "--log", folder / "Aufrufe ü.log"),
+        }
+        for name, command in commands.items():
+            with self.subTest(name):
+                done = self.start(*command)
+                self.assertEqual(done.returncode, 0, done.stderr.decode())
+                self.assertTrue((folder / name).is_file(), sorted(folder.rglob("*")))
+
+    def test_exit_statuses_are_those_of_this_system(self):
+        for arguments in (("calc", "none.KVT"), ("calc",), ("calc", DESIGN, "--set", "numlobes=0"), ("--version",)):
+            with self.subTest(arguments):
+                self.assertEqual(self.start(*arguments).returncode, self.native(*arguments).returncode)
+
+    def test_a_path_that_begins_with_a_slash_is_no_option(self):
+        self.assertEqual(self.start("calc", DESIGN).returncode, 0)
+
+    def test_the_workbook_file_is_left_out_and_named(self):
+        done = self.start("export", DESIGN, "--out", "out", "--workbook")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("perf.xlsx: not written, this program is built without libxlsxwriter", done.stderr.decode())
+        self.assertTrue((self.folder / "out/inner.dxf").is_file())
+
+
+class late_binding_test(program_test):
+    @contextlib.contextmanager
+    def served(self, class_name, *options):
+        """The server under a class name; what it wrote down is then in the log."""
+        self.log = self.folder / "server.log"
+        self.log.unlink(missing_ok=True)
+        subprocess.run([WINE, SERVER, "register", class_name, str(self.log), *options], check=True)
+        try:
+            yield
+        finally:
+            subprocess.run([WINE, SERVER, "unregister", class_name], check=True)
+
+    def served_log(self):
+        end = time.monotonic() + LONGEST_WAIT
+        while not self.log.exists() and time.monotonic() < end:
+            time.sleep(0.02)
+        return self.log
+
+    def expect_calls(self, *command):
+        """The calls that arrive are those that the recorder of this system writes down."""
+        driven = self.start(*command)
+        self.assertEqual(driven.returncode, 0, driven.stderr.decode())
+        recorded = self.folder / "recorder.log"
+        done = self.native(*command, "--host", "recorder", "--log", recorded, "--full-log")
+        self.assertEqual(done.returncode, 0, done.stderr.decode())
+        same = compare_programs.near_comparison()
+        self.assertTrue(same(self.served_log(), recorded), self.first_difference(self.log, recorded))
+
+    @staticmethod
+    def first_difference(left, right):
+        for pair in zip(left.read_text().splitlines(), right.read_text().splitlines()):
+            if pair[0] != pair[1]:
+                return f"{pair[0][:200]} instead of {pair[1][:200]}"
+        return "one log is longer"
+
+    def test_each_model_makes_the_calls_of_the_recorder(self):
+        for code, class_name in PACKAGES.items():
+            with self.served(class_name):
+                for model in MODELS:
+                    with self.subTest(f"{code} {model}"):
+                        self.log.unlink(missing_ok=True)
+                        self.expect_calls("model", DESIGN, "--package", code, "--what", model)
+
+    def test_the_workbook_makes_the_calls_of_the_recorder(self):
+        with self.served("excel.application"):
+            self.expect_calls("excel", DESIGN)
+
+    def test_a_busy_package_is_waited_for(self):
+        with self.served(PACKAGES["acad"], "busy=3"):
+            self.expect_calls("model", DESIGN, "--package", "acad", "--what", "inner")
+
+    def test_a_package_that_dies_in_the_middle_is_told(self):
+        with self.served(PACKAGES["acad"], "dies=9"):
+            done = self.start("model", DESIGN, "--package", "acad", "--what", "inner")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("You must have a licensed copy of AutoCad R14", done.stderr.decode())
+        with self.served("excel.application", "dies=40"):
+            done = self.start("excel", DESIGN)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("The workbook was not filled, Excel answered error number ", done.stderr.decode())
+
+    def test_a_program_that_is_not_installed_is_told(self):
+        done = self.start("model", DESIGN, "--package", "invent", "--what", "inner")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("Error number 429 has occured.", done.stderr.decode())
+        done = self.start("excel", DESIGN)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("answered error number 429", done.stderr.decode())
+
+
+if __name__ == "__main__":
+    KVT, SERVER = (str(pathlib.Path(name).resolve()) for name in sys.argv[1:3])
+    if not NATIVE:
+        sys.exit("KVT_NATIVE must name the kvt of this system")
+    unittest.main(argv=[sys.argv[0], *sys.argv[3:]])
