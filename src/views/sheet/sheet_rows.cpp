@@ -81,10 +81,12 @@ struct performance_row {
     std::string entries::*box;
     std::string entries::*second = nullptr;
     std::string_view between = {};
+    std::string_view behind = {};  ///< the unit that no caption holds
 };
 
 constexpr std::string_view INNER_AND_OUTER = " / ";
 constexpr std::string_view FROM_TO = " – ";
+constexpr std::string_view PERCENT = " %";
 
 /// Their captions hold the unit.
 constexpr std::array PERFORMANCE_ENTRIES = {
@@ -95,8 +97,8 @@ constexpr std::array PERFORMANCE_ENTRIES = {
     performance_row{"Label10", &entries::young_inner, &entries::young_outer, INNER_AND_OUTER},
     performance_row{"Label11", &entries::poissons_inner, &entries::poissons_outer, INNER_AND_OUTER},
     performance_row{"Label14", &entries::friction},
-    performance_row{"Face_area_label", &entries::Face_area_value},
-    performance_row{"OD_area_label", &entries::OD_area_value},
+    performance_row{"Face_area_label", &entries::Face_area_value, nullptr, {}, PERCENT},
+    performance_row{"OD_area_label", &entries::OD_area_value, nullptr, {}, PERCENT},
     performance_row{"Label6", &entries::speed_lo, &entries::speed_hi, FROM_TO},
     performance_row{"Label7", &entries::pressure_lo, &entries::pressure_hi, FROM_TO},
 };
@@ -263,7 +265,7 @@ std::vector<page_row> performance_entry_rows(const sheet_source& source) {
         if (row.second != nullptr) {
             value += std::string(row.between) + boxes.*row.second;
         }
-        rows.push_back({caption("Perffrm", row.label, source), value});
+        rows.push_back({caption("Perffrm", row.label, source), value + std::string(row.behind)});
     }
     return rows;
 }

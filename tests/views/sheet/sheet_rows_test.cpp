@@ -85,6 +85,7 @@ TEST_F(sheet_rows, two_entries_of_a_line_stand_together) {
     const rows table = performance_entry_rows(source_of_sheet(kavetta));
     EXPECT_EQ(row(table, "Speed Range (RPM)").at(1),
               kavetta.entries.speed_lo + " – " + kavetta.entries.speed_hi);
+    EXPECT_EQ(row(table, "Face Area").at(1), "100 %");
     EXPECT_EQ(row(table, "Poissons Ratio").at(1),
               kavetta.entries.poissons_inner + " / " + kavetta.entries.poissons_outer);
 }
