@@ -108,18 +108,4 @@ point2 inner_profile_point(const exact_pair& pair, double angle) {
     return turned(contact_of_lobe(pair, angle).place, -angle * pair.inner_turn());
 }
 
-point2 turned(const point2& point, double angle) {
-    const double c = std::cos(angle);
-    const double s = std::sin(angle);
-    return {point.x * c - point.y * s, point.x * s + point.y * c};
-}
-
-double cross(const point2& a, const point2& b) {
-    return a.x * b.y - a.y * b.x;
-}
-
-double dot(const point2& a, const point2& b) {
-    return a.x * b.x + a.y * b.y;
-}
-
 }  // namespace kvt

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/design_params.hpp"
+#include "exact/plane.hpp"
 #include "geometry/point2.hpp"
 
 namespace kvt {
@@ -58,10 +59,5 @@ double profile_sweep(const exact_pair& pair, double angle);
 /// The inner rotor's profile in its own frame, by the angle of the lobe that touches it there: lobe
 /// k of a pair whose outer rotor stands at psi has the angle psi + k pitch.
 point2 inner_profile_point(const exact_pair& pair, double angle);
-
-/// A point turned about the origin.
-point2 turned(const point2& point, double angle);
-double cross(const point2& a, const point2& b);
-double dot(const point2& a, const point2& b);
 
 }  // namespace kvt

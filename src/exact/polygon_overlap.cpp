@@ -1,5 +1,7 @@
 #include "exact/polygon_overlap.hpp"
 
+#include "exact/plane.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -8,14 +10,10 @@ namespace kvt {
 
 namespace {
 
-double cross_product(const point2& a, const point2& b) {
-    return a.x * b.y - a.y * b.x;
-}
-
 double signed_area(const std::vector<point2>& points) {
     double twice = 0.0;
     for (std::size_t i = 0; i < points.size(); ++i) {
-        twice += cross_product(points[i], points[(i + 1) % points.size()]);
+        twice += cross(points[i], points[(i + 1) % points.size()]);
     }
     return twice / 2.0;
 }
@@ -38,8 +36,7 @@ double edges_inside(const indexed_polygon& edges, const indexed_polygon& other) 
         for (std::size_t k = 0; k + 1 < shares.size(); ++k) {
             const double middle = (shares[k] + shares[k + 1]) / 2.0;
             if (shares[k] < shares[k + 1] && other.contains(on_the_way(a, b, middle))) {
-                twice +=
-                    cross_product(on_the_way(a, b, shares[k]), on_the_way(a, b, shares[k + 1]));
+                twice += cross(on_the_way(a, b, shares[k]), on_the_way(a, b, shares[k + 1]));
             }
         }
     }
@@ -108,13 +105,13 @@ void indexed_polygon::add_crossings(const point2& a, const point2& b,
         for (const std::size_t edge : bands_[band]) {
             const point2& c = points_[edge];
             const point2 other = difference(end_of(edge), c);
-            const double turn = cross_product(way, other);
+            const double turn = cross(way, other);
             if (turn == 0.0) {
                 continue;
             }
             const point2 apart = difference(c, a);
-            const double share = cross_product(apart, other) / turn;
-            const double on_other = cross_product(apart, way) / turn;
+            const double share = cross(apart, other) / turn;
+            const double on_other = cross(apart, way) / turn;
             if (share > 0.0 && share < 1.0 && on_other >= 0.0 && on_other <= 1.0) {
                 shares.push_back(share);
             }
