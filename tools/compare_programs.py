@@ -5,7 +5,7 @@ Both calculate and export every design of examples and tests/data/designs and lo
 folder of its own with the same name. A difference in one digit is reported with its file. A program whose name ends in
 .exe is started with Wine, which the environment variable WINE may name.
 With --nearly the C library may decide about the last digits: numbers differ by at most RELATIVE of their size or by
-ABSOLUTE, paths in their separator; all points of the profiles are compared too, and what differed is summed up.
+ABSOLUTE, whole ones by one, paths in their separator; all points of the profiles are compared too, and what differed is summed up.
 """
 import filecmp
 import os
@@ -26,11 +26,13 @@ COMMANDS = {
 }
 # Of the comparison that knows last digits.
 ALL_POINTS = {"calc": ("--full",)}
-RELATIVE = 1e-11
+RELATIVE = 1e-10
 ABSOLUTE = 1e-11
+# Places of chart marks in twips, which a last digit rounds to one side or the other.
+WHOLE = re.compile(r"-?\d+\.0")
 NUMBER = re.compile(r"[-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?")
 # Of the day of the run, in the form of the system.
-DATE_FIELD = re.compile(r'"date": ?"[^"]*"')
+DATE_TEXT = re.compile(r'"\d{1,2}/\d{1,2}/\d{2,4}"')
 
 
 def started(program):
@@ -61,18 +63,21 @@ class near_comparison:
     """Compares texts number by number and keeps the largest differences."""
 
     def __init__(self):
-        self.numbers = self.changed_numbers = self.changed_files = 0
+        self.numbers = self.changed_numbers = self.changed_files = self.whole = 0
         self.relative = self.absolute = 0.0
 
     def text(self, path):
         text = path.read_bytes().decode("latin-1")
-        return DATE_FIELD.sub("", text.replace("\\\\", "/").replace("\\", "/"))
+        return DATE_TEXT.sub("", text.replace("\\\\", "/").replace("\\", "/"))
 
     def same_number(self, left, right):
         self.numbers += 1
         if left == right:
             return True
         self.changed_numbers += 1
+        if WHOLE.fullmatch(left) and WHOLE.fullmatch(right):
+            self.whole += 1
+            return abs(float(left) - float(right)) <= 1.0
         size = max(abs(float(left)), abs(float(right)))
         difference = abs(float(left) - float(right))
         self.absolute = max(self.absolute, difference)
@@ -92,7 +97,8 @@ class near_comparison:
 
     def __str__(self):
         return (f"{self.changed_files} files differ in last digits: {self.changed_numbers} of {self.numbers} numbers "
-                f"in them, by at most {self.absolute:.2g}, above {ABSOLUTE:g} by at most {self.relative:.2g} of their size.")
+                f"in them, by at most {self.absolute:.2g}, above {ABSOLUTE:g} by at most {self.relative:.2g} of their "
+                f"size; {self.whole} whole numbers by one.")
 
 
 def same_bytes(left, right):

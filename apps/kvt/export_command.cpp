@@ -16,10 +16,10 @@ namespace kvt {
 namespace {
 
 /// <name of the input>.KVT.
-std::string exported_project_name(const design_source& source) {
+std::filesystem::path exported_project_name(const design_source& source) {
     std::filesystem::path name = path_of_utf8(source.project).filename();
     name.replace_extension(".KVT");
-    return name.string();
+    return name;
 }
 
 void create_folder(const std::filesystem::path& folder) {
