@@ -9,6 +9,7 @@ int main(int argc, char** argv) {
     kvt::guard_standard_streams();
     const std::vector<std::string> arguments = kvt::program_arguments(argc, argv);
     std::vector<const char*> line;
+    line.reserve(arguments.size());
     for (const std::string& argument : arguments) {
         line.push_back(argument.c_str());
     }

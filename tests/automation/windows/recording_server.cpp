@@ -104,6 +104,22 @@ void take_option(served_program& program, const std::string& option) {
     }
 }
 
+/// Until the last object is gone. A client that was killed, or a reference that got lost on the
+/// way, must not keep the server: it ends after a while without a call, too.
+void serve_calls(const served_program& program) {
+    constexpr UINT LONGEST_REST_MS = 10000;
+    SetTimer(nullptr, 0, LONGEST_REST_MS, nullptr);
+    long calls_before = 0;
+    MSG message = {};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (message.message == WM_TIMER && program.calls == calls_before) {
+            return;
+        }
+        calls_before = message.message == WM_TIMER ? program.calls : calls_before;
+        DispatchMessageW(&message);
+    }
+}
+
 int serve_class(const texts& arguments) {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     served_program program;
@@ -123,10 +139,7 @@ int serve_class(const texts& arguments) {
                                      &registered))) {
         return 1;
     }
-    MSG message = {};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        DispatchMessageW(&message);
-    }
+    serve_calls(program);
     if (active != 0) {
         RevokeActiveObject(active, nullptr);
     }

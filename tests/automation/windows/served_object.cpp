@@ -169,6 +169,7 @@ class served_object final : public IDispatch {
 
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* answer, EXCEPINFO* exception, UINT*) override {
+        ++program_.calls;
         if (program_.rejections > 0) {
             --program_.rejections;
             return CALL_REJECTED;

@@ -17,6 +17,7 @@ struct served_program {
     int rejections = 0;              ///< how many calls are still rejected as of a busy program
     int calls_to_live = -1;          ///< the process ends in place of a later one; negative: never
     long objects = 0;
+    long calls = 0;
 };
 
 /// With one reference.
