@@ -54,7 +54,7 @@ TEST_F(sheet_pdf_test, knows_its_paper_and_letters) {
     const double width = a4.metrics("Kavetta", {10.0, false});
     EXPECT_GT(width, 10.0);
     EXPECT_LT(width, 15.0);
-    EXPECT_NEAR(a4.metrics("Kavetta", {20.0, false}), 2.0 * width, 0.05);
+    EXPECT_NEAR(a4.metrics("Kavetta", {20.0, false}) / width, 2.0, 0.01) << "whole dots";
     EXPECT_GT(a4.metrics("Kavetta", {10.0, true}), width);
 }
 
