@@ -121,6 +121,7 @@ struct value_writer {
     void operator()(nothing) const { text.words("nothing"); }
     void operator()(omitted) const { text.words("omitted"); }
     void operator()(by_reference) const { text.words("&"); }
+    void operator()(by_reference_numbers) const { text.words("&[]"); }
     void operator()(const number_array& array) const {
         text.array("[", array.numbers, "]", write_number);
     }

@@ -4,6 +4,7 @@
 #include "automation/call_log.hpp"
 #include "automation/object.hpp"
 
+#include <array>
 #include <initializer_list>
 #include <map>
 #include <optional>
@@ -82,6 +83,25 @@ void write_by_reference(const values& arguments) {
     }
 }
 
+using corners = std::array<std::vector<double>, 2>;  // lowest and highest
+
+/// The box of every solid lies along x, that of a copy on a circle along y: such copies are turned.
+const corners& box_of(std::string_view made_by) {
+    static const corners ALONG_X = {{{0.0, 0.0, 0.0}, {2.0, 1.0, 1.0}}};
+    static const corners ALONG_Y = {{{0.0, 0.0, 0.0}, {1.0, 2.0, 1.0}}};
+    return made_by == "ArrayPolar" ? ALONG_Y : ALONG_X;
+}
+
+/// Arrays by reference get the corners of a box, in order: no other member is asked for one.
+void write_box(const values& arguments, const corners& box) {
+    std::size_t written = 0;
+    for (const value& argument : arguments) {
+        if (const auto* target = std::get_if<by_reference_numbers>(&argument)) {
+            *target->target = box.at(written++);
+        }
+    }
+}
+
 }  // namespace
 
 /// What the host and all its objects write into.
@@ -115,7 +135,7 @@ class recorded_object : public object {
 
     value get(std::string_view name, values arguments) override {
         recorded_call& call = record()->add(call_of(call_kind::get, name, std::move(arguments)));
-        write_by_reference(call.arguments);
+        write_outs(call.arguments);
         value answer = answer_of(call);
         note_objects(call, answer);
         return answer;
@@ -124,7 +144,7 @@ class recorded_object : public object {
     void run(std::string_view name, values arguments) override {
         const recorded_call& call =
             record()->add(call_of(call_kind::run, name, std::move(arguments)));
-        write_by_reference(call.arguments);
+        write_outs(call.arguments);
         if (adds_to_collection(name)) {
             added_.push_back(nullptr);
         }
@@ -150,6 +170,11 @@ class recorded_object : public object {
         call.name = name;
         call.arguments = std::move(arguments);
         return call;
+    }
+
+    void write_outs(const values& arguments) const {
+        write_by_reference(arguments);
+        write_box(arguments, box_of(name_));
     }
 
     value answer_of(const recorded_call& call) {

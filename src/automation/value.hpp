@@ -22,6 +22,10 @@ struct omitted {};
 struct by_reference {
     double* target = nullptr;
 };
+/// An argument into which the call writes an array of numbers, such as a place.
+struct by_reference_numbers {
+    std::vector<double>* target = nullptr;
+};
 /// One-dimensional array of numbers: points and vertices.
 struct number_array {
     std::vector<double> numbers;
@@ -43,9 +47,9 @@ struct table {
 };
 
 /// monostate: no value at all, as a procedure answers.
-using value =
-    std::variant<std::monostate, bool, std::int32_t, double, std::string, object_ref, nothing,
-                 omitted, by_reference, number_array, object_array, variant_array, table>;
+using value = std::variant<std::monostate, bool, std::int32_t, double, std::string, object_ref,
+                           nothing, omitted, by_reference, by_reference_numbers, number_array,
+                           object_array, variant_array, table>;
 using values = std::vector<value>;
 
 }  // namespace kvt::automation

@@ -4,6 +4,8 @@
 #include "base/checked_math.hpp"
 #include "cad/model_outlines.hpp"
 
+#include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace kvt::autocad {
@@ -19,6 +21,8 @@ constexpr std::string_view CLASS_NAME = "autocad.application";
 constexpr double NO_TAPER = 0.0;
 constexpr double FULL_CIRCLE = 6.283185307179586;  // AngleToFill of ArrayPolar, radians
 constexpr bool KEEP_BOTH_SIDES = true;
+/// Sizes of boxes that differ by less, relative, are the same.
+constexpr double SAME_SIZE = 1e-9;
 
 /// With no drawing open there is no active one.
 object_ref active_document(const object_ref& application) {
@@ -29,10 +33,35 @@ object_ref active_document(const object_ref& application) {
     }
 }
 
-/// Neither a region nor its outline is of use behind a solid; older releases delete them
-/// themselves.
+/// For what is of no more use. Older releases delete a region and its outline themselves.
 void delete_if_there(const object_ref& entity) {
     ignore_failure([&entity] { entity->run("Delete"); });
+}
+
+/// Width and height of the box around a solid, in the drawing's unit.
+point2 box_size(const object_ref& solid) {
+    std::vector<double> lowest, highest;
+    solid->run("GetBoundingBox", {automation::by_reference_numbers{&lowest},
+                                  automation::by_reference_numbers{&highest}});
+    return {checked_at(highest, 0) - checked_at(lowest, 0),
+            checked_at(highest, 1) - checked_at(lowest, 1)};
+}
+
+bool is_same_length(double a, double b) {
+    return std::abs(a - b) <= SAME_SIZE * std::max(std::abs(a), std::abs(b));
+}
+
+/// Whether ArrayPolar turned its copies or only moved them round: the box of a moved copy is as
+/// wide and as high as that of its original. A turn that gives a box of the same size again, as a
+/// quarter turn may, is not seen; the copies made in their place are the same then. A release that
+/// can't tell the box is taken to turn its copies, as the package's manual says.
+bool are_turned(const std::vector<object_ref>& copies, const object_ref& original) {
+    bool turned = true;
+    ignore_failure([&] {
+        const point2 told = box_size(original), copied = box_size(checked_at(copies, 0));
+        turned = !is_same_length(told.x, copied.x) || !is_same_length(told.y, copied.y);
+    });
+    return turned;
 }
 
 }  // namespace
@@ -98,7 +127,26 @@ void drawing::slice(const object_ref& solid, point3 a, point3 b, point3 c) const
 
 std::vector<object_ref> drawing::polar_copies(const object_ref& solid, std::int32_t count,
                                               point3 centre) const {
-    return as_objects(solid->get("ArrayPolar", {count, FULL_CIRCLE, point(centre)}));
+    std::vector<object_ref> copies =
+        as_objects(solid->get("ArrayPolar", {count, FULL_CIRCLE, point(centre)}));
+    if (are_turned(copies, solid)) {
+        return copies;
+    }
+    for (const object_ref& copy : copies) {
+        delete_if_there(copy);
+    }
+    return rotated_copies(solid, count, centre);
+}
+
+std::vector<object_ref> drawing::rotated_copies(const object_ref& solid, std::int32_t count,
+                                                point3 centre) const {
+    const number_array foot = point(centre), above = point({centre.x, centre.y, centre.z + 1.0});
+    std::vector<object_ref> copies;
+    for (std::int32_t k = 1; k < count; ++k) {
+        copies.push_back(object_of(solid, "Copy"));
+        copies.back()->run("Rotate3D", {foot, above, k * FULL_CIRCLE / count});
+    }
+    return copies;
 }
 
 void drawing::zoom() const {

@@ -37,7 +37,8 @@ class drawing {
     void mirror(const automation::object_ref& solid, double plane_z) const;
     /// Keeps the side of the plane through three points to which (b - a) x (c - a) points.
     void slice(const automation::object_ref& solid, point3 a, point3 b, point3 c) const;
-    /// The copies of a solid on a full circle of `count`, itself not included.
+    /// The copies of a solid on a full circle of `count`, itself not included, each turned about
+    /// the vertical axis through the centre by its share of the circle.
     std::vector<automation::object_ref> polar_copies(const automation::object_ref& solid,
                                                      std::int32_t count, point3 centre) const;
 
@@ -47,6 +48,8 @@ class drawing {
     void zoom_twice() const;
 
   private:
+    std::vector<automation::object_ref> rotated_copies(const automation::object_ref& solid,
+                                                       std::int32_t count, point3 centre) const;
     double length(double mm) const;
     automation::number_array point(point3 mm) const;
 

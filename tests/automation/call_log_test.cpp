@@ -38,6 +38,7 @@ TEST(call_log, has_a_form_for_each_kind_of_value) {
     EXPECT_EQ(line_with({table{2, 2, {cell{}, cell{1.5}, cell{std::string("n")}, cell{}}}}),
               "#1.Do(2 x 2 [empty, 1.5, \"n\", empty])");
     EXPECT_EQ(line_with({variant_array{{object_ref{}}}}), "#1.Do({nothing})");
+    EXPECT_EQ(line_with({by_reference{}, by_reference_numbers{}}), "#1.Do(&, &[])");
 }
 
 TEST(call_log, shortens_an_array_of_more_than_twelve_numbers) {

@@ -82,6 +82,25 @@ TEST_F(com_host_test, passes_an_array_by_reference_where_it_is_taken_in_no_other
     EXPECT_EQ(as_text(answered), "BYREF|ARRAY|R8");
 }
 
+TEST_F(com_host_test, reads_arrays_that_a_call_writes_as_doubles_or_as_variants) {
+    const object_ref solid = object_of(application, "Solid");
+    std::vector<double> lowest = {7.0}, highest;
+    solid->run("GetBoundingBox", {by_reference_numbers{&lowest}, by_reference_numbers{&highest}});
+    EXPECT_EQ(lowest, (std::vector{0.0, 0.0, 0.0}));
+    EXPECT_EQ(highest, (std::vector{2.0, 1.0, 1.0}));
+    EXPECT_EQ(types({by_reference_numbers{&lowest}}), "BYREF|VARIANT");
+    TearDown();
+    EXPECT_NE(server.log().find(".GetBoundingBox(&[], &[])\n"), std::string::npos);
+}
+
+TEST_F(com_host_test, answers_13_where_a_call_writes_no_array_of_numbers) {
+    std::vector<double> numbers;
+    const auto write_text = [&] {
+        application->run("WriteText", {by_reference_numbers{&numbers}});
+    };
+    EXPECT_EQ(error_of_call(write_text), 13);
+}
+
 TEST_F(com_host_test, tells_errors_by_the_number_that_a_script_would_see) {
     const struct {
         const char* member;

@@ -99,6 +99,19 @@ TEST(recorder_host, copies_a_point_into_what_is_passed_by_reference) {
               "#1.Convert3DCoordinate(1.5, -2.5, 0, &, &)\n");
 }
 
+TEST(recorder_host, answers_boxes_of_which_those_of_copies_on_a_circle_are_turned) {
+    recorder_host programs;
+    const object_ref tool = object_of(programs.create(PACKAGE), "AddCylinder");
+    const object_ref copy = as_objects(tool->get("ArrayPolar", {std::int32_t{2}})).at(0);
+    std::vector<double> lowest, highest;
+    tool->run("GetBoundingBox", {by_reference_numbers{&lowest}, by_reference_numbers{&highest}});
+    EXPECT_EQ(lowest, (std::vector{0.0, 0.0, 0.0}));
+    EXPECT_EQ(highest, (std::vector{2.0, 1.0, 1.0}));
+    copy->run("GetBoundingBox", {by_reference_numbers{&lowest}, by_reference_numbers{&highest}});
+    EXPECT_EQ(lowest, (std::vector{0.0, 0.0, 0.0}));
+    EXPECT_EQ(highest, (std::vector{1.0, 2.0, 1.0}));
+}
+
 TEST(recorder_host, answers_one_call_with_an_error) {
     recorder_host programs;
     programs.fail_call(3, 440);

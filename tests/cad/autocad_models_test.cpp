@@ -61,6 +61,15 @@ TEST(autocad_models, make_a_tool_for_each_lobe) {
     EXPECT_EQ(calls_of(programs, "AddCylinder"), 6U);
 }
 
+TEST(autocad_models, ask_by_two_boxes_whether_the_copies_were_turned) {
+    program kavetta = double_sided_design();
+    recorder_host programs;
+    record_model(kavetta, programs, "acad", model_kind::outer);
+    EXPECT_EQ(calls_of(programs, "GetBoundingBox"), 2U);
+    EXPECT_EQ(calls_of(programs, "Copy"), 0U);
+    EXPECT_EQ(calls_of(programs, "Rotate3D"), 0U);
+}
+
 TEST(autocad_models, leave_the_fillets_out_where_there_are_none) {
     program kavetta = double_sided_design();
     type_calculated(kavetta, &entries::fillet, "0");

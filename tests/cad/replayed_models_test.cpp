@@ -270,6 +270,38 @@ TEST(replayed_models, come_by_further_protrusions_where_solid_edge_makes_no_new_
     }
 }
 
+TEST(replayed_models, rotate_the_copies_that_autocad_only_moves_round) {
+    random_values random;
+    driven_package package = AUTOCAD;
+    package.start = [](const length_unit& unit) {
+        return autocad_stand_in(unit.mm, {.turns_copies = false});
+    };
+    expect_models(double_sided_design(), package, ROTORS_ALONE, {random, property_count(PLACES)});
+    expect_models(inch_design_with_shadow_ports(), package, ROTORS_ALONE,
+                  {random, property_count(PLACES)});
+    for (const int lobes : {3, 4, 20, 26}) {
+        SCOPED_TRACE(lobes);
+        program kavetta = opened_design("n07_engine_oil_groove");
+        type_many_lobes(kavetta.entries, lobes);
+        expect_models(calculated_rotors(std::move(kavetta)), package, ROTORS_ALONE,
+                      {random, property_count(PLACES)});
+    }
+    for (int count = property_count(8); count > 0; --count) {
+        const program kavetta = random_design(random);
+        SCOPED_TRACE("lobes " + kavetta.entries.numlobes + ", fillet " + kavetta.entries.fillet);
+        expect_models(kavetta, package, OUTER_ALONE, {random, 2000});
+    }
+}
+
+TEST(replayed_models, take_autocads_copies_for_turned_where_it_tells_no_box) {
+    random_values random;
+    driven_package package = AUTOCAD;
+    package.start = [](const length_unit& unit) {
+        return autocad_stand_in(unit.mm, {.tells_boxes = false});
+    };
+    expect_models(double_sided_design(), package, ROTORS_ALONE, {random, 2000});
+}
+
 TEST(replayed_models, open_a_drawing_where_autocad_has_none) {
     random_values random;
     driven_package package = AUTOCAD;

@@ -226,11 +226,15 @@ class com_object final : public object {
             passed.rgdispidNamedArgs = &new_value;
             passed.cNamedArgs = 1;
         }
-        return patiently([&] {
+        const HRESULT answered = patiently([&] {
             UINT wrong_argument = 0;
             return dispatch_->Invoke(id, IID_NULL, US_ENGLISH, flags, &passed, answer, report.get(),
                                      &wrong_argument);
         });
+        if (SUCCEEDED(answered)) {
+            arguments.take_written();
+        }
+        return answered;
     }
 
     apartment_ref apartment_;

@@ -103,6 +103,8 @@ class variant_filler {
         V_VT(&filled_) = VT_BYREF | VT_R8;
         V_R8REF(&filled_) = number.target;
     }
+    /// Stays empty: what is passed refers to it, and the call fills it.
+    void operator()(by_reference_numbers) const {}
     void operator()(const number_array& array) const {
         const std::size_t count = array.numbers.size();
         array_elements<double> elements(make_array(filled_, VT_R8, {from_0(count)}));
@@ -161,6 +163,15 @@ VARIANT reference_to(VARIANT& array) {
     return reference;
 }
 
+/// A VARIANT that refers to the whole of another one.
+VARIANT reference_to_variant(VARIANT& whole) {
+    VARIANT reference;
+    VariantInit(&reference);
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &whole;
+    return reference;
+}
+
 std::size_t element_count(SAFEARRAY* array) {
     LONG first = 0;
     LONG last = -1;
@@ -209,6 +220,27 @@ number_array numbers_of(SAFEARRAY* array) {
     return numbers;
 }
 
+std::vector<double> numbers_of_variants(SAFEARRAY* array) {
+    std::vector<double> numbers;
+    array_elements<VARIANT> elements(array);
+    for (std::size_t i = 0; i < element_count(array); ++i) {
+        require(V_VT(&elements[i]) == VT_R8 ? S_OK : DISP_E_TYPEMISMATCH, "element of an array");
+        numbers.push_back(V_R8(&elements[i]));
+    }
+    return numbers;
+}
+
+std::vector<double> written_numbers(const VARIANT& written) {
+    switch (V_VT(&written)) {
+        case VT_ARRAY | VT_R8:
+            return numbers_of(V_ARRAY(&written)).numbers;
+        case VT_ARRAY | VT_VARIANT:
+            return numbers_of_variants(V_ARRAY(&written));
+        default:
+            throw error_of(DISP_E_TYPEMISMATCH, "array written by a call");
+    }
+}
+
 value array_value(VARTYPE type, SAFEARRAY* array, const object_of_dispatch& object) {
     switch (type) {
         case VT_R8:
@@ -243,6 +275,11 @@ call_arguments::call_arguments(const values& arguments, const dispatch_of& dispa
     owned_.reserve(arguments.size());
     for (std::size_t i = arguments.size(); i > 0; --i) {
         VARIANT& filled = owned_.emplace_back().get();
+        if (const auto* numbers = std::get_if<by_reference_numbers>(&arguments[i - 1])) {
+            passed_.push_back(reference_to_variant(filled));
+            written_.push_back({filled, *numbers->target});
+            continue;
+        }
         std::visit(variant_filler(filled, dispatch), arguments[i - 1]);
         const bool is_array = V_ISARRAY(&filled);
         holds_arrays_ = holds_arrays_ || is_array;
@@ -252,6 +289,12 @@ call_arguments::call_arguments(const values& arguments, const dispatch_of& dispa
 }
 
 call_arguments::~call_arguments() = default;
+
+void call_arguments::take_written() const {
+    for (const written_array& array : written_) {
+        array.target = written_numbers(array.held);
+    }
+}
 
 value value_of(const VARIANT& answer, const object_of_dispatch& object) {
     if (V_ISBYREF(&answer)) {

@@ -43,10 +43,19 @@ class call_arguments {
     VARIANT* data() { return passed_.data(); }
     std::size_t size() const { return passed_.size(); }
     bool holds_arrays() const { return holds_arrays_; }
+    /// Hands the arrays that the call wrote to the targets of by_reference_numbers. Throws 13 for
+    /// what is no array of doubles, or of variants that hold doubles.
+    void take_written() const;
 
   private:
+    struct written_array {
+        const VARIANT& held;
+        std::vector<double>& target;
+    };
+
     std::vector<variant> owned_;
     std::vector<VARIANT> passed_;  // what owned_ holds, or references to it
+    std::vector<written_array> written_;
     bool holds_arrays_ = false;
 };
 

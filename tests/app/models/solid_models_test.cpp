@@ -254,7 +254,8 @@ bool is_passed_over(const std::string& package, const clean_run& run, std::size_
         const std::set<std::string> left_over = {"AddRegion", "AddLightWeightPolyline", "Item",
                                                  "Add"};
         return call.name == "ActiveDocument" || call.name == "ActiveViewport" ||
-               call.name == "Item" || (call.name == "Delete" && left_over.contains(run.owner(i)));
+               call.name == "Item" || call.name == "GetBoundingBox" ||
+               (call.name == "Delete" && left_over.contains(run.owner(i)));
     }
     // A further body of Solid Edge that makes no model of its own joins the first one.
     const std::set<std::string> of_body = {"Models", "AddFiniteExtrudedProtrusion", "Count",

@@ -90,6 +90,14 @@ HRESULT array_by_reference(const served_call& call) {
     return V_ISBYREF(&call.argument(0)) ? types(call) : DISP_E_TYPEMISMATCH;
 }
 
+/// Writes a text where an array of numbers is waited for.
+HRESULT write_text(const served_call& call) {
+    VARIANT& into = *V_VARIANTREF(&call.argument(0));
+    V_VT(&into) = VT_BSTR;
+    V_BSTR(&into) = SysAllocString(L"1, 2, 3");
+    return S_OK;
+}
+
 HRESULT put_flags(const served_call& call) {
     const bool named = call.parameters->cNamedArgs == 1 &&
                        call.parameters->rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
@@ -115,6 +123,7 @@ constexpr own_member OWN_MEMBERS[] = {
     {"TwoArguments", two_arguments},
     {"ByValueProperty", by_value_property},
     {"ArrayByReference", array_by_reference},
+    {"WriteText", write_text},
     {"PutFlags", put_flags},
     {"Quit", quit},
 };
@@ -204,17 +213,37 @@ class served_object final : public IDispatch {
 
     HRESULT record(const served_call& call) {
         try {
-            values arguments;
-            for (std::size_t i = 0; i < call.count(); ++i) {
-                arguments.push_back(read_argument(call.argument(i), behind));
-            }
-            make_call(call, std::move(arguments));
+            std::vector<std::vector<double>> written(call.count());
+            make_call(call, read_arguments(call, written));
+            write_arrays(call, written);
             return S_OK;
         } catch (const automation_error& error) {
             call.exception->wCode = static_cast<WORD>(error.number());
             return DISP_E_EXCEPTION;
         } catch (const std::runtime_error&) {
             return DISP_E_TYPEMISMATCH;
+        }
+    }
+
+    static values read_arguments(const served_call& call,
+                                 std::vector<std::vector<double>>& written) {
+        values arguments;
+        for (std::size_t i = 0; i < call.count(); ++i) {
+            if (takes_array(call.argument(i))) {
+                arguments.emplace_back(by_reference_numbers{&written[i]});
+            } else {
+                arguments.push_back(read_argument(call.argument(i), behind));
+            }
+        }
+        return arguments;
+    }
+    /// In both forms in turn.
+    static void write_arrays(const served_call& call,
+                             const std::vector<std::vector<double>>& written) {
+        for (std::size_t i = 0; i < call.count(); ++i) {
+            if (takes_array(call.argument(i))) {
+                write_array(written[i], i % 2 == 1, call.argument(i));
+            }
         }
     }
 

@@ -196,6 +196,26 @@ value read_argument(const VARIANT& argument, const served_behind& behind) {
     }
 }
 
+bool takes_array(const VARIANT& argument) {
+    return V_VT(&argument) == (VT_BYREF | VT_VARIANT);
+}
+
+void write_array(const std::vector<double>& numbers, bool as_variants, const VARIANT& argument) {
+    const VARTYPE type = as_variants ? VT_VARIANT : VT_R8;
+    SAFEARRAY* array = SafeArrayCreateVector(type, 0, static_cast<ULONG>(numbers.size()));
+    for (LONG i = 0; i < static_cast<LONG>(numbers.size()); ++i) {
+        double number = numbers[static_cast<std::size_t>(i)];
+        VARIANT variant;
+        V_VT(&variant) = VT_R8;
+        V_R8(&variant) = number;
+        SafeArrayPutElement(array, &i, as_variants ? static_cast<void*>(&variant) : &number);
+    }
+    VARIANT& into = *V_VARIANTREF(&argument);
+    VariantClear(&into);
+    V_VT(&into) = static_cast<VARTYPE>(VT_ARRAY | type);
+    V_ARRAY(&into) = array;
+}
+
 void write_answer(const value& answer, const served_for& served, bool as_variants, VARIANT& into) {
     if (const auto* truth = std::get_if<bool>(&answer)) {
         V_VT(&into) = VT_BOOL;

@@ -21,6 +21,11 @@ std::string type_name(const VARIANT& argument);
 /// Throws std::runtime_error for what no client of ours passes.
 value read_argument(const VARIANT& argument, const served_behind& behind);
 
+/// Whether an argument is a VARIANT by reference, into which a call writes an array.
+bool takes_array(const VARIANT& argument);
+/// Writes an array of doubles there, or of variants that hold them when asked for.
+void write_array(const std::vector<double>& numbers, bool as_variants, const VARIANT& argument);
+
 /// Arrays of objects are arrays of variants when asked for.
 void write_answer(const value& answer, const served_for& served, bool as_variants, VARIANT& into);
 

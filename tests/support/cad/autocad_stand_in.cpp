@@ -1,5 +1,7 @@
+#include "support/cad/solid_box.hpp"
 #include "support/cad/stand_ins.hpp"
 
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -7,6 +9,7 @@ namespace kvt {
 
 namespace {
 
+using automation::by_reference_numbers;
 using automation::number_array;
 using automation::object_array;
 using automation::object_ref;
@@ -44,18 +47,32 @@ class polyline : public entity {
 
 class planar_region : public entity {
   public:
-    explicit planar_region(flat_region inside_) : inside(std::move(inside_)) {}
-    flat_region inside;
+    explicit planar_region(std::vector<point2> corners_) : corners(std::move(corners_)) {}
+    std::vector<point2> corners;
 };
+
+/// A solid with the surfaces that it may have.
+struct surfaced_solid {
+    solid shape;
+    surfaces all;
+};
+surfaced_solid turned(const surfaced_solid& one, point2 axis, double angle) {
+    return {turned(one.shape, axis, angle), turned(one.all, axis, angle)};
+}
+surfaced_solid moved(const surfaced_solid& one, point3 by) {
+    return {moved(one.shape, by), moved(one.all, by)};
+}
 
 class solid_3d : public entity {
   public:
-    solid_3d(drawing& in, solid shape_);
+    solid_3d(drawing& in, surfaced_solid made_);
 
-    solid shape;
+    surfaced_solid made;
 
   private:
     void combine(const values& arguments);
+    void tell_box(const values& arguments) const;
+    surfaced_solid copy_on_circle(point2 centre, double angle) const;
     value slice(const values& arguments);
     value polar_array(const values& arguments);
 
@@ -76,7 +93,7 @@ class selection_set : public stand_in_object {
 
 class drawing : public stand_in_object {
   public:
-    drawing();
+    explicit drawing(autocad_release release_);
 
     template <typename kind, typename... arguments>
     std::shared_ptr<kind> add(arguments&&... from) {
@@ -85,6 +102,7 @@ class drawing : public stand_in_object {
         return made;
     }
 
+    autocad_release release;
     std::vector<std::shared_ptr<entity>> entities;
     std::map<std::string, std::shared_ptr<selection_set>> sets;
 
@@ -97,24 +115,28 @@ class drawing : public stand_in_object {
     std::shared_ptr<stand_in_object> selection_sets_ = std::make_shared<stand_in_object>();
 };
 
-solid_3d::solid_3d(drawing& in, solid shape_) : shape(std::move(shape_)), in_(in) {
+solid_3d::solid_3d(drawing& in, surfaced_solid made_) : made(std::move(made_)), in_(in) {
     on_run("Boolean", 2, [this](const values& arguments) { combine(arguments); });
     on_get("SliceSolid", 4, [this](const values& arguments) { return slice(arguments); });
     on_get("ArrayPolar", 3, [this](const values& arguments) { return polar_array(arguments); });
     on_get("Mirror3D", 3, [this](const values& arguments) -> value {
-        return in_.add<solid_3d>(
-            in_, mirrored(shape, place(arguments, 0), place(arguments, 1), place(arguments, 2)));
+        const solid image =
+            mirrored(made.shape, place(arguments, 0), place(arguments, 1), place(arguments, 2));
+        return in_.add<solid_3d>(in_, surfaced_solid{image, {}});
     });
     on_run("Move", 2, [this](const values& arguments) {
-        shape = moved(shape, place(arguments, 1) - place(arguments, 0));
+        made = moved(made, place(arguments, 1) - place(arguments, 0));
     });
-    on_get("Copy", 0, [this](const values&) -> value { return in_.add<solid_3d>(in_, shape); });
+    on_get("Copy", 0, [this](const values&) -> value { return in_.add<solid_3d>(in_, made); });
+    if (in_.release.tells_boxes) {
+        on_run("GetBoundingBox", 2, [this](const values& arguments) { tell_box(arguments); });
+    }
     on_run("Rotate3D", 3, [this](const values& arguments) {
         const point3 foot = place(arguments, 0), along = place(arguments, 1) - foot;
         if (along.x != 0.0 || along.y != 0.0 || along.z <= 0.0) {
             refuse("an axis that is not vertical");
         }
-        shape = turned(shape, {foot.x, foot.y}, real(arguments, 2));
+        made = turned(made, {foot.x, foot.y}, real(arguments, 2));
     });
 }
 
@@ -127,28 +149,61 @@ void solid_3d::combine(const values& arguments) {
     }
     switch (operation) {
         case UNION:
-            shape = united(shape, other->shape);
+            made.shape = united(made.shape, other->made.shape);
             break;
         case INTERSECTION:
-            shape = common(shape, other->shape);
+            made.shape = common(made.shape, other->made.shape);
             break;
         case SUBTRACTION:
-            shape = cut(shape, other->shape);
+            made.shape = cut(made.shape, other->made.shape);
             break;
         default:
             refuse("an operation that there is not");
     }
+    made.all = together(std::move(made.all), other->made.all);
     other->is_gone = true;
+}
+
+void solid_3d::tell_box(const values& arguments) const {
+    if (made.all.walls.empty()) {
+        refuse("the box of a mirrored solid");
+    }
+    const auto [lowest, highest] = box_of(made.shape, made.all);
+    *argument<by_reference_numbers>(arguments, 0).target = {lowest.x, lowest.y, lowest.z};
+    *argument<by_reference_numbers>(arguments, 1).target = {highest.x, highest.y, highest.z};
+}
+
+/// The wall in the plane through three places, of which two lie above one another.
+wall upright_wall(const std::array<point3, 3>& at) {
+    const point3 normal = cross(at[1] - at[0], at[2] - at[0]);
+    if (normal.z != 0.0) {
+        refuse("a plane that is not upright");
+    }
+    return {{at[0].x, at[0].y}, {at[0].x - normal.y, at[0].y + normal.x}};
 }
 
 value solid_3d::slice(const values& arguments) {
     if (!truth(arguments, 3)) {
         refuse("which half stays is not told");
     }
-    const solid side = half_space(place(arguments, 0), place(arguments, 1), place(arguments, 2));
-    object_ref other_half = in_.add<solid_3d>(in_, cut(shape, side));
-    shape = common(shape, side);
+    const std::array at = {place(arguments, 0), place(arguments, 1), place(arguments, 2)};
+    const solid side = half_space(at[0], at[1], at[2]);
+    made.all.walls.push_back(upright_wall(at));
+    object_ref other_half = in_.add<solid_3d>(in_, surfaced_solid{cut(made.shape, side), made.all});
+    made.shape = common(made.shape, side);
     return other_half;
+}
+
+/// One that isn't turned is moved as the middle of its box goes round.
+surfaced_solid solid_3d::copy_on_circle(point2 centre, double angle) const {
+    if (in_.release.turns_copies) {
+        return turned(made, centre, angle);
+    }
+    const auto [lowest, highest] = box_of(made.shape, made.all);
+    const double x = (lowest.x + highest.x) / 2.0 - centre.x;
+    const double y = (lowest.y + highest.y) / 2.0 - centre.y;
+    const double c = std::cos(angle), s = std::sin(angle);
+    return moved(made, {c * x - s * y - x, s * x + c * y - y, 0.0});
 }
 
 value solid_3d::polar_array(const values& arguments) {
@@ -161,12 +216,12 @@ value solid_3d::polar_array(const values& arguments) {
     object_array copies;
     for (std::int32_t i = 1; i < count; ++i) {
         copies.objects.push_back(
-            in_.add<solid_3d>(in_, turned(shape, {centre.x, centre.y}, angle * i / count)));
+            in_.add<solid_3d>(in_, copy_on_circle({centre.x, centre.y}, angle * i / count)));
     }
     return copies;
 }
 
-drawing::drawing() {
+drawing::drawing(autocad_release release_) : release(release_) {
     fill_model_space();
     selection_sets_->on_get("Item", 1, [this](const values& arguments) -> value {
         const auto found = sets.find(argument<std::string>(arguments, 0));
@@ -191,14 +246,18 @@ void drawing::fill_model_space() {
         if (real(arguments, 1) == 0.0 || real(arguments, 2) != 0.0) {
             refuse("no height, or a taper");
         }
-        return add<solid_3d>(*this, prism(of->inside, 0.0, real(arguments, 1)));
+        const double height = real(arguments, 1);
+        return add<solid_3d>(*this, surfaced_solid{prism(polygon_region(of->corners), 0.0, height),
+                                                   surfaces_of_prism(of->corners, 0.0, height)});
     });
     model_space_->on_get("AddCylinder", 3, [this](const values& arguments) -> value {
-        if (!(real(arguments, 1) > 0.0) || !(real(arguments, 2) > 0.0)) {
+        const point3 centre = place(arguments, 0);
+        const double radius = real(arguments, 1), height = real(arguments, 2);
+        if (!(radius > 0.0) || !(height > 0.0)) {
             refuse("a cylinder without radius or height");
         }
-        return add<solid_3d>(*this,
-                             cylinder(place(arguments, 0), real(arguments, 1), real(arguments, 2)));
+        return add<solid_3d>(*this, surfaced_solid{cylinder(centre, radius, height),
+                                                   surfaces_of_cylinder(centre, radius, height)});
     });
 }
 
@@ -210,7 +269,7 @@ value drawing::add_region(const values& arguments) {
         if (!outline->is_closed) {
             refuse("a region of an open curve");
         }
-        regions.objects.push_back(add<planar_region>(polygon_region(outline->points)));
+        regions.objects.push_back(add<planar_region>(outline->points));
     }
     return regions;
 }
@@ -227,7 +286,9 @@ value drawing::add_selection_set(const values& arguments) {
 class autocad : public cad_stand_in {
   public:
     autocad(double mm_per_unit, autocad_release release)
-        : cad_stand_in("autocad.application", mm_per_unit), is_open_(release.has_open_drawing) {
+        : cad_stand_in("autocad.application", mm_per_unit),
+          drawing_(std::make_shared<drawing>(release)),
+          is_open_(release.has_open_drawing) {
         application->on_get("ActiveDocument", 0, [this](const values&) -> value {
             if (!is_open_) {
                 refuse("no drawing is open");
@@ -246,7 +307,7 @@ class autocad : public cad_stand_in {
     std::vector<solid> bodies() const override {
         std::vector<solid> shapes;
         for (const auto& one : alive<solid_3d>()) {
-            shapes.push_back(in_mm(one->shape));
+            shapes.push_back(in_mm(one->made.shape));
         }
         return shapes;
     }
@@ -282,7 +343,7 @@ class autocad : public cad_stand_in {
         return found;
     }
 
-    std::shared_ptr<drawing> drawing_ = std::make_shared<drawing>();
+    std::shared_ptr<drawing> drawing_;
     bool is_open_;
 };
 

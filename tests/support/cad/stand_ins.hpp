@@ -10,6 +10,8 @@ namespace kvt {
 
 struct autocad_release {
     bool has_open_drawing = true;
+    bool turns_copies = true;  ///< of ArrayPolar; else it moves them round
+    bool tells_boxes = true;
 };
 /// A drawing in any unit.
 std::unique_ptr<cad_stand_in> autocad_stand_in(double mm_per_unit, autocad_release release = {});
