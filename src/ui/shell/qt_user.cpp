@@ -40,6 +40,8 @@ void focus_when_active(QWidget* target) {
             if (now == nullptr || now->window() != target->window()) {
                 return;
             }
+            // At once: two that wait would wake each other for as long as they are not deleted.
+            QObject::disconnect(qApp, nullptr, once, nullptr);
             once->deleteLater();
             QMetaObject::invokeMethod(
                 target, [target] { target->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
