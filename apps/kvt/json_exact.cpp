@@ -2,7 +2,6 @@
 
 #include "app/program.hpp"
 #include "app/stages/batch_run.hpp"
-#include "app/stages/porting_type.hpp"
 #include "base/run_time_error.hpp"
 #include "exact/exact_figures.hpp"
 #include "exact/port_timing.hpp"
@@ -137,9 +136,8 @@ json json_exact(const program& kavetta, const batch_result& result) {
     }
     if (result.performance_reached) {
         add_part(object, "performance", [&] {
-            const double swept_cc = exact_rotors_of(design).swept_cc;
             return json_performance(
-                exact_performance_of(design, swept_cc, kavetta.perf_inputs, kavetta.perf_results));
+                exact_performance_of(design, kavetta.perf_inputs, kavetta.perf_results));
         });
     }
     return object;

@@ -17,10 +17,11 @@ exact_rotors exact_rotors_of(const design_params& design) {
             figures_of_flow(pair)};
 }
 
-exact_performance exact_performance_of(const design_params& design, double swept_cc,
-                                       const perf_inputs& inputs, const perf_results& results) {
-    exact_performance exact{flow_of_volume(swept_cc, results), {}};
+exact_performance exact_performance_of(const design_params& design, const perf_inputs& inputs,
+                                       const perf_results& results) {
     const exact_pair pair = nominal_pair(design);
+    const double swept_cc = swept_volume(pair) / MM3_PER_CC;
+    exact_performance exact{flow_of_volume(swept_cc, results), {}};
     const double modulus = contact_modulus({inputs.young_inner_mpa, inputs.young_outer_mpa,
                                             inputs.poisson_inner, inputs.poisson_outer});
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {

@@ -30,7 +30,7 @@ struct exact_performance {
     /// Largest contact pressure at each pressure of the grid, torque V p / (2 pi).
     std::array<contact_maximum, GRID_SIZE> contact = {};
 };
-exact_performance exact_performance_of(const design_params& design, double swept_cc,
-                                       const perf_inputs& inputs, const perf_results& results);
+exact_performance exact_performance_of(const design_params& design, const perf_inputs& inputs,
+                                       const perf_results& results);
 
 }  // namespace kvt

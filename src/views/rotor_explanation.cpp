@@ -36,10 +36,7 @@ class rotor_drawing {
                                static_cast<std::size_t>(PROFILE_POINTS) - 1)) {}
 
     explanation pair_and_side_view() {
-        drawing_.left = at(-116.0, 0.0).x;
-        drawing_.right = at(172.0, 0.0).x;
-        drawing_.bottom = -78.0 * unit_;
-        drawing_.top = 74.0 * unit_;
+        show(at(-116.0, -78.0), at(172.0, 74.0));
         add_pair();
         add_side_view();
         name_pair();
@@ -47,20 +44,15 @@ class rotor_drawing {
     }
 
     explanation pair() {
-        drawing_.left = at(-63.0, 0.0).x;
-        drawing_.right = at(63.0, 0.0).x;
-        drawing_.bottom = -70.0 * unit_;
-        drawing_.top = 62.0 * unit_;
+        show(at(-63.0, -70.0), at(63.0, 62.0));
         add_pair();
         name_pair();
         return std::move(drawing_);
     }
 
     explanation side_view() {
-        drawing_.left = at(108.0, 0.0).x;
-        drawing_.right = at(152.0, 0.0).x + design_.thick + design_.axial_clear;
-        drawing_.bottom = -70.0 * unit_;
-        drawing_.top = 68.0 * unit_;
+        const point2 corner = at(152.0, 68.0);
+        show(at(108.0, -70.0), {corner.x + design_.thick + design_.axial_clear, corner.y});
         add_side_view();
         return std::move(drawing_);
     }
@@ -68,6 +60,14 @@ class rotor_drawing {
   private:
     /// A place about the outer rotor axis, in units.
     point2 at(double x, double y) const { return {outer_.x + x * unit_, y * unit_}; }
+
+    /// What the picture shows, from its lower left corner to its upper right one.
+    void show(const point2& lower_left, const point2& upper_right) {
+        drawing_.left = lower_left.x;
+        drawing_.right = upper_right.x;
+        drawing_.bottom = lower_left.y;
+        drawing_.top = upper_right.y;
+    }
 
     point2 lobe_centre(double degrees) const {
         return point_at(outer_, lobe_centre_radius(design_, rotors_), lobe_near(degrees));

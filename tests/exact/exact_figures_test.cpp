@@ -14,8 +14,8 @@ TEST(exact_figures, differ_from_the_products_as_the_guide_says) {
     const program kavetta = performed_design("n03_transfer_sharp");
     const exact_rotors exact = exact_rotors_of(kavetta.design_params);
     EXPECT_NEAR(kavetta.rotor_profiles.capacity_cc / exact.swept_cc, 1.1662, 0.0005);
-    const exact_performance performance = exact_performance_of(
-        kavetta.design_params, exact.swept_cc, kavetta.perf_inputs, kavetta.perf_results);
+    const exact_performance performance =
+        exact_performance_of(kavetta.design_params, kavetta.perf_inputs, kavetta.perf_results);
     const double textbook = performance.contact.back().pressure;
     EXPECT_GT(textbook / kavetta.perf_results.hertz_max, 1.5);
     EXPECT_LT(textbook / kavetta.perf_results.hertz_max, 2.5);
@@ -24,8 +24,8 @@ TEST(exact_figures, differ_from_the_products_as_the_guide_says) {
 TEST(exact_figures, the_torque_of_the_contact_is_the_ideal_one) {
     const program kavetta = performed_design("n07_engine_oil_groove");
     const double swept_cc = exact_rotors_of(kavetta.design_params).swept_cc;
-    const exact_performance exact = exact_performance_of(kavetta.design_params, swept_cc,
-                                                         kavetta.perf_inputs, kavetta.perf_results);
+    const exact_performance exact =
+        exact_performance_of(kavetta.design_params, kavetta.perf_inputs, kavetta.perf_results);
     const double torque =
         swept_cc * 1000.0 * kavetta.perf_results.press_pa[3] / 1.0e6 / (2.0 * std::numbers::pi);
     const contact_maximum expected = largest_contact_pressure(

@@ -28,9 +28,8 @@ class contact_of_samples : public testing::TestWithParam<const char*> {};
 TEST_P(contact_of_samples, has_the_share_of_the_textbook_that_the_page_says) {
     performance_case sample = load_performance_case(GetParam());
     sample.run();
-    const double swept_cc = exact_rotors_of(sample.design_params).swept_cc;
-    const exact_performance exact = exact_performance_of(sample.design_params, swept_cc,
-                                                         sample.perf_inputs, sample.perf_results);
+    const exact_performance exact =
+        exact_performance_of(sample.design_params, sample.perf_inputs, sample.perf_results);
     const double textbook = exact.contact.back().pressure;
     const std::string line =
         "| " + std::string(GetParam()) + " | " + fixed_number(textbook, 0) + " | " +
