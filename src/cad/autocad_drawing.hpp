@@ -4,15 +4,12 @@
 
 #include "cad/model_session.hpp"
 #include "geometry/point2.hpp"
+#include "geometry/point3.hpp"
 
 #include <cstdint>
 #include <vector>
 
 namespace kvt::autocad {
-
-struct point3 {
-    double x = 0.0, y = 0.0, z = 0.0;
-};
 
 /// AcBooleanType: what Boolean makes of a solid and another one, which is consumed.
 inline constexpr std::int32_t UNION = 0;

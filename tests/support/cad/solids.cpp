@@ -92,18 +92,6 @@ point3 scaled(point3 a, double by) {
 
 }  // namespace
 
-point3 operator-(point3 a, point3 b) {
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-
-double dot(point3 a, point3 b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
-point3 cross(point3 a, point3 b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
 flat_region polygon_region(const std::vector<point2>& corners) {
     const auto lines = std::make_shared<striped_lines>(corners);
     return [lines](point2 point) { return lines->has_inside(point); };

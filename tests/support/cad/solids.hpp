@@ -4,18 +4,12 @@
 
 #include "geometry/circle_arc.hpp"
 #include "geometry/point2.hpp"
+#include "geometry/point3.hpp"
 
 #include <functional>
 #include <vector>
 
 namespace kvt {
-
-struct point3 {
-    double x = 0.0, y = 0.0, z = 0.0;
-};
-point3 operator-(point3 a, point3 b);
-double dot(point3 a, point3 b);
-point3 cross(point3 a, point3 b);
 
 using flat_region = std::function<bool(point2)>;
 using solid = std::function<bool(const point3&)>;
