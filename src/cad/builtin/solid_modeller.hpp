@@ -4,6 +4,7 @@
 // Source: docs/formulas/solid_models.md.
 #pragma once
 
+#include "cad/model_store.hpp"
 #include "geometry/point2.hpp"
 #include "geometry/point3.hpp"
 
@@ -13,14 +14,61 @@
 
 namespace kvt::builtin {
 
-/// A curve in the plane z = 0. Immutable, cheap to copy; the kernel's shape is behind it.
-class wire;
-/// A flat region between an outer contour and holes.
-class face;
-/// A solid that remembers the sampled contours of its upper face, its lower height and its height.
-class body;
+/// The kernel's shapes, told in cad/builtin/kernel_shapes.hpp.
+struct wire_shape;
+struct face_shape;
+struct body_shape;
 
-/// Straight lines through the points; closed: back to the first, which is not repeated. A closed
+/// A curve in the plane z = 0. Immutable, cheap to copy.
+class wire {
+  public:
+    explicit wire(std::shared_ptr<const wire_shape> shape);
+
+    /// A curve that ends where it starts, whether it was asked for as closed or not.
+    bool is_closed() const;
+    /// Points along the curve, at least 8 a span of a spline. A closed one doesn't repeat its
+    /// first.
+    const std::vector<point2>& sampled() const;
+    const wire_shape& shape() const { return *shape_; }
+
+  private:
+    std::shared_ptr<const wire_shape> shape_;
+};
+
+/// A flat region between an outer contour and holes, in the plane z = 0.
+class face {
+  public:
+    explicit face(std::shared_ptr<const face_shape> shape);
+
+    const face_shape& shape() const { return *shape_; }
+
+  private:
+    std::shared_ptr<const face_shape> shape_;
+};
+
+/// A solid with a horizontal upper and lower face. Immutable, cheap to copy: a Boolean answers a
+/// new one. What it tells is worked out when it is first asked for.
+class body {
+  public:
+    explicit body(std::shared_ptr<const body_shape> shape);
+
+    /// The contours of the upper face, sampled with at least 8 points a span: material on their
+    /// left, so outer ones run counter-clockwise and holes clockwise. The first isn't repeated.
+    const std::vector<std::vector<point2>>& contours() const;
+    /// Of the upper face.
+    double contour_area() const;
+    /// Lower face, and upper minus lower face.
+    double z0() const;
+    double height() const;
+    /// What the contours and the two faces span.
+    model_box box() const;
+    const body_shape& shape() const { return *shape_; }
+
+  private:
+    std::shared_ptr<const body_shape> shape_;
+};
+
+/// Straight lines through the points; closed: back to the first, which may be repeated. A closed
 /// one of more than 200 points is the smooth closed spline through closed_spline_points instead: a
 /// prism with thousands of flat faces takes minutes to read back.
 wire polyline_wire(const std::vector<point2>& points, bool closed);
@@ -37,13 +85,17 @@ body prism(const face& from, double z0, double height);
 /// The centre is at mid-height.
 body cylinder(point3 centre, double radius, double height);
 
+/// Throw when nothing is left, too.
 body fuse(const body& a, const body& b);
 body cut(const body& a, const body& b);
 body common(const body& a, const body& b);
-/// The two parts of a body on the side of the plane to which (b - a) x (c - a) points, and on the
-/// other. An empty part throws.
+
+/// The parts of a body on the side of the plane through a, b, c to which (b - a) x (c - a) points,
+/// and on the other.
 struct halves;
+/// An empty part throws.
 halves slice(const body& one, point3 a, point3 b, point3 c);
+
 /// count - 1 copies, turned about the vertical axis by angle / count each.
 std::vector<body> polar_copies(const body& one, int count, point2 axis,
                                double angle = 2.0 * std::numbers::pi);
@@ -54,5 +106,9 @@ body move(const body& one, point3 by);
 /// About the origin; what a drawing in inches becomes in mm.
 body scaled(const body& one, double factor);
 wire scaled(const wire& one, double factor);
+
+struct halves {
+    body positive, negative;
+};
 
 }  // namespace kvt::builtin
