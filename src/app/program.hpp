@@ -29,6 +29,8 @@
 
 namespace kvt {
 
+class built_in_modeller;
+
 struct program {
     kvt::design_params design_params;
     kvt::rotor_profiles rotor_profiles;
@@ -65,6 +67,8 @@ struct program {
     /// The programs of others that can be driven; null where there are none. Of the run, as
     /// unsaved.
     std::shared_ptr<automation::host> packages;
+    /// What builds models where no package can be driven; null where nothing does. Of the run, too.
+    std::shared_ptr<built_in_modeller> modeller;
     /// The CAD package that built the last model. Holding it keeps a package open that was started
     /// for it.
     automation::object_ref driven_package;
