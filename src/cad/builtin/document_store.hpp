@@ -1,5 +1,6 @@
 // document_store: the documents of the built-in modeller with their bodies and curves. The object
-// models of the packages put in what they build; the program labels, shows and saves it.
+// models of the packages put in what they build; the program labels, shows and saves it. Lengths
+// mm: the object models change their package's unit at their edge.
 #pragma once
 
 #include "cad/builtin/solid_modeller.hpp"
@@ -15,20 +16,20 @@
 
 namespace kvt::builtin {
 
-/// A solid, or a curve that became none, in the unit of its drawing.
+/// A solid, or a curve that became none.
 using solid_or_curve = std::variant<body, wire>;
 
-/// All of a model_store but the host: the object models are made by a class on top of it.
-class document_store : public model_store {
+/// All of a model_store but the host. The objects of the packages share it with the host, so that
+/// one of them that is held longer than the host finds its document closed and not gone.
+class document_store {
   public:
     /// A new empty document under the name that its package would give it.
     document_number add_document(const std::string& name);
-    /// A new body, or a curve, of a document, with the millimetres in one unit of its lengths. Its
-    /// role is `other` until it is labelled. Throws std::out_of_range when the document was closed.
-    body_number add(document_number document, const solid_or_curve& one, const std::string& name,
-                    double mm_per_unit);
-    /// Another shape under the same number, name, role and unit, as a Boolean leaves its first
-    /// solid. Throws std::out_of_range for a body that is gone.
+    /// A new body, or a curve, of a document. Its role is `other` until it is labelled. Throws
+    /// std::out_of_range when the document was closed.
+    body_number add(document_number document, const solid_or_curve& one, const std::string& name);
+    /// Another shape under the same number, name and role, as a Boolean leaves its first solid.
+    /// Throws std::out_of_range for a body that is gone.
     void replace(body_number number, const solid_or_curve& one);
     /// Without effect for a body that is gone.
     void remove(body_number number);
@@ -36,18 +37,14 @@ class document_store : public model_store {
     bool has_document(document_number number) const;
     /// As it was put in. Throws std::out_of_range for a body that is gone.
     const solid_or_curve& at(body_number number) const;
-    /// What set_drawing_unit said last; 1 before.
-    double drawing_unit() const { return drawing_unit_mm_; }
 
-    std::vector<model_document> documents() const override;
-    void set_drawing_unit(double mm) override { drawing_unit_mm_ = mm; }
-    void label(body_number body, const std::string& name, body_role role) override;
-    const body_mesh& mesh_of(body_number body) override;
+    // As model_store promises.
+    std::vector<model_document> documents() const;
+    void label(body_number body, const std::string& name, body_role role);
+    const body_mesh& mesh_of(body_number body);
     void save(const std::filesystem::path& file, solid_format format,
-              const std::vector<body_number>& bodies,
-              const std::optional<housing_plan>& housing) override;
-    /// Its bodies are gone; without effect for a document that is gone.
-    void close_document(document_number document) override;
+              const std::vector<body_number>& bodies, const std::optional<housing_plan>& housing);
+    void close_document(document_number document);
 
   private:
     struct stored_body {
@@ -55,7 +52,6 @@ class document_store : public model_store {
         std::string name;
         body_role role = body_role::other;
         document_number document = 0;
-        double mm_per_unit = 1.0;
         std::optional<body_mesh> mesh;
     };
     static model_body description(body_number number, const stored_body& one);
@@ -64,7 +60,6 @@ class document_store : public model_store {
     std::map<body_number, stored_body> bodies_;
     document_number documents_made_ = 0;
     body_number bodies_made_ = 0;
-    double drawing_unit_mm_ = 1.0;
 };
 
 }  // namespace kvt::builtin

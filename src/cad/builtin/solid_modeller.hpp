@@ -1,6 +1,7 @@
 // solid_modeller: solids of horizontal outlines, built with the solid-modelling kernel. It knows no
-// CAD package; lengths are whatever unit the caller has. Every function throws
-// automation::automation_error AUTOMATION_FAILED when the kernel can't do what is asked.
+// CAD package; lengths are mm, whatever the package's unit is, so that the kernel's tolerances mean
+// the same for all. Every function throws automation::automation_error AUTOMATION_FAILED when the
+// kernel can't do what is asked.
 // Source: docs/formulas/solid_models.md.
 #pragma once
 
@@ -19,7 +20,8 @@ struct wire_shape;
 struct face_shape;
 struct body_shape;
 
-/// A curve in the plane z = 0. Immutable, cheap to copy.
+/// A curve in the plane z = 0. Immutable, cheap to copy. The kernel's shape is made when it is first
+/// asked for: a curve that is only drawn, or redrawn as a closed one, costs nothing.
 class wire {
   public:
     explicit wire(std::shared_ptr<const wire_shape> shape);
@@ -103,9 +105,6 @@ body turned(const body& one, point2 axis, double angle);
 /// In the plane through three points.
 body mirror(const body& one, point3 a, point3 b, point3 c);
 body move(const body& one, point3 by);
-/// About the origin; what a drawing in inches becomes in mm.
-body scaled(const body& one, double factor);
-wire scaled(const wire& one, double factor);
 
 struct halves {
     body positive, negative;
