@@ -22,7 +22,7 @@ constexpr std::int32_t SELECT_ALL = 5;
 class drawing;
 
 /// What lies in the model space. A deleted entity answers no call.
-class entity : public stand_in_object {
+class entity : public table_object {
   public:
     entity() {
         on_run("Delete", 0, [this](const values&) { is_gone = true; });
@@ -79,7 +79,7 @@ class solid_3d : public entity {
     drawing& in_;
 };
 
-class selection_set : public stand_in_object {
+class selection_set : public table_object {
   public:
     selection_set() {
         on_run("Select", 1, [](const values& arguments) {
@@ -91,7 +91,7 @@ class selection_set : public stand_in_object {
     }
 };
 
-class drawing : public stand_in_object {
+class drawing : public table_object {
   public:
     explicit drawing(autocad_release release_);
 
@@ -111,8 +111,8 @@ class drawing : public stand_in_object {
     value add_region(const values& arguments);
     value add_selection_set(const values& arguments);
 
-    std::shared_ptr<stand_in_object> model_space_ = std::make_shared<stand_in_object>();
-    std::shared_ptr<stand_in_object> selection_sets_ = std::make_shared<stand_in_object>();
+    std::shared_ptr<table_object> model_space_ = std::make_shared<table_object>();
+    std::shared_ptr<table_object> selection_sets_ = std::make_shared<table_object>();
 };
 
 solid_3d::solid_3d(drawing& in, surfaced_solid made_) : made(std::move(made_)), in_(in) {
@@ -233,7 +233,7 @@ drawing::drawing(autocad_release release_) : release(release_) {
     selection_sets_->on_get("Add", 1, [this](const values& a) { return add_selection_set(a); });
     has("ModelSpace", model_space_);
     has("SelectionSets", selection_sets_);
-    has("ActiveViewport", std::make_shared<stand_in_object>());
+    has("ActiveViewport", std::make_shared<table_object>());
 }
 
 void drawing::fill_model_space() {
@@ -295,7 +295,7 @@ class autocad : public cad_stand_in {
             }
             return std::static_pointer_cast<automation::object>(drawing_);
         });
-        const auto documents = std::make_shared<stand_in_object>();
+        const auto documents = std::make_shared<table_object>();
         documents->on_get("Add", 0, [this](const values&) -> value {
             is_open_ = true;
             return std::static_pointer_cast<automation::object>(drawing_);

@@ -16,25 +16,25 @@ constexpr double MM_PER_UNIT = 1.0;
 constexpr std::int32_t REGULAR = 0, INVERSE = 1;
 
 /// A plane, and the reference to it.
-class plane : public stand_in_object {
+class plane : public table_object {
   public:
     explicit plane(double height) : z(height) {}
     double z;
     bool is_in_a_set = false, is_updated = false;
 };
-class reference : public stand_in_object {
+class reference : public table_object {
   public:
     explicit reference(std::shared_ptr<plane> to_) : to(std::move(to_)) {}
     std::shared_ptr<plane> to;
 };
 
-class control_point : public stand_in_object {
+class control_point : public table_object {
   public:
     explicit control_point(point2 place_) : at(place_) {}
     point2 at;
 };
 
-class sketch : public stand_in_object {
+class sketch : public table_object {
   public:
     explicit sketch(double height) : z(height) {
         fill_factory();
@@ -63,13 +63,13 @@ class sketch : public stand_in_object {
         factory_->on_get("CreateSpline", 1, [this](const values& arguments) -> value {
             expect_open();
             add_spline(argument<variant_array>(arguments, 0).objects);
-            return std::make_shared<stand_in_object>();
+            return std::make_shared<table_object>();
         });
         factory_->on_get("CreateClosedCircle", 3, [this](const values& arguments) -> value {
             expect_open();
             curves.push_back(
                 {{}, true, {real(arguments, 0), real(arguments, 1)}, real(arguments, 2)});
-            return std::make_shared<stand_in_object>();
+            return std::make_shared<table_object>();
         });
     }
     /// Closed by the same object at both ends.
@@ -87,10 +87,10 @@ class sketch : public stand_in_object {
         curves.push_back({std::move(points), closed});
     }
 
-    std::shared_ptr<stand_in_object> factory_ = std::make_shared<stand_in_object>();
+    std::shared_ptr<table_object> factory_ = std::make_shared<table_object>();
 };
 
-class pad : public stand_in_object {
+class pad : public table_object {
   public:
     pad(std::shared_ptr<sketch> of_, double height_) : of(std::move(of_)), height(height_) {
         on_put("DirectionOrientation", [this](const value& put) {
@@ -113,10 +113,10 @@ class pad : public stand_in_object {
     std::int32_t orientation = REGULAR;
 };
 
-class body : public stand_in_object {
+class body : public table_object {
   public:
     body() {
-        const auto sketches_of = std::make_shared<stand_in_object>();
+        const auto sketches_of = std::make_shared<table_object>();
         sketches_of->on_get("Add", 1, [this](const values& arguments) -> value {
             const auto on = object_argument<reference>(arguments, 0)->to;
             if (!on->is_updated) {
@@ -176,7 +176,7 @@ class catia : public cad_stand_in {
     }
 
   private:
-    using object = stand_in_object;
+    using object = table_object;
 
     void fill_application() {
         application->has_switch("DisplayFileAlerts", alerts_);

@@ -15,13 +15,13 @@ constexpr std::int32_t PART_DOCUMENT = 12290, XY_PLANE = 3, SMOOTH_FIT = 26369;
 constexpr std::int32_t UP = 20993, DOWN = 20994;
 constexpr std::int32_t JOIN = 20481, CUT = 20482, NEW_BODY = 20485;
 
-class point_2d : public stand_in_object {
+class point_2d : public table_object {
   public:
     explicit point_2d(point2 place_) : at(place_) {}
     point2 at;
 };
 
-class collection : public stand_in_object {
+class collection : public table_object {
   public:
     collection() {
         on_run("Add", 1, [this](const values& arguments) {
@@ -31,13 +31,13 @@ class collection : public stand_in_object {
     std::vector<point2> points;
 };
 
-class work_plane : public stand_in_object {
+class work_plane : public table_object {
   public:
     explicit work_plane(double height) : z(height) {}
     double z;
 };
 
-class spline : public stand_in_object {
+class spline : public table_object {
   public:
     explicit spline(std::vector<point2> points) : curve{std::move(points)} {
         has_switch("Closed", curve.is_closed);
@@ -45,28 +45,28 @@ class spline : public stand_in_object {
     sketch_curve curve;
 };
 
-class profile : public stand_in_object {
+class profile : public table_object {
   public:
     profile(flat_region inside_, double height) : inside(std::move(inside_)), z(height) {}
     flat_region inside;
     double z;
 };
 
-class planar_sketch : public stand_in_object {
+class planar_sketch : public table_object {
   public:
     explicit planar_sketch(double height) : z(height) {
         has_switch("DeferUpdates", is_deferred);
-        const auto splines_of = std::make_shared<stand_in_object>();
+        const auto splines_of = std::make_shared<table_object>();
         splines_of->on_get("Add", 2, [this](const values& a) { return add_spline(a); });
         has("SketchSplines", splines_of);
-        const auto circles_of = std::make_shared<stand_in_object>();
+        const auto circles_of = std::make_shared<table_object>();
         circles_of->on_get("AddByCenterRadius", 2, [this](const values& arguments) -> value {
             circles.push_back(
                 {{}, true, object_argument<point_2d>(arguments, 0)->at, real(arguments, 1)});
-            return std::make_shared<stand_in_object>();
+            return std::make_shared<table_object>();
         });
         has("SketchCircles", circles_of);
-        const auto profiles = std::make_shared<stand_in_object>();
+        const auto profiles = std::make_shared<table_object>();
         profiles->on_get("AddForSolid", 0, [this](const values&) { return add_profile(); });
         has("Profiles", profiles);
     }
@@ -99,7 +99,7 @@ class planar_sketch : public stand_in_object {
     }
 };
 
-class extrude_definition : public stand_in_object {
+class extrude_definition : public table_object {
   public:
     extrude_definition(std::shared_ptr<profile> of_, std::int32_t operation_)
         : of(std::move(of_)), operation(operation_) {
@@ -146,7 +146,7 @@ class inventor : public cad_stand_in {
     }
 
   private:
-    using object = stand_in_object;
+    using object = table_object;
 
     void fill_application() {
         const auto files = std::make_shared<object>();

@@ -20,13 +20,13 @@ constexpr std::int32_t CLOSED = 1, NESTED = 8192, VALID = 0, INVALID = -1;
 constexpr std::int32_t DOWN = 1, UP = 2;
 constexpr std::int32_t FEATURE_OK = 1216476310, FEATURE_FAILED = 1216476311;
 
-class ref_plane : public stand_in_object {
+class ref_plane : public table_object {
   public:
     explicit ref_plane(double height) : z(height) {}
     double z;
 };
 
-class profile : public stand_in_object {
+class profile : public table_object {
   public:
     profile(double height, bool is_taken) : z(height) {
         has_switch("Visible", is_visible);
@@ -35,17 +35,17 @@ class profile : public stand_in_object {
             ended = is_taken && is_valid(whole(arguments, 0));
             return ended ? VALID : INVALID;
         });
-        const auto splines = std::make_shared<stand_in_object>();
+        const auto splines = std::make_shared<table_object>();
         splines->on_get("AddByPointsWithCloseOption", 4, [this](const values& arguments) -> value {
             add_spline(arguments);
-            return std::make_shared<stand_in_object>();
+            return std::make_shared<table_object>();
         });
         has("BSplineCurves2d", splines);
-        const auto circles = std::make_shared<stand_in_object>();
+        const auto circles = std::make_shared<table_object>();
         circles->on_get("AddByCenterRadius", 3, [this](const values& arguments) -> value {
             curves.push_back(
                 {{}, true, {real(arguments, 0), real(arguments, 1)}, real(arguments, 2)});
-            return std::make_shared<stand_in_object>();
+            return std::make_shared<table_object>();
         });
         has("Circles2d", circles);
     }
@@ -77,8 +77,8 @@ class profile : public stand_in_object {
     }
 };
 
-std::shared_ptr<stand_in_object> feature_in_state(std::int32_t status) {
-    auto made = std::make_shared<stand_in_object>();
+std::shared_ptr<table_object> feature_in_state(std::int32_t status) {
+    auto made = std::make_shared<table_object>();
     made->has("Status", status);
     return made;
 }
@@ -86,11 +86,11 @@ std::shared_ptr<stand_in_object> feature_in_state(std::int32_t status) {
 class solid_edge;
 
 /// A body with the features that it was made by.
-class model : public stand_in_object {
+class model : public table_object {
   public:
     explicit model(solid_edge& in);
 
-    std::vector<std::shared_ptr<stand_in_object>> made_by;
+    std::vector<std::shared_ptr<table_object>> made_by;
 };
 
 class solid_edge : public cad_stand_in {
@@ -147,7 +147,7 @@ class solid_edge : public cad_stand_in {
     }
 
   private:
-    using object = stand_in_object;
+    using object = table_object;
 
     void fill_application() {
         const auto documents = std::make_shared<object>();
@@ -244,7 +244,7 @@ class solid_edge : public cad_stand_in {
 };
 
 model::model(solid_edge& in) {
-    const auto features = std::make_shared<stand_in_object>();
+    const auto features = std::make_shared<table_object>();
     features->on_get("Count", 0, [this](const values&) {
         return value(static_cast<std::int32_t>(made_by.size()));
     });
@@ -253,7 +253,7 @@ model::model(solid_edge& in) {
         return std::static_pointer_cast<automation::object>(made_by.at(number - 1));
     });
     has("Features", features);
-    const auto protrusions = std::make_shared<stand_in_object>();
+    const auto protrusions = std::make_shared<table_object>();
     protrusions->on_get("AddFiniteMulti", 4, [this, &in](const values& arguments) -> value {
         in.add_body(arguments);
         made_by.push_back(feature_in_state(FEATURE_OK));

@@ -17,7 +17,7 @@ constexpr double MM_PER_METRE = 1000.0;
 constexpr std::int32_t PART_TEMPLATE = 8, BLIND = 0, FROM_PLANE = 0, FROM_OFFSET = 3;
 
 /// A line of the feature tree.
-class feature : public stand_in_object {
+class feature : public table_object {
   public:
     feature(std::string type, feature*& selected) : type_(std::move(type)) {
         has("GetTypeName2", type_);
@@ -155,7 +155,7 @@ class solidworks : public cad_stand_in {
             return nothing{};
         }
         open_->curves.push_back(std::move(curve));
-        return std::static_pointer_cast<automation::object>(std::make_shared<stand_in_object>());
+        return std::static_pointer_cast<automation::object>(std::make_shared<table_object>());
     }
 
     static void expect_plain(const values& arguments) {
@@ -204,9 +204,9 @@ class solidworks : public cad_stand_in {
 
     solidworks_release release_;
     bool user_control_ = false, adds_to_database_ = false;
-    std::shared_ptr<stand_in_object> model_ = std::make_shared<stand_in_object>();
-    std::shared_ptr<stand_in_object> sketches_ = std::make_shared<stand_in_object>();
-    std::shared_ptr<stand_in_object> features_ = std::make_shared<stand_in_object>();
+    std::shared_ptr<table_object> model_ = std::make_shared<table_object>();
+    std::shared_ptr<table_object> sketches_ = std::make_shared<table_object>();
+    std::shared_ptr<table_object> features_ = std::make_shared<table_object>();
     std::vector<std::shared_ptr<feature>> tree_;
     std::map<const feature*, bool> is_extruded_;
     feature* selected_ = nullptr;
