@@ -66,6 +66,9 @@ COVERED_BY = {
     "src/ui/shell/mdi_form.cpp": "tests/ui/forms/Form1_test.cpp",
     "src/ui/shell/menu_tree.cpp": "tests/ui/shell/main_menu_test.cpp",
     "src/ui/forms/newprojectname.cpp": "tests/ui/shell/dialog_form_test.cpp",
+    "src/views/model/model_lines.cpp": "tests/views/model/model_picture_test.cpp",
+    "src/views/model/model_scene.cpp": "tests/views/model/model_picture_test.cpp",
+    "src/views/model/picture_grid.cpp": "tests/views/model/model_picture_test.cpp",
     "src/views/explanation_parts.cpp": "tests/views/rotor_explanation_test.cpp",
 }
 
