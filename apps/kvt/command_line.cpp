@@ -43,7 +43,7 @@ constexpr const char* EXAMPLES =
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
     "  kvt excel engine_oil.KVT\n"
-    "  kvt model engine_oil.KVT --package acad --what assembly,porting\n"
+    "  kvt model engine_oil.KVT --package acad --what assembly,porting --out models\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
     "output could not be written, 2 usage, 3 the project file could not be read or there\n"
@@ -180,7 +180,8 @@ CLI::App* add_gt(CLI::App& app, command_line& line) {
 }
 
 CLI::App* add_model(CLI::App& app, command_line& line) {
-    CLI::App* model = app.add_subcommand("model", "Build the models of a design in a CAD package");
+    CLI::App* model = app.add_subcommand(
+        "model", "Build the models of a design, in a CAD package or by ourselves");
     add_design_options(*model, line);
     add_model_options(*model, line.model);
     return model;
@@ -201,6 +202,10 @@ void check_together(const command_line& line) {
         if (!problem.empty()) {
             throw CLI::ValidationError("--log", problem);
         }
+    }
+    const std::string problem = model_options_problem(line.model);
+    if (!problem.empty()) {
+        throw CLI::ValidationError("--out", problem);
     }
 }
 

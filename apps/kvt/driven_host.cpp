@@ -13,13 +13,11 @@
 #include <algorithm>
 #include <memory>
 #include <ostream>
+#include <vector>
 
 namespace kvt {
 
 namespace {
-
-constexpr const char* PROGRAMS_OF_THIS_MACHINE = "com";
-constexpr const char* RECORDER = "recorder";
 
 int status_of(bool done) {
     return done ? EXIT_OK : EXIT_REFUSED;
@@ -39,21 +37,35 @@ int write_log(const automation::recorder_host& programs, const host_request& req
     return EXIT_OK;
 }
 
-}  // namespace
-
-void add_host_options(CLI::App& command, host_request& request, const std::string& driven) {
-    command
-        .add_option("--host", request.host,
-                    "com: drive the " + driven +
-                        " that is installed (the default); recorder: none, its\n"
-                        "calls are only written down")
-        ->type_name("com|recorder")
-        ->check(plain(CLI::IsMember({PROGRAMS_OF_THIS_MACHINE, RECORDER})));
+void add_host_option(CLI::App& command, host_request& request,
+                     const std::vector<std::string>& hosts, const std::string& help) {
+    command.add_option("--host", request.host, help)
+        ->type_name(word_list(hosts))
+        ->check(plain(CLI::IsMember(hosts)));
     CLI::Option* log =
         command.add_option("--log", request.log_file, "File for the recorder's calls, a line each");
     log->type_name("FILE");
     command.add_flag("--full-log", request.full_log, "Every number and every call in it")
         ->needs(log);
+}
+
+}  // namespace
+
+void add_host_options(CLI::App& command, host_request& request, const std::string& driven) {
+    add_host_option(command, request, {PROGRAMS_OF_THIS_MACHINE, RECORDER},
+                    "com: drive the " + driven +
+                        " that is installed (the default); recorder: none, its\n"
+                        "calls are only written down");
+}
+
+void add_model_host_options(CLI::App& command, host_request& request) {
+    if (automation::system_host() == nullptr) {
+        request.host = BUILT_IN_MODELLER;
+    }
+    add_host_option(command, request, {BUILT_IN_MODELLER, PROGRAMS_OF_THIS_MACHINE, RECORDER},
+                    "com: drive the package that is installed; builtin: build the same solids\n"
+                    "without it; recorder: its calls are only written down. Default: " +
+                        request.host);
 }
 
 std::string host_options_problem(const host_request& request) {

@@ -15,14 +15,22 @@ class App;
 
 namespace kvt {
 
+/// Words of --host.
+inline constexpr const char* PROGRAMS_OF_THIS_MACHINE = "com";
+inline constexpr const char* RECORDER = "recorder";
+inline constexpr const char* BUILT_IN_MODELLER = "builtin";
+
 struct host_request {
-    std::string host = "com";  ///< "com": the installed program; "recorder": none
-    std::string log_file;      ///< for the recorder's calls; empty: none
-    bool full_log = false;     ///< with every number and call
+    std::string host = PROGRAMS_OF_THIS_MACHINE;  ///< whose calls are made
+    std::string log_file;                         ///< for the recorder's calls; empty: none
+    bool full_log = false;                        ///< with every number and call
 };
 
 /// Adds --host, --log and --full-log. driven is what is driven: "package".
 void add_host_options(CLI::App& command, host_request& request, const std::string& driven);
+/// The same with a further host: the built-in modeller, which is the default where no program of
+/// this machine can be driven.
+void add_model_host_options(CLI::App& command, host_request& request);
 
 /// What is wrong with options that are right by themselves, or nothing: only the recorder has a
 /// log.

@@ -23,9 +23,16 @@ void export_folder::write(std::string_view name, const text_writer& writer) {
 }
 
 void export_folder::write_whole(std::string_view name, const std::function<std::string()>& bytes) {
+    write_by(name, [&](const std::string& path) {
+        write_file(path_of_utf8(path), bytes(), disk_write::left_to_the_system);
+    });
+}
+
+void export_folder::write_by(std::string_view name,
+                             const std::function<void(const std::string&)>& writer) {
     const std::string path = path_of(name);
     try {
-        write_file(path_of_utf8(path), bytes(), disk_write::left_to_the_system);
+        writer(path);
     } catch (const run_time_error& error) {
         note(path, run_time_error_line(error, language_));
         refuse();

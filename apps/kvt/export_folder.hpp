@@ -26,6 +26,8 @@ class export_folder {
     void write(std::string_view name, const text_writer& writer);
     /// The same for a file whose bytes are made as a whole: all of it or nothing.
     void write_whole(std::string_view name, const std::function<std::string()>& bytes);
+    /// The same for a file that writes itself to its path.
+    void write_by(std::string_view name, const std::function<void(const std::string&)>& writer);
     /// "NAME: TEXT" on standard error.
     void note(std::string_view name, std::string_view text);
     /// A file that was asked for is not there, or not whole.

@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <string>
+#include <vector>
 
 namespace kvt {
 
@@ -15,6 +16,15 @@ inline CLI::Validator check_of(std::string (*problem)(const std::string& text)) 
 inline CLI::Validator plain(CLI::Validator check) {
     check.description("");
     return check;
+}
+
+/// Words as an option's help names them: "acad|invent|..".
+inline std::string word_list(const std::vector<std::string>& words, const char* between = "|") {
+    std::string list;
+    for (const std::string& word : words) {
+        list += (list.empty() ? "" : between) + word;
+    }
+    return list;
 }
 
 }  // namespace kvt

@@ -1,5 +1,6 @@
 #include "ui/forms/Form4.hpp"
 
+#include "app/models/solid_models.hpp"
 #include "cad/dispatch.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/help_file.hpp"
@@ -19,6 +20,7 @@ namespace {
 /// Sizes in pixels.
 constexpr int BUTTON_WIDTH = 90;
 constexpr int ROW_SPACING = 6;
+constexpr int NOTE_WIDTH = 300;
 
 QLayout* options(std::string_view code) {
     auto* layout = new QVBoxLayout;
@@ -30,6 +32,14 @@ QLayout* options(std::string_view code) {
         layout->addWidget(option);
     }
     return layout;
+}
+
+/// Says under the options what comes of the choice where no package can be driven.
+QLabel* note() {
+    QLabel* label = named_label("Label2");
+    label->setWordWrap(true);
+    label->setMinimumWidth(NOTE_WIDTH);
+    return label;
 }
 
 }  // namespace
@@ -50,6 +60,9 @@ Form4::Form4(const program& kavetta, progress_shower& person, std::string_view c
     layout->setSpacing(12);
     layout->addWidget(named_label("Label1"));
     layout->addLayout(options(code));
+    if (models_are_built_here(kavetta)) {
+        layout->addWidget(note());
+    }
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     show_texts();

@@ -3,6 +3,7 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/layout_commands.hpp"
 #include "app/desk/start_up.hpp"
+#include "app/models/built_in_modeller.hpp"
 #include "app/program.hpp"
 #include "automation/system_host.hpp"
 #include "views/charts/result_chart.hpp"
@@ -19,6 +20,7 @@ desktop::desktop(const std::filesystem::path& folder)
       charts_(form_context{program_, runner_, person_}) {
     program_.folder = folder;
     program_.packages = automation::system_host();
+    program_.modeller = std::make_shared<built_in_modeller>();
     program_.decimal_mark = QLocale().decimalPoint() == "," ? ',' : '.';
     autosave_timer_.setObjectName("autosave_timer");
     QObject::connect(&autosave_timer_, &QTimer::timeout, &autosave_timer_,

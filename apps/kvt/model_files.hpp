@@ -1,0 +1,32 @@
+// model_files: what the built-in modeller made, as files and as lines of a summary.
+#pragma once
+
+#include "cad/model_store.hpp"
+#include "kvt/export_folder.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kvt {
+
+/// A kind of solid file under the word that a command line has for it.
+struct solid_file_row {
+    solid_format format;
+    std::string_view word;       ///< "step"
+    std::string_view extension;  ///< ".stp"
+};
+const std::vector<solid_file_row>& solid_file_rows();
+
+/// Writes the bodies as one file a format: "<stem>.stp". A format that holds solids only is left
+/// out for bodies that are curves all, with a note.
+void write_model_files(model_store& store, const std::vector<model_body>& bodies,
+                       const std::string& stem, const std::vector<std::string>& formats,
+                       std::int16_t language, export_folder& folder);
+
+/// "Inner Rotor: area 1021.530 mm^2, height 12.000 mm, volume 12258.360 mm^3, from (..) to (..)
+/// mm", always mm, as in the files. A curve has its box alone.
+std::string body_line(const model_body& body, std::int16_t language);
+
+}  // namespace kvt
