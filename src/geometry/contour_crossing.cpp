@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace kvt {
 
@@ -35,15 +36,14 @@ bool cross(const side& a, const side& b) {
     return a.low <= b.high && b.low <= a.high && lie_apart(a, b) && lie_apart(b, a);
 }
 
-}  // namespace
-
-bool crosses_itself(std::vector<point2> contour) {
+void add_sides(std::vector<point2> contour, std::vector<side>& to) {
     contour.erase(std::unique(contour.begin(), contour.end()), contour.end());
-    std::vector<side> sides;
-    sides.reserve(contour.size());
     for (std::size_t i = 0; i < contour.size(); ++i) {
-        sides.emplace_back(contour[i], contour[(i + 1) % contour.size()]);
+        to.emplace_back(contour[i], contour[(i + 1) % contour.size()]);
     }
+}
+
+bool any_cross(std::vector<side> sides) {
     // From left to right: only sides that begin before a side ends can cross it.
     std::ranges::sort(sides, {}, &side::left);
     for (std::size_t i = 0; i < sides.size(); ++i) {
@@ -54,6 +54,22 @@ bool crosses_itself(std::vector<point2> contour) {
         }
     }
     return false;
+}
+
+}  // namespace
+
+bool crosses_itself(std::vector<point2> contour) {
+    std::vector<side> sides;
+    add_sides(std::move(contour), sides);
+    return any_cross(std::move(sides));
+}
+
+bool any_cross(const std::vector<std::vector<point2>>& contours) {
+    std::vector<side> sides;
+    for (const std::vector<point2>& contour : contours) {
+        add_sides(contour, sides);
+    }
+    return any_cross(std::move(sides));
 }
 
 }  // namespace kvt

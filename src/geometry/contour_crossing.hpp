@@ -12,4 +12,7 @@ namespace kvt {
 /// touch do not cross. The last point may repeat the first one, and points may stand there twice.
 bool crosses_itself(std::vector<point2> contour);
 
+/// The same of several contours: whether any side crosses another, of the same contour or not.
+bool any_cross(const std::vector<std::vector<point2>>& contours);
+
 }  // namespace kvt

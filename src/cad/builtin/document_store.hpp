@@ -3,21 +3,16 @@
 // mm: the object models change their package's unit at their edge.
 #pragma once
 
-#include "cad/builtin/solid_modeller.hpp"
+#include "cad/builtin/saved_body.hpp"
 #include "cad/model_store.hpp"
 
-#include <cstddef>
 #include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace kvt::builtin {
-
-/// A solid, or a curve that became none.
-using solid_or_curve = std::variant<body, wire>;
 
 /// All of a model_store but the host. The objects of the packages share it with the host, so that
 /// one of them that is held longer than the host finds its document closed and not gone.
@@ -48,13 +43,11 @@ class document_store {
 
   private:
     struct stored_body {
-        solid_or_curve shape;
-        std::string name;
-        body_role role = body_role::other;
+        saved_body body;
         document_number document = 0;
         std::optional<body_mesh> mesh;
     };
-    static model_body description(body_number number, const stored_body& one);
+    static model_body description(body_number number, const saved_body& one);
 
     std::map<document_number, std::string> documents_;
     std::map<body_number, stored_body> bodies_;

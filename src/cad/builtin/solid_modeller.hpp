@@ -20,8 +20,8 @@ struct wire_shape;
 struct face_shape;
 struct body_shape;
 
-/// A curve in the plane z = 0. Immutable, cheap to copy. The kernel's shape is made when it is first
-/// asked for: a curve that is only drawn, or redrawn as a closed one, costs nothing.
+/// A curve in the plane z = 0. Immutable, cheap to copy. The kernel's shape is made when it is
+/// first asked for: a curve that is only drawn, or redrawn as a closed one, costs nothing.
 class wire {
   public:
     explicit wire(std::shared_ptr<const wire_shape> shape);
