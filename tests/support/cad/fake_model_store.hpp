@@ -27,6 +27,8 @@ class fake_model_store : public model_store {
     std::vector<model_body> to_build;
     std::map<body_number, body_mesh> meshes;
     std::vector<std::string> log;
+    /// Answers the calls of the routines.
+    automation::recorder_host programs;
     /// What save throws instead of writing.
     std::optional<run_time_error> save_failure;
     /// The housing of the last save.
@@ -44,12 +46,12 @@ class fake_model_store : public model_store {
     }
 
     automation::object_ref running(std::string_view class_name) override {
-        return programs_.running(class_name);
+        return programs.running(class_name);
     }
     automation::object_ref create(std::string_view class_name) override {
         log.push_back("create " + std::string(class_name));
         add_document(std::exchange(to_build, {}));
-        return programs_.create(class_name);
+        return programs.create(class_name);
     }
 
     std::vector<model_document> documents() const override { return documents_; }
@@ -86,7 +88,6 @@ class fake_model_store : public model_store {
     }
 
   private:
-    automation::recorder_host programs_;
     std::vector<model_document> documents_;
     document_number documents_made_ = 0;
     body_number bodies_made_ = 0;
