@@ -16,7 +16,9 @@ HEADING = re.compile(r"^#+\s+(.*?)\s*$", re.MULTILINE)
 
 # Headers that hold no formula and no line of a file, with the reason.
 WITHOUT_FORMULA = {
+    "src/geometry/body_mesh.hpp": "triangles and edges, whatever they were made of",
     "src/geometry/point2.hpp": "a pair of coordinates, and what a page needs no line for",
+    "src/geometry/point3.hpp": "three coordinates, and sums and products of them",
     "src/geometry/required_entries.hpp": "the entries that must be above 0",
     "src/output/cnc/cnc_choices.hpp": "what the CNC dialog was told",
     "src/output/file_source.hpp": "what the writers get",

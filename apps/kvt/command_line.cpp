@@ -43,7 +43,7 @@ constexpr const char* EXAMPLES =
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
     "  kvt excel engine_oil.KVT\n"
-    "  kvt model engine_oil.KVT --package acad --what assembly,porting --out models\n"
+    "  kvt model engine_oil.KVT --package acad --what assembly --host builtin --out models\n"
     "\n"
     "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
     "output could not be written, 2 usage, 3 the project file could not be read or there\n"
