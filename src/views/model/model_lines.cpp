@@ -7,19 +7,20 @@ namespace kvt {
 
 namespace {
 
-bool is_seen(const picture_grid& grid, std::size_t pixel, const picture_point& place,
-             const line_pen& pen) {
+bool is_seen_in(std::size_t pixel, const picture_grid& grid,
+                const std::vector<shown_surface>& surfaces, const picture_point& place,
+                double reach) {
     if (grid.has_sections() &&
-        (place.depth < grid.from[pixel] - pen.reach || place.depth > grid.to[pixel] + pen.reach)) {
+        (place.depth < grid.from[pixel] - reach || place.depth > grid.to[pixel] + reach)) {
         return false;
     }
     const std::uint32_t number = grid.surface[pixel];
     if (number == NO_SURFACE) {
         return true;
     }
-    const shown_surface& surface = pen.surfaces[number];
+    const shown_surface& surface = surfaces[number];
     const double depth = surface.is_cut ? grid.depth[pixel] : surface.depth_at(place.x, place.y);
-    return place.depth <= depth + pen.reach;
+    return place.depth <= depth + reach;
 }
 
 /// A line along one side of the picture: a step goes from column to column or from row to row.
@@ -63,6 +64,14 @@ bool misses(const grid_rows& rows, const picture_grid& grid, const picture_point
 
 }  // namespace
 
+bool is_seen(const picture_grid& grid, const std::vector<shown_surface>& surfaces,
+             const picture_point& place, double reach) {
+    const bool is_inside =
+        place.x >= 0.0 && place.y >= 0.0 && place.x < grid.width && place.y < grid.height;
+    return is_inside && is_seen_in(grid.index(static_cast<int>(place.x), static_cast<int>(place.y)),
+                                   grid, surfaces, place, reach);
+}
+
 void draw_line(const picture_grid& grid, const grid_rows& rows, const picture_point& start,
                const picture_point& end, const line_pen& pen, std::vector<std::uint32_t>& pixels) {
     if (misses(rows, grid, start, end, pen.width)) {
@@ -71,8 +80,9 @@ void draw_line(const picture_grid& grid, const grid_rows& rows, const picture_po
     const stepped_line line(start, end);
     const bool by_columns = line.goes_by_columns();
     const auto [lowest, highest] = line.ends();
-    const int first = std::max(whole_pixel(lowest, 0, 1 << 20), by_columns ? 0 : rows.first - 1);
-    const int last = std::min(whole_pixel(highest, 0, 1 << 20), by_columns ? grid.width : rows.end);
+    const int length = by_columns ? grid.width : grid.height;
+    const int first = std::max(whole_pixel(lowest, 0, length), by_columns ? 0 : rows.first - 1);
+    const int last = std::min(whole_pixel(highest, 0, length), by_columns ? length : rows.end);
     for (int step = first; step <= last; ++step) {
         const picture_point place = line.at(std::clamp(step + 0.5, lowest, highest));
         for (int side = 0; side < pen.width; ++side) {
@@ -83,7 +93,7 @@ void draw_line(const picture_grid& grid, const grid_rows& rows, const picture_po
                 continue;
             }
             const std::size_t pixel = grid.index(x, y);
-            if (is_seen(grid, pixel, place, pen)) {
+            if (is_seen_in(pixel, grid, pen.surfaces, place, pen.reach)) {
                 pixels[pixel] = pen.pixel;
             }
         }

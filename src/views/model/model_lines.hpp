@@ -8,6 +8,12 @@
 
 namespace kvt {
 
+/// Whether nothing lies in front of a place, nor a section took it. A place lies on its surfaces,
+/// so it is compared with the plane of what its pixel shows, not with the depth of the pixel's
+/// centre; it may be deeper by `reach`, mm. False outside the picture.
+bool is_seen(const picture_grid& grid, const std::vector<shown_surface>& surfaces,
+             const picture_point& place, double reach);
+
 /// How lines are drawn over a grid whose surfaces are known.
 struct line_pen {
     const std::vector<shown_surface>& surfaces;  ///< by their numbers in the grid
@@ -18,8 +24,7 @@ struct line_pen {
 };
 
 /// Draws what is seen of a straight line in the rows of a picture; its pixels stand as those of the
-/// grid. A line lies on its surfaces, so it is compared with the plane of what the pixel shows,
-/// not with the depth of the pixel's centre.
+/// grid.
 void draw_line(const picture_grid& grid, const grid_rows& rows, const picture_point& start,
                const picture_point& end, const line_pen& pen, std::vector<std::uint32_t>& pixels);
 

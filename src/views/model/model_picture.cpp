@@ -184,10 +184,10 @@ class model_drawing {
         if (!grid.has_sections()) {
             return;
         }
+        const kept_space space(scene_.sections, picture_.camera);
         for (int y = rows.first; y < rows.end; ++y) {
             for (int x = 0; x < grid.width; ++x) {
-                const kept_depths kept =
-                    kept_depths_at(scene_.sections, picture_.camera, x + 0.5, y + 0.5);
+                const kept_depths kept = space.at(x + 0.5, y + 0.5);
                 grid.from[grid.index(x, y)] = static_cast<float>(kept.from);
                 grid.to[grid.index(x, y)] = static_cast<float>(kept.to);
             }
@@ -270,6 +270,29 @@ std::optional<picked_point> picked(const model_picture& picture, double x, doubl
     const shown_surface& surface = picture.surfaces[number];
     const double depth = surface.is_cut ? grid.depth[pixel] : surface.depth_at(x, y);
     return picked_point{surface.part, picture.camera.point_at({x, y, depth})};
+}
+
+std::optional<picked_point> picked_corner(const model_picture& picture, const model_scene& scene,
+                                          double x, double y, double reach) {
+    std::optional<picked_point> nearest;
+    double nearest_distance = reach;
+    const double edge_reach = EDGE_REACH / picture.camera.pixels_per_mm();
+    for (std::size_t part = 0; part < scene.parts.size(); ++part) {
+        const model_part& from = scene.parts[part];
+        for (const auto& edge : from.mesh->edges) {
+            for (const std::uint32_t corner : edge) {
+                const point3 point = turned(from.mesh->points[corner], from.turn);
+                const picture_point place = picture.camera.project(point);
+                const double distance = std::hypot(place.x - x, place.y - y);
+                if (distance <= nearest_distance &&
+                    is_seen(picture.grid, picture.surfaces, place, edge_reach)) {
+                    nearest = picked_point{part, point};
+                    nearest_distance = distance;
+                }
+            }
+        }
+    }
+    return nearest;
 }
 
 }  // namespace kvt

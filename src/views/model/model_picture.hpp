@@ -33,5 +33,9 @@ struct picked_point {
 };
 /// Nothing over the background and outside the picture.
 std::optional<picked_point> picked(const model_picture& picture, double x, double y);
+/// The point of an edge that is seen nearest to a place, at most `reach` pixels off; its parts'
+/// edges are points joined by straight lines, and the points alone count.
+std::optional<picked_point> picked_corner(const model_picture& picture, const model_scene& scene,
+                                          double x, double y, double reach);
 
 }  // namespace kvt

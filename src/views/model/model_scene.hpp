@@ -14,6 +14,8 @@ namespace kvt {
 struct part_turn {
     point2 axis;
     double angle = 0.0;
+
+    friend bool operator==(const part_turn&, const part_turn&) = default;
 };
 point3 turned(const point3& point, const part_turn& turn);
 part_turn back(const part_turn& turn);
@@ -22,6 +24,8 @@ struct model_part {
     const body_mesh* mesh = nullptr;  ///< closed, or edges alone
     rgb_colour colour;
     part_turn turn;
+
+    friend bool operator==(const model_part&, const model_part&) = default;
 };
 
 struct model_scene {
@@ -30,6 +34,8 @@ struct model_scene {
     rgb_colour background, edge;
     rgb_colour section;  ///< what the colour of a body is mixed with where it is cut
     int line_width = 1;  ///< of the edges, pixels
+
+    friend bool operator==(const model_scene&, const model_scene&) = default;
 };
 
 /// Every corner of every part, where it stands.

@@ -59,7 +59,7 @@ class convex_body {
         planes_.push_back({{0.0, 0.0, -1.0}, -z0});
     }
     sight_range seen(const model_camera& camera, double x, double y) const {
-        const kept_depths kept = kept_depths_at(planes_, camera, x, y);
+        const kept_depths kept = kept_space(planes_, camera).at(x, y);
         return {kept.from, kept.to};
     }
 
@@ -99,7 +99,7 @@ expected_sight first_met(const known_body& body, const kept_depths& kept,
 expected_sight first_met(const std::vector<known_body>& bodies, const model_scene& scene,
                          const model_camera& camera, double x, double y) {
     expected_sight first;
-    const kept_depths kept = kept_depths_at(scene.sections, camera, x, y);
+    const kept_depths kept = kept_space(scene.sections, camera).at(x, y);
     for (const known_body& body : bodies) {
         const expected_sight met = first_met(body, kept, camera, x, y);
         first = met.depth < first.depth ? met : first;
@@ -344,6 +344,25 @@ TEST(model_picture, picks_nothing_outside_and_the_cut_in_a_section) {
     const auto middle = picked(picture, 80.0, 60.0);
     ASSERT_TRUE(middle);
     EXPECT_NEAR(middle->point.z, 1.5, 1e-6);
+}
+
+TEST(model_picture, picks_the_corners_that_are_seen) {
+    const body_mesh box = box_mesh({-5.0, -5.0, -5.0}, {5.0, 5.0, 5.0});
+    const model_scene scene = scene_of({&box});
+    const model_picture picture = draw_model(scene, fitted_camera(scene, {40.0, 30.0}));
+    const auto corner_at = [&](const point3& point) {
+        const picture_point place = picture.camera.project(point);
+        return picked_corner(picture, scene, place.x + 2.0, place.y - 1.0, 5.0);
+    };
+    for (const point3& point : box.points) {
+        const auto found = corner_at(point);
+        const bool is_hidden = point == point3{-5.0, 5.0, -5.0};
+        ASSERT_EQ(found.has_value(), !is_hidden);
+        if (found) {
+            EXPECT_EQ(found->point, point);
+        }
+    }
+    EXPECT_FALSE(corner_at({0.0, -5.0, 0.0}));
 }
 
 TEST(model_picture, draws_the_edges_in_front_and_leaves_the_hidden_ones_out) {

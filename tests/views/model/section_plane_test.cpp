@@ -24,25 +24,25 @@ bool is_kept(const section_plane& plane, const point3& point) {
 
 TEST(section_plane, takes_the_front_half_away) {
     const kept_depths kept =
-        kept_depths_at({section_through_axis(0.0)}, camera_from(FRONT_VIEW), 50.0, 50.0);
+        kept_space({section_through_axis(0.0)}, camera_from(FRONT_VIEW)).at(50.0, 50.0);
     EXPECT_NEAR(kept.from, 0.0, 1e-12);
     EXPECT_TRUE(std::isinf(kept.to));
 }
 
 TEST(section_plane, takes_away_what_is_higher) {
     const section_plane plane = section_across_axis(3.0);
-    const kept_depths from_above = kept_depths_at({plane}, camera_from(TOP_VIEW), 50.0, 50.0);
+    const kept_depths from_above = kept_space({plane}, camera_from(TOP_VIEW)).at(50.0, 50.0);
     EXPECT_NEAR(from_above.from, -3.0, 1e-12);
-    const kept_depths from_below = kept_depths_at({plane}, camera_from({0.0, -90.0}), 50.0, 50.0);
+    const kept_depths from_below = kept_space({plane}, camera_from({0.0, -90.0})).at(50.0, 50.0);
     EXPECT_NEAR(from_below.to, 3.0, 1e-12);
 }
 
 TEST(section_plane, leaves_nothing_of_a_parallel_line_outside) {
     const model_camera front = camera_from(FRONT_VIEW);
     const double above = front.project({0.0, 0.0, 5.0}).y;
-    const kept_depths kept = kept_depths_at({section_across_axis(3.0)}, front, 50.0, above);
+    const kept_depths kept = kept_space({section_across_axis(3.0)}, front).at(50.0, above);
     EXPECT_GT(kept.from, kept.to);
-    const kept_depths below = kept_depths_at({section_across_axis(6.0)}, front, 50.0, above);
+    const kept_depths below = kept_space({section_across_axis(6.0)}, front).at(50.0, above);
     EXPECT_LT(below.from, below.to);
 }
 
@@ -57,7 +57,7 @@ TEST(section_plane, leaves_the_depths_whose_points_are_kept) {
         const double y = random.real(0.0, 100.0);
         const double depth = random.real(-20.0, 20.0);
         const point3 point = camera.point_at({x, y, depth});
-        const kept_depths kept = kept_depths_at(planes, camera, x, y);
+        const kept_depths kept = kept_space(planes, camera).at(x, y);
         EXPECT_EQ(kept.from <= depth && depth <= kept.to,
                   is_kept(planes[0], point) && is_kept(planes[1], point));
     }
