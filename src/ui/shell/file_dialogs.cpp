@@ -16,31 +16,40 @@ namespace kvt {
 
 namespace {
 
-QString name_pattern(const QString& pattern) {
+/// "*.stp;*.step" gives "*.stp *.step".
+QString name_pattern(QString pattern) {
     if (pattern == "*.*") {
         return "*";
     }
+    pattern.replace(';', ' ');
     return pattern == pattern.toLower() ? pattern : pattern + " " + pattern.toLower();
 }
 
-/// "PNG (*.png)" gives "png"; empty for a row of all files.
-QString ending_of_filter(const QString& filter) {
+/// "STEP (*.stp *.step)" gives "stp" and "step"; nothing for a row of all files.
+QStringList endings_of_filter(const QString& filter) {
     static const QRegularExpression ENDING("\\*\\.(\\w+)");
-    return ENDING.match(filter).captured(1);
+    QStringList endings;
+    for (auto found = ENDING.globalMatch(filter); found.hasNext();) {
+        endings.append(found.next().captured(1));
+    }
+    return endings;
+}
+
+/// The ending that a name gets from a row; empty for a row of all files.
+QString ending_of_filter(const QString& filter) {
+    return endings_of_filter(filter).value(0);
 }
 
 /// A file dialog whose names end in the extension before it looks whether the file exists. Names
-/// are read from its own box, so it is not the desktop's dialog. Without an extension of its own
-/// each row of the filter brings one: a name keeps the ending of any of them, and choosing a row
-/// changes it.
+/// are read from its own box, so it is not the desktop's dialog. Each row of the filter brings an
+/// extension; a name keeps the ending of any of them, and choosing a row changes it. In a row of
+/// all files a name gets the extension of the dialog.
 class ending_dialog : public QFileDialog {
   public:
     ending_dialog(std::string extension, QWidget* parent)
         : QFileDialog(parent), extension_(std::move(extension)) {
         setOption(QFileDialog::DontUseNativeDialog);
-        if (extension_.empty()) {
-            connect(this, &QFileDialog::filterSelected, this, &ending_dialog::change_ending);
-        }
+        connect(this, &QFileDialog::filterSelected, this, &ending_dialog::change_ending);
     }
 
   protected:
@@ -60,8 +69,7 @@ class ending_dialog : public QFileDialog {
     QString filter_with_ending_of(const QString& name) const {
         const QString ending = QFileInfo(name).suffix();
         for (const QString& filter : nameFilters()) {
-            if (!ending.isEmpty() &&
-                ending.compare(ending_of_filter(filter), Qt::CaseInsensitive) == 0) {
+            if (endings_of_filter(filter).contains(ending, Qt::CaseInsensitive)) {
                 return filter;
             }
         }
@@ -70,7 +78,8 @@ class ending_dialog : public QFileDialog {
 
     void change_ending(const QString& filter) {
         const QString name = name_box()->text();
-        if (!filter_with_ending_of(name).isEmpty()) {
+        const QString row = filter_with_ending_of(name);
+        if (!row.isEmpty() && row != filter && !endings_of_filter(filter).isEmpty()) {
             name_box()->setText(name.chopped(QFileInfo(name).suffix().size()) +
                                 ending_of_filter(filter));
         }
@@ -78,10 +87,11 @@ class ending_dialog : public QFileDialog {
 
     /// The extension that a name lacks, if any.
     std::string extension_for(const QString& name) const {
-        if (!extension_.empty() || !filter_with_ending_of(name).isEmpty()) {
-            return extension_;
+        if (!filter_with_ending_of(name).isEmpty()) {
+            return {};
         }
-        return utf8_text(ending_of_filter(selectedNameFilter()));
+        const QString of_row = ending_of_filter(selectedNameFilter());
+        return of_row.isEmpty() ? extension_ : utf8_text(of_row);
     }
 
     /// A folder is gone into, and Open takes a file without the ending when there is one.

@@ -99,6 +99,37 @@ TEST(run_file_dialog, without_an_extension_the_chosen_row_of_the_filter_gives_th
     EXPECT_EQ(saved_as("chart", 2), folder.file("chart.svg"));
 }
 
+TEST(run_file_dialog, a_row_may_have_several_endings_and_all_files_have_that_of_the_dialog) {
+    EXPECT_EQ(name_filters("STEP|*.stp;*.step"), QStringList({"STEP (*.stp *.step)"}));
+    const temporary_folder folder;
+    dialog_robot robot;
+    const auto saved_as = [&](const std::string& name, int row) {
+        file_dialog dialog;
+        dialog.saving = true;
+        dialog.filter = "STEP|*.stp;*.step|STL|*.stl|All files|*.*";
+        dialog.filter_index = row;
+        dialog.default_extension = "stp";
+        robot.files.emplace_back(folder.file(name));
+        return run_file_dialog(dialog, nullptr);
+    };
+    EXPECT_EQ(saved_as("pump", 1), folder.file("pump.stp"));
+    EXPECT_EQ(saved_as("pump.step", 1), folder.file("pump.step"));
+    EXPECT_EQ(saved_as("pump.step", 2), folder.file("pump.step"));
+    EXPECT_EQ(saved_as("pump", 2), folder.file("pump.stl"));
+    EXPECT_EQ(saved_as("pump", 3), folder.file("pump.stp"));
+    EXPECT_EQ(saved_as("pump.txt", 3), folder.file("pump.txt.stp"));
+    robot.at_file_dialog = [](QFileDialog& dialog) {
+        dialog.selectFile("typed.step");
+        emit dialog.filterSelected("All files (*)");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "typed.step");
+        emit dialog.filterSelected("STEP (*.stp *.step)");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "typed.step");
+        emit dialog.filterSelected("STL (*.stl)");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "typed.stl");
+    };
+    EXPECT_EQ(saved_as("pump", 1), folder.file("pump.stp"));
+}
+
 TEST_F(file_dialogs_test, open_finds_a_project_without_its_ending_typed) {
     start();
     const std::string path = own_design_file("n04_fuel");
