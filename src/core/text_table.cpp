@@ -45,6 +45,7 @@ consteval auto form_rows() {
 #include "core/texts/fontfrm.inc"
 #include "core/texts/graphpopupmenu.inc"
 #include "core/texts/kvt.inc"
+#include "core/texts/model_view.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/perf_res.inc"
 #include "core/texts/portdes.inc"

@@ -26,9 +26,9 @@ std::string outcome_line(const std::string& path, const std::optional<text_failu
 }
 
 /// Nothing of the file is there after a failure.
-std::optional<text_failure> failure_of(const std::function<void()>& save_whole) {
+std::optional<text_failure> failure_of(const std::function<void()>& save) {
     try {
-        save_whole();
+        save();
     } catch (const run_time_error& error) {
         return text_failure{error, false};
     }
@@ -38,10 +38,8 @@ std::optional<text_failure> failure_of(const std::function<void()>& save_whole) 
 std::optional<saved_text> ask_and_save(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<std::optional<text_failure>(const std::string& path)>& save) {
-    file_dialog beside_project = dialog;
-    beside_project.folder = project_folder(kavetta);
-    const std::optional<std::string> path = person.choose_file(beside_project);
-    if (!path || path->empty()) {
+    const std::optional<std::string> path = ask_beside_project(kavetta, person, dialog);
+    if (!path) {
         return std::nullopt;
     }
     const std::optional<text_failure> failed = save(*path);
@@ -95,6 +93,19 @@ std::optional<saved_text> ask_and_save_bytes(
     return ask_and_save(kavetta, person, dialog, [&](const std::string& path) {
         return failure_of([&] { write_file(path_of_utf8(path), bytes_of(path)); });
     });
+}
+
+std::optional<std::string> ask_beside_project(const program& kavetta, file_chooser& person,
+                                              file_dialog dialog) {
+    dialog.folder = project_folder(kavetta);
+    std::optional<std::string> path = person.choose_file(dialog);
+    return path && path->empty() ? std::nullopt : path;
+}
+
+saved_text save_whole(const program& kavetta, const std::string& path,
+                      const std::function<void()>& save) {
+    const std::optional<text_failure> failed = failure_of(save);
+    return {path, outcome_line(path, failed, kavetta.app_state.language), !failed};
 }
 
 }  // namespace kvt

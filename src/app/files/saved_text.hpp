@@ -58,4 +58,13 @@ std::optional<saved_text> ask_and_save_bytes(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<std::string(const std::string& path)>& bytes_of);
 
+/// The dialog's answer, starting in the project's folder; nothing when it was cancelled or empty.
+std::optional<std::string> ask_beside_project(const program& kavetta, file_chooser& person,
+                                              file_dialog dialog);
+
+/// What became of a file that `save` writes by itself, all of it or nothing; it throws
+/// run_time_error when it can't.
+saved_text save_whole(const program& kavetta, const std::string& path,
+                      const std::function<void()>& save);
+
 }  // namespace kvt
