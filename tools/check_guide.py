@@ -8,7 +8,7 @@ import pathlib
 import re
 import sys
 
-FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "viewwinfrm", "MDIForm1",
+FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "model_view", "viewwinfrm", "MDIForm1",
          "Form2", "Form3", "Form4", "graphpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
@@ -18,6 +18,10 @@ WITHOUT_PAGE = {
     ("Form3", "toolunits_inches"): "a unit",
     ("Form3", "Label1"): "a sentence that the page says in its own words",
     ("Form3", "cancelbutton"): "known from everywhere",
+    ("model_view", "save_title"): "the title of a file dialog",
+    ("model_view", "save_filter"): "the types of a file dialog",
+    ("model_view", "picture_title"): "the title of a file dialog",
+    ("model_view", "picture_filter"): "the types of a file dialog",
     ("graphpopupmenu", "title"): "the title of a file dialog",
     ("graphpopupmenu", "filter"): "the types of a file dialog",
 }

@@ -53,6 +53,8 @@ COVERED_BY = {
     "src/ui/shell/MDIForm1.cpp": "tests/ui/shell/desktop_test.cpp",
     "src/ui/shell/application_style.cpp": "tests/ui/shell/layout_test.cpp",
     "src/ui/shell/command_runner.cpp": "tests/ui/parts/entry_focus_test.cpp",
+    "src/ui/parts/body_tree.cpp": "tests/ui/forms/model_view_test.cpp",
+    "src/ui/parts/model_canvas.cpp": "tests/ui/forms/model_view_test.cpp",
     "src/ui/parts/chart_popup.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/parts/chart_printing.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/parts/legend_frame.cpp": "tests/ui/forms/graphview2_test.cpp",

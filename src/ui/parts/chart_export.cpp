@@ -31,15 +31,6 @@ std::string bytes_of(const QBuffer& file) {
     return file.data().toStdString();
 }
 
-std::string picture_file(const QImage& picture, const char* format) {
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    if (!picture.save(&file, format)) {
-        throw run_time_error(failure::invalid_property_value, "no picture to save");
-    }
-    return bytes_of(file);
-}
-
 std::string svg_file(const shown_chart& shown) {
     QBuffer file;
     file.open(QIODevice::WriteOnly);
@@ -113,6 +104,15 @@ std::string exported_chart(const shown_chart& shown, chart_format format, double
             break;
     }
     return picture_file(chart_picture(shown, EXPORT_DENSITY * screen_density), "PNG");
+}
+
+std::string picture_file(const QImage& picture, const char* format) {
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    if (!picture.save(&file, format)) {
+        throw run_time_error(failure::invalid_property_value, "no picture to save");
+    }
+    return bytes_of(file);
 }
 
 std::string bitmap_file(const QImage& picture) {

@@ -34,8 +34,10 @@ QImage chart_picture(const shown_chart& shown, double density);
 std::string exported_chart(const shown_chart& shown, chart_format format, double screen_density,
                            char decimal_mark);
 
-/// A picture as a bitmap file of 24 bits a dot. Throws run_time_error (invalid property value)
-/// when it is none.
+/// A picture as the file of a format that the painting library knows. Throws run_time_error
+/// (invalid property value) when it is none.
+std::string picture_file(const QImage& picture, const char* format);
+/// A picture as a bitmap file of 24 bits a dot; throws as picture_file.
 std::string bitmap_file(const QImage& picture);
 
 /// Paints the chart across the width of a page, at its top, or as high as a lower page. Throws

@@ -82,7 +82,9 @@ bool command_runner::step(const std::function<void(program&)>& action) {
         is_done = true;
     });
     running_ = false;
-    if (!is_done) {
+    if (is_done) {
+        emit stepped();
+    } else {
         emit stopped();
         emit finished();
     }

@@ -51,6 +51,8 @@ class command_runner : public QObject {
     /// entry that was left.
     void starting();
     void edited();
+    /// A step is done: what follows the Design view shows it anew.
+    void stepped();
     /// A step has failed: what makes steps stops.
     void stopped();
     /// Forms show the program's state anew.

@@ -3,6 +3,7 @@
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Perffrm.hpp"
 #include "ui/forms/explain.hpp"
+#include "ui/forms/model_view.hpp"
 #include "ui/forms/perf_res.hpp"
 #include "ui/forms/portdes.hpp"
 #include "ui/forms/result_tables.hpp"
@@ -36,6 +37,7 @@ constexpr std::array FORM_MAKERS = {
     form_maker{"port_explain", made<port_explain>},
     form_maker{"perf_res", made<perf_res>},
     form_maker{"result_tables", made<result_tables>},
+    form_maker{"model_view", made<model_view>},
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "ui/shell/window_menu.hpp"
 
+#include "app/models/shown_models.hpp"
 #include "app/program.hpp"
 #include "core/form_table.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -18,8 +19,14 @@ namespace {
 /// What they show stands while the charts can be drawn.
 constexpr std::array<const char*, 2> OF_RESULTS = {"perf_res", "result_tables"};
 
-bool shows_results(const QString& form) {
-    return std::ranges::find(OF_RESULTS, form) != OF_RESULTS.end();
+constexpr const char* OF_MODELS = "model_view";
+
+bool can_be_shown(const program& kavetta, const QString& form) {
+    if (form == OF_MODELS) {
+        return !built_documents(kavetta).empty();
+    }
+    const bool shows_results = std::ranges::find(OF_RESULTS, form) != OF_RESULTS.end();
+    return !shows_results || kavetta.enabling.create_charts;
 }
 
 }  // namespace
@@ -33,6 +40,7 @@ window_menu::window_menu(form_context context, QMainWindow& window)
     for (const char* form : OF_RESULTS) {
         add_entry(*menu, form);
     }
+    add_entry(*menu, OF_MODELS);
 }
 
 void window_menu::add_entry(QMenu& menu, const QString& form) {
@@ -45,7 +53,7 @@ void window_menu::add_entry(QMenu& menu, const QString& form) {
 void window_menu::refresh() {
     for (const auto& [form, entry] : entries_) {
         entry->setText(caption_of(context_.kavetta, utf8_text(form), "").replace('&', "&&"));
-        entry->setEnabled(!shows_results(form) || context_.kavetta.enabling.create_charts);
+        entry->setEnabled(can_be_shown(context_.kavetta, form));
     }
 }
 

@@ -1,4 +1,5 @@
 // No text is clipped and no two controls overlap, in both languages and at several font sizes.
+#include "support/cad/sample_model_store.hpp"
 #include "support/scripted_user.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/forms/Aboutform.hpp"
@@ -72,9 +73,18 @@ class layout_test : public desktop_test {
         expect_no_overlap(form, what);
     }
 
+    void open_models() {
+        sample_model_store* store = nullptr;
+        kavetta().modeller = sample_modeller(store);
+        desk().runner().act(
+            [](const kvt::program&, user& person) { person.show_form("model_view"); });
+        loaded("model_view")->findChild<QAbstractButton*>("measure_points")->click();
+        settle();
+    }
+
     void look_at_everything(const std::string& what) {
-        for (const char* name :
-             {"Form1", "portdes", "Perffrm", "viewwinfrm", "select_graphs", "perf_res"}) {
+        for (const char* name : {"Form1", "portdes", "Perffrm", "viewwinfrm", "select_graphs",
+                                 "perf_res", "model_view"}) {
             look_at(*find<QMdiSubWindow>(name), what + " " + name);
         }
         Form2 prompt(kavetta(), nullptr);
@@ -124,6 +134,7 @@ TEST_F(layout_test, nothing_is_clipped_or_overlaps_in_either_language_at_any_fon
             press("Calc");
             press("design_ports");
             press("calc_perf");
+            open_models();
             look_at_everything(std::to_string(points) + " pt, language " + language);
         }
     }

@@ -25,11 +25,11 @@ class window_menu_test : public desktop_test {
 
 }  // namespace
 
-TEST_F(window_menu_test, has_the_titles_of_the_five_windows_and_of_the_results) {
+TEST_F(window_menu_test, has_the_titles_of_the_five_windows_the_results_and_the_models) {
     start();
-    const std::vector<std::string> expected = {"Design",       "Port Design", "Design View",
-                                               "Performance",  "Charts",      "Performance Results",
-                                               "Result Tables"};
+    const std::vector<std::string> expected = {
+        "Design", "Port Design",         "Design View",   "Performance",
+        "Charts", "Performance Results", "Result Tables", "Model View"};
     EXPECT_EQ(titles(), expected);
 }
 
