@@ -13,6 +13,8 @@ FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
 SYSTEMS = {"posix", "windows"}
 
 COVERED_BY = {
+    "src/cad/builtin/kernel_shapes.cpp": "tests/cad/builtin/solid_modeller_test.cpp",
+    "src/cad/builtin/saved_body.cpp": "tests/cad/builtin/kernel_files_test.cpp",
     "src/cad/autocad_drawing.cpp": "tests/cad/autocad_models_test.cpp",
     "src/automation/windows/variant.cpp": "tests/automation/com_host_test.cpp",
     "src/base/posix/standard_streams.cpp": "tests/kvt/program_test.cpp",

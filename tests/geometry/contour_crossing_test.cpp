@@ -47,4 +47,14 @@ TEST(crosses_itself, clears_the_profiles_of_a_sound_design) {
     EXPECT_FALSE(crosses_itself(outer));
 }
 
+TEST(any_cross, finds_sides_of_two_contours) {
+    const std::vector<point2> square = {{0, 0}, {4, 0}, {4, 4}, {0, 4}};
+    EXPECT_FALSE(any_cross({square, {{1, 1}, {2, 1}, {2, 2}}}));
+    EXPECT_FALSE(any_cross({square, {{5, 1}, {6, 1}, {6, 2}}}));
+    EXPECT_TRUE(any_cross({square, {{1, 1}, {6, 1}, {6, 2}}}));
+    EXPECT_TRUE(any_cross({square, {{0, 10}, {1, 11}, {1, 10}, {0, 11}}}))
+        << "one of them crosses itself";
+    EXPECT_FALSE(any_cross({}));
+}
+
 }  // namespace kvt

@@ -14,7 +14,7 @@ struct mesh_fineness {
 };
 /// What a picture needs, and what a printed part does that turns in another with little play.
 inline constexpr mesh_fineness SHOWN{0.001, 0.2};
-inline constexpr mesh_fineness PRINTED{0.0001, 0.05};
+inline constexpr mesh_fineness PRINTED{0.0001, 0.1};
 
 /// Corners are joined by the kernel's own edges, not by their distance, so that every side belongs
 /// to exactly two triangles.

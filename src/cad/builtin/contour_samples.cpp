@@ -4,8 +4,8 @@
 #include <BRepAdaptor_Surface.hxx>
 #include <BRepTools.hxx>
 #include <BRepTools_WireExplorer.hxx>
+#include <Geom_BSplineCurve.hxx>
 #include <Precision.hxx>
-#include <TColStd_Array1OfReal.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopoDS.hxx>
 #include <algorithm>
@@ -21,6 +21,8 @@ namespace kvt::builtin {
 namespace {
 
 constexpr int POINTS_A_SPAN = 8;
+/// Share of an edge that is no more than the rounding of its ends.
+constexpr double SHORTEST_SPAN = 1e-9;
 constexpr double CIRCLE_STEP = std::numbers::pi / 1800.0;
 /// Circles are divided for Gauss's rule, whose error on a piece is 1e-14 then.
 constexpr double CIRCLE_PIECE = std::numbers::pi / 4.0;
@@ -37,12 +39,29 @@ constexpr std::array GAUSS = {
     gauss_point{0.906179845938664, 0.236926885056189},
 };
 
-/// Parameters at which a curve is divided into smooth pieces, from its first to its last.
+/// A knot of a periodic spline, as often as it takes behind the start of an edge.
+double behind(double start, double knot, double period) {
+    return knot + period * std::ceil((start - knot) / period);
+}
+
+/// Parameters at which a curve is divided into smooth pieces, from its first to its last. Not by
+/// the kernel's own division: where an edge of a whole period ends one rounding behind it, as in a
+/// file that was read again, that one goes round twice.
 std::vector<double> spans_of(const BRepAdaptor_Curve& curve) {
-    const int count = curve.NbIntervals(GeomAbs_CN);
-    TColStd_Array1OfReal ends(1, count + 1);
-    curve.Intervals(ends, GeomAbs_CN);
-    return {ends.begin(), ends.end()};
+    const double from = curve.FirstParameter(), to = curve.LastParameter();
+    std::vector<double> ends = {from, to};
+    if (curve.GetType() == GeomAbs_BSplineCurve) {
+        const double least = SHORTEST_SPAN * (to - from);
+        const Handle(Geom_BSplineCurve) spline = curve.BSpline();
+        for (const double knot : spline->Knots()) {
+            const double at = curve.IsPeriodic() ? behind(from, knot, curve.Period()) : knot;
+            if (at > from + least && at < to - least) {
+                ends.push_back(at);
+            }
+        }
+    }
+    std::ranges::sort(ends);
+    return ends;
 }
 
 std::vector<double> equal_parts(double from, double to, double longest) {

@@ -40,7 +40,7 @@ TopoDS_Face circle_face(point2 centre, double radius) {
 }
 
 TopoDS_Face pocket_face(const port_body& pocket) {
-    return make_face(closed_spline_wire(closed_spline_points(pocket.outline))).shape().kernel;
+    return make_face(polyline_wire(pocket.outline, true)).shape().kernel;
 }
 
 /// The block first, then what is cut out of it.
@@ -107,8 +107,8 @@ class divided_plane {
             }
             layers& marked = material_.ChangeFind(cell);
             for (std::size_t i = 0; i < marked.size(); ++i) {
-                marked[i] = of.reaches((levels_[i] + levels_[i + 1]) / 2.0) ? is_material
-                                                                            : bool(marked[i]);
+                marked[i] =
+                    of.reaches((levels_[i] + levels_[i + 1]) / 2.0) ? is_material : bool(marked[i]);
             }
         }
     }
@@ -148,9 +148,8 @@ class divided_plane {
 
     /// Whether just one of an edge's sides is material.
     bool parts_material(const TopTools_ListOfShape& cells, std::ptrdiff_t layer) const {
-        const auto count = std::count_if(cells.begin(), cells.end(), [&](const auto& cell) {
-            return is_material(cell, layer);
-        });
+        const auto count = std::count_if(
+            cells.begin(), cells.end(), [&](const auto& cell) { return is_material(cell, layer); });
         return count == 1;
     }
 

@@ -26,6 +26,7 @@
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 #include <cstdint>
+#include <limits>
 #include <sstream>
 
 namespace kvt::builtin {
@@ -114,6 +115,8 @@ std::string brep_bytes(const std::vector<saved_body>& bodies) {
             builder.Add(all, kernel_shape(one));
         }
         std::ostringstream out;
+        // Into a text of one's own the kernel writes as many digits as that asks for.
+        out.precision(std::numeric_limits<double>::max_digits10);
         BRepTools::Write(all, out, Standard_False, Standard_False, TopTools_FormatVersion_CURRENT);
         return out.str();
     });
