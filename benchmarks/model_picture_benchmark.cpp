@@ -54,6 +54,19 @@ void picture(benchmark::State& state, int divisor, bool is_cut) {
     }
 }
 BENCHMARK_CAPTURE(picture, whole, 1, false)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+/// With four pixels to a dot of the screen, which make edges smooth.
+void smooth_picture(benchmark::State& state) {
+    const std::vector<kvt::body_mesh> meshes = assembly();
+    const kvt::model_scene scene = scene_of(meshes, false);
+    kvt::model_camera camera(SIDE, SIDE);
+    camera.fit(kvt::points_of(scene));
+    for (auto _ : state) {
+        const kvt::model_picture drawn = kvt::draw_model(scene, camera.enlarged(2));
+        benchmark::DoNotOptimize(drawn.pixels.data());
+    }
+}
+BENCHMARK(smooth_picture)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(picture, cut, 1, true)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(picture, dragged, 2, false)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(picture, dragged_and_cut, 2, true)->UseRealTime()->Unit(benchmark::kMillisecond);

@@ -15,6 +15,9 @@ namespace {
 
 /// While something moves a picture has half of its columns and rows.
 constexpr int COARSE = 2;
+/// How many columns and rows of a fine picture are mixed into one dot, unless the screen is dense.
+constexpr int SMOOTH = 2;
+constexpr double DENSE_SCREEN = 1.5;  ///< dots to a pixel
 /// How long nothing must move before a picture becomes fine, milliseconds.
 constexpr int FINE_AFTER_MS = 120;
 /// A step of the wheel, 15 degrees, is 120.
@@ -31,6 +34,10 @@ QImage image_of(const model_picture& picture) {
     return {reinterpret_cast<const uchar*>(picture.pixels.data()), picture.grid.width,
             picture.grid.height, picture.grid.width * static_cast<int>(sizeof(std::uint32_t)),
             QImage::Format_RGB32};
+}
+
+QImage smaller(const QImage& image, const QSize& size) {
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QPointF step_of_key(int key) {
@@ -57,7 +64,7 @@ model_canvas::model_canvas(const char* name) : camera_(1, 1) {
     setMinimumSize(240, 180);
     fine_drawing_.setSingleShot(true);
     fine_drawing_.setInterval(FINE_AFTER_MS);
-    connect(&fine_drawing_, &QTimer::timeout, this, [this] { draw(1); });
+    connect(&fine_drawing_, &QTimer::timeout, this, &model_canvas::draw_fine);
 }
 
 QSize model_canvas::size_in_dots() const {
@@ -69,32 +76,47 @@ void model_canvas::show_scene(model_scene scene, bool moves) {
     if (moves) {
         draw_moving();
     } else {
-        draw(1);
+        draw_fine();
     }
 }
 
-void model_canvas::draw(int divisor) {
+int model_canvas::dots_of_fine() const {
+    return devicePixelRatioF() < DENSE_SCREEN ? SMOOTH : 1;
+}
+
+void model_canvas::draw_fine() {
+    const int dots = dots_of_fine();
+    model_scene scene = scene_;
+    scene.line_width *= dots;
+    density_ = dots;
+    draw(scene, camera_.enlarged(dots));
+    fine_drawing_.stop();
+}
+
+void model_canvas::draw_coarse() {
+    density_ = 1.0 / COARSE;
+    draw(scene_, camera_.reduced(COARSE));
+}
+
+void model_canvas::draw(const model_scene& scene, const model_camera& camera) {
     if (!isVisible()) {
         picture_.reset();
         return;
     }
-    divisor_ = divisor;
-    picture_ = draw_model(scene_, divisor == 1 ? camera_ : camera_.reduced(divisor));
-    if (divisor == 1) {
-        fine_drawing_.stop();
-    }
+    picture_ = draw_model(scene, camera);
+    image_ = density_ > 1.0 ? smaller(image_of(*picture_), size_in_dots()) : image_of(*picture_);
     update();
 }
 
 void model_canvas::draw_moving() {
-    draw(COARSE);
+    draw_coarse();
     fine_drawing_.start();
 }
 
 void model_canvas::fit() {
     camera_.fit(points_of(scene_));
     is_fitted_ = true;
-    draw(1);
+    draw_fine();
 }
 
 void model_canvas::look_from(const view_direction& direction) {
@@ -115,21 +137,22 @@ void model_canvas::show_measure(std::vector<point3> points, const QColor& colour
 }
 
 QImage model_canvas::picture(int density) const {
-    model_camera camera = camera_;
-    camera.resize(camera_.width() * density, camera_.height() * density);
+    const model_camera camera = camera_.enlarged(density);
     model_scene scene = scene_;
-    scene.line_width *= density;
-    QImage image = image_of(draw_model(scene, camera)).copy();
+    scene.line_width *= density * SMOOTH;
+    const model_picture drawn = draw_model(scene, camera.enlarged(SMOOTH));
+    QImage image = smaller(image_of(drawn), {camera.width(), camera.height()});
     QPainter painter(&image);
-    painter.scale(density * devicePixelRatioF(), density * devicePixelRatioF());
-    paint_measure(painter, camera, density * devicePixelRatioF());
+    const double dots = density * devicePixelRatioF();
+    painter.scale(dots, dots);
+    paint_measure(painter, camera, dots);
     return image;
 }
 
 /// What is dragged: the point under the pointer, or the middle of the picture beside the bodies.
 point3 model_canvas::pivot_at(const QPointF& place) const {
     if (picture_) {
-        const QPointF dots = in_dots(place) / divisor_;
+        const QPointF dots = in_dots(place) * density_;
         if (const auto point = picked(*picture_, dots.x(), dots.y())) {
             return point->point;
         }
@@ -178,22 +201,22 @@ void model_canvas::mouseReleaseEvent(QMouseEvent* event) {
     }
     dragged_ = Qt::NoButton;
     if (has_moved_) {
-        draw(1);
+        draw_fine();
     } else if (picks_ && event->button() == Qt::LeftButton) {
         pick_at(event->position());
     }
 }
 
 void model_canvas::pick_at(const QPointF& place) {
-    if (!picture_ || divisor_ != 1) {
-        draw(1);
+    if (!picture_ || density_ < 1.0) {
+        draw_fine();
     }
     if (!picture_) {
         return;
     }
-    const QPointF dots = in_dots(place);
-    auto point =
-        picked_corner(*picture_, scene_, dots.x(), dots.y(), CORNER_REACH * devicePixelRatioF());
+    const QPointF dots = in_dots(place) * density_;
+    const double reach = CORNER_REACH * devicePixelRatioF() * density_;
+    auto point = picked_corner(*picture_, scene_, dots.x(), dots.y(), reach);
     if (!point) {
         point = picked(*picture_, dots.x(), dots.y());
     }
@@ -248,7 +271,7 @@ void model_canvas::resizeEvent(QResizeEvent*) {
 }
 
 void model_canvas::showEvent(QShowEvent*) {
-    draw(1);
+    draw_fine();
 }
 
 void model_canvas::paintEvent(QPaintEvent*) {
@@ -258,8 +281,8 @@ void model_canvas::paintEvent(QPaintEvent*) {
         return;
     }
     const double dots = devicePixelRatioF();
-    const QImage image = image_of(*picture_);
-    painter.drawImage(QRectF(QPointF(), QSizeF(image.size()) * (divisor_ / dots)), image);
+    const double enlarged = density_ < 1.0 ? 1.0 / density_ : 1.0;
+    painter.drawImage(QRectF(QPointF(), QSizeF(image_.size()) * (enlarged / dots)), image_);
     paint_measure(painter, camera_, dots);
     if (picks_ && hasFocus()) {
         paint_cross(painter);

@@ -51,9 +51,14 @@ class model_canvas : public QWidget {
   private:
     QSize size_in_dots() const;
     QPointF in_dots(const QPointF& place) const { return place * devicePixelRatioF(); }
-    void draw(int divisor);
+    /// A coarse picture has half of the screen's columns and rows; a fine one is drawn with twice
+    /// as many where the dots of the screen are large, so that edges are smooth.
+    void draw_fine();
+    void draw_coarse();
+    void draw(const model_scene& scene, const model_camera& camera);
     /// Draws a coarse picture now, and a fine one when nothing has moved for a moment.
     void draw_moving();
+    int dots_of_fine() const;
     void drag(const QPointF& step);
     void pick_at(const QPointF& place);
     bool move_by_key(int key, bool with_ctrl);
@@ -64,7 +69,8 @@ class model_canvas : public QWidget {
     model_scene scene_;
     model_camera camera_;  ///< in dots of the screen
     std::optional<model_picture> picture_;
-    int divisor_ = 1;        ///< of the picture
+    QImage image_;           ///< what is painted of it
+    double density_ = 1.0;   ///< columns of the picture to a dot of the screen
     bool is_fitted_ = true;  ///< nothing was moved since
     QTimer fine_drawing_;
 

@@ -127,4 +127,12 @@ model_camera model_camera::reduced(int divisor) const {
     return small;
 }
 
+model_camera model_camera::enlarged(int factor) const {
+    model_camera large = *this;
+    large.width_ = width_ * factor;
+    large.height_ = height_ * factor;
+    large.pixels_per_mm_ = pixels_per_mm_ * factor;
+    return large;
+}
+
 }  // namespace kvt

@@ -60,8 +60,9 @@ class model_camera {
     /// Makes everything `factor` times as large about a place, which stays. The scale is kept
     /// within SMALLEST_SCALE .. LARGEST_SCALE.
     void zoom(double x, double y, double factor);
-    /// The same view in a picture of a share of the size, rounded up.
+    /// The same view in a picture of a share of the size, rounded up, or of several times the size.
     model_camera reduced(int divisor) const;
+    model_camera enlarged(int factor) const;
 
     /// Pixels a millimetre.
     static constexpr double SMALLEST_SCALE = 1e-3, LARGEST_SCALE = 1e5;

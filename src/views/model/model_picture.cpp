@@ -209,10 +209,27 @@ class model_drawing {
         }
     }
 
+    /// Whether a cut ends within the width of a line.
+    bool is_outline(int x, int y) const {
+        const picture_grid& grid = picture_.grid;
+        const int reach = scene_.line_width;
+        const std::uint32_t cut = grid.surface[grid.index(x, y)];
+        const auto is_cut_too = [&](int near_x, int near_y) {
+            return near_x >= 0 && near_y >= 0 && near_x < grid.width && near_y < grid.height &&
+                   grid.surface[grid.index(near_x, near_y)] == cut;
+        };
+        return !(is_cut_too(x - reach, y) && is_cut_too(x + reach, y) && is_cut_too(x, y - reach) &&
+                 is_cut_too(x, y + reach));
+    }
+
     /// Neighbouring parts are hatched in different directions.
     std::uint32_t cut_pixel(std::size_t part, int x, int y) const {
+        if (is_outline(x, y)) {
+            return packed(scene_.edge);
+        }
         const int along = part % 2 == 0 ? x + y : x - y;
-        const bool is_hatch = (along % HATCH_PIXELS + HATCH_PIXELS) % HATCH_PIXELS == 0;
+        const int distance = HATCH_PIXELS * scene_.line_width;
+        const bool is_hatch = (along % distance + distance) % distance < scene_.line_width;
         const rgb_colour& colour = scene_.parts[part].colour;
         return is_hatch ? mixed(colour, scene_.edge, HATCH_SHARE)
                         : mixed(colour, scene_.section, CUT_SHARE);

@@ -22,8 +22,8 @@ struct model_picture {
 /// Draws with several threads, 0: as many as the machine runs at once. Each works on rows of its
 /// own and computes every pixel as one thread would, so the picture is the same.
 /// A surface is as bright as 0.45 + 0.55 |n . l|, n its normal, l towards the light, which stands
-/// over the left shoulder. Cut bodies show where they are cut as their colour, lighter or darker,
-/// and hatched.
+/// over the left shoulder. Where a body is cut it shows its own colour, lighter, hatched, and with
+/// an outline.
 model_picture draw_model(const model_scene& scene, const model_camera& camera, int threads = 0);
 
 /// What a place of a picture shows.

@@ -144,7 +144,7 @@ TEST(model_camera, keeps_the_middle_and_the_share_when_resized) {
     EXPECT_NEAR(camera.pixels_per_mm(), 18.0 * 300.0 / 400.0, 1e-12);
 }
 
-TEST(model_camera, shows_the_same_at_half_size) {
+TEST(model_camera, shows_the_same_at_half_and_at_twice_the_size) {
     random_values random;
     for (int run = 0; run < property_count(100); ++run) {
         const model_camera camera = random_camera(random);
@@ -156,6 +156,9 @@ TEST(model_camera, shows_the_same_at_half_size) {
         EXPECT_NEAR(small.x, whole.x / 2.0, 1e-9);
         EXPECT_NEAR(small.y, whole.y / 2.0, 1e-9);
         EXPECT_NEAR(small.depth, whole.depth, 1e-9);
+        const picture_point large = camera.enlarged(2).project(point);
+        EXPECT_NEAR(large.x, whole.x * 2.0, 1e-9);
+        EXPECT_NEAR(large.y, whole.y * 2.0, 1e-9);
     }
 }
 

@@ -230,7 +230,7 @@ TEST(model_picture, shows_rings_and_prisms_from_any_side) {
         SCOPED_TRACE(run);
         expect_picture(
             bodies, scene,
-            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)}));
+            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)}, 90, 70));
     }
 }
 
@@ -248,7 +248,7 @@ TEST(model_picture, shows_what_sections_leave) {
         SCOPED_TRACE(run);
         expect_picture(
             bodies, scene,
-            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)}));
+            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)}, 90, 70));
     }
 }
 
@@ -292,7 +292,7 @@ TEST(model_picture, is_the_same_with_any_number_of_threads) {
         scene.sections = {section_through_axis(random.real(0.0, 360.0))};
         scene.line_width = 1 + run % 3;
         const model_camera camera =
-            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)});
+            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)}, 90, 70);
         const model_picture one = draw_model(scene, camera, 1);
         for (const int threads : {2, 3, 7, 0}) {
             const model_picture other = draw_model(scene, camera, threads);
@@ -308,7 +308,7 @@ TEST(model_picture, picks_the_point_that_was_projected) {
         std::vector<known_body> bodies = random_bodies(random);
         const model_scene scene = scene_without_edges(bodies);
         const model_camera camera =
-            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)});
+            fitted_camera(scene, {random.real(-180.0, 180.0), random.real(-90.0, 90.0)}, 90, 70);
         const model_picture picture = draw_model(scene, camera);
         const double x = random.real(0.0, camera.width());
         const double y = random.real(0.0, camera.height());
@@ -422,6 +422,16 @@ TEST(model_picture, marks_cuts_with_the_colour_of_the_body) {
         EXPECT_NE(std::ranges::find(grey, pixel_at(picture, {-2.0, y, 2.0})), grey.end());
         EXPECT_NE(std::ranges::find(red, pixel_at(picture, {2.0, y, 2.0})), red.end());
     }
+}
+
+TEST(model_picture, outlines_cuts) {
+    const body_mesh box = without_edges(box_mesh({-5.0, -5.0, 0.0}, {5.0, 5.0, 4.0}));
+    model_scene scene = scene_of({&box});
+    scene.sections = {section_across_axis(2.0)};
+    const model_picture picture = draw_model(scene, fitted_camera(scene, TOP_VIEW));
+    EXPECT_EQ(pixel_at(picture, {-4.99, 1.0, 2.0}), EDGE);
+    EXPECT_EQ(pixel_at(picture, {1.0, -4.99, 2.0}), EDGE);
+    EXPECT_NE(pixel_at(picture, {-4.6, 1.0, 2.0}), EDGE);
 }
 
 TEST(model_scene, turns_a_part_about_its_axis) {
