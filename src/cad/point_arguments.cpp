@@ -11,14 +11,15 @@ point3 place(const automation::values& arguments, std::size_t i) {
     return {x, y, z};
 }
 
-std::vector<point2> flat_points(const std::vector<double>& numbers, std::size_t width) {
+std::vector<point2> flat_points(const std::vector<double>& numbers, std::size_t width,
+                                double mm_per_unit) {
     if (numbers.size() % width != 0 || numbers.size() < 2 * width) {
         automation::refuse_type("points of " + std::to_string(width) + " numbers each");
     }
     std::vector<point2> points;
     points.reserve(numbers.size() / width);
     for (std::size_t i = 0; i < numbers.size(); i += width) {
-        points.push_back({numbers[i], numbers[i + 1]});
+        points.push_back({numbers[i] * mm_per_unit, numbers[i + 1] * mm_per_unit});
     }
     return points;
 }

@@ -1,20 +1,11 @@
 #include "automation/table_object.hpp"
 
-#include "automation/automation_error.hpp"
+#include "support/expect_failure.hpp"
 
 #include <gtest/gtest.h>
 
 namespace kvt::automation {
 namespace {
-
-int number_of_failure(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const automation_error& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 /// A box that is asked for its volume, emptied and given a height.
 struct box : table_object {
@@ -50,53 +41,52 @@ TEST(table_object, calls_the_function_of_a_name) {
 
 TEST(table_object, refuses_other_names_with_438) {
     box one;
-    EXPECT_EQ(number_of_failure([&] { one.get("Area"); }), 438);
-    EXPECT_EQ(number_of_failure([&] { one.get("volume", {2.0, 5}); }), 438);
-    EXPECT_EQ(number_of_failure([&] { one.run("Fill"); }), 438);
-    EXPECT_EQ(number_of_failure([&] { one.put("Name", std::string("chest")); }), 438);
-    EXPECT_EQ(number_of_failure([&] { one.get("Height"); }), 438) << "it can only be put";
-    EXPECT_EQ(number_of_failure([&] { one.get("Empty"); }), 438) << "it has no result";
+    EXPECT_FAILURE(one.get("Area"), 438);
+    EXPECT_FAILURE(one.get("volume", {2.0, 5}), 438);
+    EXPECT_FAILURE(one.run("Fill"), 438);
+    EXPECT_FAILURE(one.put("Name", std::string("chest")), 438);
+    EXPECT_FAILURE(one.get("Height"), 438);  // it can only be put
+    EXPECT_FAILURE(one.get("Empty"), 438);   // it has no result
 }
 
 TEST(table_object, refuses_another_count_of_arguments_with_450) {
     box one;
-    EXPECT_EQ(number_of_failure([&] { one.get("Volume", {2.0}); }), 450);
-    EXPECT_EQ(number_of_failure([&] { one.run("Empty", {true}); }), 450);
+    EXPECT_FAILURE(one.get("Volume", {2.0}), 450);
+    EXPECT_FAILURE(one.run("Empty", {true}), 450);
 }
 
 TEST(table_object, refuses_another_kind_of_argument_with_13) {
     box one;
-    EXPECT_EQ(number_of_failure([&] { one.get("Volume", {2, 5}); }), 13) << "nothing is coerced";
-    EXPECT_EQ(number_of_failure([&] { one.get("Volume", {2.0, 5.0}); }), 13);
-    EXPECT_EQ(number_of_failure([&] { one.put("Height", std::string("4")); }), 13);
-    EXPECT_EQ(number_of_failure([&] { one.put("Visible", 1); }), 13);
-    EXPECT_EQ(number_of_failure([&] { one.put("Locked", 1); }), 13);
-    EXPECT_EQ(number_of_failure([] { three_reals({number_array{{1.0, 2.0}}}, 0); }), 13);
+    EXPECT_FAILURE(one.get("Volume", {2, 5}), 13);  // nothing is coerced
+    EXPECT_FAILURE(one.get("Volume", {2.0, 5.0}), 13);
+    EXPECT_FAILURE(one.put("Height", std::string("4")), 13);
+    EXPECT_FAILURE(one.put("Visible", 1), 13);
+    EXPECT_FAILURE(one.put("Locked", 1), 13);
+    EXPECT_FAILURE(three_reals({number_array{{1.0, 2.0}}}, 0), 13);
 }
 
 TEST(table_object, is_used_no_more_once_it_is_gone) {
     box one;
     one.run("Delete");
-    EXPECT_EQ(number_of_failure([&] { one.get("Name"); }), REFUSED);
-    EXPECT_EQ(number_of_failure([&] { one.run("Delete"); }), REFUSED);
-    EXPECT_EQ(number_of_failure([&] { one.put("Height", 1.0); }), REFUSED);
+    EXPECT_FAILURE(one.get("Name"), REFUSED);
+    EXPECT_FAILURE(one.run("Delete"), REFUSED);
+    EXPECT_FAILURE(one.put("Height", 1.0), REFUSED);
 }
 
 TEST(table_object, is_taken_as_an_argument_for_what_it_is) {
     const auto one = std::make_shared<box>();
     const object_ref another = std::make_shared<table_object>();
     EXPECT_EQ(object_argument<box>({std::static_pointer_cast<object>(one)}, 0), one);
-    EXPECT_EQ(number_of_failure([&] { object_argument<box>({another}, 0); }), 13);
-    EXPECT_EQ(number_of_failure([&] { object_argument<box>({nothing{}}, 0); }), 13);
+    EXPECT_FAILURE(object_argument<box>({another}, 0), 13);
+    EXPECT_FAILURE(object_argument<box>({nothing{}}, 0), 13);
     one->is_gone = true;
-    EXPECT_EQ(number_of_failure([&] { object_put<box>(std::static_pointer_cast<object>(one)); }),
-              REFUSED);
+    EXPECT_FAILURE(object_put<box>(std::static_pointer_cast<object>(one)), REFUSED);
     EXPECT_EQ(held_argument<double>({holding(2.5)}, 0), 2.5);
-    EXPECT_EQ(number_of_failure([&] { held_argument<int>({holding(2.5)}, 0); }), 13);
+    EXPECT_FAILURE(held_argument<int>({holding(2.5)}, 0), 13);
 }
 
 TEST(table_object, answers_9_for_a_number_that_is_not_there) {
-    EXPECT_EQ(number_of_failure([] { refuse_index("planes"); }), 9);
+    EXPECT_FAILURE(refuse_index("planes"), 9);
 }
 
 }  // namespace kvt::automation
