@@ -37,6 +37,7 @@ namespace {
 
 /// A closed polyline of more points becomes a spline.
 constexpr std::size_t MOST_FLAT_SIDES = 200;
+constexpr double SPLINE_RESOLUTION_MM = 1e-5;
 
 gp_Pnt kernel_point(point2 at) {
     return {at.x, at.y, 0.0};
@@ -49,17 +50,25 @@ bool is_same_place(point2 a, point2 b) {
     return distance(a, b) <= Precision::Confusion();
 }
 
+/// Two points of a spline that lie nearer than this, such as those of a root arc of almost no
+/// length, could turn it back into a loop.
+bool is_same_place_of_spline(point2 a, point2 b) {
+    return distance(a, b) <= SPLINE_RESOLUTION_MM;
+}
+
+using same_places = bool (*)(point2, point2);
+
 /// Without points that repeat the one before them, which the kernel can't join.
-std::vector<point2> distinct_points(const std::vector<point2>& points) {
+std::vector<point2> distinct_points(const std::vector<point2>& points, same_places same) {
     std::vector<point2> distinct;
-    std::ranges::unique_copy(points, std::back_inserter(distinct), is_same_place);
+    std::ranges::unique_copy(points, std::back_inserter(distinct), same);
     return distinct;
 }
 
 /// The same of a closed list, whose last point may repeat the first.
-std::vector<point2> distinct_corners(const std::vector<point2>& points) {
-    std::vector<point2> distinct = distinct_points(points);
-    while (distinct.size() > 1 && is_same_place(distinct.front(), distinct.back())) {
+std::vector<point2> distinct_corners(const std::vector<point2>& points, same_places same) {
+    std::vector<point2> distinct = distinct_points(points, same);
+    while (distinct.size() > 1 && same(distinct.front(), distinct.back())) {
         distinct.pop_back();
     }
     return distinct;
@@ -239,7 +248,7 @@ model_box body::box() const {
 
 wire polyline_wire(const std::vector<point2>& points, bool closed) {
     if (!closed) {
-        std::vector<point2> corners = distinct_points(points);
+        std::vector<point2> corners = distinct_points(points, is_same_place);
         expect_points(corners, 2);
         const bool returns = corners.size() > 3 && is_same_place(corners.front(), corners.back());
         if (returns) {
@@ -247,7 +256,7 @@ wire polyline_wire(const std::vector<point2>& points, bool closed) {
         }
         return wire_of([=] { return polygon(corners, returns); });
     }
-    const std::vector<point2> corners = distinct_corners(points);
+    const std::vector<point2> corners = distinct_corners(points, is_same_place);
     expect_points(corners, 3);
     if (corners.size() > MOST_FLAT_SIDES) {
         return closed_spline_wire(closed_spline_points(corners));
@@ -256,13 +265,13 @@ wire polyline_wire(const std::vector<point2>& points, bool closed) {
 }
 
 wire closed_spline_wire(std::vector<point2> points) {
-    points = distinct_corners(points);
+    points = distinct_corners(points, is_same_place_of_spline);
     expect_points(points, 3);
     return wire_of([points = std::move(points)] { return interpolating_spline(points, true); });
 }
 
 wire open_spline_wire(const std::vector<point2>& points) {
-    std::vector<point2> through = distinct_points(points);
+    std::vector<point2> through = distinct_points(points, is_same_place_of_spline);
     expect_points(through, 2);
     return wire_of([through = std::move(through)] { return interpolating_spline(through, false); });
 }
