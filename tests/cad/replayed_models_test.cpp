@@ -1,11 +1,9 @@
 // The routines of the CAD packages, run against stand-ins that build the solids of the calls: the
 // same solids as the contours of the CNC files, in each package's unit.
 #include "app/program.hpp"
-#include "base/constants.hpp"
 #include "cad/dispatch.hpp"
-#include "geometry/outer_flank.hpp"
-#include "geometry/outer_path.hpp"
 #include "support/cad/expected_models.hpp"
+#include "support/cad/hard_rotors.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/cad/recorded_routine.hpp"
 #include "support/cad/stand_ins.hpp"
@@ -122,44 +120,6 @@ void expect_models(const program& kavetta, const driven_package& package,
         EXPECT_EQ(percents, package.percents);
         expect_model(package, *made, kavetta, kind, how);
     }
-}
-
-/// Rotors of a design whose ports don't matter.
-program calculated_rotors(program kavetta) {
-    scripted_user person;
-    EXPECT_EQ(calculate_profiles(kavetta, person), run_end::ok);
-    return kavetta;
-}
-
-void type_many_lobes(entries& boxes, int lobes) {
-    constexpr double RATIO = 1.5, ROLLED_MM = 30.0;
-    const double ecc = ROLLED_MM / (RATIO * lobes), radouter = 2.0 * ecc;
-    const double radinnroot = ROLLED_MM - radouter - ecc;
-    boxes.numlobes = number_text(lobes);
-    boxes.ecc = typed_number(ecc);
-    boxes.radouter = typed_number(radouter);
-    boxes.radinnroot = typed_number(radinnroot);
-    boxes.shaftdiameter = typed_number(radinnroot);
-    boxes.minmaterial = "1";
-    boxes.maxdiameter = "80";
-    boxes.fillet = typed_number(ecc * 0.3);
-    boxes.outer_root = "";
-}
-
-/// The largest fillet that leaves this much of the root arcs, mm, in the box.
-void type_fillet_for_gap(program& kavetta, double gap) {
-    const double unit = length_unit_of(kavetta.app_state).mm;
-    const design_params typed = outer_rotor_entries(kavetta.entries, unit);
-    const double C = typed.radinnroot + typed.ecc + typed.radouter;
-    double small = 0.0, large = typed.outer_root / 2.0;
-    for (int step = 0; step < 100; ++step) {
-        design_params tried = typed;
-        tried.fillet = (small + large) / 2.0;
-        const double left =
-            tried.outer_root * (TWO_PI_D / 2.0 / tried.numlobes - fillet_angle(tried, C));
-        (left > gap ? small : large) = tried.fillet;
-    }
-    kavetta.entries.fillet = number_text(small / unit);
 }
 
 }  // namespace

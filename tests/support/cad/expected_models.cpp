@@ -1,9 +1,8 @@
 #include "support/cad/expected_models.hpp"
 
-#include "base/constants.hpp"
-#include "geometry/outer_flank.hpp"
 #include "geometry/outer_path.hpp"
 #include "output/port_contours.hpp"
+#include "support/cad/expected_contours.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -91,56 +90,12 @@ expected_body body(std::string name, contour of, double from_z, double to_z) {
             to_z};
 }
 
-/// An angle from 0 up to a whole turn.
-double within_turn(double angle) {
-    return angle - TURN * std::floor(angle / TURN);
-}
-
-/// The arcs of the outer rotor with fillets that touch lobe and root, also where the lobes are more
-/// than half a turn and the files' own arcs miss each other. The lobe at theta, its fillet centre F
-/// at theta + alpha seen from the axis, psi the direction from the lobe centre to F:
-///     lobe from psi over pi to -psi, fillet from psi + pi to alpha, root from alpha to the next
-///     lobe
-std::vector<circle_arc> arcs_of(const design_params& design) {
-    const double C = design.radinnroot + design.ecc + design.radouter;
-    const double alpha = fillet_angle(design, C);
-    const point2 F = polar_point(design.outer_root - design.fillet, alpha);
-    const double psi = std::atan2(F.y, F.x - C);
-    const double step = TWO_PI_D / design.numlobes;
-    const double fillet_sweep = within_turn(alpha - psi - TURN / 2.0);
-    std::vector<circle_arc> arcs;
-    for (int lobe = 1; lobe <= design.numlobes; ++lobe) {
-        const double theta = lobe * step;
-        const auto at = [&](double radius, double angle) {
-            const point2 point = polar_point(radius, angle);
-            return point2{point.x - design.ecc, point.y};
-        };
-        const double Rc = design.outer_root - design.fillet;
-        arcs.push_back({at(C, theta), design.radouter, theta + psi, TURN - 2.0 * psi});
-        if (design.fillet != 0.0) {
-            arcs.push_back(
-                {at(Rc, theta + alpha), design.fillet, theta + psi + TURN / 2.0, fillet_sweep});
-            arcs.push_back({at(Rc, theta - alpha), design.fillet, theta - alpha, fillet_sweep});
-        }
-        arcs.push_back({at(0.0, 0.0), design.outer_root, theta + alpha, step - 2.0 * alpha});
-    }
-    return arcs;
-}
-
-std::vector<point2> chords_of(const design_params& design) {
-    std::vector<point2> points = outer_path_points(outer_rotor_path(design));
-    for (point2& point : points) {
-        point.x -= design.ecc;
-    }
-    return points;
-}
-
 expected_body outer_rotor(const program& kavetta, outer_contour outer) {
     const double unit = length_unit_of(kavetta.app_state).mm;
     const design_params& calculated = kavetta.design_params;
     const design_params design = outer_rotor_entries(kavetta.entries, unit);
     const contour bore =
-        outer == outer_contour::arcs ? chain(arcs_of(design)) : polygon(chords_of(design));
+        outer == outer_contour::arcs ? chain(bore_arcs(design)) : polygon(bore_chords(design));
     return body("outer rotor", ring(bore, {-design.ecc, 0.0}, calculated.maxdiameter / 2.0), 0.0,
                 calculated.thick);
 }
