@@ -12,24 +12,12 @@ namespace {
 
 constexpr int SUMMARY_DECIMALS = 3;
 
-bool holds_curves(solid_format format) {
-    return format == solid_format::step || format == solid_format::brep;
-}
-
 std::string number(double value) {
     return fixed_number(value, SUMMARY_DECIMALS);
 }
 
 std::string place(const point3& point) {
     return "(" + number(point.x) + ", " + number(point.y) + ", " + number(point.z) + ")";
-}
-
-std::vector<body_number> numbers_of(const std::vector<model_body>& bodies) {
-    std::vector<body_number> numbers;
-    for (const model_body& body : bodies) {
-        numbers.push_back(body.number);
-    }
-    return numbers;
 }
 
 }  // namespace

@@ -39,6 +39,14 @@ struct model_body {
     double volume() const { return contour_area * height; }
 };
 
+inline std::vector<body_number> numbers_of(const std::vector<model_body>& bodies) {
+    std::vector<body_number> numbers;
+    for (const model_body& body : bodies) {
+        numbers.push_back(body.number);
+    }
+    return numbers;
+}
+
 /// "Drawing1", "Part1", .. as its package would name it.
 struct model_document {
     document_number number = 0;
@@ -47,6 +55,10 @@ struct model_document {
 };
 
 enum class solid_format { step, stl, three_mf, brep };
+/// The other formats hold solids only.
+inline bool holds_curves(solid_format format) {
+    return format == solid_format::step || format == solid_format::brep;
+}
 
 class model_store : public automation::host {
   public:

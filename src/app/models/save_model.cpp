@@ -99,18 +99,6 @@ bool has_ending(std::string_view path, std::string_view ending) {
            is_same_ignoring_case(path.substr(path.size() - ending.size()), ending);
 }
 
-bool holds_curves(solid_format format) {
-    return format == solid_format::step || format == solid_format::brep;
-}
-
-std::vector<body_number> numbers_of(const std::vector<model_body>& bodies) {
-    std::vector<body_number> numbers;
-    for (const model_body& body : bodies) {
-        numbers.push_back(body.number);
-    }
-    return numbers;
-}
-
 /// Saves behind the hourglass, and tells what became of it.
 void save_and_tell(const program& kavetta, user& person, const std::string& path,
                    const std::vector<model_body>& bodies,
