@@ -99,6 +99,15 @@ bool has_ending(std::string_view path, std::string_view ending) {
            is_same_ignoring_case(path.substr(path.size() - ending.size()), ending);
 }
 
+/// A file that is there in the status bar, a failure in a box.
+void tell(user& person, const saved_text& saved) {
+    if (saved.is_whole) {
+        person.show_status(saved.outcome);
+    } else {
+        person.show_message(saved.outcome);
+    }
+}
+
 /// Saves behind the hourglass, and tells what became of it.
 void save_and_tell(const program& kavetta, user& person, const std::string& path,
                    const std::vector<model_body>& bodies,
@@ -109,11 +118,7 @@ void save_and_tell(const program& kavetta, user& person, const std::string& path
                                                numbers_of(bodies), housing);
     });
     person.set_busy(false);
-    if (saved.is_whole) {
-        person.show_status(saved.outcome);
-    } else {
-        person.show_message(saved.outcome);
-    }
+    tell(person, saved);
 }
 
 }  // namespace
@@ -170,10 +175,8 @@ void save_model_picture(const program& kavetta, user& person,
     dialog.file_name = kavetta.app_state.project_name;
     const auto saved = ask_and_save_bytes(kavetta, person, dialog,
                                           [&picture](const std::string&) { return picture(); });
-    if (saved && saved->is_whole) {
-        person.show_status(saved->outcome);
-    } else if (saved) {
-        person.show_message(saved->outcome);
+    if (saved) {
+        tell(person, *saved);
     }
 }
 

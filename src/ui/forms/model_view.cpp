@@ -8,6 +8,7 @@
 #include "ui/parts/chart_export.hpp"
 #include "ui/parts/entry_validator.hpp"
 #include "ui/parts/form_parts.hpp"
+#include "ui/parts/ink.hpp"
 #include "ui/parts/model_canvas.hpp"
 #include "ui/shell/qt_text.hpp"
 #include "views/model/model_palette.hpp"
@@ -42,8 +43,6 @@ constexpr int HOUSING_BOX_WIDTH = 70;
 constexpr int HEIGHT_STEPS = 1000;
 constexpr int LARGEST_ANGLE = 359;
 constexpr int PICTURE_DENSITY = 2;
-/// Lightness below which a palette counts as dark, 0 .. 255.
-constexpr int DARK_BELOW = 128;
 
 /// The hourglass as long as it lives.
 class waiting_pointer {
@@ -240,10 +239,6 @@ QSize model_view::start_size() const {
     return START_SIZE;
 }
 
-bool model_view::is_dark() const {
-    return palette().color(QPalette::Window).lightness() < DARK_BELOW;
-}
-
 void model_view::refresh() {
     loaded_form::refresh();
     const program& kavetta = context_.kavetta;
@@ -280,7 +275,7 @@ void model_view::show_housing() {
 
 model_scene model_view::scene_now() const {
     model_look look;
-    look.on_dark_ground = is_dark();
+    look.on_dark_ground = is_dark(palette());
     look.turns_with_design_view = turn_with_view_->isChecked();
     look.line_width = std::max(1, static_cast<int>(std::lround(devicePixelRatioF())));
     const waiting_pointer hourglass;
@@ -409,7 +404,7 @@ void model_view::show_measure() {
     }
     measure_status_->setText(text);
     measure_status_->setVisible(!text.isEmpty());
-    canvas_->show_measure(places, qt_colour(model_palette_on(is_dark()).measure));
+    canvas_->show_measure(places, qt_colour(model_palette_on(is_dark(palette())).measure));
 }
 
 void model_view::save() {

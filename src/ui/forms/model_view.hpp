@@ -57,7 +57,6 @@ class model_view : public loaded_form {
     void look_from_right();
     void look_isometric();
 
-    bool is_dark() const;
     model_scene scene_now() const;
     std::vector<section_plane> sections() const;
     double section_height() const;

@@ -7,6 +7,9 @@ namespace kvt {
 
 namespace {
 
+/// Lightness below which a ground counts as dark, 0 .. 255.
+constexpr int DARK_BELOW = 128;
+
 double linear(double channel) {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }
@@ -26,6 +29,10 @@ QColor mix(const QColor& ground, const QColor& ink, double share) {
 }
 
 }  // namespace
+
+bool is_dark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < DARK_BELOW;
+}
 
 double contrast(const QColor& one, const QColor& other) {
     const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 namespace kvt {
+
+/// Whether windows have a dark ground.
+bool is_dark(const QPalette& palette);
 
 /// The contrast that small text needs, at least. Source: WCAG 2.1, success criterion 1.4.3.
 inline constexpr double READABLE_CONTRAST = 4.5;

@@ -11,6 +11,7 @@
 #include "ui/forms/Form3.hpp"
 #include "ui/forms/viewwinfrm.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/ink.hpp"
 #include "ui/shell/form_factory.hpp"
 #include "ui/shell/loaded_form.hpp"
 #include "ui/shell/present_layout.hpp"
@@ -29,9 +30,6 @@
 namespace kvt {
 
 namespace {
-
-/// Lightness below which a palette counts as dark, 0 .. 255.
-constexpr int DARK_BELOW = 128;
 
 /// The project file that is dragged, one alone; empty for anything else.
 QString dragged_project(const QMimeData& data) {
@@ -272,8 +270,7 @@ void MDIForm1::show_cnc_output() {
 /// A quiet ground for the windows, in a light and in a dark theme.
 void MDIForm1::colour_background() {
     const QColor window = palette().color(QPalette::Window);
-    const bool is_dark = window.lightness() < DARK_BELOW;
-    area_->setBackground(is_dark ? window.darker(150) : window.darker(112));
+    area_->setBackground(is_dark(palette()) ? window.darker(150) : window.darker(112));
 }
 
 }  // namespace kvt

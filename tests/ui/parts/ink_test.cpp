@@ -82,4 +82,9 @@ TEST_F(palettes_of_desktops, leave_the_main_buttons_readable) {
 }
 
 }  // namespace
+TEST(ink, tells_a_dark_ground_from_a_light_one) {
+    EXPECT_FALSE(is_dark(QPalette(QColor(240, 240, 240))));
+    EXPECT_TRUE(is_dark(QPalette(QColor(40, 42, 46))));
+}
+
 }  // namespace kvt
