@@ -15,7 +15,8 @@ constexpr int NUMBER_ROLE = Qt::UserRole;
 
 bool is_same(const model_document& a, const model_document& b) {
     const auto same_body = [](const model_body& one, const model_body& other) {
-        return one.number == other.number && one.name == other.name && one.role == other.role;
+        return one.number == other.number && one.name == other.name && one.role == other.role &&
+               one.volume() == other.volume();
     };
     return a.number == b.number && a.name == b.name &&
            std::ranges::equal(a.bodies, b.bodies, same_body);
