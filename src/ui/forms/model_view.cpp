@@ -78,6 +78,8 @@ QLabel* status_label(const char* name) {
     auto* label = new QLabel;
     label->setObjectName(name);
     label->setWordWrap(true);
+    // The picture keeps its size when a line comes or goes.
+    label->setMinimumHeight(label->fontMetrics().lineSpacing());
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setFocusPolicy(Qt::NoFocus);
     return label;
@@ -403,7 +405,6 @@ void model_view::show_measure() {
             form_text("model_view", places.empty() ? "first_point" : "second_point", language));
     }
     measure_status_->setText(text);
-    measure_status_->setVisible(!text.isEmpty());
     canvas_->show_measure(places, qt_colour(model_palette_on(is_dark(palette())).measure));
 }
 
