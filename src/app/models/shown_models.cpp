@@ -22,8 +22,8 @@ model_store* store_of(const program& kavetta) {
     return kavetta.modeller == nullptr ? nullptr : kavetta.modeller->loaded_store();
 }
 
-const rgb_colour& colour_of(body_role role, const model_palette& palette) {
-    switch (role) {
+const rgb_colour& colour_of(const model_body& body, const model_palette& palette) {
+    switch (body.role) {
         case body_role::inner_rotor:
             return palette.inner_rotor;
         case body_role::outer_rotor:
@@ -39,7 +39,7 @@ const rgb_colour& colour_of(body_role role, const model_palette& palette) {
         case body_role::other:
             break;
     }
-    return palette.other;
+    return body.is_curve ? palette.curve : palette.other;
 }
 
 std::string word(const program& kavetta, std::string_view name) {
@@ -111,7 +111,7 @@ model_scene scene_of_bodies(const program& kavetta, const std::vector<model_body
         const part_turn turn =
             look.turns_with_design_view ? turn_of(kavetta, body.role) : part_turn();
         scene.parts.push_back(
-            {&store_of(kavetta)->mesh_of(body.number), colour_of(body.role, palette), turn});
+            {&store_of(kavetta)->mesh_of(body.number), colour_of(body, palette), turn});
     }
     return scene;
 }

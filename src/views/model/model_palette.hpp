@@ -7,7 +7,7 @@ namespace kvt {
 
 struct model_palette {
     rgb_colour background, edge, section, measure;
-    rgb_colour inner_rotor, outer_rotor, inlet, outlet, groove, housing, other;
+    rgb_colour inner_rotor, outer_rotor, inlet, outlet, groove, housing, other, curve;
 };
 
 /// The ports have the colours of the Design view, as far as a shaded body can.

@@ -46,7 +46,7 @@ TEST(scene_of_bodies, gives_each_role_its_colour) {
         EXPECT_EQ(scene.background, palette.background);
         EXPECT_EQ(scene.parts[0].colour, palette.inner_rotor);
         EXPECT_EQ(scene.parts[1].colour, palette.outer_rotor);
-        EXPECT_EQ(scene.parts[2].colour, palette.other);
+        EXPECT_EQ(scene.parts[2].colour, palette.curve);
         EXPECT_EQ(scene.parts[0].mesh, &shown.store->mesh_of(sample_model_store::BOX));
     }
 }

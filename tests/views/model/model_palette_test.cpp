@@ -21,7 +21,7 @@ TEST(model_palette, tells_all_parts_from_each_other_and_from_the_ground) {
         const model_palette& palette = model_palette_on(dark);
         const std::vector<rgb_colour> colours = {
             palette.background, palette.inner_rotor, palette.outer_rotor, palette.inlet,
-            palette.outlet,     palette.groove,      palette.housing};
+            palette.outlet,     palette.groove,      palette.housing,     palette.curve};
         for (std::size_t i = 0; i < colours.size(); ++i) {
             for (std::size_t j = 0; j < i; ++j) {
                 EXPECT_GT(difference_of(colours[i], colours[j]), 30) << dark << i << j;
