@@ -41,7 +41,10 @@ constexpr int HOUSING_BOX_WIDTH = 70;
 
 /// The steps of the slider of the height.
 constexpr int HEIGHT_STEPS = 1000;
+constexpr int PAGES_OF_HEIGHT = 20;
+/// Degrees.
 constexpr int LARGEST_ANGLE = 359;
+constexpr int ANGLE_STEP = 5;
 constexpr int PICTURE_DENSITY = 2;
 
 /// The hourglass as long as it lives.
@@ -83,6 +86,24 @@ QLabel* status_label(const char* name) {
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setFocusPolicy(Qt::NoFocus);
     return label;
+}
+
+QSpinBox* angle_box(const char* name) {
+    auto* box = new QSpinBox;
+    box->setObjectName(name);
+    box->setRange(0, LARGEST_ANGLE);
+    box->setWrapping(true);
+    box->setSingleStep(ANGLE_STEP);
+    return box;
+}
+
+QSlider* height_slider(const char* name) {
+    auto* slider = new QSlider(Qt::Horizontal);
+    slider->setObjectName(name);
+    slider->setRange(0, HEIGHT_STEPS);
+    slider->setPageStep(HEIGHT_STEPS / PAGES_OF_HEIGHT);
+    slider->setValue(HEIGHT_STEPS / 2);
+    return slider;
 }
 
 QColor qt_colour(const rgb_colour& colour) {
@@ -133,26 +154,13 @@ QWidget* model_view::body_list() {
 
 QWidget* model_view::section_controls() {
     section_axis_ = named_check("section_axis");
-    section_angle_ = new QSpinBox;
-    section_angle_->setObjectName("section_angle");
-    section_angle_->setRange(0, LARGEST_ANGLE);
-    section_angle_->setWrapping(true);
-    section_angle_->setSingleStep(5);
+    section_angle_ = angle_box("section_angle");
     section_across_ = named_check("section_across");
-    section_height_ = new QSlider(Qt::Horizontal);
-    section_height_->setObjectName("section_height");
-    section_height_->setRange(0, HEIGHT_STEPS);
-    section_height_->setPageStep(HEIGHT_STEPS / 20);
-    section_height_->setValue(HEIGHT_STEPS / 2);
+    section_height_ = height_slider("section_height");
     section_height_value_ = new QLabel;
     section_height_value_->setObjectName("section_height_value");
     turn_with_view_ = named_check("turn_with_view");
-    for (QCheckBox* check : {section_axis_, section_across_}) {
-        connect(check, &QCheckBox::toggled, this, &model_view::follow_sections);
-    }
-    connect(section_angle_, &QSpinBox::valueChanged, this, &model_view::follow_sections);
-    connect(section_height_, &QSlider::valueChanged, this, &model_view::follow_sections);
-    connect(turn_with_view_, &QCheckBox::toggled, this, [this] { show_scene(false, false); });
+    connect_sections();
     auto* sections = new QWidget;
     QGridLayout* layout = grid(sections);
     layout->addWidget(section_axis_, 0, 0, 1, 3);
@@ -164,6 +172,15 @@ QWidget* model_view::section_controls() {
     layout->addWidget(section_height_, 4, 0, 1, 3);
     layout->addWidget(turn_with_view_, 5, 0, 1, 3);
     return sections;
+}
+
+void model_view::connect_sections() {
+    for (QCheckBox* check : {section_axis_, section_across_}) {
+        connect(check, &QCheckBox::toggled, this, &model_view::follow_sections);
+    }
+    connect(section_angle_, &QSpinBox::valueChanged, this, &model_view::follow_sections);
+    connect(section_height_, &QSlider::valueChanged, this, &model_view::follow_sections);
+    connect(turn_with_view_, &QCheckBox::toggled, this, [this] { show_scene(false, false); });
 }
 
 QWidget* model_view::housing_controls() {
@@ -252,11 +269,14 @@ void model_view::refresh() {
     show_housing();
     shown_ = bodies_->ticked_bodies();
     show_heights();
-    show_scene(is_new, false);
-    show_status();
     if (is_new) {
+        const waiting_pointer hourglass;  // new bodies get their surfaces now
+        show_scene(true, false);
         canvas_->fit();
+    } else {
+        show_scene(false, false);
     }
+    show_status();
 }
 
 /// Without a word of the person the boxes have what fits the design.
@@ -280,7 +300,6 @@ model_scene model_view::scene_now() const {
     look.on_dark_ground = is_dark(palette());
     look.turns_with_design_view = turn_with_view_->isChecked();
     look.line_width = std::max(1, static_cast<int>(std::lround(devicePixelRatioF())));
-    const waiting_pointer hourglass;
     model_scene scene = scene_of_bodies(context_.kavetta, shown_, look);
     scene.sections = sections();
     return scene;
@@ -297,7 +316,8 @@ std::vector<section_plane> model_view::sections() const {
     return planes;
 }
 
-/// From the lowest to the highest place of the bodies that are shown, mm.
+/// From the lowest to the highest place of the bodies that are shown and of the rotors' lower face,
+/// mm.
 double model_view::section_height() const {
     double lowest = 0.0;
     double highest = 0.0;

@@ -45,6 +45,7 @@ class model_view : public loaded_form {
 
     QWidget* body_list();
     QWidget* section_controls();
+    void connect_sections();
     QWidget* housing_controls();
     QWidget* file_buttons();
     QWidget* view_buttons();
