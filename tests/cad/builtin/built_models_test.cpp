@@ -218,8 +218,9 @@ std::vector<double> port_volumes(const package_models& models) {
 void expect_same_volumes(const program& kavetta, const package_models& some,
                          const package_models& others) {
     EXPECT_NEAR(volume_of(some.inner()) / volume_of(others.inner()), 1.0, 2e-5);
-    const bool is_exact = draws_arcs(some.code) != draws_arcs(others.code);
-    EXPECT_NEAR(volume_of(some.outer()) / volume_of(others.outer()), 1.0, is_exact ? 2e-4 : 2e-5);
+    if (draws_arcs(some.code) == draws_arcs(others.code)) {
+        EXPECT_NEAR(volume_of(some.outer()) / volume_of(others.outer()), 1.0, 2e-5);
+    }
     const std::vector<double> volumes = port_volumes(some), told = port_volumes(others);
     ASSERT_EQ(volumes.size(), told.size());
     const bool has_groove = is_ticked(kavetta.entries.metering_groove);
@@ -282,6 +283,15 @@ TEST(built_models, of_one_rotor_are_those_of_the_assembly) {
         SCOPED_TRACE(code);
         expect_solids(built(code, model_kind::inner, kavetta), {expected_inner(kavetta)});
         expect_solids(built(code, model_kind::outer, kavetta), {expected_outer(kavetta, code)});
+    }
+}
+
+/// The path of the files is a little off the true arcs.
+TEST(built_models, of_the_outer_rotor_differ_little_between_autocad_and_the_others) {
+    for (const program& kavetta : {double_sided_design(), inch_design_with_shadow_ports(),
+                                   design_with_ports("n03_transfer_sharp")}) {
+        const double exact = volume_of(built("acad", model_kind::outer, kavetta).at(0));
+        EXPECT_NEAR(volume_of(built("SW", model_kind::outer, kavetta).at(0)) / exact, 1.0, 2e-4);
     }
 }
 
