@@ -44,6 +44,15 @@ bool truth(const values& arguments, std::size_t i) {
     return argument<bool>(arguments, i);
 }
 
+std::size_t item_number(const values& arguments, std::size_t i, std::size_t count,
+                        const std::string& of) {
+    const std::int32_t number = whole(arguments, i);
+    if (number < 1 || static_cast<std::size_t>(number) > count) {
+        refuse_index(of);
+    }
+    return static_cast<std::size_t>(number) - 1;
+}
+
 std::array<double, 3> three_reals(const values& arguments, std::size_t i) {
     const auto& numbers = argument<number_array>(arguments, i).numbers;
     if (numbers.size() != 3) {

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kvt::automation {
 
@@ -35,6 +36,9 @@ const kind& argument(const values& arguments, std::size_t i) {
 double real(const values& arguments, std::size_t i);
 std::int32_t whole(const values& arguments, std::size_t i);
 bool truth(const values& arguments, std::size_t i);
+/// A number from 1 to count, as the index from 0 that it means. Throws 9 for any other.
+std::size_t item_number(const values& arguments, std::size_t i, std::size_t count,
+                        const std::string& of);
 /// An array of exactly three numbers.
 std::array<double, 3> three_reals(const values& arguments, std::size_t i);
 

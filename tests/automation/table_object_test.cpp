@@ -86,7 +86,11 @@ TEST(table_object, is_taken_as_an_argument_for_what_it_is) {
 }
 
 TEST(table_object, answers_9_for_a_number_that_is_not_there) {
-    EXPECT_FAILURE(refuse_index("planes"), 9);
+    EXPECT_EQ(item_number({1}, 0, 3, "planes"), 0U);
+    EXPECT_EQ(item_number({3}, 0, 3, "planes"), 2U);
+    EXPECT_FAILURE(item_number({0}, 0, 3, "planes"), 9);
+    EXPECT_FAILURE(item_number({4}, 0, 3, "planes"), 9);
+    EXPECT_FAILURE(item_number({-1}, 0, 3, "planes"), 9);
 }
 
 }  // namespace kvt::automation

@@ -19,11 +19,11 @@ using automation::argument;
 using automation::held_argument;
 using automation::holder;
 using automation::holding;
+using automation::item_number;
 using automation::object_put;
 using automation::object_ref;
 using automation::real;
 using automation::refuse;
-using automation::refuse_index;
 using automation::table_object;
 using automation::truth;
 using automation::value;
@@ -134,17 +134,14 @@ value add_spline(sketch& to, const values& arguments) {
         points.push_back(held_argument<point2>({one}, 0));
     }
     const bool closed = through.front() == through.back();
-    to.curves.add(closed ? closed_spline_wire(std::move(points)) : open_spline_wire(points));
+    to.curves.add(spline_wire(points, closed));
     return std::make_shared<table_object>();
 }
 
 value add_circle(sketch& to, const values& arguments) {
     to.expect_open();
-    const double radius = real(arguments, 2);
-    if (!(radius > 0.0)) {
-        refuse("a circle without radius");
-    }
-    to.curves.add(circle_wire({real(arguments, 0), real(arguments, 1)}, radius));
+    const point2 centre = {real(arguments, 0), real(arguments, 1)};
+    to.curves.add(circle_wire(centre, real(arguments, 2)));
     return std::make_shared<table_object>();
 }
 
@@ -182,11 +179,7 @@ object_ref body_object(const part_ref& in, const body_ref& of) {
 }
 
 value body_of(const part_ref& in, const values& arguments) {
-    const std::int32_t number = whole(arguments, 0);
-    if (number < 1 || static_cast<std::size_t>(number) > in->bodies.size()) {
-        refuse_index("bodies");
-    }
-    return body_object(in, in->bodies[static_cast<std::size_t>(number) - 1]);
+    return body_object(in, in->bodies[item_number(arguments, 0, in->bodies.size(), "bodies")]);
 }
 
 /// The new body is the one in work.

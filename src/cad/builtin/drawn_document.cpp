@@ -35,7 +35,9 @@ body_number drawn_document::add(const solid_or_curve& one) const {
 }
 
 void drawn_document::replace(body_number number, const solid_or_curve& one) const {
-    expect_open();
+    if (!has(number)) {
+        automation::refuse("a solid or curve that is gone");
+    }
     desk_->store.replace(number, one);
 }
 

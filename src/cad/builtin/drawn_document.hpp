@@ -28,6 +28,7 @@ class drawn_document {
 
     /// A solid or curve as its last one. Refuses when it is closed.
     body_number add(const solid_or_curve& one) const;
+    /// Refuses for one that is gone.
     void replace(body_number number, const solid_or_curve& one) const;
     void remove(body_number number) const;
     bool has(body_number number) const;

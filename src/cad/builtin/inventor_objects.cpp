@@ -16,11 +16,11 @@ namespace {
 using automation::argument;
 using automation::held_argument;
 using automation::holding;
+using automation::item_number;
 using automation::object_argument;
 using automation::object_ref;
 using automation::real;
 using automation::refuse;
-using automation::refuse_index;
 using automation::table_object;
 using automation::truth;
 using automation::value;
@@ -29,7 +29,7 @@ using automation::whole;
 
 constexpr double MM_PER_CENTIMETRE = 10.0;
 constexpr std::int32_t PART_DOCUMENT = 12290;                        // kPartDocumentObject
-constexpr std::int32_t XY_PLANE = 3;                                 // of 1 .. 3
+constexpr std::size_t ORIGIN_PLANES = 3, XY_PLANE = 2;               // of WorkPlanes, from 0
 constexpr std::int32_t SMOOTH_FIT = 26369;                           // kSmoothSplineFit
 constexpr std::int32_t UP = 20993, DOWN = 20994;                     // kPositive, kNegative
 constexpr std::int32_t JOIN = 20481, CUT = 20482, NEW_BODY = 20485;  // kJoin, kCut, kNewBody
@@ -62,10 +62,6 @@ struct drawn_sketch {
 };
 using sketch_ref = std::shared_ptr<drawn_sketch>;
 
-wire spline_wire(const std::vector<point2>& points, bool closed) {
-    return closed ? closed_spline_wire(points) : open_spline_wire(points);
-}
-
 /// Open until it is told to be closed, which makes it periodic.
 value spline_object(const sketch_ref& in, std::vector<point2> points) {
     const std::size_t number = in->curves.add(spline_wire(points, false));
@@ -90,9 +86,6 @@ value add_spline(const sketch_ref& in, const values& arguments) {
 
 value add_circle(const sketch_ref& in, const values& arguments) {
     const double radius = real(arguments, 1) * MM_PER_CENTIMETRE;
-    if (!(radius > 0.0)) {
-        refuse("a circle without radius");
-    }
     in->curves.add(circle_wire(held_argument<point2>(arguments, 0), radius));
     return std::make_shared<table_object>();
 }
@@ -136,11 +129,7 @@ object_ref sketches(const part_ref& of) {
 }
 
 value work_plane_of(const values& arguments) {
-    const std::int32_t number = whole(arguments, 0);
-    if (number < 1 || number > XY_PLANE) {
-        refuse_index("work planes");
-    }
-    if (number != XY_PLANE) {
+    if (item_number(arguments, 0, ORIGIN_PLANES, "work planes") != XY_PLANE) {
         refuse("an upright plane, on which nothing of a pump is drawn");
     }
     return holding(work_plane{});

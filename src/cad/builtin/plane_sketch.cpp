@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <functional>
-#include <utility>
+#include <optional>
 
 namespace kvt::builtin {
 
@@ -29,6 +29,10 @@ double width(const wire& curve) {
 
 }  // namespace
 
+wire spline_wire(const std::vector<point2>& points, bool closed) {
+    return closed ? closed_spline_wire(points) : open_spline_wire(points);
+}
+
 std::size_t plane_sketch::add(const wire& curve) {
     numbers_.push_back(in_.add(curve));
     curves_.push_back(curve);
@@ -36,8 +40,10 @@ std::size_t plane_sketch::add(const wire& curve) {
 }
 
 void plane_sketch::replace(std::size_t number, const wire& curve) {
-    in_.replace(numbers_.at(number), curve);
     curves_.at(number) = curve;
+    if (in_.has(numbers_.at(number))) {
+        in_.replace(numbers_.at(number), curve);
+    }
 }
 
 bool plane_sketch::is_closed() const {
@@ -60,7 +66,7 @@ face plane_sketch::region() const {
 
 body plane_sketch::extruded(const face& region, double start, double height) {
     body solid = prism(region, z_ + start, height);
-    for (const body_number number : std::exchange(numbers_, {})) {
+    for (const body_number number : numbers_) {
         in_.remove(number);
     }
     return solid;
@@ -72,13 +78,23 @@ void part_solids::add(const body& solid) {
 
 void part_solids::join(const body& solid) {
     forget_deleted();
+    body joined = solid;
+    std::optional<body_number> kept;
     for (const body_number number : numbers_) {
-        if (boxes_meet(in_.solid(number), solid)) {
-            in_.replace(number, fuse(in_.solid(number), solid));
-            return;
+        if (!boxes_meet(in_.solid(number), joined)) {
+            continue;
         }
+        joined = fuse(in_.solid(number), joined);
+        if (kept) {
+            in_.remove(number);
+        }
+        kept = kept.value_or(number);
     }
-    add(solid);
+    if (kept) {
+        in_.replace(*kept, joined);
+    } else {
+        add(joined);
+    }
 }
 
 void part_solids::cut(const body& tool) {

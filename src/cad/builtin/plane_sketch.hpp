@@ -5,9 +5,13 @@
 #include "cad/builtin/drawn_document.hpp"
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace kvt::builtin {
+
+/// Through distinct points; a closed one is periodic.
+wire spline_wire(const std::vector<point2>& points, bool closed);
 
 /// The curves lie in the document until a solid is made of them. Lengths mm.
 class plane_sketch {
@@ -17,6 +21,7 @@ class plane_sketch {
     double z() const { return z_; }
     /// The number of a new curve, from 0.
     std::size_t add(const wire& curve);
+    /// In the document too, while it is there.
     void replace(std::size_t number, const wire& curve);
     std::size_t count() const { return curves_.size(); }
     bool is_closed() const;

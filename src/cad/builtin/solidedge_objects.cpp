@@ -20,6 +20,7 @@ using automation::by_reference;
 using automation::held_argument;
 using automation::holder;
 using automation::holding;
+using automation::item_number;
 using automation::number_array;
 using automation::object_array;
 using automation::object_ref;
@@ -36,7 +37,7 @@ constexpr double MM_PER_METRE = 1000.0;
 constexpr double SAME_PLANE_MM = 1e-9;
 constexpr const char* PART_DOCUMENT = "SolidEdge.PartDocument";
 constexpr std::int32_t SYNCHRONOUS = 1, ORDERED = 2;          // ModelingModeConstants
-constexpr std::int32_t XY_PLANE = 1, LAST_PLANE = 3;          // of RefPlanes
+constexpr std::size_t ORIGIN_PLANES = 3, XY_PLANE = 0;        // of RefPlanes, from 0
 constexpr std::int32_t AGAINST_NORMAL = 1, ALONG_NORMAL = 2;  // igReverseNormalSide, igNormalSide
 constexpr std::int32_t CUBIC = 4;
 constexpr std::int32_t CLOSED = 1, NESTED = 8192;  // igProfileClosed, igProfileAllowNested
@@ -48,7 +49,7 @@ constexpr std::int32_t FEATURE_OK = 1216476310;  // igFeatureOK
 struct model {
     explicit model(const drawn_document& in) : solids(in) {}
     part_solids solids;
-    std::int32_t features = 0;
+    std::size_t features = 0;
 };
 using model_ref = std::shared_ptr<model>;
 
@@ -99,15 +100,12 @@ value add_spline(profile& to, const values& arguments) {
     if (order != CUBIC || (closed && points.front() == points.back())) {
         refuse("another order, or the first point of a closed spline given again");
     }
-    return add_curve(to, closed ? closed_spline_wire(points) : open_spline_wire(points));
+    return add_curve(to, spline_wire(points, closed));
 }
 
 value add_circle(profile& to, const values& arguments) {
     const point2 centre = {real(arguments, 0) * MM_PER_METRE, real(arguments, 1) * MM_PER_METRE};
     const double radius = real(arguments, 2) * MM_PER_METRE;
-    if (!(radius > 0.0)) {
-        refuse("a circle without radius");
-    }
     return add_curve(to, circle_wire(centre, radius));
 }
 
@@ -152,11 +150,7 @@ object_ref profile_sets(const part_ref& of) {
 }
 
 value ref_plane_of(const values& arguments) {
-    const std::int32_t number = whole(arguments, 0);
-    if (number < 1 || number > LAST_PLANE) {
-        refuse_index("reference planes");
-    }
-    if (number != XY_PLANE) {
+    if (item_number(arguments, 0, ORIGIN_PLANES, "reference planes") != XY_PLANE) {
         refuse("an upright plane, on which nothing of a pump is drawn");
     }
     return holding(ref_plane{});
@@ -205,14 +199,6 @@ body protrusion(const part& in, const values& arguments) {
     return of.curves.extruded(of.curves.region(), 0.0, side == UP ? depth : -depth);
 }
 
-value feature_of(const model_ref& of, const values& arguments) {
-    const std::int32_t number = whole(arguments, 0);
-    if (number < 1 || number > of->features) {
-        refuse_index("features");
-    }
-    return feature_object();
-}
-
 /// A further protrusion of a body.
 value add_protrusion(const part& in, model& to, const values& arguments) {
     to.solids.join(protrusion(in, arguments));
@@ -222,8 +208,13 @@ value add_protrusion(const part& in, model& to, const values& arguments) {
 
 object_ref model_object(const part_ref& in, const model_ref& of) {
     auto features = std::make_shared<table_object>();
-    features->on_get("Count", 0, [of](const values&) -> value { return of->features; });
-    features->on_get("Item", 1, [of](const values& a) { return feature_of(of, a); });
+    features->on_get("Count", 0, [of](const values&) -> value {
+        return static_cast<std::int32_t>(of->features);
+    });
+    features->on_get("Item", 1, [of](const values& arguments) -> value {
+        item_number(arguments, 0, of->features, "features");
+        return feature_object();
+    });
     auto protrusions = std::make_shared<table_object>();
     protrusions->on_get("AddFiniteMulti", 4,
                         [in, of](const values& a) { return add_protrusion(*in, *of, a); });
@@ -242,20 +233,14 @@ value add_model(const part_ref& to, const values& arguments) {
     return model_object(to, made);
 }
 
-value model_of(const part_ref& of, const values& arguments) {
-    const std::int32_t number = whole(arguments, 0);
-    if (number < 1 || static_cast<std::size_t>(number) > of->models.size()) {
-        refuse_index("models");
-    }
-    return model_object(of, of->models[static_cast<std::size_t>(number) - 1]);
-}
-
 object_ref models(const part_ref& of) {
     auto made = std::make_shared<table_object>();
     made->on_get("Count", 0, [of](const values&) -> value {
         return static_cast<std::int32_t>(of->models.size());
     });
-    made->on_get("Item", 1, [of](const values& a) { return model_of(of, a); });
+    made->on_get("Item", 1, [of](const values& arguments) -> value {
+        return model_object(of, of->models[item_number(arguments, 0, of->models.size(), "models")]);
+    });
     made->on_get("AddFiniteExtrudedProtrusion", 4,
                  [of](const values& a) { return add_model(of, a); });
     return made;

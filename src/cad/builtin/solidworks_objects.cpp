@@ -120,7 +120,7 @@ value add_spline(part& of, const values& arguments) {
         flat_points(argument<number_array>(arguments, 0).numbers, 3, MM_PER_METRE);
     truth(arguments, 1);
     const bool closed = points.front() == points.back();
-    return add_curve(of, closed ? closed_spline_wire(points) : open_spline_wire(points));
+    return add_curve(of, spline_wire(points, closed));
 }
 
 value add_circle(part& of, const values& arguments) {
@@ -130,7 +130,7 @@ value add_circle(part& of, const values& arguments) {
     if (!of.adds_to_database) {
         refuse("a circle that snaps to its neighbours");
     }
-    return radius > 0.0 ? add_curve(of, circle_wire(centre, radius)) : nothing{};
+    return add_curve(of, circle_wire(centre, radius));
 }
 
 object_ref sketch_manager(const part_ref& of) {

@@ -65,6 +65,9 @@ TEST(plane_sketch, has_no_region_while_a_curve_is_open_or_without_any) {
     EXPECT_TRUE(sketch.is_closed());
     EXPECT_EQ(part.bodies().size(), 1U);
     EXPECT_NEAR(sketch.extruded(sketch.region(), 0.0, 1.0).contour_area(), 0.5, ROUNDING);
+    sketch.replace(number, polyline_wire(corners, false));
+    EXPECT_TRUE(part.bodies().empty()) << "it stays away once a solid was made of it";
+    EXPECT_FALSE(sketch.is_closed());
 }
 
 TEST(plane_sketch, has_no_region_of_contours_beside_one_another) {
@@ -85,6 +88,9 @@ TEST(part_solids, join_what_meets_and_keep_apart_what_does_not) {
     EXPECT_NEAR(part.bodies()[0].contour_area, PI * 9.0, ROUNDING);
     solids.add(pin(0.0, 1.0));
     EXPECT_EQ(part.bodies().size(), 3U);
+    solids.join(cylinder({10.0, 0.0, 0.0}, 12.0, 2.0));
+    ASSERT_EQ(part.bodies().size(), 1U) << "it meets all of them";
+    EXPECT_FALSE(part.bodies()[0].is_curve);
 }
 
 TEST(part_solids, cut_every_solid_that_the_tool_meets) {
