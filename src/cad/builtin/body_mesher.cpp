@@ -180,7 +180,7 @@ body_mesh mesh_of(const body& one, const mesh_fineness& fineness) {
         const TopoDS_Shape& solid = one.shape().kernel;
         // A coarser mesh that is there already would be left as it is.
         BRepTools::Clean(solid);
-        BRepMesh_IncrementalMesh(solid, parameters_of(one, fineness));
+        const BRepMesh_IncrementalMesh meshed(solid, parameters_of(one, fineness));
         return joined_mesh(solid);
     });
 }

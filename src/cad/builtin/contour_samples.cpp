@@ -145,10 +145,6 @@ void for_each_edge(const TopoDS_Wire& one, const each_edge& use) {
     }
 }
 
-bool is_same_place(point2 a, point2 b) {
-    return distance(a, b) <= Precision::Confusion();
-}
-
 /// z of a horizontal face; no number for any other.
 double height_of(const TopoDS_Face& face) {
     const BRepAdaptor_Surface surface(face);
@@ -196,6 +192,10 @@ std::vector<level_face> level_faces(const TopoDS_Shape& solid) {
 }
 
 }  // namespace
+
+bool is_same_place(point2 a, point2 b) {
+    return distance(a, b) <= Precision::Confusion();
+}
 
 std::vector<point2> sampled_points(const TopoDS_Wire& one) {
     std::vector<point2> points;

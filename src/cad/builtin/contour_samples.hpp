@@ -11,6 +11,9 @@
 
 namespace kvt::builtin {
 
+/// Whether the kernel takes two points for one.
+bool is_same_place(point2 a, point2 b);
+
 /// Points in the order of the wire: 8 a span of a spline, 3600 a whole circle, the ends of a line.
 /// The last one of a closed wire doesn't repeat the first.
 std::vector<point2> sampled_points(const TopoDS_Wire& one);

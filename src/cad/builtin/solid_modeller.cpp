@@ -46,10 +46,6 @@ gp_Pnt kernel_point(const point3& at) {
     return {at.x, at.y, at.z};
 }
 
-bool is_same_place(point2 a, point2 b) {
-    return distance(a, b) <= Precision::Confusion();
-}
-
 /// Two points of a spline that lie nearer than this, such as those of a root arc of almost no
 /// length, could turn it back into a loop.
 bool is_same_place_of_spline(point2 a, point2 b) {

@@ -1,6 +1,7 @@
 // The bodies of whole designs: sound solids of the right size at the right heights.
 #include "cad/builtin/kernel_shapes.hpp"
 #include "support/cad/built_bodies.hpp"
+#include "support/cad/kernel_counts.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/random_design.hpp"
 
@@ -15,14 +16,6 @@
 
 namespace kvt {
 namespace {
-
-int count_of(const TopoDS_Shape& shape, TopAbs_ShapeEnum kind) {
-    int count = 0;
-    for (TopExp_Explorer at(shape, kind); at.More(); at.Next()) {
-        ++count;
-    }
-    return count;
-}
 
 bool is_closed_shell(const TopoDS_Shape& solid) {
     TopExp_Explorer shell(solid, TopAbs_SHELL);

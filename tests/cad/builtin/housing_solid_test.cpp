@@ -5,6 +5,7 @@
 #include "cad/builtin/kernel_shapes.hpp"
 #include "geometry/contour_crossing.hpp"
 #include "support/cad/built_bodies.hpp"
+#include "support/cad/kernel_counts.hpp"
 #include "support/cad/mesh_checks.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/expect_failure.hpp"
@@ -65,14 +66,6 @@ double expected_volume(const housing_plan& plan) {
     return PI * (plan.outer_radius * plan.outer_radius * (plan.top - plan.bottom) -
                  plan.bore_radius * plan.bore_radius * plan.top) -
            pockets;
-}
-
-int count_of(const TopoDS_Shape& shape, TopAbs_ShapeEnum kind) {
-    int count = 0;
-    for (TopExp_Explorer at(shape, kind); at.More(); at.Next()) {
-        ++count;
-    }
-    return count;
 }
 
 void expect_sound_housing(const housing_plan& plan) {

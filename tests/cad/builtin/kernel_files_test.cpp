@@ -4,6 +4,7 @@
 #include "base/whole_file.hpp"
 #include "cad/builtin/kernel_shapes.hpp"
 #include "support/cad/built_bodies.hpp"
+#include "support/cad/kernel_counts.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/temporary_folder.hpp"
 
@@ -78,14 +79,6 @@ std::vector<read_product> products_in(const std::string& step) {
     }
     XCAFApp_Application::GetApplication()->Close(document);
     return products;
-}
-
-int count_of(const TopoDS_Shape& shape, TopAbs_ShapeEnum kind) {
-    int count = 0;
-    for (TopExp_Explorer at(shape, kind); at.More(); at.Next()) {
-        ++count;
-    }
-    return count;
 }
 
 void expect_same_body(const body& read, const body& written) {
