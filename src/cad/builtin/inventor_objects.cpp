@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -94,13 +95,14 @@ value add_circle(const sketch_ref& in, const values& arguments) {
 struct sketch_profile {
     sketch_ref of;
     face inside;
+    std::optional<wire> contour;  ///< when there is one path
 };
 
 value add_profile(const sketch_ref& in) {
     if (in->is_deferred) {
         refuse("a profile while updates are deferred");
     }
-    return holding(sketch_profile{in, in->curves.region()});
+    return holding(sketch_profile{in, in->curves.region(), in->curves.only_curve()});
 }
 
 value sketch_object(const sketch_ref& in) {
@@ -153,16 +155,16 @@ struct extrusion {
 };
 
 /// A cut goes through every body.
-void apply(part_solids& solids, const body& solid, std::int32_t operation) {
-    switch (operation) {
+void apply(part_solids& solids, const body& solid, const extrusion& how) {
+    switch (how.operation) {
         case JOIN:
-            solids.join(solid);
+            solids.join(solid, how.of.contour);
             return;
         case CUT:
-            solids.cut(solid);
+            solids.cut(solid, how.of.contour);
             return;
         case NEW_BODY:
-            solids.add(solid);
+            solids.add(solid, how.of.contour);
             return;
         default:
             refuse("an operation that there is not");
@@ -175,7 +177,7 @@ value extrude(part& in, const extrusion& how) {
     }
     in.in.expect_open();
     const double height = how.direction == UP ? how.distance : -how.distance;
-    apply(in.solids, how.of.of->curves.extruded(how.of.inside, 0.0, height), how.operation);
+    apply(in.solids, how.of.of->curves.extruded(how.of.inside, 0.0, height), how);
     return std::make_shared<table_object>();
 }
 

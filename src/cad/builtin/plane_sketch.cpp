@@ -1,10 +1,10 @@
 #include "cad/builtin/plane_sketch.hpp"
 
+#include "automation/automation_error.hpp"
 #include "automation/table_object.hpp"
 
 #include <algorithm>
 #include <functional>
-#include <optional>
 
 namespace kvt::builtin {
 
@@ -25,6 +25,20 @@ bool boxes_meet(const body& a, const body& b) {
 double width(const wire& curve) {
     const auto [lowest, highest] = std::ranges::minmax(curve.sampled(), {}, &point2::x);
     return highest.x - lowest.x;
+}
+
+/// Whether a solid is as high as another, above and below.
+bool reaches_over(const body& tool, const body& whole) {
+    return tool.z0() <= whole.z0() && tool.z0() + tool.height() >= whole.z0() + whole.height();
+}
+
+/// Nothing where the hole is not inside of the rim.
+std::optional<body> ring_of(const wire& rim, const wire& hole, const body& whole) {
+    try {
+        return prism(make_face(rim, {hole}), whole.z0(), whole.height());
+    } catch (const automation::automation_error&) {  // the kernel's refusal of such a face
+        return std::nullopt;
+    }
 }
 
 }  // namespace
@@ -51,6 +65,10 @@ bool plane_sketch::is_closed() const {
            std::ranges::all_of(curves_, [](const wire& curve) { return curve.is_closed(); });
 }
 
+std::optional<wire> plane_sketch::only_curve() const {
+    return curves_.size() == 1 ? std::optional(curves_.front()) : std::nullopt;
+}
+
 face plane_sketch::region() const {
     if (!is_closed()) {
         automation::refuse("an open contour");
@@ -72,45 +90,57 @@ body plane_sketch::extruded(const face& region, double start, double height) {
     return solid;
 }
 
-void part_solids::add(const body& solid) {
-    numbers_.push_back(in_.add(solid));
+void part_solids::add(const body& solid, const std::optional<wire>& contour) {
+    solids_.push_back({in_.add(solid), contour});
 }
 
-void part_solids::join(const body& solid) {
+void part_solids::join(const body& solid, const std::optional<wire>& contour) {
     forget_deleted();
     body joined = solid;
-    std::optional<body_number> kept;
-    for (const body_number number : numbers_) {
-        if (!boxes_meet(in_.solid(number), joined)) {
+    kept_solid* first = nullptr;
+    for (kept_solid& one : solids_) {
+        if (!boxes_meet(in_.solid(one.number), joined)) {
             continue;
         }
-        joined = fuse(in_.solid(number), joined);
-        if (kept) {
-            in_.remove(number);
+        joined = fuse(in_.solid(one.number), joined);
+        if (first == nullptr) {
+            first = &one;
+        } else {
+            in_.remove(one.number);
         }
-        kept = kept.value_or(number);
     }
-    if (kept) {
-        in_.replace(*kept, joined);
+    if (first == nullptr) {
+        add(solid, contour);
     } else {
-        add(joined);
+        in_.replace(first->number, joined);
+        first->contour = std::nullopt;
     }
 }
 
-void part_solids::cut(const body& tool) {
+void part_solids::cut(const body& tool, const std::optional<wire>& contour) {
     forget_deleted();
-    if (numbers_.empty()) {
+    if (solids_.empty()) {
         automation::refuse("nothing to cut");
     }
-    for (const body_number number : numbers_) {
-        if (boxes_meet(in_.solid(number), tool)) {
-            in_.replace(number, builtin::cut(in_.solid(number), tool));
+    for (kept_solid& one : solids_) {
+        if (boxes_meet(in_.solid(one.number), tool)) {
+            cut_one(one, tool, contour);
         }
     }
+}
+
+void part_solids::cut_one(kept_solid& from, const body& tool, const std::optional<wire>& contour) {
+    const body& whole = in_.solid(from.number);
+    const bool goes_through = reaches_over(tool, whole);
+    const std::optional<body> ring = from.contour && contour && goes_through
+                                         ? ring_of(*from.contour, *contour, whole)
+                                         : std::nullopt;
+    in_.replace(from.number, ring ? *ring : builtin::cut(whole, tool));
+    from.contour = std::nullopt;
 }
 
 void part_solids::forget_deleted() {
-    std::erase_if(numbers_, [this](body_number number) { return !in_.has(number); });
+    std::erase_if(solids_, [this](const kept_solid& one) { return !in_.has(one.number); });
 }
 
 }  // namespace kvt::builtin

@@ -5,6 +5,7 @@
 #include "cad/builtin/drawn_document.hpp"
 
 #include <cstddef>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -25,6 +26,8 @@ class plane_sketch {
     void replace(std::size_t number, const wire& curve);
     std::size_t count() const { return curves_.size(); }
     bool is_closed() const;
+    /// Its curve, when it has but one.
+    std::optional<wire> only_curve() const;
 
     /// Between the largest curve and the others, which lie in it. Refuses a sketch that is empty or
     /// has an open curve.
@@ -39,22 +42,29 @@ class plane_sketch {
     std::vector<body_number> numbers_;
 };
 
-/// The solids of a part.
+/// The solids of a part, each with the one contour that it stands on, where it stands on one.
 class part_solids {
   public:
     explicit part_solids(drawn_document in) : in_(std::move(in)) {}
 
-    void add(const body& solid);
+    void add(const body& solid, const std::optional<wire>& contour = std::nullopt);
     /// Together with every solid whose box it meets one solid, else one of its own.
-    void join(const body& solid);
-    /// Taken from every solid whose box it meets. Refuses when there are no solids.
-    void cut(const body& tool);
+    void join(const body& solid, const std::optional<wire>& contour = std::nullopt);
+    /// Taken from every solid whose box it meets. Refuses when there are no solids. What goes
+    /// through a solid inside of its contour makes a ring of the two contours, which takes a
+    /// hundredth of the time of a Boolean.
+    void cut(const body& tool, const std::optional<wire>& contour = std::nullopt);
 
   private:
+    struct kept_solid {
+        body_number number;
+        std::optional<wire> contour;
+    };
     void forget_deleted();
+    void cut_one(kept_solid& from, const body& tool, const std::optional<wire>& contour);
 
     drawn_document in_;
-    std::vector<body_number> numbers_;
+    std::vector<kept_solid> solids_;
 };
 
 }  // namespace kvt::builtin

@@ -107,4 +107,34 @@ TEST(part_solids, cut_every_solid_that_the_tool_meets) {
     EXPECT_NEAR(part.bodies()[2].contour_area, PI, ROUNDING);
 }
 
+TEST(part_solids, become_rings_where_a_contour_goes_through_them) {
+    const a_part part;
+    part_solids solids(part.in);
+    const wire rim = circle_wire({}, 5.0), hole = circle_wire({}, 3.0);
+    const wire aside = circle_wire({5.0, 0.0}, 1.0);
+    const auto extruded = [](const wire& contour, double height) {
+        return prism(make_face(contour), 0.0, height);
+    };
+    solids.join(extruded(rim, 2.0), rim);
+    solids.cut(extruded(hole, 2.0), hole);
+    EXPECT_NEAR(part.bodies().at(0).contour_area, PI * 16.0, ROUNDING);
+    solids.cut(extruded(circle_wire({}, 4.0), 2.0), circle_wire({}, 4.0));
+    EXPECT_NEAR(part.bodies().at(0).contour_area, PI * 9.0, ROUNDING) << "a ring, widened";
+    solids.add(extruded(rim, 2.0), rim);
+    solids.cut(extruded(aside, 2.0), aside);
+    EXPECT_LT(part.bodies().at(1).contour_area, PI * 25.0 - 1.0) << "bitten from outside";
+    EXPECT_GT(part.bodies().at(1).contour_area, PI * 24.0);
+}
+
+TEST(part_solids, keep_their_floor_where_a_tool_is_not_as_high) {
+    const a_part part;
+    part_solids solids(part.in);
+    const wire rim = circle_wire({}, 5.0), hole = circle_wire({}, 3.0);
+    solids.add(prism(make_face(rim), 0.0, 2.0), rim);
+    solids.cut(prism(make_face(hole), 1.0, 5.0), hole);
+    EXPECT_NEAR(part.bodies().at(0).contour_area, PI * 16.0, ROUNDING) << "of the upper face";
+    solids.cut(prism(make_face(hole), -1.0, 1.5), hole);
+    EXPECT_NEAR(part.bodies().at(0).height, 2.0, ROUNDING);
+}
+
 }  // namespace kvt::builtin
