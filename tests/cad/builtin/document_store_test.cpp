@@ -2,7 +2,6 @@
 
 #include "base/whole_file.hpp"
 #include "support/cad/mesh_checks.hpp"
-#include "support/cad/model_designs.hpp"
 #include "support/expect_failure.hpp"
 #include "support/temporary_folder.hpp"
 #include "support/unprivileged.hpp"
