@@ -80,7 +80,7 @@ std::string colour_text(std::uint32_t colour) {
     return text;
 }
 
-/// Part 1 is the list of colours, so body i is object i + 2.
+/// Number 1 is the list of colours, so body i is object i + 2.
 constexpr std::size_t COLOURS = 1;
 std::size_t object_number(std::size_t body) {
     return COLOURS + 1 + body;
