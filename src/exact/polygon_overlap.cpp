@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace kvt {
@@ -29,7 +30,7 @@ double edges_inside(const indexed_polygon& edges, const indexed_polygon& other) 
     const std::vector<point2>& points = edges.points();
     for (std::size_t i = 0; i < points.size(); ++i) {
         const point2& a = points[i];
-        const point2& b = points[(i + 1) % points.size()];
+        const point2& b = points[i + 1 == points.size() ? 0 : i + 1];
         shares.assign({0.0, 1.0});
         other.add_crossings(a, b, shares);
         std::ranges::sort(shares);
@@ -52,18 +53,45 @@ indexed_polygon::indexed_polygon(std::vector<point2> points) : points_(std::move
     if (points_.empty()) {
         return;
     }
+    measure();
+    sort_into_bands();
+}
+
+void indexed_polygon::measure() {
     const auto [lowest, highest] = std::ranges::minmax_element(points_, {}, &point2::y);
     bottom_ = lowest->y;
     top_ = highest->y;
     const auto [leftmost, rightmost] = std::ranges::minmax_element(points_, {}, &point2::x);
     left_ = leftmost->x;
     right_ = rightmost->x;
-    for (std::size_t edge = 0; edge < points_.size(); ++edge) {
-        const auto [low, high] = std::minmax(points_[edge].y, end_of(edge).y);
-        for (std::size_t band = band_of(low); band <= band_of(high); ++band) {
-            bands_[band].push_back(edge);
+}
+
+void indexed_polygon::sort_into_bands() {
+    const auto for_each_band = [&](const auto& act) {
+        for (std::size_t edge = 0; edge < points_.size(); ++edge) {
+            const auto [low, high] = std::minmax(points_[edge].y, end_of(edge).y);
+            const std::size_t last = band_of(high);
+            for (std::size_t band = band_of(low); band <= last; ++band) {
+                act(band, edge);
+            }
         }
-    }
+    };
+    for_each_band([&](std::size_t band, std::size_t) { ++band_starts_[band + 1]; });
+    std::partial_sum(band_starts_.begin(), band_starts_.end(), band_starts_.begin());
+    edges_.resize(band_starts_.back());
+    std::array<std::size_t, BANDS> next = {};
+    std::copy_n(band_starts_.begin(), BANDS, next.begin());
+    for_each_band([&](std::size_t band, std::size_t edge) { edges_[next[band]++] = edge; });
+}
+
+std::span<const std::size_t> indexed_polygon::edges_in(std::size_t band) const {
+    return std::span(edges_).subspan(band_starts_[band],
+                                     band_starts_[band + 1] - band_starts_[band]);
+}
+
+bool indexed_polygon::may_meet(const indexed_polygon& other) const {
+    return !points_.empty() && !other.points_.empty() && bottom_ <= other.top_ &&
+           other.bottom_ <= top_ && left_ <= other.right_ && other.left_ <= right_;
 }
 
 std::size_t indexed_polygon::band_of(double y) const {
@@ -82,7 +110,7 @@ bool indexed_polygon::contains(const point2& point) const {
         return false;
     }
     bool is_inside = false;
-    for (const std::size_t edge : bands_[band_of(point.y)]) {
+    for (const std::size_t edge : edges_in(band_of(point.y))) {
         const point2& a = points_[edge];
         const point2& b = end_of(edge);
         if ((a.y > point.y) != (b.y > point.y) &&
@@ -101,8 +129,9 @@ void indexed_polygon::add_crossings(const point2& a, const point2& b,
         return;
     }
     const point2 way = difference(b, a);
-    for (std::size_t band = band_of(low); band <= band_of(high); ++band) {
-        for (const std::size_t edge : bands_[band]) {
+    const std::size_t last = band_of(high);
+    for (std::size_t band = band_of(low); band <= last; ++band) {
+        for (const std::size_t edge : edges_in(band)) {
             const point2& c = points_[edge];
             const point2 other = difference(end_of(edge), c);
             const double turn = cross(way, other);
@@ -120,7 +149,7 @@ void indexed_polygon::add_crossings(const point2& a, const point2& b,
 }
 
 double shared_area(const indexed_polygon& a, const indexed_polygon& b) {
-    return edges_inside(a, b) + edges_inside(b, a);
+    return a.may_meet(b) ? edges_inside(a, b) + edges_inside(b, a) : 0.0;
 }
 
 indexed_polygon moved_aside(std::vector<point2> points) {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 namespace kvt {
@@ -21,16 +22,24 @@ class indexed_polygon {
     bool contains(const point2& point) const;
     /// Adds the shares 0 .. 1 of the way from a to b at which it crosses the outline.
     void add_crossings(const point2& a, const point2& b, std::vector<double>& shares) const;
+    /// False when the rectangles around both lie apart.
+    bool may_meet(const indexed_polygon& other) const;
 
   private:
-    static constexpr std::size_t BANDS = 64;
+    static constexpr std::size_t BANDS = 256;
 
-    const point2& end_of(std::size_t edge) const { return points_[(edge + 1) % points_.size()]; }
+    const point2& end_of(std::size_t edge) const {
+        return points_[edge + 1 == points_.size() ? 0 : edge + 1];
+    }
     std::size_t band_of(double y) const;
+    void measure();
+    void sort_into_bands();
+    std::span<const std::size_t> edges_in(std::size_t band) const;
 
     std::vector<point2> points_;
     double bottom_ = 0.0, top_ = 0.0, left_ = 0.0, right_ = 0.0;
-    std::array<std::vector<std::size_t>, BANDS> bands_;  ///< the edges that reach into each
+    std::array<std::size_t, BANDS + 1> band_starts_ = {};  ///< of each, in edges_
+    std::vector<std::size_t> edges_;  ///< those that reach into a band, band after band
 };
 
 /// The area of both, mm2: the integral over the edges, cut where they cross, of each polygon that

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <map>
 #include <numbers>
 
 namespace kvt {
@@ -53,11 +54,19 @@ class opened_chambers {
     const exact_pair& pair() const { return pair_; }
     double life() const { return chamber_life(pair_); }
 
+    double volume_at(double place) const { return chamber_volume(pair_, outline_, place); }
+
     chamber_opening at(double place) const {
+        chamber_opening opening = areas_at(place);
+        opening.volume = volume_at(place);
+        opening.rate = chamber_rate(pair_, place);
+        return opening;
+    }
+
+    /// Without volume and rate.
+    chamber_opening areas_at(double place) const {
         chamber_opening opening;
         opening.place = place;
-        opening.volume = chamber_volume(pair_, outline_, place);
-        opening.rate = chamber_rate(pair_, place);
         const indexed_polygon chamber(chamber_polygon(pair_, outline_, place, SAGITTA));
         opening.inlet = inlet_sides_ * opened(chamber, inlet_);
         opening.outlet = outlet_sides_ * opened(chamber, outlet_);
@@ -81,21 +90,39 @@ class opened_chambers {
 
 using is_state = std::function<bool(const chamber_opening&)>;
 
-/// Where a state begins or ends between two places.
-double change_between(const opened_chambers& chambers, const is_state& state, double before,
+/// The opened areas by place. The states change at the same places, so each is asked for again.
+class known_areas {
+  public:
+    explicit known_areas(const opened_chambers& chambers) : chambers_(chambers) {}
+
+    const opened_chambers& chambers() const { return chambers_; }
+    const chamber_opening& at(double place) {
+        const auto found = known_.find(place);
+        return found != known_.end()
+                   ? found->second
+                   : known_.emplace(place, chambers_.areas_at(place)).first->second;
+    }
+
+  private:
+    const opened_chambers& chambers_;
+    std::map<double, chamber_opening> known_;
+};
+
+/// Where a state begins or ends between two places, behind a place where it is `at_first`.
+double change_between(known_areas& areas, const is_state& state, bool at_first, double before,
                       double behind) {
-    const bool at_first = state(chambers.at(before));
     while (behind - before > NEARNESS) {
         const double middle = (before + behind) / 2.0;
-        (state(chambers.at(middle)) == at_first ? before : behind) = middle;
+        (state(areas.at(middle)) == at_first ? before : behind) = middle;
     }
     return (before + behind) / 2.0;
 }
 
 /// The spans in which a state holds. One that holds at the end of the life and at the beginning of
 /// the next is one span.
-std::vector<life_span> spans_of(const opened_chambers& chambers,
-                                const std::vector<chamber_opening>& life, const is_state& state) {
+std::vector<life_span> spans_of(known_areas& areas, const std::vector<chamber_opening>& life,
+                                const is_state& state) {
+    const opened_chambers& chambers = areas.chambers();
     const double whole = chambers.life();
     const double step = whole / static_cast<double>(life.size());
     std::vector<life_span> spans;
@@ -104,7 +131,8 @@ std::vector<life_span> spans_of(const opened_chambers& chambers,
         const bool now = state(life[i]);
         const bool next = state(life[(i + 1) % life.size()]);
         if (now != next) {
-            const double at = change_between(chambers, state, life[i].place, life[i].place + step);
+            const double at =
+                change_between(areas, state, now, life[i].place, life[i].place + step);
             if (next) {
                 spans.push_back({at, at, 0.0});
             } else {
@@ -118,7 +146,7 @@ std::vector<life_span> spans_of(const opened_chambers& chambers,
     for (life_span& span : spans) {
         const auto end = std::ranges::upper_bound(ends, span.from);
         span.to = end == ends.end() ? ends.front() + whole : *end;
-        span.volume_change = chambers.at(span.to).volume - chambers.at(span.from).volume;
+        span.volume_change = chambers.volume_at(span.to) - chambers.volume_at(span.from);
     }
     return spans;
 }
@@ -180,9 +208,8 @@ void fill_life(const opened_chambers& chambers, double step_deg, port_timing& ti
 }
 
 void fill_spans(const opened_chambers& chambers, port_timing& timing) {
-    const auto spans = [&](const is_state& state) {
-        return spans_of(chambers, timing.life, state);
-    };
+    known_areas areas(chambers);
+    const auto spans = [&](const is_state& state) { return spans_of(areas, timing.life, state); };
     timing.inlet_open = spans(&chamber_opening::is_open_to_inlet);
     timing.outlet_open = spans(&chamber_opening::is_open_to_outlet);
     timing.both_open = spans([](const chamber_opening& opening) {
