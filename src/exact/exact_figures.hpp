@@ -21,6 +21,7 @@ struct exact_rotors {
     double swept_cc = 0.0;  ///< cm3 a revolution
     chamber_extremes chamber;
     flow_figures flow;
+    double cutter = 0.0;  ///< diameter of the largest for the inner rotor, mm
 };
 exact_rotors exact_rotors_of(const design_params& design);
 
@@ -29,6 +30,7 @@ struct exact_performance {
     exact_flow flow;
     /// Largest contact pressure at each pressure of the grid, torque V p / (2 pi).
     std::array<contact_maximum, GRID_SIZE> contact = {};
+    double max_speed_rpm = 0.0;  ///< without cavitation
 };
 exact_performance exact_performance_of(const design_params& design, const perf_inputs& inputs,
                                        const perf_results& results);

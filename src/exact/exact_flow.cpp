@@ -19,4 +19,8 @@ exact_flow flow_of_volume(double swept_cc, const perf_results& results) {
     return exact;
 }
 
+double max_speed_of_volume(double swept_cc, const perf_results& results) {
+    return std::min(results.tip_speed_rpm, results.port_flow * CC_RPM_PER_M3S / swept_cc);
+}
+
 }  // namespace kvt

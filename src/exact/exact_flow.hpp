@@ -15,4 +15,9 @@ struct exact_flow {
 /// cm3 a revolution, n the speeds of the results.
 exact_flow flow_of_volume(double swept_cc, const perf_results& results);
 
+/// The lower of tip_speed_rpm and of the speed at which V fills port_flow, the limits of the
+/// results:
+///     port_flow 60000000 / V
+double max_speed_of_volume(double swept_cc, const perf_results& results);
+
 }  // namespace kvt

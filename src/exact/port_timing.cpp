@@ -167,33 +167,49 @@ double speed_of_port(const port_timing& timing, std::size_t first, opened_area a
     return areas > 0.0 ? std::abs(rates) / areas : 0.0;
 }
 
-port_speed largest_port_speed(const port_timing& timing, opened_area area) {
-    port_speed largest;
-    for (std::size_t i = 0; i < timing.steps_a_pitch; ++i) {
-        const double speed = speed_of_port(timing, i, area);
-        if (speed > largest.speed) {
-            largest = {speed, timing.life[i].place};
-        }
+/// Of one chamber, which is open to one port alone and far enough.
+double speed_of_chamber(const chamber_opening& opening, opened_area area, double least_area) {
+    const bool has_speed = area(opening) > 0.0 && area(opening) >= least_area &&
+                           !(opening.is_open_to_inlet() && opening.is_open_to_outlet());
+    return has_speed ? std::abs(opening.rate) / area(opening) : 0.0;
+}
+
+double largest_area(const port_timing& timing, opened_area area) {
+    double largest = 0.0;
+    for (const chamber_opening& opening : timing.life) {
+        largest = std::max(largest, area(opening));
     }
     return largest;
 }
 
-port_speed largest_chamber_speed(const port_timing& timing, opened_area area) {
-    double largest_area = 0.0;
-    for (const chamber_opening& opening : timing.life) {
-        largest_area = std::max(largest_area, area(opening));
+port_speeds speeds_of(const port_timing& timing, opened_area area) {
+    const double least_area = SHARE_WITH_SPEED * largest_area(timing, area);
+    port_speeds speeds;
+    for (std::size_t i = 0; i < timing.life.size(); ++i) {
+        speeds.of_port.push_back(i < timing.steps_a_pitch
+                                     ? speed_of_port(timing, i, area)
+                                     : speeds.of_port[i - timing.steps_a_pitch]);
+        speeds.of_chamber.push_back(speed_of_chamber(timing.life[i], area, least_area));
     }
-    port_speed largest;
-    for (const chamber_opening& opening : timing.life) {
-        const bool has_speed = area(opening) > 0.0 &&
-                               area(opening) >= SHARE_WITH_SPEED * largest_area &&
-                               !(opening.is_open_to_inlet() && opening.is_open_to_outlet());
-        const double speed = has_speed ? std::abs(opening.rate) / area(opening) : 0.0;
-        if (speed > largest.speed) {
-            largest = {speed, opening.place};
-        }
+    return speeds;
+}
+
+/// The first of the largest.
+port_speed largest_of(const std::vector<double>& speeds, const std::vector<chamber_opening>& life) {
+    const auto largest = std::ranges::max_element(speeds);
+    if (largest == speeds.end() || *largest == 0.0) {
+        return {};
     }
-    return largest;
+    return {*largest, life[static_cast<std::size_t>(largest - speeds.begin())].place};
+}
+
+void fill_speeds(port_timing& timing) {
+    timing.inlet_speeds = speeds_of(timing, inlet_area);
+    timing.outlet_speeds = speeds_of(timing, outlet_area);
+    timing.inlet_speed = largest_of(timing.inlet_speeds.of_port, timing.life);
+    timing.outlet_speed = largest_of(timing.outlet_speeds.of_port, timing.life);
+    timing.inlet_chamber_speed = largest_of(timing.inlet_speeds.of_chamber, timing.life);
+    timing.outlet_chamber_speed = largest_of(timing.outlet_speeds.of_chamber, timing.life);
 }
 
 void fill_life(const opened_chambers& chambers, double step_deg, port_timing& timing) {
@@ -231,10 +247,7 @@ port_timing time_ports(const design_params& design, const port_params& ports,
     port_timing timing;
     fill_life(chambers, step_deg, timing);
     fill_spans(chambers, timing);
-    timing.inlet_speed = largest_port_speed(timing, inlet_area);
-    timing.outlet_speed = largest_port_speed(timing, outlet_area);
-    timing.inlet_chamber_speed = largest_chamber_speed(timing, inlet_area);
-    timing.outlet_chamber_speed = largest_chamber_speed(timing, outlet_area);
+    fill_speeds(timing);
     return timing;
 }
 

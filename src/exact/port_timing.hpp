@@ -43,6 +43,13 @@ struct port_speed {
     double speed = 0.0, at = 0.0;
 };
 
+/// The speeds of the oil in a port for one radian a second of the inner rotor, mm/s, one a step of
+/// the life; 0 where there is none.
+struct port_speeds {
+    std::vector<double> of_port;     ///< of all chambers; repeats every pitch
+    std::vector<double> of_chamber;  ///< of the one whose life it is
+};
+
 struct port_timing {
     std::vector<chamber_opening> life;  ///< in equal steps over one life, its end not included
     std::size_t steps_a_pitch = 0;      ///< so many later stands the next chamber
@@ -55,6 +62,7 @@ struct port_timing {
     port_speed inlet_speed, outlet_speed;
     /// Of one chamber, where at least a tenth of its largest opened area is open.
     port_speed inlet_chamber_speed, outlet_chamber_speed;
+    port_speeds inlet_speeds, outlet_speeds;
 };
 
 /// In steps of about `step_deg` degrees of the inner rotor; openings and closings are found between

@@ -40,5 +40,13 @@ TEST(exact_flow, is_the_products_with_the_products_volume) {
     }
 }
 
+TEST(max_speed_of_volume, is_the_lower_of_both_limits) {
+    perf_results results;
+    results.tip_speed_rpm = 5000.0;
+    results.port_flow = 0.0005;
+    EXPECT_DOUBLE_EQ(max_speed_of_volume(10.0, results), 3000.0) << "0.03 m3 a minute by 10 cm3";
+    EXPECT_DOUBLE_EQ(max_speed_of_volume(5.0, results), 5000.0);
+}
+
 }  // namespace
 }  // namespace kvt

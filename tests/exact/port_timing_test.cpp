@@ -148,6 +148,31 @@ TEST_F(port_timing_of_sample, oil_speed_is_rates_over_areas) {
     EXPECT_GT(timing.inlet_chamber_speed.speed, 0.0);
 }
 
+TEST_F(port_timing_of_sample, the_speeds_of_every_step_have_the_largest_among_them) {
+    const port_timing timing = timing_of(kavetta, single_sided(kavetta));
+    ASSERT_EQ(timing.inlet_speeds.of_port.size(), timing.life.size());
+    EXPECT_EQ(std::ranges::max(timing.inlet_speeds.of_port), timing.inlet_speed.speed);
+    EXPECT_EQ(std::ranges::max(timing.outlet_speeds.of_chamber), timing.outlet_chamber_speed.speed);
+    for (std::size_t i = timing.steps_a_pitch; i < timing.life.size(); ++i) {
+        EXPECT_EQ(timing.outlet_speeds.of_port[i],
+                  timing.outlet_speeds.of_port[i - timing.steps_a_pitch]);
+        EXPECT_TRUE(timing.life[i].is_open_to_outlet() ||
+                    timing.outlet_speeds.of_chamber[i] == 0.0);
+    }
+}
+
+TEST(port_timing, an_outlet_that_ends_at_180_degrees_is_open_as_it_is_drawn) {
+    program kavetta = opened_design("n07_engine_oil_groove");
+    kavetta.entries.outlet_end_inner = kavetta.entries.outlet_end_outer = "180";
+    scripted_user person;
+    calculate_profiles(kavetta, person);
+    design_ports(kavetta, person);
+    const port_timing timing = timing_of(kavetta, {true, true, false, false, false});
+    ASSERT_EQ(timing.outlet_open.size(), 1U);
+    EXPECT_GT(timing.outlet_open[0].to - timing.outlet_open[0].from, 3.0) << "about half a life";
+    EXPECT_GT(timing.outlet_speed.speed, 0.0);
+}
+
 TEST(port_timing, areas_never_exceed_the_chamber_or_the_port) {
     random_values random(property_seed());
     for (int run = 0; run < property_count(8); ++run) {
