@@ -25,6 +25,7 @@ void clear_rotors(design_view& view) {
     view.Line1.clear();
     view.Shape1.visible = false;
     view.Picture1.clear();
+    view.chamber = {};
 }
 
 void clear_all(design_view& view) {

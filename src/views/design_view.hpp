@@ -51,9 +51,21 @@ struct rubber_band {
     bool visible = false;
 };
 
+struct drawn_point {
+    float x = 0.0F, y = 0.0F;
+
+    friend bool operator==(const drawn_point&, const drawn_point&) = default;
+};
+
+/// A chamber between the rotors, filled, and where it ends; empty without one.
+struct filled_chamber {
+    std::vector<drawn_point> outline, contacts;
+};
+
 /// The members are named as the controls of viewwinfrm and stand in their stacking order, lowest
 /// first.
 struct design_view {
+    filled_chamber chamber;           ///< below everything else
     std::vector<drawn_arc> Picture1;  ///< outer rotor, drawing width 2
     line_array metering_groove_extraline, anglelineout, angleline, metering_groove_portline;
     line_array outlet_portline, inlet_portline;
@@ -62,7 +74,7 @@ struct design_view {
     drawn_circle Shape1;  ///< outside diameter
 };
 
-/// Clears the rotors: Line1, Shape1 and the arcs of Picture1.
+/// Clears the rotors: Line1, Shape1, the arcs of Picture1 and the chamber.
 void clear_rotors(design_view& view);
 
 /// Clears everything, ports and groove included.

@@ -15,7 +15,9 @@ namespace {
 constexpr double FULL_TURN_DEG = 360.0;
 constexpr double HALF_TURN_DEG = 180.0;
 
-void set_angle(const design_params& design, double degrees, view_state& state) {
+}  // namespace
+
+void turn_to(const design_params& design, double degrees, view_state& state) {
     state.rotation_angle = degrees;
     // Kept: once, so that a typed 800 stays 440; rotation_test holds it.
     if (state.rotation_angle >= FULL_TURN_DEG) {
@@ -28,15 +30,13 @@ void set_angle(const design_params& design, double degrees, view_state& state) {
     state.outer_rotation_angle = checked_divide((N - 1.0) * state.rotation_angle, N);
 }
 
-}  // namespace
-
 void turn_one_tick(const design_params& design, turning direction, view_state& state) {
     const double step = direction == turning::clockwise ? DEGREES_PER_TICK : -DEGREES_PER_TICK;
-    set_angle(design, state.rotation_angle + step, state);
+    turn_to(design, state.rotation_angle + step, state);
 }
 
 void turn_to_typed(const design_params& design, std::string_view text, view_state& state) {
-    set_angle(design, floor_to_int(val(text)), state);
+    turn_to(design, floor_to_int(val(text)), state);
 }
 
 std::string rotated_angle_text(const view_state& state) {

@@ -22,6 +22,9 @@ enum class turning { clockwise, counter_clockwise };
 /// Throws division_by_zero when N is 0.
 void turn_one_tick(const design_params& design, turning direction, view_state& state);
 
+/// To an angle in degrees, which wraps once into 0 .. 360, and the outer angle.
+void turn_to(const design_params& design, double degrees, view_state& state);
+
 /// A typed angle: the number at the beginning of the text, cut to a whole number downwards, wrapped
 /// once (800 becomes 440), and the outer angle. Throws overflow for a number beyond a double.
 void turn_to_typed(const design_params& design, std::string_view text, view_state& state);

@@ -3,8 +3,15 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace kvt {
+
+/// A chamber of the pair at a rotation_angle: the angle of the inner rotor since its least volume,
+/// radians.
+struct chamber_place {
+    double place = 0.0, rotation_angle = 0.0;
+};
 
 /// Lengths in twips.
 struct view_state {
@@ -19,6 +26,7 @@ struct view_state {
     std::int16_t zoom_start_x = 0, zoom_start_y = 0, zoom_end_x = 0,
                  zoom_end_y = 0;   ///< rubber band corners
     double angleline_count = 0.0;  ///< element count of angleline at the last reset
+    std::optional<chamber_place> marked_chamber;
 };
 
 }  // namespace kvt
