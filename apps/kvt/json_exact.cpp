@@ -2,12 +2,13 @@
 
 #include "app/program.hpp"
 #include "app/stages/batch_run.hpp"
-#include "base/run_time_error.hpp"
-#include "exact/exact_figures.hpp"
-#include "exact/port_timing.hpp"
+#include "core/text_table.hpp"
+#include "exact/exact_results.hpp"
+#include "views/exact/exact_table.hpp"
 
-#include <functional>
+#include <array>
 #include <numbers>
+#include <string>
 #include <string_view>
 
 namespace kvt {
@@ -36,6 +37,7 @@ json json_rotors(const exact_rotors& exact) {
     object["irregularity"] = flow.irregularity;
     object["pulses"] = flow.pulses;
     object["harmonics"] = flow.harmonics;
+    object["max_cutter_inner"] = exact.cutter;
     return object;
 }
 
@@ -100,45 +102,71 @@ json json_performance(const exact_performance& exact) {
     object["contact_pressure"] = pressures;
     object["flow_m3s"] = exact.flow.flow_m3s;
     object["vol_eff"] = exact.flow.vol_eff;
+    object["max_speed_rpm"] = exact.max_speed_rpm;
     return object;
 }
 
-timed_ports ports_of(const program& kavetta) {
-    const port_params& ports = kavetta.port_params;
-    return {ports.inlet.last > 0, ports.outlet.last > 0, ports.has_groove,
-            is_ticked(kavetta.entries.inlet_double_sided),
-            is_ticked(kavetta.entries.outlet_double_sided)};
+/// A sentence where the product's own figures need one.
+void add_note(const exact_source& source, std::int16_t language, json& timing) {
+    if (ends_at_180(source.ports)) {
+        timing["note"] =
+            row_text(*find_text(text_kind::tooltip, "exact_figures", "ends_at_180"), language);
+    }
 }
 
-void add_part(json& object, std::string_view name, const std::function<json()>& part) {
-    try {
-        object[std::string(name)] = part();
-    } catch (const run_time_error&) {
-        // The geometry has no such part.
+json json_of_part(exact_part part, const exact_source& source, const exact_results& exact,
+                  std::int16_t language) {
+    switch (part) {
+        case exact_part::rotors:
+            return json_rotors(exact.rotors);
+        case exact_part::gap:
+            return json_gap(exact.gap);
+        case exact_part::performance:
+            return json_performance(exact.performance);
+        case exact_part::timing:
+            break;
     }
+    json timing = json_timing(exact.timing, source.inputs);
+    add_note(source, language, timing);
+    return timing;
+}
+
+constexpr std::array PARTS_IN_FILE = {exact_part::rotors, exact_part::gap, exact_part::timing,
+                                      exact_part::performance};
+
+constexpr std::string_view name_of(exact_part part) {
+    switch (part) {
+        case exact_part::rotors:
+            return "rotors";
+        case exact_part::gap:
+            return "gap";
+        case exact_part::performance:
+            return "performance";
+        case exact_part::timing:
+            break;
+    }
+    return "timing";
 }
 
 }  // namespace
 
 json json_exact(const program& kavetta, const batch_result& result) {
-    const design_params& design = kavetta.design_params;
     json object = json::object();
     if (result.end != batch_end::ok) {
         return object;
     }
-    add_part(object, "rotors", [&] { return json_rotors(exact_rotors_of(design)); });
-    add_part(object, "gap", [&] { return json_gap(gaps_round_turn(design)); });
-    if (result.ports_reached) {
-        add_part(object, "timing", [&] {
-            return json_timing(time_ports(design, kavetta.port_params, ports_of(kavetta)),
-                               kavetta.perf_inputs);
-        });
-    }
-    if (result.performance_reached) {
-        add_part(object, "performance", [&] {
-            return json_performance(
-                exact_performance_of(design, kavetta.perf_inputs, kavetta.perf_results));
-        });
+    const std::int16_t language = kavetta.app_state.language;
+    exact_source source = exact_source_of(kavetta);
+    source.has_ports = source.has_ports && result.ports_reached;
+    source.has_performance = source.has_performance && result.performance_reached;
+    const exact_results exact = all_exact_results(source);
+    for (const exact_part part : PARTS_IN_FILE) {
+        const std::string name(name_of(part));
+        if (exact.has(part)) {
+            object[name] = json_of_part(part, source, exact, language);
+        } else {
+            object["left_out"][name] = missing_reason(part, exact, language);
+        }
     }
     return object;
 }

@@ -4,6 +4,7 @@
 
 #include "app/desk/unsaved_files.hpp"
 #include "app/gt/gt_choices.hpp"
+#include "app/stages/exact_record.hpp"
 #include "app/stages/stage_entries.hpp"
 #include "automation/host.hpp"
 #include "core/app_state.hpp"
@@ -51,6 +52,7 @@ struct program {
     kvt::gt_choices gt_choices;
 
     kvt::stage_entries stage_entries;
+    kvt::exact_record exact_record;
 
     /// Calculate Performance ran to its end for this project: perf_results says something.
     bool performance_valid = false;

@@ -29,11 +29,30 @@ TEST(json_exact, goes_as_far_as_the_run) {
         return all;
     };
     EXPECT_EQ(names(exact_of_engine_oil({"--stage", "profiles"})),
-              (std::vector<std::string>{"rotors", "gap"}));
+              (std::vector<std::string>{"rotors", "gap", "left_out"}));
     EXPECT_EQ(names(exact_of_engine_oil({"--stage", "ports"})),
-              (std::vector<std::string>{"rotors", "gap", "timing"}));
+              (std::vector<std::string>{"rotors", "gap", "timing", "left_out"}));
     EXPECT_EQ(names(exact_of_engine_oil({})),
               (std::vector<std::string>{"rotors", "gap", "timing", "performance"}));
+}
+
+TEST(json_exact, tells_why_a_part_is_left_out) {
+    const json left_out = exact_of_engine_oil({"--stage", "profiles"})["left_out"];
+    EXPECT_EQ(left_out.size(), 2U);
+    EXPECT_EQ(left_out["timing"], "Design Ports first: there are no ports of this project yet.");
+    EXPECT_EQ(left_out["performance"],
+              "Calculate Performance first: there is no performance of this project yet.");
+}
+
+TEST(json_exact, tells_why_an_outlet_that_ends_at_180_delivers_nothing_in_the_product) {
+    const json exact =
+        exact_of_engine_oil({"--set", "outlet_end_inner=180", "--set", "outlet_end_outer=180"});
+    EXPECT_EQ(exact["timing"]["outlet_open"].size(), 1U) << "the drawn outlet is open";
+    EXPECT_EQ(
+        exact["timing"]["note"],
+        "The drawn outlet ends at 180 degrees and is open; the product's flow is 0 because it "
+        "takes that end angle as 0.");
+    EXPECT_FALSE(exact_of_engine_oil({})["timing"].contains("note"));
 }
 
 TEST(json_exact, is_empty_after_a_refused_design) {

@@ -62,6 +62,7 @@ bool has_refused_entry(const program& kavetta, user& person) {
 }
 
 void start_view_anew(program& kavetta) {
+    kavetta.view_state.marked_chamber.reset();
     kavetta.view_state.rotation_angle = 0.0;
     kavetta.entries.rotated_angle =
         number_text(floor_to_int(kavetta.view_state.rotation_angle * 10.0) / 10.0);

@@ -12,6 +12,8 @@ namespace kvt {
 struct noted_entries {
     kvt::entries boxes;
     std::int16_t drawing_units = 0;
+
+    friend bool operator==(const noted_entries&, const noted_entries&) = default;
 };
 
 struct stage_entries {
@@ -20,6 +22,8 @@ struct stage_entries {
     /// What whole results of the open project were made from; nothing while the records hold none:
     /// no run yet, one that failed, or those of the project before.
     std::optional<noted_entries> rotors, inlet, outlet, groove, perf_results;
+
+    friend bool operator==(const stage_entries&, const stage_entries&) = default;
 };
 
 /// One of the results that files are written from.

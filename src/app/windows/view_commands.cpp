@@ -3,6 +3,7 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "core/user.hpp"
+#include "views/exact/chamber_mark.hpp"
 #include "views/zoom.hpp"
 
 namespace kvt {
@@ -12,11 +13,7 @@ namespace {
 void redraw_at_angle(program& kavetta) {
     redraw_rotated(kavetta.design_params, kavetta.rotor_profiles, kavetta.view_state,
                    kavetta.design_view);
-}
-
-void show_angle(program& kavetta) {
-    kavetta.entries.rotated_angle = rotated_angle_text(kavetta.view_state);
-    redraw_at_angle(kavetta);
+    draw_marked_chamber(kavetta.design_params, kavetta.view_state, kavetta.design_view);
 }
 
 void zoom_to_present_band(program& kavetta, user& person) {
@@ -24,9 +21,15 @@ void zoom_to_present_band(program& kavetta, user& person) {
     zoom_to_band(kavetta.design_params, kavetta.view_state);
     redraw_zoomed(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params,
                   kavetta.view_state, kavetta.design_view);
+    draw_marked_chamber(kavetta.design_params, kavetta.view_state, kavetta.design_view);
 }
 
 }  // namespace
+
+void show_rotation(program& kavetta) {
+    kavetta.entries.rotated_angle = rotated_angle_text(kavetta.view_state);
+    redraw_at_angle(kavetta);
+}
 
 void rubber_band_down(program& kavetta, double x, double y) {
     if (has_rotors(kavetta.design_view)) {
@@ -62,14 +65,14 @@ void zoom_all(program& kavetta, user& person) {
 void rotation_tick(program& kavetta, turning direction) {
     if (has_rotors(kavetta.design_view)) {
         turn_one_tick(kavetta.design_params, direction, kavetta.view_state);
-        show_angle(kavetta);
+        show_rotation(kavetta);
     }
 }
 
 void take_typed_angle(program& kavetta) {
     if (has_rotors(kavetta.design_view)) {
         turn_to_typed(kavetta.design_params, kavetta.entries.rotated_angle, kavetta.view_state);
-        show_angle(kavetta);
+        show_rotation(kavetta);
     }
 }
 

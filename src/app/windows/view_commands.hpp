@@ -35,6 +35,10 @@ void rotation_tick(program& kavetta, turning direction);
 /// as redraw_rotated does, overflow for a number beyond a double.
 void take_typed_angle(program& kavetta);
 
+/// The pair at the angle of the view, the angle in rotated_angle, and the marked chamber. Throws as
+/// redraw_rotated does.
+void show_rotation(program& kavetta);
+
 /// The resize of viewwinfrm, also once after the layout was read: see resize_view. The drawing
 /// stays.
 std::optional<view_layout> resize_design_view(program& kavetta, double form_height);
