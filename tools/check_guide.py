@@ -8,7 +8,8 @@ import pathlib
 import re
 import sys
 
-FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "model_view", "viewwinfrm", "MDIForm1",
+FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "exact_figures", "model_view",
+         "viewwinfrm", "MDIForm1",
          "Form2", "Form3", "Form4", "graphpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")

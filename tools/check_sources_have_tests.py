@@ -58,6 +58,7 @@ COVERED_BY = {
     "src/ui/parts/body_tree.cpp": "tests/ui/forms/model_view_test.cpp",
     "src/ui/parts/model_canvas.cpp": "tests/ui/forms/model_view_test.cpp",
     "src/ui/parts/chart_popup.cpp": "tests/ui/forms/graphview2_test.cpp",
+    "src/ui/parts/chart_view.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/parts/chart_printing.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/parts/legend_frame.cpp": "tests/ui/forms/graphview2_test.cpp",
     "src/ui/shell/chart_windows.cpp": "tests/ui/forms/graphview2_test.cpp",

@@ -53,6 +53,8 @@ constexpr std::array FORM_ROWS = {
     loaded_child("perf_res", "Performance Results", "calc_perf",
                  NEW_OR_OPEN | CHANGED_DESIGN | closer::language),
     loaded_child("result_tables", "Result Tables", "mnuwindow", NEW_OR_OPEN | CHANGED_DESIGN),
+    // It follows the calculations: what stands in the records is what it shows.
+    loaded_child("exact_figures", "Exact Figures", "mnuwindow", NEW_OR_OPEN),
     loaded_child("model_view", "Model View", "Solid Model", closer::nothing),
     form_row{"MDIForm1", "main window", main_window, whole_run, "start", closer::nothing,
              "Main Screen", window_rectangle{}, false},

@@ -46,7 +46,8 @@ kvt::form_pictures early_pictures(kvt::staged_program& stage) {
 
 /// The main window with the five windows that are always there.
 QPixmap picture_of_workplace(kvt::staged_program& stage) {
-    for (const char* name : {"explain", "port_explain", "perf_res", "result_tables"}) {
+    for (const char* name :
+         {"explain", "port_explain", "perf_res", "result_tables", "exact_figures"}) {
         if (auto* form = stage.window().findChild<QMdiSubWindow*>(name)) {
             form->hide();
         }

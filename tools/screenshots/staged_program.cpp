@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
 
 namespace kvt {
 
@@ -58,12 +59,24 @@ bool staged_program::calculate() {
         const ports_designed ports = design_ports(kavetta, person);
         done = done && ports.inlet && ports.outlet;
         done = done && calculate_performance(kavetta, person);
-        for (const char* form : {"explain", "port_explain", "result_tables"}) {
+        for (const char* form : {"explain", "port_explain", "result_tables", "exact_figures"}) {
             person.show_form(form);
         }
     });
+    await_exact_figures();
     settle();
     return done;
+}
+
+/// The last of them come from another thread.
+void staged_program::await_exact_figures() {
+    constexpr qint64 LONGEST_WAIT_MS = 60000;
+    QElapsedTimer clock;
+    clock.start();
+    while (program().exact_record.results.state_of(exact_part::timing) == part_state::waiting &&
+           clock.elapsed() < LONGEST_WAIT_MS) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, WATCH_MS);
+    }
 }
 
 void staged_program::open_charts() {

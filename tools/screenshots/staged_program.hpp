@@ -37,6 +37,7 @@ class staged_program {
 
   private:
     void close_dialog();
+    void await_exact_figures();
 
     QTemporaryDir folder_;
     QTimer watch_;

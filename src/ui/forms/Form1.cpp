@@ -6,6 +6,7 @@
 #include "app/stages/calculate_profiles.hpp"
 #include "core/capacity_unit.hpp"
 #include "ui/forms/assist_area.hpp"
+#include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/language_flag.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -176,6 +177,9 @@ void Form1::add_results(QVBoxLayout& layout) {
         const int row = grid->rowCount();
         grid->addWidget(named_label(label), row, 0);
         grid->addWidget(result_label(output), row, 1);
+        if (has_exact_value("Form1", output)) {
+            grid->addWidget(new differing_sign("Form1", output, context_), row, 3);
+        }
     };
     add("Label11", "capacity");
     grid->addWidget(named_label("units_label"), grid->rowCount() - 1, 2);
@@ -213,6 +217,7 @@ void Form1::connect_commands() {
 
 void Form1::refresh() {
     mdi_form::refresh();
+    refresh_signs(*this);
     show_assist();
     show_units();
     unittype_->setToolTip(tooltip_of(context_.kavetta, "Form1", "unittype"));

@@ -1,76 +1,31 @@
 #include "ui/forms/graphview2.hpp"
 
-#include "app/desk/settings_commands.hpp"
-#include "app/files/saved_text.hpp"
 #include "app/program.hpp"
-#include "core/user.hpp"
-#include "ui/parts/chart_popup.hpp"
-#include "ui/parts/chart_printing.hpp"
 #include "ui/parts/drawn_icons.hpp"
-#include "ui/parts/legend_frame.hpp"
-#include "ui/parts/reading_keys.hpp"
 #include "ui/shell/present_layout.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
-#include <QCursor>
-#include <QDir>
-#include <QHelpEvent>
-#include <QPainter>
-#include <QToolTip>
+#include <QMouseEvent>
 
 namespace kvt {
 
 namespace {
 
-/// How far from a point of a curve the mouse still reads it, twips: more than half of the way
-/// between two points at the default size.
-constexpr double READING_REACH = 900.0;
-/// How far outside the plot the points at its edge can be read, pixels.
-constexpr double PLOT_MARGIN = 8.0;
-/// What a tooltip takes below and right of its place, at most, pixels.
-constexpr QSize TOOLTIP_ROOM(320, 64);
-
 double twips(double pixels) {
     return pixels * TWIPS_PER_PIXEL;
-}
-
-/// "Delivery Pressure (bar): 1 – 5"
-QString range_text(const QString& name, const std::vector<chart_mark>& marks) {
-    return marks.empty() ? name
-                         : name + ": " + qt_text(marks.front().text) + " \u2013 " +
-                               qt_text(marks.back().text);
-}
-
-const chart_label* label_at(const std::vector<chart_label>& labels, const QPointF& place) {
-    for (const chart_label& label : labels) {
-        if (label.visible && in_pixels(label.box).contains(place)) {
-            return &label;
-        }
-    }
-    return nullptr;
 }
 
 }  // namespace
 
 graphview2::graphview2(const chart_row& row, form_context context)
-    : context_(context),
-      chart_(load_chart(context.kavetta, row.kind)),
-      metrics_(chart_metrics()),
-      hidden_(chart_.curves.size()) {
+    : chart_view(load_chart(context.kavetta, row.kind), context, Qt::WindowShortcut) {
     setObjectName(qt_text(row.form));
     setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setWindowTitle(qt_text(chart_.window_caption));
+    setWindowTitle(qt_text(chart().window_caption));
     setWindowIcon(program_icon());
-    setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(qt_text(chart_.title));
-    describe(QString());
-    add_legend();
-    add_popup();
+    connect(this, &chart_view::close_asked, this, &QWidget::close);
     put_in_place();
     draw();
 }
@@ -78,38 +33,10 @@ graphview2::graphview2(const chart_row& row, form_context context)
 void graphview2::put_in_place() {
     setMinimumSize(pixels_of(static_cast<float>(SMALLEST_CHART.width - CHART_FRAME.width)),
                    pixels_of(static_cast<float>(SMALLEST_CHART.height - CHART_FRAME.height)));
-    window_rectangle place = chart_place(context_.kavetta, chart_.kind);
+    window_rectangle place = chart_place(context_.kavetta, chart().kind);
     place.width -= static_cast<float>(CHART_FRAME.width);
     place.height -= static_cast<float>(CHART_FRAME.height);
     place_window(*this, place);
-}
-
-void graphview2::add_legend() {
-    if (chart_.legend_caption.empty()) {
-        return;
-    }
-    legend_ = new legend_frame(this);
-    const QString handling = tooltip_of(context_.kavetta, "graphpopupmenu", "legend_frame");
-    legend_->setToolTip(QStringList({qt_text(chart_.legend_hint), handling}).join("\n").trimmed());
-    legend_->setAccessibleName(qt_text(chart_.legend_caption));
-    connect(legend_, &legend_frame::dragged, this, &graphview2::drag_legend);
-    connect(legend_, &legend_frame::clicked, this, &graphview2::toggle_curve);
-    connect(legend_, &legend_frame::menu_asked, this, &graphview2::open_popup);
-}
-
-void graphview2::add_popup() {
-    popup_ = new chart_popup(context_.kavetta.app_state.language, this);
-    connect(popup_, &chart_popup::copy_asked, this, &graphview2::copy);
-    connect(popup_, &chart_popup::print_asked, this, &graphview2::print);
-    connect(popup_, &chart_popup::save_asked, this, &graphview2::save);
-    connect(popup_, &chart_popup::export_asked, this, &graphview2::export_chart);
-    connect(popup_, &chart_popup::close_asked, this, &QWidget::close);
-}
-
-void graphview2::open_popup(const QPoint& global_place) {
-    if (!popup_->isVisible()) {
-        popup_->popup(global_place);
-    }
 }
 
 window_rectangle graphview2::place() const {
@@ -120,22 +47,6 @@ window_rectangle graphview2::place() const {
             static_cast<float>(twips(corner.y())), static_cast<float>(twips(corner.x()))};
 }
 
-chart_size graphview2::size_twips() const {
-    return {twips(width()) + CHART_FRAME.width, twips(height()) + CHART_FRAME.height};
-}
-
-shown_chart graphview2::shown() const {
-    return {chart_, drawing_, hidden_, size()};
-}
-
-void graphview2::draw() {
-    drawing_ = draw_chart(chart_, size_twips(), moved_legend_, metrics_);
-    if (legend_ != nullptr && drawing_.legend_frame) {
-        legend_->show_legend(*drawing_.legend_frame, hidden_);
-    }
-    update();
-}
-
 void graphview2::drag_window(const QPointF& step) {
     if (step.isNull()) {
         return;
@@ -144,207 +55,29 @@ void graphview2::drag_window(const QPointF& step) {
     move((dragged_corner_ / TWIPS_PER_PIXEL).toPoint());
 }
 
-void graphview2::drag_legend(double x, double y) {
-    const chart_box& frame = drawing_.legend_frame->frame;
-    const point2 corner = moved_legend_.value_or(point2{frame.left, frame.top});
-    moved_legend_ = kept_inside(drawing_, {corner.x + x, corner.y + y}, size_twips());
-    draw();
-}
-
-void graphview2::toggle_curve(int series) {
-    const auto curve = static_cast<std::size_t>(series - 1);
-    if (curve >= hidden_.size()) {
-        return;
-    }
-    hidden_[curve] = !hidden_[curve];
-    if (reading_ && reading_->curve == curve) {
-        end_reading();
-    }
-    draw();
-}
-
-void graphview2::show_reading(const chart_reading& reading, const QPoint& global_place) {
-    const QString text = qt_text(reading_text(chart_, reading));
-    reading_ = reading;
-    QToolTip::showText(global_place, text, this);
-    describe(text);
-    update();
-}
-
-void graphview2::end_reading() {
-    reading_.reset();
-    QToolTip::hideText();
-    describe(QString());
-    update();
-}
-
-std::optional<chart_reading> graphview2::reading_at(const QPointF& place) const {
-    const QRectF plot =
-        in_pixels(drawing_.Picture1).adjusted(-PLOT_MARGIN, -PLOT_MARGIN, PLOT_MARGIN, PLOT_MARGIN);
-    return plot.contains(place)
-               ? nearest_reading(chart_, drawing_, {twips(place.x()), twips(place.y())}, hidden_,
-                                 READING_REACH)
-               : std::nullopt;
-}
-
-void graphview2::read_at(const QPointF& place) {
-    const std::optional<chart_reading> reading = reading_at(place);
-    if (reading == reading_) {
-        return;
-    }
-    is_pointed_at_ = reading.has_value();
-    if (reading) {
-        show_reading(*reading, mapToGlobal(place.toPoint()));
-    } else {
-        end_reading();
-    }
-}
-
-/// The tooltip stands at the point, but not under the pointer, where it would go at once.
-void graphview2::read_by_key(const chart_reading& reading) {
-    is_pointed_at_ = false;
-    const QPointF point = in_pixels(place_of(chart_, drawing_, reading));
-    const QPoint place = mapToGlobal(point.toPoint());
-    const bool is_under_pointer = QRect(place, TOOLTIP_ROOM).contains(QCursor::pos());
-    show_reading(reading, is_under_pointer ? QCursor::pos() : place);
-}
-
-/// What a screen reader says: the value that is read, then the ranges of the axes.
-void graphview2::describe(const QString& reading) {
-    QStringList sentences = {range_text(qt_text(chart_.x_title), chart_.x_marks),
-                             range_text(qt_text(chart_.title), chart_.y_marks)};
-    if (!reading.isEmpty()) {
-        sentences.prepend(reading);
-    }
-    setAccessibleDescription(sentences.join("; "));
-}
-
-/// The hint of the text at a place; empty where there is none.
-QString graphview2::hint_at(const QPointF& place) const {
-    for (const std::vector<chart_label>& labels :
-         {std::vector{drawing_.graph_title, drawing_.xaxis_title}, drawing_.xaxis_marker,
-          drawing_.yaxis_marker}) {
-        if (const chart_label* label = label_at(labels, place)) {
-            return qt_text(label->hint);
-        }
-    }
-    return {};
-}
-
-void graphview2::copy() const {
-    QGuiApplication::clipboard()->setImage(chart_picture(shown(), devicePixelRatioF()));
-}
-
-void graphview2::print() {
-    context_.runner.act([this](const program& kavetta, user&) {
-        const QDir folder(qt_text(project_folder(kavetta)));
-        const QString file = qt_text(kavetta.app_state.project_name) + ".pdf";
-        ask_and_print(shown(), folder.filePath(file), this);
-    });
-}
-
-void graphview2::save() {
-    context_.runner.act([this](const program& kavetta, user& person) {
-        save_chart_picture(kavetta, person, chart_,
-                           bitmap_file(QGuiApplication::clipboard()->image()));
-    });
-}
-
-void graphview2::export_chart() {
-    context_.runner.act([this](const program& kavetta, user& person) {
-        const std::optional<saved_text> saved = ask_and_save_bytes(
-            kavetta, person, chart_export_dialog(kavetta, chart_), [&](const std::string& path) {
-                return exported_chart(shown(), format_of(path), devicePixelRatioF(),
-                                      kavetta.decimal_mark);
-            });
-        if (saved && saved->is_whole) {
-            person.show_status(saved->outcome);
-        } else if (saved) {
-            person.show_message(saved->outcome);
-        }
-    });
-}
-
-bool graphview2::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) {
-        return QWidget::event(event);
-    }
-    const auto* help = static_cast<const QHelpEvent*>(event);
-    if (const QString hint = hint_at(help->pos()); !hint.isEmpty()) {
-        QToolTip::showText(help->globalPos(), hint, this);
-    }
-    return true;
-}
-
 /// Until the event loop deletes it, nobody shall find the closed chart.
 void graphview2::closeEvent(QCloseEvent* event) {
     setObjectName(QString());
-    unload_chart(context_.kavetta, chart_.kind);
+    unload_chart(context_.kavetta, chart().kind);
     event->accept();
-}
-
-/// The right button has opened the menu when it went down.
-void graphview2::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Keyboard) {
-        open_popup(mapToGlobal(rect().center()));
-    }
-}
-
-void graphview2::keyPressEvent(QKeyEvent* event) {
-    const bool with_ctrl = event->modifiers().testFlag(Qt::ControlModifier);
-    const bool is_menu_key =
-        event->key() == Qt::Key_Menu ||
-        (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier));
-    if (is_menu_key) {
-        open_popup(mapToGlobal(rect().center()));
-    } else if (event->key() >= Qt::Key_1 && event->key() <= Qt::Key_5 && legend_ != nullptr) {
-        toggle_curve(event->key() - Qt::Key_1 + 1);
-    } else if (const auto next = next_reading(chart_, hidden_, reading_, event->key(), with_ctrl)) {
-        read_by_key(*next);
-    } else {
-        QWidget::keyPressEvent(event);
-    }
-}
-
-void graphview2::leaveEvent(QEvent*) {
-    if (reading_ && is_pointed_at_) {
-        end_reading();
-    }
 }
 
 void graphview2::mousePressEvent(QMouseEvent* event) {
     window_drag_.press(event->button(), event->position());
     dragged_corner_ = QPointF(pos()) * TWIPS_PER_PIXEL;
-    if (event->button() == Qt::RightButton) {
-        open_popup(event->globalPosition().toPoint());
-    }
+    chart_view::mousePressEvent(event);
 }
 
 void graphview2::mouseMoveEvent(QMouseEvent* event) {
     if (window_drag_.is_on()) {
         drag_window(window_drag_.step(event->position()));
     } else {
-        read_at(event->position());
+        chart_view::mouseMoveEvent(event);
     }
 }
 
 void graphview2::mouseReleaseEvent(QMouseEvent*) {
     window_drag_.release();
-}
-
-void graphview2::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    paint_chart(painter, drawing_, hidden_, size());
-    if (reading_) {
-        paint_reading(painter, in_pixels(place_of(chart_, drawing_, *reading_)));
-    }
-}
-
-/// A minimised window has no lengths to draw in.
-void graphview2::resizeEvent(QResizeEvent*) {
-    if (!isMinimized()) {
-        draw();
-    }
 }
 
 graphview2* open_chart(std::string_view form) {

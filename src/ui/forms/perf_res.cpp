@@ -1,5 +1,6 @@
 #include "ui/forms/perf_res.hpp"
 
+#include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
 
 #include <QGridLayout>
@@ -19,7 +20,8 @@ constexpr int ROW_SPACING = 3;
 
 class result_grid {
   public:
-    explicit result_grid(QWidget& content) : grid_(new QGridLayout(&content)) {
+    result_grid(QWidget& content, form_context context)
+        : grid_(new QGridLayout(&content)), context_(context) {
         grid_->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
         grid_->setHorizontalSpacing(MARGIN);
         grid_->setVerticalSpacing(ROW_SPACING);
@@ -35,7 +37,14 @@ class result_grid {
     /// A result below its caption, which is long.
     void add_below(const char* caption, const char* result) {
         grid_->addWidget(wrapped(named_label(caption)), grid_->rowCount(), 0, 1, 2);
-        grid_->addWidget(compact_result(result), grid_->rowCount(), 0, 1, 2);
+        const int row = grid_->rowCount();
+        if (has_exact_value("perf_res", result)) {
+            grid_->addWidget(compact_result(result), row, 1);
+            grid_->addWidget(new differing_sign("perf_res", result, context_), row, 0,
+                             Qt::AlignRight);
+        } else {
+            grid_->addWidget(compact_result(result), row, 0, 1, 2);
+        }
     }
     /// A result that is a whole sentence.
     void add_sentence(const char* result) {
@@ -61,6 +70,7 @@ class result_grid {
     }
 
     QGridLayout* grid_;
+    form_context context_;
 };
 
 }  // namespace
@@ -68,7 +78,7 @@ class result_grid {
 perf_res::perf_res(form_context context) : loaded_form("perf_res", context) {
     auto* content = new QWidget;
     content->setFont(compact_font());
-    result_grid results(*content);
+    result_grid results(*content, context);
     results.add_below("max_speed_label", "max_speed");
     results.add_sentence("Label5");
     results.add_line();
@@ -80,6 +90,11 @@ perf_res::perf_res(form_context context) : loaded_form("perf_res", context) {
     results.add_sentence("Label1");
     results.finish();
     bind(content, true);
+}
+
+void perf_res::refresh() {
+    loaded_form::refresh();
+    refresh_signs(*this);
 }
 
 QSize perf_res::start_size() const {

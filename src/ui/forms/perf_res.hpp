@@ -12,6 +12,7 @@ class perf_res : public loaded_form {
     explicit perf_res(form_context context);
 
     QSize start_size() const override;
+    void refresh() override;
 };
 
 }  // namespace kvt

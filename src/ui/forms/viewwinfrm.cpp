@@ -133,9 +133,13 @@ void viewwinfrm::move_band(double x, double y) {
 void viewwinfrm::turn(turning direction) {
     if (context_.runner.step(
             [direction](program& kavetta) { rotation_tick(kavetta, direction); })) {
-        angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
-        picture_->show_rotors(context_.kavetta.design_view);
+        show_turned();
     }
+}
+
+void viewwinfrm::show_turned() {
+    angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
+    picture_->show_rotors(context_.kavetta.design_view);
 }
 
 void viewwinfrm::stop_turning() {

@@ -45,6 +45,9 @@ class viewwinfrm : public mdi_form {
     /// the next Calculate Profiles.
     void size_picture();
 
+    /// The pair and its angle anew after a turn that another window has made.
+    void show_turned();
+
   signals:
     /// Where the mouse is in the design, as a text; empty when it is not over a drawing.
     void cursor_moved(const QString& place);

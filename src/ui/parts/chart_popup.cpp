@@ -10,7 +10,8 @@
 
 namespace kvt {
 
-chart_popup::chart_popup(std::int16_t language, QWidget* window) : QMenu(window) {
+chart_popup::chart_popup(std::int16_t language, QWidget* chart, Qt::ShortcutContext keys)
+    : QMenu(chart) {
     setObjectName("graphpopupmenu");
     add("popupcopy", QKeySequence::Copy, &chart_popup::copy_asked, language);
     add("popupprint", QKeySequence::Print, &chart_popup::print_asked, language);
@@ -18,7 +19,10 @@ chart_popup::chart_popup(std::int16_t language, QWidget* window) : QMenu(window)
     add("popupexport", Qt::CTRL | Qt::Key_E, &chart_popup::export_asked, language);
     addSeparator();
     add("popupclose", Qt::Key_Escape, &chart_popup::close_asked, language);
-    window->addActions(actions());
+    for (QAction* entry : actions()) {
+        entry->setShortcutContext(keys);
+    }
+    chart->addActions(actions());
     popupsave_ = findChild<QAction*>("popupsave");
     connect(this, &chart_popup::copy_asked, this, [this] { has_copied_ = true; });
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,

@@ -12,8 +12,9 @@ class chart_popup : public QMenu {
 
   public:
     /// The entries popupcopy, popupprint, popupsave, popupexport and popupclose, with their
-    /// captions in the language of the chart. Their keys work in the whole window.
-    chart_popup(std::int16_t language, QWidget* window);
+    /// captions in the language of the chart. Their keys work in the whole window of the chart, or
+    /// while the chart has the focus.
+    chart_popup(std::int16_t language, QWidget* chart, Qt::ShortcutContext keys);
 
   signals:
     void copy_asked();

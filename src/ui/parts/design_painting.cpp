@@ -23,6 +23,11 @@ constexpr double INVISIBLE = 0.02;
 /// The most steps of a piece of an outline.
 constexpr qsizetype LONGEST_PIECE = 16;
 
+/// The marked chamber and its contacts, on the white sheet.
+constexpr QColor CHAMBER_COLOUR(255, 200, 60);
+constexpr QColor CONTACT_COLOUR(160, 0, 120);
+constexpr double CONTACT_RADIUS = 4.0;  ///< pixels
+
 /// Line width of both rotors and of the outside circle, pixels.
 constexpr double OUTLINE_WIDTH = 2.0;
 
@@ -67,6 +72,14 @@ QPointF start_of(const drawn_line& line) {
 
 QPointF end_of(const drawn_line& line) {
     return {pixels(line.x2), pixels(line.y2)};
+}
+
+QList<QPointF> points_of(const std::vector<drawn_point>& places) {
+    QList<QPointF> points;
+    for (const drawn_point& place : places) {
+        points.append({pixels(place.x), pixels(place.y)});
+    }
+    return points;
 }
 
 /// Whether the box around points reaches into a picture.
@@ -199,6 +212,8 @@ design_painting::design_painting(const design_view& view) {
 }
 
 void design_painting::take_rotors(const design_view& view) {
+    chamber_ = QPolygonF(points_of(view.chamber.outline));
+    chamber_ends_ = points_of(view.chamber.contacts);
     arcs_ = arc_paths(view.Picture1);
     inner_rotor_ = outlines_of(view.Line1);
     circle_ = circle_paths(view.Shape1);
@@ -235,6 +250,7 @@ bool design_painting::is_empty() const {
 
 void design_painting::paint(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
+    paint_chamber(painter);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(outline_pen(Qt::black, OUTLINE_WIDTH));
     for (const QPainterPath& arc : arcs_) {
@@ -256,6 +272,21 @@ void design_painting::paint(QPainter& painter) const {
     }
     for (const QPainterPath& half : circle_) {
         painter.drawPath(half);
+    }
+    paint_contacts(painter);
+}
+
+void design_painting::paint_chamber(QPainter& painter) const {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(CHAMBER_COLOUR);
+    painter.drawPolygon(chamber_);
+}
+
+void design_painting::paint_contacts(QPainter& painter) const {
+    painter.setPen(QPen(Qt::white, 1.0));
+    painter.setBrush(CONTACT_COLOUR);
+    for (const QPointF& place : chamber_ends_) {
+        painter.drawEllipse(place, CONTACT_RADIUS, CONTACT_RADIUS);
     }
 }
 

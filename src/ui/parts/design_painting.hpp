@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QLineF>
+#include <QList>
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QVector>
@@ -40,8 +41,12 @@ class design_painting {
     };
 
     void take_ports(const design_view& view);
+    void paint_chamber(QPainter& painter) const;
+    void paint_contacts(QPainter& painter) const;
 
     // In stacking order, lowest first.
+    QPolygonF chamber_;               ///< filled
+    QList<QPointF> chamber_ends_;     ///< its contacts
     std::vector<QPainterPath> arcs_;  ///< outer rotor
     std::vector<layer> ports_;        ///< ports, their angles, groove
     QVector<QLineF> band_;            ///< rubber band, dotted

@@ -9,6 +9,7 @@
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Form3.hpp"
+#include "ui/forms/exact_figures.hpp"
 #include "ui/forms/viewwinfrm.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/parts/ink.hpp"
@@ -96,13 +97,16 @@ void MDIForm1::load_child(std::string_view form) {
         return;
     }
     add_form(made, false);
+    if (const auto* exact = qobject_cast<exact_figures*>(made)) {
+        connect(exact, &exact_figures::chamber_shown, findChild<viewwinfrm*>(),
+                &viewwinfrm::show_turned);
+    }
     made->refresh();
-    QRect place(QPoint(0, 0), made->start_size().boundedTo(area_->size()));
-    place.moveCenter(area_->rect().center());
-    made->setGeometry(place);
+    made->setGeometry(made->start_place(area_->rect()));
 }
 
 void MDIForm1::refresh() {
+    update_exact_record(context_.kavetta);
     setWindowTitle(qt_text(context_.kavetta.labels.title));
     menu_->refresh();
     windows_->refresh();

@@ -2,6 +2,7 @@
 
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Perffrm.hpp"
+#include "ui/forms/exact_figures.hpp"
 #include "ui/forms/explain.hpp"
 #include "ui/forms/model_view.hpp"
 #include "ui/forms/perf_res.hpp"
@@ -37,6 +38,7 @@ constexpr std::array FORM_MAKERS = {
     form_maker{"port_explain", made<port_explain>},
     form_maker{"perf_res", made<perf_res>},
     form_maker{"result_tables", made<result_tables>},
+    form_maker{"exact_figures", made<exact_figures>},
     form_maker{"model_view", made<model_view>},
 };
 

@@ -9,6 +9,12 @@ loaded_form::loaded_form(const char* form, form_context context) : mdi_form(form
     setAttribute(Qt::WA_DeleteOnClose);
 }
 
+QRect loaded_form::start_place(const QRect& area) const {
+    QRect place(QPoint(0, 0), start_size().boundedTo(area.size()));
+    place.moveCenter(area.center());
+    return place;
+}
+
 void loaded_form::closeEvent(QCloseEvent* event) {
     unload();
     // Until the event loop deletes it, nobody shall find the closed form.

@@ -14,6 +14,9 @@ class loaded_form : public mdi_form {
 
     /// The size in which it appears; asked for when it stands in the main window.
     virtual QSize start_size() const { return sizeHint(); }
+    /// Where it appears in the main window's area: in its middle, its size at most that of the
+    /// area.
+    virtual QRect start_place(const QRect& area) const;
 
   protected:
     /// Closing forgets the form; the next show builds it anew.

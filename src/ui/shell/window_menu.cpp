@@ -21,7 +21,13 @@ constexpr std::array<const char*, 2> OF_RESULTS = {"perf_res", "result_tables"};
 
 constexpr const char* OF_MODELS = "model_view";
 
+/// What it shows stands once there are rotors.
+constexpr const char* EXACT_FIGURES = "exact_figures";
+
 bool can_be_shown(const program& kavetta, const QString& form) {
+    if (form == EXACT_FIGURES) {
+        return kavetta.exact_record.source.has_rotors;
+    }
     if (form == OF_MODELS) {
         return !built_documents(kavetta).empty();
     }
@@ -40,6 +46,7 @@ window_menu::window_menu(form_context context, QMainWindow& window)
     for (const char* form : OF_RESULTS) {
         add_entry(*menu, form);
     }
+    add_entry(*menu, EXACT_FIGURES);
     add_entry(*menu, OF_MODELS);
 }
 

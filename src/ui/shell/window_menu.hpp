@@ -1,5 +1,5 @@
-// window_menu: the Window menu, which shows the five child windows and the performance results
-// again and brings one to the front.
+// window_menu: the Window menu, which shows the five child windows, the results, the exact figures
+// and the models again and brings one to the front.
 #pragma once
 
 #include "ui/parts/form_binding.hpp"

@@ -1,0 +1,45 @@
+#include "ui/parts/exact_worker.hpp"
+
+namespace kvt {
+
+exact_worker::~exact_worker() {
+    give_up();
+    pool_.waitForDone();
+}
+
+void exact_worker::give_up() {
+    if (task_ != nullptr) {
+        task_->is_given_up = true;
+        task_.reset();
+    }
+}
+
+void exact_worker::start(const exact_source& source, const std::vector<exact_part>& parts) {
+    give_up();
+    pool_.setMaxThreadCount(1);
+    task_ = std::make_shared<job>();
+    task_->source = source;
+    task_->parts = parts;
+    pool_.start([this, task = task_] { work(task); });
+}
+
+/// In the thread of the pool; what it found goes to the thread of the windows.
+void exact_worker::work(const std::shared_ptr<job>& task) {
+    for (const exact_part part : task->parts) {
+        if (task->is_given_up) {
+            return;
+        }
+        auto results = std::make_shared<exact_results>();
+        work_out(part, task->source, *results);
+        QMetaObject::invokeMethod(
+            this,
+            [this, task, part, results] {
+                if (!task->is_given_up) {
+                    emit worked_out(part, *results);
+                }
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+}  // namespace kvt
