@@ -78,8 +78,8 @@ TEST_F(exact_figures_test, can_be_opened_once_there_are_rotors) {
 
 TEST_F(exact_figures_test, shows_the_quick_figures_at_once_and_the_others_as_they_come) {
     open();
-    EXPECT_EQ(cell("displacement", 1), "6.0137 CC/Rev");
-    EXPECT_EQ(cell("displacement", 2).left(6), "5.9884");
+    EXPECT_EQ(cell("displacement", 1), "6.0137 Lit/Min/1000rpm");
+    EXPECT_EQ(cell("displacement", 2).left(5), "5.988");
     EXPECT_EQ(cell("displacement", 3), "+0.42");
     wait_for_all();
     EXPECT_TRUE(cell("inlet_open", 2).contains("°")) << cell("inlet_open", 2).toStdString();
@@ -214,7 +214,8 @@ TEST_F(exact_figures_test, copies_the_marked_cells) {
     table().selectRow(0);
     QTest::keySequence(&table(), QKeySequence::Copy);
     const QString copied = QGuiApplication::clipboard()->text();
-    EXPECT_TRUE(copied.startsWith("Displacement\t6.0137 CC/Rev\t5.98")) << copied.toStdString();
+    EXPECT_TRUE(copied.startsWith("Displacement\t6.0137 Lit/Min/1000rpm\t5.988"))
+        << copied.toStdString();
 }
 
 TEST_F(exact_figures_test, exports_a_chart_as_numbers) {

@@ -48,7 +48,7 @@ TEST_F(differing_sign_test, goes_with_a_design_that_failed) {
     press("Calc");
     type("fillet", "20");
     press("Calc");
-    EXPECT_EQ(robot.messages.size(), 1U) << "the fillets are too large";
+    EXPECT_FALSE(robot.messages.empty()) << "the fillets are too large";
     EXPECT_FALSE(find_on<differing_sign>("Form1", "capacity_exact")->isVisible());
 }
 
