@@ -55,6 +55,10 @@ differing_sign::differing_sign(const char* form, const char* control, form_conte
     hide();
 }
 
+QSize differing_sign::sizeHint() const {
+    return SIZE;
+}
+
 void differing_sign::refresh() {
     const std::vector<exact_row> rows = present_exact_rows(context_.kavetta);
     const auto row = std::ranges::find(rows, row_, &exact_row::name);

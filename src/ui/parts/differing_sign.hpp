@@ -19,6 +19,10 @@ class differing_sign : public QToolButton {
     /// Shown while the exact value of the figure differs; its room stays.
     void refresh();
 
+    /// It has no text that would need more.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 
