@@ -1,6 +1,7 @@
 // The routines of the CAD packages, run against the built-in modeller: real solids, compared with
 // the outlines that they are made of and with one another.
 #include "cad/autocad_outer_rotor.hpp"
+#include "cad/builtin/kernel_shapes.hpp"
 #include "cad/dispatch.hpp"
 #include "geometry/outer_flank.hpp"
 #include "geometry/outer_path.hpp"
@@ -8,11 +9,15 @@
 #include "support/cad/contour_grid.hpp"
 #include "support/cad/expected_contours.hpp"
 #include "support/cad/hard_rotors.hpp"
+#include "support/cad/kernel_counts.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/cad/recorded_routine.hpp"
 #include "support/cad/test_modeller.hpp"
 #include "support/undercut_design.hpp"
 
+#include <BRepCheck_Analyzer.hxx>
+#include <BRep_Tool.hxx>
+#include <TopExp_Explorer.hxx>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -120,7 +125,18 @@ std::vector<expected_solid> expected_porting(const program& kavetta, const std::
     return expected;
 }
 
+/// One closed solid that the kernel finds nothing wrong with.
+void expect_valid(const builtin::body& solid) {
+    const TopoDS_Shape& shape = solid.shape().kernel;
+    EXPECT_EQ(count_of(shape, TopAbs_SOLID), 1);
+    EXPECT_EQ(count_of(shape, TopAbs_SHELL), 1);
+    EXPECT_TRUE(BRep_Tool::IsClosed(TopExp_Explorer(shape, TopAbs_SHELL).Current()));
+    EXPECT_TRUE(BRepCheck_Analyzer(shape).IsValid());
+}
+
 void expect_solid(const builtin::body& solid, const expected_solid& expected) {
+    SCOPED_TRACE(expected.name);
+    expect_valid(solid);
     EXPECT_NEAR(solid.contour_area() / expected.area, 1.0, expected.tolerance) << expected.name;
     EXPECT_NEAR(solid.z0(), expected.from_z, HEIGHT_BAND_MM) << expected.name;
     EXPECT_NEAR(solid.z0() + solid.height(), expected.to_z, HEIGHT_BAND_MM) << expected.name;
