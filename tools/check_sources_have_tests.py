@@ -43,6 +43,8 @@ COVERED_BY = {
     "src/geometry/assist_lobe.cpp": "tests/geometry/assist_search_test.cpp",
     "src/geometry/chamber_window.cpp": "tests/geometry/chambers_test.cpp",
     "src/geometry/turned_profiles.cpp": "tests/geometry/chambers_test.cpp",
+    "src/output/dxf/exact_dxf_entities.cpp": "tests/output/dxf/exact_dxf_files_test.cpp",
+    "src/output/step/exact_step_solid.cpp": "tests/output/step/exact_step_files_test.cpp",
     "src/output/step/step_prism.cpp": "tests/output/step/step_files_test.cpp",
     "src/output/step/step_rotors.cpp": "tests/output/step/step_files_test.cpp",
     "src/output/cnc/clearing_arcs.cpp": "tests/output/cnc/pocket_path_test.cpp",

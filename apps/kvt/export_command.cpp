@@ -62,6 +62,7 @@ int export_design(const export_request& request, std::ostream& out, std::ostream
         return EXIT_REFUSED;
     }
     kavetta.decimal_mark = request.decimal_mark;
+    kavetta.chord_error_mm = request.chord_error_mm;
     batch_result result = calculate_open_design(kavetta, person, last_stage(request));
     export_folder folder(request.folder, request.source.language, out, err);
     if (result.ports_reached) {

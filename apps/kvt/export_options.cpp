@@ -92,12 +92,33 @@ void add_flag(CLI::App& command, const file_group_row& group, export_request& fi
 /// The files of each group as the table has them.
 void add_file_options(CLI::App& command, export_request& files) {
     for (const file_group_row& group : file_groups()) {
-        if (group.choice == file_choice::by_name) {
+        if (group.choice == file_choice::by_name || group.choice == file_choice::only_by_name) {
             add_names_option(command, group, files);
         } else if (group.choice == file_choice::by_flag) {
             add_flag(command, group, files);
         }
     }
+}
+
+std::string chord_error_problem(const std::string& text) {
+    constexpr double SMALLEST_MM = 1e-5;
+    constexpr double LARGEST_MM = 1.0;
+    try {
+        const double mm = number_of_text(text);
+        return mm >= SMALLEST_MM && mm <= LARGEST_MM ? "" : "'" + text + "' is not 0.00001 .. 1";
+    } catch (const run_time_error&) {
+        return "'" + text + "' is no length";
+    }
+}
+
+void add_chord_error_option(CLI::App& command, export_request& files) {
+    command
+        .add_option_function<std::string>(
+            "--chord-error",
+            [&files](const std::string& text) { files.chord_error_mm = number_of_text(text); },
+            "How far the triangles of the STL files may lie from the contours, mm; default: 0.005")
+        ->type_name("MM")
+        ->check(check_of(chord_error_problem));
 }
 
 void add_performance_options(CLI::App& command, export_request& files) {
@@ -122,6 +143,7 @@ void add_export_options(CLI::App& command, export_request& files) {
         ->type_name("DIR")
         ->required();
     add_file_options(command, files);
+    add_chord_error_option(command, files);
     add_cnc_options(command, files);
     add_performance_options(command, files);
     command

@@ -32,6 +32,8 @@ bool export_request::wants(const written_file& file) const {
         case file_choice::by_name:
             return chooses_nothing(*this) || names(file) ||
                    holds(chosen_of(*this, file.group), "all");
+        case file_choice::only_by_name:
+            return names(file) || holds(chosen_of(*this, file.group), "all");
         case file_choice::by_flag:
             return names(file);
         case file_choice::always:

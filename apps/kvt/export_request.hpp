@@ -23,7 +23,8 @@ struct export_request {
     std::string date;               ///< that files carry; empty: today's
     bool workbook = false;          ///< perf.xlsx
     char decimal_mark = '.';        ///< of the performance data files
-    bool force = false;             ///< zeros of a performance that was not calculated are written
+    double chord_error_mm = DEFAULT_CHORD_ERROR_MM;  ///< of the STL files
+    bool force = false;  ///< zeros of a performance that was not calculated are written
 
     /// Whether a file was asked for by its name, or by the flag of its group.
     bool names(const written_file& file) const;

@@ -16,6 +16,7 @@
 #include "core/rotor_profiles.hpp"
 #include "core/window_rectangles.hpp"
 #include "output/cnc/cnc_choices.hpp"
+#include "output/file_source.hpp"
 #include "performance/perf_inputs.hpp"
 #include "performance/perf_results.hpp"
 #include "ports/port_params.hpp"
@@ -83,6 +84,8 @@ struct program {
     std::string date;
     /// The decimal mark of the system, for what goes into other programs.
     char decimal_mark = '.';
+    /// How far the triangles of STL files may lie from their contours, mm.
+    double chord_error_mm = DEFAULT_CHORD_ERROR_MM;
 };
 
 }  // namespace kvt

@@ -4,8 +4,10 @@ namespace kvt {
 
 namespace {
 
-constexpr colour_shares STEEL = {0.62, 0.66, 0.72}, BRONZE = {0.78, 0.6, 0.36},
-                        INLET_BLUE = {0.25, 0.5, 0.85}, OUTLET_RED = {0.85, 0.35, 0.3};
+/// Those that solid models have, too.
+constexpr colour_shares INNER = {0.784, 0.635, 0.29}, OUTER = {0.435, 0.576, 0.659},
+                        INLET = {0.227, 0.435, 0.847}, OUTLET = {0.816, 0.251, 0.22},
+                        GROOVE = {0.878, 0.541, 0.157};
 
 /// A port that was finished, on both sides of the rotors.
 class port_bodies_of {
@@ -41,7 +43,7 @@ class port_bodies_of {
   private:
     void add(std::vector<pump_body>& bodies, std::string_view name, double bottom,
              double top) const {
-        bodies.push_back({name, is_inlet_ ? INLET_BLUE : OUTLET_RED, outline_, {}, bottom, top});
+        bodies.push_back({name, is_inlet_ ? INLET : OUTLET, outline_, {}, bottom, top});
     }
 
     double thick_, above_;
@@ -52,12 +54,12 @@ class port_bodies_of {
 }  // namespace
 
 pump_body inner_rotor_body(const design_params& design) {
-    return {"Inner Rotor", STEEL, inner_rotor_arcs(design), {}, 0.0, design.thick};
+    return {"Inner Rotor", INNER, inner_rotor_arcs(design), {}, 0.0, design.thick};
 }
 
 pump_body outer_rotor_body(const design_params& design) {
     return {"Outer Rotor",
-            BRONZE,
+            OUTER,
             rim_of_outer_rotor(design),
             reversed_contour(outer_rotor_arcs(design)),
             0.0,
@@ -75,7 +77,7 @@ std::vector<pump_body> porting_bodies(const design_params& design, const port_pa
     inlet.add_upper(bodies);
     if (is_ticked(boxes.metering_groove) && ports.groove_last > 0) {
         bodies.push_back({"Metering Groove",
-                          OUTLET_RED,
+                          OUTLET,
                           groove_arcs(ports.groove_built),
                           {},
                           -ports.groove_depth_mm,

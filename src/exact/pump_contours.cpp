@@ -1,5 +1,7 @@
 #include "exact/pump_contours.hpp"
 
+#include "base/run_time_error.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -108,6 +110,12 @@ std::vector<pump_contour> whole_pump_contours(const design_params& design, const
     append(all, port_contours(ports, port_side::outlet));
     append(all, groove_contours(ports, boxes));
     return all;
+}
+
+void check_that_there_are(const std::vector<pump_contour>& contours) {
+    if (contours.empty()) {
+        throw run_time_error(failure::invalid_procedure_call, "no such contour");
+    }
 }
 
 contour_extents extents_of(const std::vector<pump_contour>& contours) {

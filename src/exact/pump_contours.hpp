@@ -35,6 +35,9 @@ std::vector<pump_contour> groove_contours(const port_params& ports, const entrie
 std::vector<pump_contour> whole_pump_contours(const design_params& design, const port_params& ports,
                                               const entries& boxes);
 
+/// Throws invalid_procedure_call when there are none: a file of nothing says nothing.
+void check_that_there_are(const std::vector<pump_contour>& contours);
+
 /// Opposite corners.
 struct contour_extents {
     point2 low, high;

@@ -17,6 +17,9 @@
 
 namespace kvt {
 
+/// How far the triangles of an STL file may lie from its contours, mm.
+inline constexpr double DEFAULT_CHORD_ERROR_MM = 0.005;
+
 /// All records by reference; the writers change none of them.
 struct file_source {
     const design_params& design;
@@ -33,6 +36,7 @@ struct file_source {
     std::string version = {};              ///< "2021.1.1"
     const length_unit& boxes_unit = unit;  ///< of the lengths in boxes
     char decimal_mark = '.';               ///< of the performance data files; no other file has it
+    double chord_error_mm = DEFAULT_CHORD_ERROR_MM;  ///< of the STL files
 };
 
 }  // namespace kvt

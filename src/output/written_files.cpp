@@ -4,7 +4,11 @@
 #include "output/cnc/rotor_cnc.hpp"
 #include "output/data/data_files.hpp"
 #include "output/dxf/dxf_files.hpp"
+#include "output/dxf/exact_dxf_files.hpp"
+#include "output/step/exact_step_files.hpp"
 #include "output/step/step_files.hpp"
+#include "output/stl/stl_files.hpp"
+#include "output/svg/svg_files.hpp"
 #include "ports/port_report.hpp"
 
 #include <algorithm>
@@ -16,15 +20,22 @@ namespace {
 
 using enum file_group;
 using enum file_needs;
+using enum file_choice;
+
+constexpr std::string_view EXACT = "_exact";
 
 constexpr auto GROUPS = std::to_array<file_group_row>({
     {cnc, "cnc", "CNC", "cnc", "cnc"},
     {dxf, "dxf", "DXF", "dxf", "dxf"},
     {step, "step", "STEP", "step", "stp"},
     // Their names are fixed: the simulation reads them.
-    {gt, "gt", "STEP", "", "stp", file_choice::by_flag, "STEP files of the simulation exchange"},
-    {report, "report", "text", "", "txt", file_choice::always},
-    {data, "data", "text", "data", "txt", file_choice::by_flag, "data files of the performance"},
+    {gt, "gt", "STEP", "", "stp", by_flag, "STEP files of the simulation exchange"},
+    {report, "report", "text", "", "txt", always},
+    {data, "data", "text", "data", "txt", by_flag, "data files of the performance"},
+    {step_exact, "step-exact", "exact STEP", "step_exact", "stp", only_by_name, "", EXACT},
+    {dxf_exact, "dxf-exact", "exact DXF", "dxf_exact", "dxf", only_by_name, "", EXACT},
+    {svg, "svg", "SVG", "svg", "svg", only_by_name},
+    {stl, "stl", "STL", "stl", "stl", only_by_name},
 });
 
 // Adapters from a row's writer to the writers that take less.
@@ -127,6 +138,31 @@ constexpr auto FILES = std::to_array<written_file>({
     {data, "perf_contact", "", performance, performance_data<data_file::contact>},
     {data, "perf_efficiency", "", performance, performance_data<data_file::efficiency>},
     {data, "perf_volumetric", "", performance, performance_data<data_file::volumetric>},
+
+    {step_exact, "inner", "mnuexactinner", profiles, write_exact_step_inner},
+    {step_exact, "outer", "mnuexactouter", profiles, write_exact_step_outer},
+    {step_exact, "assembly", "mnuexactassy", profiles, write_exact_step_assembly},
+    {step_exact, "ports", "mnuexactports", any_port, write_exact_step_ports},
+
+    {dxf_exact, "inner", "mnudxfexactinner", profiles, write_exact_dxf_inner},
+    {dxf_exact, "inner_polyline", "mnudxfexactpolyline", profiles, write_exact_dxf_inner_polyline},
+    {dxf_exact, "outer", "mnudxfexactouter", profiles, write_exact_dxf_outer},
+    {dxf_exact, "inlet", "mnudxfexactinlet", inlet, write_exact_dxf_inlet},
+    {dxf_exact, "outlet", "mnudxfexactoutlet", outlet, write_exact_dxf_outlet},
+    {dxf_exact, "groove", "mnudxfexactgroove", groove, write_exact_dxf_groove},
+    {dxf_exact, "pair", "mnudxfexactpair", profiles, write_exact_dxf_pair},
+
+    {svg, "inner", "mnusvginner", profiles, write_svg_inner},
+    {svg, "outer", "mnusvgouter", profiles, write_svg_outer},
+    {svg, "inlet", "mnusvginlet", inlet, write_svg_inlet},
+    {svg, "outlet", "mnusvgoutlet", outlet, write_svg_outlet},
+    {svg, "groove", "mnusvggroove", groove, write_svg_groove},
+    {svg, "pair", "mnusvgpair", profiles, write_svg_pair},
+    {svg, "ports", "mnusvgports", any_port, write_svg_ports},
+
+    {stl, "inner", "mnustlinner", profiles, write_stl_inner},
+    {stl, "outer", "mnustlouter", profiles, write_stl_outer},
+    {stl, "ports", "mnustlports", any_port, write_stl_ports},
 });
 
 }  // namespace
@@ -156,7 +192,8 @@ const written_file* find_file(file_group group, std::string_view name) {
 }
 
 std::string file_name(const written_file& file) {
-    return std::string(file.name) + "." + std::string(row_of(file.group).extension);
+    const file_group_row& group = row_of(file.group);
+    return std::string(file.name) + std::string(group.mark) + "." + std::string(group.extension);
 }
 
 bool is_there(file_needs needs, const port_params& ports, const entries& boxes) {

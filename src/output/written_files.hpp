@@ -13,11 +13,12 @@
 namespace kvt {
 
 /// Files of one format that belong together.
-enum class file_group { cnc, dxf, step, gt, report, data };
+enum class file_group { cnc, dxf, step, gt, report, data, step_exact, dxf_exact, svg, stl };
 
-/// How the batch program is asked for the files of a group: by their names in an option, all of
-/// them with a flag, or not at all because they always come with the others.
-enum class file_choice { by_name, by_flag, always };
+/// How the batch program is asked for the files of a group: by their names in an option, or all of
+/// them where nothing was chosen; by their names alone; all of them with a flag; or not at all
+/// because they always come with the others.
+enum class file_choice { by_name, only_by_name, by_flag, always };
 
 struct file_group_row {
     file_group group;
@@ -28,6 +29,7 @@ struct file_group_row {
     std::string_view extension;  ///< without the point
     file_choice choice = file_choice::by_name;
     std::string_view flagged = {};  ///< by_flag: what the batch program's help calls its files
+    std::string_view mark = {};     ///< stands behind the name of each of its files: "_exact"
 };
 
 /// What a design must have before a file says something.
@@ -56,7 +58,7 @@ std::span<const written_file> files_of(file_group group);
 /// The row of a name, or nullptr.
 const written_file* find_file(file_group group, std::string_view name);
 
-/// "inner_xy.cnc"
+/// "inner_xy.cnc", "inner_exact.stp"
 std::string file_name(const written_file& file);
 
 /// Whether the design has what a file needs: ports that were finished, a groove that is ticked. The

@@ -3,6 +3,7 @@
 
 #include "exact/exact_designs.hpp"
 #include "support/cnc_design.hpp"
+#include "support/expect_failure.hpp"
 
 #include <gtest/gtest.h>
 #include <numbers>
@@ -26,6 +27,7 @@ TEST(pump_contours, of_a_whole_pump_are_six) {
         6U);
     EXPECT_TRUE(port_contours(port_params(), port_side::inlet).empty());
     EXPECT_TRUE(groove_contours(port_params(), kavetta.entries).empty());
+    EXPECT_FAILURE((check_that_there_are({}), 0), failure::invalid_procedure_call);
 }
 
 TEST(pump_contours, know_the_box_around_an_arc) {

@@ -203,6 +203,29 @@ TEST(export_drawings, writes_all_of_one_kind) {
               (std::set<std::string>{"inner.stp", "outer.stp", "assembly.stp", "ports.stp"}));
 }
 
+TEST(export_drawings, writes_exact_files_by_their_own_options_only) {
+    const temporary_folder folder;
+    EXPECT_EQ(
+        export_to(folder, {"--step-exact", "all", "--dxf-exact", "pair,inner_polyline"}).status, 0);
+    EXPECT_EQ(
+        drawings_in(folder),
+        (std::set<std::string>{"inner_exact.stp", "outer_exact.stp", "assembly_exact.stp",
+                               "ports_exact.stp", "pair_exact.dxf", "inner_polyline_exact.dxf"}));
+    EXPECT_EQ(export_to(folder, {"--svg", "ports", "--stl", "inner"}).status, 0);
+    EXPECT_TRUE(fs::exists(folder.file("ports.svg")));
+    EXPECT_TRUE(fs::exists(folder.file("inner.stl")));
+    EXPECT_FALSE(fs::exists(folder.file("inner.svg")));
+}
+
+TEST(export_drawings, takes_the_chord_error_of_the_stl_files) {
+    const temporary_folder coarse, fine;
+    EXPECT_EQ(export_to(coarse, {"--stl", "outer"}).status, 0);
+    EXPECT_EQ(export_to(fine, {"--stl", "outer", "--chord-error", "0.0005"}).status, 0);
+    EXPECT_GT(fs::file_size(fine.file("outer.stl")), 2 * fs::file_size(coarse.file("outer.stl")));
+    EXPECT_NE(export_to(coarse, {"--stl", "outer", "--chord-error", "0"}).status, 0);
+    EXPECT_NE(export_to(coarse, {"--stl", "outer", "--chord-error", "fine"}).status, 0);
+}
+
 TEST(export_drawings, adds_the_files_of_the_simulation_exchange) {
     const temporary_folder folder;
     EXPECT_EQ(export_to(folder, {"--dxf", "inner", "--gt"}).status, 0);

@@ -35,6 +35,15 @@ TEST(written_files, have_the_names_that_people_and_programs_know) {
     EXPECT_EQ(names_of(file_group::dxf),
               (std::vector<std::string>{"inner.dxf", "outer.dxf", "inlet.dxf", "outlet.dxf",
                                         "groove.dxf"}));
+    EXPECT_EQ(names_of(file_group::step_exact),
+              (std::vector<std::string>{"inner_exact.stp", "outer_exact.stp", "assembly_exact.stp",
+                                        "ports_exact.stp"}));
+    EXPECT_EQ(names_of(file_group::dxf_exact),
+              (std::vector<std::string>{"inner_exact.dxf", "inner_polyline_exact.dxf",
+                                        "outer_exact.dxf", "inlet_exact.dxf", "outlet_exact.dxf",
+                                        "groove_exact.dxf", "pair_exact.dxf"}));
+    EXPECT_EQ(names_of(file_group::stl),
+              (std::vector<std::string>{"inner.stl", "outer.stl", "ports.stl"}));
     EXPECT_EQ(names_of(file_group::gt),
               (std::vector<std::string>{"inner_rotor_GT.stp", "outer_rotor_GT.stp",
                                         "in_port_GT.stp", "out_port_GT.stp"}));

@@ -48,7 +48,8 @@ file_source source_with(const program& kavetta, const entries& boxes, const leng
             kavetta.date.empty() ? short_date(system_clock()) : kavetta.date,
             std::string(FULL_VERSION),
             boxes_unit,
-            kavetta.decimal_mark};
+            kavetta.decimal_mark,
+            kavetta.chord_error_mm};
 }
 
 }  // namespace

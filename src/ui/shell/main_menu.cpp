@@ -38,7 +38,8 @@ main_menu::main_menu(form_context context, QMainWindow& window)
 void main_menu::add_row(const menu_row& row, QMainWindow& window) {
     const QString name = qt_text(row.name);
     if (row.kind == menu_kind::menu) {
-        QMenu* menu = window.menuBar()->addMenu(name);
+        QMenu* menu = row.menu.empty() ? window.menuBar()->addMenu(name)
+                                       : menus_[qt_text(row.menu)]->addMenu(name);
         menu->setObjectName(name);
         menu->menuAction()->setVisible(!row.is_hidden);
         if (row.opening != nullptr) {
@@ -49,6 +50,9 @@ void main_menu::add_row(const menu_row& row, QMainWindow& window) {
         }
         menus_[name] = menu;
         actions_[name] = menu->menuAction();
+        if (!row.enabled_as.empty()) {
+            enabled_as_[name] = row.enabled_as;
+        }
         return;
     }
     QMenu& menu = *menus_[qt_text(row.menu)];
@@ -108,7 +112,10 @@ void main_menu::add_recent_entries(const menu_row& row, QMenu& menu) {
 void main_menu::refresh() {
     for (auto entry = actions_.cbegin(); entry != actions_.cend(); ++entry) {
         const std::string name = utf8_text(entry.key());
-        const bool usable = is_enabled(context_.kavetta.enabling, "MDIForm1", name);
+        const auto other = enabled_as_.constFind(entry.key());
+        const bool usable =
+            is_enabled(context_.kavetta.enabling, "MDIForm1",
+                       other == enabled_as_.cend() ? std::string_view(name) : *other);
         entry.value()->setText(caption_of(context_.kavetta, "MDIForm1", name));
         entry.value()->setEnabled(usable && entry.value()->isVisible());
     }

@@ -38,7 +38,8 @@ class main_menu : public QObject {
 
     form_context context_;
     QMap<QString, QMenu*> menus_;
-    QMap<QString, QAction*> actions_;  ///< by name; for a menu the action that opens it
+    QMap<QString, QAction*> actions_;             ///< by name; for a menu the action that opens it
+    QMap<QString, std::string_view> enabled_as_;  ///< by name, where another entry says it
     std::array<QAction*, 4> recent_{};
 };
 

@@ -79,9 +79,18 @@ const std::array MENU_ROWS = {
              going_on<write_gt_inlet_file>},
     menu_row{"mnustepport_outlet_GT", "mnustep", ENTRY, true, NO_KEY,
              going_on<write_gt_outlet_file>},
+    menu_row{"mnustepexact", "mnustep", MENU},
+    menu_row{.menu = "mnustepexact", .kind = menu_kind::files, .files = file_group::step_exact},
 
     menu_row{"mnudxf", "", MENU, false, NO_KEY, nullptr, false, open_dxf_menu},
     menu_row{.menu = "mnudxf", .kind = menu_kind::files, .files = file_group::dxf},
+    menu_row{"mnudxfexact", "mnudxf", MENU},
+    menu_row{.menu = "mnudxfexact", .kind = menu_kind::files, .files = file_group::dxf_exact},
+
+    menu_row{.name = "mnuother", .menu = "", .kind = MENU, .enabled_as = "mnudxf"},
+    menu_row{.menu = "mnuother", .kind = menu_kind::files, .files = file_group::svg},
+    menu_row{"sep_stl", "mnuother", menu_kind::separator},
+    menu_row{.menu = "mnuother", .kind = menu_kind::files, .files = file_group::stl},
 
     menu_row{"mnudata", "", MENU},
     menu_row{"mnudatacnc", "mnudata"},

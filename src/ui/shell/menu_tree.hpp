@@ -9,7 +9,8 @@
 
 namespace kvt {
 
-/// files: an entry for each file of a group, under the name of its control.
+/// menu: of the menu bar, or within a menu. files: an entry for each file of a group, under the
+/// name of its control.
 enum class menu_kind { menu, entry, separator, recent_entries, files };
 
 struct menu_row {
@@ -24,6 +25,8 @@ struct menu_row {
     bool is_checkable = false;
     void (*opening)(program&) = nullptr;    ///< run before a menu is shown
     file_group files = file_group::report;  ///< of menu_kind::files
+    std::string_view enabled_as = {};       ///< the entry that says whether it can be used; empty:
+                                            ///< its own name
 };
 
 /// Every menu and entry in its order.

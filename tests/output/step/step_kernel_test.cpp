@@ -1,26 +1,19 @@
 // STEP files through an independent reader, a solid-modelling kernel, with its repair switched off:
-// every body is one valid closed solid, right side out, of the right size. One file only: the
-// kernel's headers compile slowly.
+// every body is one valid closed solid, right side out, of the right size.
+#include "support/step_kernel.hpp"
+
 #include "output/step/step_files.hpp"
 #include "output/step/step_ports.hpp"
 #include "output/step/step_rotors.hpp"
 #include "support/cnc_design.hpp"
 #include "support/random_design.hpp"
-#include "support/temporary_folder.hpp"
 
 #include <BRepAdaptor_Curve.hxx>
 #include <BRepAdaptor_Surface.hxx>
-#include <BRepCheck_Analyzer.hxx>
 #include <BRepGProp.hxx>
-#include <BRep_Tool.hxx>
 #include <GProp_GProps.hxx>
-#include <Interface_Static.hxx>
-#include <Message.hxx>
-#include <Message_Messenger.hxx>
-#include <STEPControl_Reader.hxx>
 #include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
-#include <TopTools_IndexedDataMapOfShapeListOfShape.hxx>
 #include <TopoDS.hxx>
 #include <TopoDS_Solid.hxx>
 #include <algorithm>
@@ -59,31 +52,6 @@ double signed_area_of(const std::vector<point2>& points) {
     return 0.5 * sum;
 }
 
-/// The reader runs a sequence of repairs over what it read, a default one where the settings name
-/// none. So they name one whose only step is unknown.
-void switch_repair_off() {
-    Interface_Static::SetCVal("read.step.resource.name", "");  // take the settings, not a file
-    Interface_Static::Init("XSTEP", "norepair.exec.op", 't', "nothing");
-    Interface_Static::SetCVal("read.step.sequence", "norepair");
-}
-
-/// Reads the bodies of a file as they stand.
-std::vector<TopoDS_Solid> solids_of(const std::string& bytes) {
-    const temporary_folder folder;
-    const std::string path = folder.file("body.stp");
-    write_file(path, bytes);
-    Message::DefaultMessenger()->ChangePrinters().Clear();  // it prints to standard output
-    STEPControl_Reader reader;
-    switch_repair_off();
-    EXPECT_EQ(reader.ReadFile(path.c_str()), IFSelect_RetDone);
-    EXPECT_GT(reader.TransferRoots(), 0);
-    std::vector<TopoDS_Solid> solids;
-    for (TopExp_Explorer at(reader.OneShape(), TopAbs_SOLID); at.More(); at.Next()) {
-        solids.push_back(TopoDS::Solid(at.Current()));
-    }
-    return solids;
-}
-
 /// Points along the edges of one height, circles or splines, as they lie in the file.
 std::vector<std::vector<point2>> polygons_at(const TopoDS_Solid& solid, double z,
                                              GeomAbs_CurveType type) {
@@ -117,24 +85,6 @@ std::vector<point2> contour_at(const TopoDS_Solid& solid, double z) {
         contour.insert(contour.end(), piece.begin(), piece.end());
     }
     return contour;
-}
-
-/// Every edge of a closed solid belongs to two faces.
-void expect_closed(const TopoDS_Solid& solid, int faces) {
-    EXPECT_TRUE(BRepCheck_Analyzer(solid).IsValid());
-    TopExp_Explorer shells(solid, TopAbs_SHELL);
-    ASSERT_TRUE(shells.More());
-    EXPECT_TRUE(BRep_Tool::IsClosed(shells.Current()));
-    shells.Next();
-    EXPECT_FALSE(shells.More());
-    TopTools_IndexedDataMapOfShapeListOfShape owners;
-    TopExp::MapShapesAndAncestors(solid, TopAbs_EDGE, TopAbs_FACE, owners);
-    for (int i = 1; i <= owners.Extent(); ++i) {
-        EXPECT_EQ(owners(i).Extent(), 2);
-    }
-    TopTools_IndexedMapOfShape found;
-    TopExp::MapShapes(solid, TopAbs_FACE, found);
-    EXPECT_EQ(found.Extent(), faces);
 }
 
 /// Volume by adaptive integration; the ordinary one is wrong by percents on splines of thousands of

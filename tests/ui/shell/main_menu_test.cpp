@@ -36,10 +36,23 @@ TEST_F(main_menu_test, stands_in_the_bar_in_its_order) {
     for (const QAction* action : window().menuBar()->actions()) {
         bar.push_back(utf8_text(action->menu()->objectName()));
     }
-    const std::vector<std::string> expected = {"mnufile",    "mnumodel",  "mnustep",
-                                               "mnudxf",     "mnudata",   "mnuscreen",
-                                               "mnuupdates", "mnuwindow", "mnuhelp"};
+    const std::vector<std::string> expected = {"mnufile",   "mnumodel", "mnustep",   "mnudxf",
+                                               "mnuother",  "mnudata",  "mnuscreen", "mnuupdates",
+                                               "mnuwindow", "mnuhelp"};
     EXPECT_EQ(bar, expected);
+}
+
+TEST_F(main_menu_test, enables_the_other_files_with_the_dxf_files) {
+    start();
+    const auto is_usable = [this](const char* name) {
+        return find<QMenu>(name)->menuAction()->isEnabled();
+    };
+    EXPECT_FALSE(is_usable("mnuother"));
+    kavetta().enabling.mnudxf = true;
+    window().findChild<main_menu*>()->refresh();
+    EXPECT_TRUE(is_usable("mnudxf"));
+    EXPECT_TRUE(is_usable("mnuother"));
+    EXPECT_TRUE(find<QMenu>("mnustepexact")->findChildren<QAction*>().size() >= 4);
 }
 
 TEST_F(main_menu_test, hides_updates_and_the_two_port_files_for_simulation) {
