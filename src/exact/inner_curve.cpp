@@ -131,6 +131,7 @@ point2 direction_at(const exact_pair& pair, double t) {
 
 inner_lobe lobe_with(const exact_pair& pair, std::vector<double> angles) {
     std::vector<point2> points;
+    points.reserve(angles.size());
     for (const double t : angles) {
         points.push_back(inner_curve_at(pair, t)[0]);
     }
@@ -246,6 +247,7 @@ std::vector<point2> inner_lobe_points(const exact_pair& pair, double chord_error
     std::vector<double> angles = mirrored_angles(spaced.divided(n));
     angles.pop_back();
     std::vector<point2> points;
+    points.reserve(angles.size());
     for (const double t : angles) {
         points.push_back(inner_curve_at(pair, t)[0]);
     }

@@ -52,6 +52,7 @@ class file_body {
 
     void assembly(std::string_view kind, const std::vector<pump_body>& bodies) {
         std::vector<step_product> parts;
+        parts.reserve(bodies.size());
         for (const pump_body& body : bodies) {
             parts.push_back(part(body));
         }

@@ -59,8 +59,13 @@ void write_svg(std::string_view title, const std::vector<pump_contour>& contours
         "<g fill=\"none\" stroke=\"#202020\" stroke-width=\".1\" stroke-linejoin=\"round\">");
     for (const pump_contour& drawn : contours) {
         const std::string name(name_of(drawn.part));
-        out.raw_line("<path id=\"" + name + "\" class=\"contour " + name + "\" d=\"" +
-                     svg_path(drawn.contour) + "\"/>");
+        out.raw_part(R"(<path id=")");
+        out.raw_part(name);
+        out.raw_part(R"(" class="contour )");
+        out.raw_part(name);
+        out.raw_part(R"(" d=")");
+        out.raw_part(svg_path(drawn.contour));
+        out.raw_line(R"("/>)");
     }
     out.raw_line("</g>");
     out.raw_line("</svg>");
