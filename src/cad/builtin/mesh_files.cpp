@@ -3,48 +3,19 @@
 #include "base/fixed_number.hpp"
 #include "cad/builtin/body_mesher.hpp"
 #include "cad/builtin/zip_package.hpp"
+#include "geometry/binary_stl.hpp"
 
 #include <array>
-#include <bit>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <utility>
 
 namespace kvt::builtin {
 
 namespace {
 
-constexpr std::size_t STL_HEAD = 80;
 constexpr int DECIMALS = 6;
-
-void put_uint32(std::string& bytes, std::uint32_t number) {
-    for (int shift = 0; shift < 32; shift += 8) {
-        bytes += static_cast<char>(static_cast<unsigned char>(number >> shift));
-    }
-}
-
-void put_vector(std::string& bytes, const point3& at) {
-    for (const double number : {at.x, at.y, at.z}) {
-        put_uint32(bytes, std::bit_cast<std::uint32_t>(static_cast<float>(number)));
-    }
-}
-
-/// Of length 1; 0 for a triangle without area.
-point3 normal_of(const point3& a, const point3& b, const point3& c) {
-    const point3 normal = cross(b - a, c - a);
-    const double length = std::sqrt(dot(normal, normal));
-    return length > 0.0 ? point3{normal.x / length, normal.y / length, normal.z / length}
-                        : point3{};
-}
-
-void put_triangle(std::string& bytes, const std::array<point3, 3>& corners) {
-    put_vector(bytes, normal_of(corners[0], corners[1], corners[2]));
-    for (const point3& corner : corners) {
-        put_vector(bytes, corner);
-    }
-    bytes.append(2, '\0');  // attributes: none
-}
 
 std::string quoted(const std::string& text) {
     std::string escaped;
@@ -173,20 +144,11 @@ std::vector<saved_mesh> printed_meshes(const std::vector<saved_body>& bodies) {
 }
 
 std::string stl_bytes(const std::vector<saved_mesh>& meshes) {
-    std::string bytes = "Rotors and porting, millimetres";
-    bytes.resize(STL_HEAD, ' ');
-    std::size_t count = 0;
+    std::vector<std::reference_wrapper<const body_mesh>> surfaces;
     for (const saved_mesh& one : meshes) {
-        count += one.mesh.triangles.size();
+        surfaces.emplace_back(one.mesh);
     }
-    put_uint32(bytes, static_cast<std::uint32_t>(count));
-    for (const saved_mesh& one : meshes) {
-        for (const std::array<std::uint32_t, 3>& corner : one.mesh.triangles) {
-            put_triangle(bytes, {one.mesh.points.at(corner[0]), one.mesh.points.at(corner[1]),
-                                 one.mesh.points.at(corner[2])});
-        }
-    }
-    return bytes;
+    return binary_stl("Rotors and porting, millimetres", surfaces);
 }
 
 std::string three_mf_bytes(const std::vector<saved_mesh>& meshes) {

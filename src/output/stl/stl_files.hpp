@@ -8,8 +8,7 @@
 
 namespace kvt {
 
-/// Appends the bytes of a file with the triangles of all meshes: 80 bytes of text, their number,
-/// and for each the normal and three corners as 4-byte reals, and two bytes of 0.
+/// Appends the bytes of a file with the triangles of all meshes.
 void write_stl(std::string_view name, const std::vector<body_mesh>& meshes, text_lines& out);
 
 /// Within file_source::chord_error_mm of the contours. Each appends a whole file, or throws
