@@ -150,7 +150,7 @@ bool has_ports(const program& kavetta, const batch_result& result) {
 
 std::vector<std::string> format_words() {
     std::vector<std::string> words;
-    for (const solid_file_row& row : solid_file_rows()) {
+    for (const solid_file_row& row : SOLID_FILES) {
         words.emplace_back(row.word);
     }
     return words;

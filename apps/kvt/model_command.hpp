@@ -20,7 +20,7 @@ struct model_command_request {
     std::vector<std::string> what;  ///< words of the models, in the order in which they are built
     host_request host;
     std::string folder;                ///< for the files of the built-in modeller; empty: none
-    std::vector<std::string> formats;  ///< words of solid_file_rows
+    std::vector<std::string> formats;  ///< words of SOLID_FILES
 };
 
 /// Adds the options of `kvt model`.

@@ -22,22 +22,13 @@ std::string place(const point3& point) {
 
 }  // namespace
 
-const std::vector<solid_file_row>& solid_file_rows() {
-    static const std::vector<solid_file_row> rows = {{solid_format::step, "step", ".stp"},
-                                                     {solid_format::stl, "stl", ".stl"},
-                                                     {solid_format::three_mf, "3mf", ".3mf"},
-                                                     {solid_format::brep, "brep", ".brep"}};
-    return rows;
-}
-
 void write_model_files(model_store& store, const std::vector<model_body>& bodies,
                        const std::string& stem, const std::vector<std::string>& formats,
                        std::int16_t language, export_folder& folder) {
     const bool only_curves = std::ranges::all_of(bodies, &model_body::is_curve);
     for (const std::string& word : formats) {
-        const solid_file_row& row =
-            *std::ranges::find(solid_file_rows(), word, &solid_file_row::word);
-        const std::string name = stem + std::string(row.extension);
+        const solid_file_row& row = *std::ranges::find(SOLID_FILES, word, &solid_file_row::word);
+        const std::string name = stem + std::string(row.ending);
         if (only_curves && !holds_curves(row.format)) {
             folder.note(name, form_text("kvt", "no_solid", language));
             continue;

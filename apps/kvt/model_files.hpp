@@ -6,21 +6,12 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace kvt {
 
-/// A kind of solid file under the word that a command line has for it.
-struct solid_file_row {
-    solid_format format;
-    std::string_view word;       ///< "step"
-    std::string_view extension;  ///< ".stp"
-};
-const std::vector<solid_file_row>& solid_file_rows();
-
-/// Writes the bodies as one file a format: "<stem>.stp". A format that holds solids only is left
-/// out for bodies that are curves all, with a note.
+/// Writes the bodies as one file a word of SOLID_FILES: "<stem>.stp". A format that holds solids
+/// only is left out for bodies that are curves all, with a note.
 void write_model_files(model_store& store, const std::vector<model_body>& bodies,
                        const std::string& stem, const std::vector<std::string>& formats,
                        std::int16_t language, export_folder& folder);

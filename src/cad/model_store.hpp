@@ -6,10 +6,12 @@
 #include "cad/housing.hpp"
 #include "geometry/body_mesh.hpp"
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kvt {
@@ -55,6 +57,16 @@ struct model_document {
 };
 
 enum class solid_format { step, stl, three_mf, brep };
+/// A kind of solid file.
+struct solid_file_row {
+    solid_format format;
+    std::string_view word;    ///< which a command line has for it: "step"
+    std::string_view ending;  ///< ".stp"
+};
+inline constexpr std::array SOLID_FILES = {solid_file_row{solid_format::step, "step", ".stp"},
+                                           solid_file_row{solid_format::stl, "stl", ".stl"},
+                                           solid_file_row{solid_format::three_mf, "3mf", ".3mf"},
+                                           solid_file_row{solid_format::brep, "brep", ".brep"}};
 /// The other formats hold solids only.
 inline bool holds_curves(solid_format format) {
     return format == solid_format::step || format == solid_format::brep;

@@ -158,13 +158,9 @@ void save_model(const program& kavetta, user& person, const model_choice& choice
 }
 
 solid_format solid_format_of(const std::string& path) {
-    if (has_ending(path, ".stl")) {
-        return solid_format::stl;
-    }
-    if (has_ending(path, ".3mf")) {
-        return solid_format::three_mf;
-    }
-    return has_ending(path, ".brep") ? solid_format::brep : solid_format::step;
+    const auto row = std::ranges::find_if(
+        SOLID_FILES, [&](const solid_file_row& one) { return has_ending(path, one.ending); });
+    return row == SOLID_FILES.end() ? solid_format::step : row->format;
 }
 
 void save_model_picture(const program& kavetta, user& person,
