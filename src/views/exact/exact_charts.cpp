@@ -4,6 +4,7 @@
 #include "base/number_text.hpp"
 #include "core/text_table.hpp"
 #include "views/charts/axis_marks.hpp"
+#include "views/exact/exact_units.hpp"
 
 #include <algorithm>
 #include <functional>
@@ -14,14 +15,8 @@ namespace kvt {
 
 namespace {
 
-constexpr double DEGREES_PER_RADIAN = 180.0 / std::numbers::pi;
-constexpr double RADIANS_A_SECOND_PER_RPM = std::numbers::pi / 30.0;
-constexpr double MM_PER_METRE = 1000.0;
-constexpr double MM_PER_FOOT = 304.8;
-constexpr double RPM_WITHOUT_RANGE = 1000.0;
 constexpr double FULL_TURN_DEG = 360.0;
 constexpr int X_MARKS = 5;
-constexpr int ANGLE_DECIMALS = 2;
 
 constexpr std::array ROWS = {
     exact_chart_row{exact_chart::volume, "volume_chart", exact_part::rotors, true},
@@ -146,11 +141,11 @@ void fill_areas(const asked_chart& asked, result_chart& chart) {
 
 void fill_speeds(const asked_chart& asked, result_chart& chart) {
     const port_timing& timing = asked.exact.timing;
-    const bool is_metric = asked.manner.unit.system == unit_system::metric;
+    const oil_speed_unit unit = oil_speed_unit_of(asked.manner.unit.system);
     const double rpm =
         asked.source.has_performance ? asked.source.inputs.speed_hi : RPM_WITHOUT_RANGE;
-    const double by = rpm * RADIANS_A_SECOND_PER_RPM / (is_metric ? MM_PER_METRE : MM_PER_FOOT);
-    chart.y_unit = is_metric ? "m/s" : "ft/s";
+    const double by = rpm * RADIANS_A_SECOND_PER_RPM / unit.mm;
+    chart.y_unit = unit.text;
     chart.title += number_text(rpm) + " " +
                    std::string(message_text(message::unit_rpm, asked.manner.language)) + " (" +
                    chart.y_unit + ")";

@@ -7,6 +7,7 @@
 #include "performance/perf_units.hpp"
 #include "performance/result_quantities.hpp"
 #include "views/charts/axis_marks.hpp"
+#include "views/exact/exact_units.hpp"
 #include "views/tables/result_tables.hpp"
 
 #include <algorithm>
@@ -19,15 +20,9 @@ namespace kvt {
 
 namespace {
 
-constexpr double DEGREES_PER_RADIAN = 180.0 / std::numbers::pi;
-constexpr double RADIANS_A_SECOND_PER_RPM = std::numbers::pi / 30.0;
-constexpr double MM_PER_METRE = 1000.0;
-constexpr double MM_PER_FOOT = 304.8;
-/// Speed of the oil speeds while no range of speeds is entered.
-constexpr double RPM_WITHOUT_RANGE = 1000.0;
-constexpr int ANGLE_DECIMALS = 2;
 constexpr int PERCENT_DECIMALS = 2;
 constexpr int SMALL_DECIMALS = 4;
+constexpr int OIL_SPEED_DECIMALS = 3;
 constexpr std::size_t TOP = GRID_SIZE - 1;
 constexpr std::size_t SHOWN_HARMONICS = 3;
 
@@ -206,10 +201,10 @@ class row_writer {
         return with_unit(shown, {1.0, is_metric ? "bar" : "psi"});
     }
     std::string oil_speed_text(const port_speed& speed, double rpm_value) const {
-        const bool is_metric = manner_.unit.system == unit_system::metric;
+        const oil_speed_unit unit = oil_speed_unit_of(manner_.unit.system);
         const double mm_a_second = speed.speed * rpm_value * RADIANS_A_SECOND_PER_RPM;
-        return rounded(mm_a_second / (is_metric ? MM_PER_METRE : MM_PER_FOOT), 3) +
-               (is_metric ? " m/s, " : " ft/s, ") + speed_text(rpm_value);
+        return rounded(mm_a_second / unit.mm, OIL_SPEED_DECIMALS) + " " + std::string(unit.text) +
+               ", " + speed_text(rpm_value);
     }
 
     const exact_source& source_;
