@@ -74,7 +74,7 @@ TEST(exact_results, whole_designs_have_every_part) {
     random_values random(property_seed());
     program kavetta = random_performance(random);
     update_exact_record(kavetta);
-    const exact_source& source = kavetta.exact_record.source;
+    const exact_source& source = *kavetta.exact_record.source;
     EXPECT_TRUE(source.has_rotors && source.has_ports && source.has_performance);
     const exact_results exact = all_exact_results(source);
     for (const exact_part part : EXACT_PARTS) {

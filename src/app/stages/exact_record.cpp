@@ -68,12 +68,12 @@ bool update_exact_record(program& kavetta) {
     if (record.revision > 0 && present == record.made_from) {
         return false;
     }
-    record.source = source_of(kavetta, present);
+    record.source = std::make_shared<const exact_source>(source_of(kavetta, present));
     record.made_from = std::move(present);
     record.results = {};
     ++record.revision;
-    work_out(exact_part::rotors, record.source, record.results);
-    work_out(exact_part::performance, record.source, record.results);
+    work_out(exact_part::rotors, *record.source, record.results);
+    work_out(exact_part::performance, *record.source, record.results);
     return true;
 }
 
@@ -83,7 +83,7 @@ exact_manner present_manner(const program& kavetta) {
 }
 
 std::vector<exact_row> present_exact_rows(const program& kavetta) {
-    return exact_rows(kavetta.exact_record.source, kavetta.exact_record.results,
+    return exact_rows(*kavetta.exact_record.source, kavetta.exact_record.results,
                       present_manner(kavetta));
 }
 

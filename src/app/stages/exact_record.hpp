@@ -5,6 +5,7 @@
 #include "exact/exact_results.hpp"
 #include "views/exact/exact_table.hpp"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,9 @@ namespace kvt {
 struct program;
 
 struct exact_record {
-    exact_source source;
+    /// Never empty. Copies of the program share it: it is as large as the records it was taken
+    /// from.
+    std::shared_ptr<const exact_source> source = std::make_shared<const exact_source>();
     exact_results results;
     /// Counts the designs: results that were begun for an earlier one come too late.
     int revision = 0;

@@ -222,7 +222,7 @@ void exact_figures::show_chart(chart_tab& tab) {
     tabs_->setTabText(tabs_->indexOf(tab.pages),
                       qt_text(form_text("exact_figures", tab.row.name, language)));
     std::optional<result_chart> chart =
-        make_exact_chart(tab.row, record.source, record.results, present_manner(kavetta));
+        make_exact_chart(tab.row, *record.source, record.results, present_manner(kavetta));
     if (!chart) {
         const bool waits = record.results.state_of(tab.row.part) == part_state::waiting;
         tab.reason->setText(

@@ -1,5 +1,7 @@
 #include "ui/parts/exact_worker.hpp"
 
+#include <utility>
+
 namespace kvt {
 
 exact_worker::~exact_worker() {
@@ -14,12 +16,13 @@ void exact_worker::give_up() {
     }
 }
 
-void exact_worker::start(const exact_source& source, const std::vector<exact_part>& parts) {
+void exact_worker::start(std::shared_ptr<const exact_source> source,
+                         std::vector<exact_part> parts) {
     give_up();
     pool_.setMaxThreadCount(1);
     task_ = std::make_shared<job>();
-    task_->source = source;
-    task_->parts = parts;
+    task_->source = std::move(source);
+    task_->parts = std::move(parts);
     pool_.start([this, task = task_] { work(task); });
 }
 
@@ -30,7 +33,7 @@ void exact_worker::work(const std::shared_ptr<job>& task) {
             return;
         }
         auto results = std::make_shared<exact_results>();
-        work_out(part, task->source, *results);
+        work_out(part, *task->source, *results);
         QMetaObject::invokeMethod(
             this,
             [this, task, part, results] {

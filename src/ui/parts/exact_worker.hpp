@@ -1,4 +1,4 @@
-// exact_worker: works out the exact figures that take time beside the windows, on copies of the
+// exact_worker: works out the exact figures that take time beside the windows, on a copy of the
 // records.
 #pragma once
 
@@ -22,7 +22,7 @@ class exact_worker : public QObject {
     ~exact_worker() override;
 
     /// Works out parts of a design, one after the other; what was begun before is given up.
-    void start(const exact_source& source, const std::vector<exact_part>& parts);
+    void start(std::shared_ptr<const exact_source> source, std::vector<exact_part> parts);
     void give_up();
 
   signals:
@@ -31,7 +31,7 @@ class exact_worker : public QObject {
 
   private:
     struct job {
-        exact_source source;
+        std::shared_ptr<const exact_source> source;
         std::vector<exact_part> parts;
         std::atomic<bool> is_given_up = false;
     };

@@ -26,7 +26,7 @@ constexpr const char* EXACT_FIGURES = "exact_figures";
 
 bool can_be_shown(const program& kavetta, const QString& form) {
     if (form == EXACT_FIGURES) {
-        return kavetta.exact_record.source.has_rotors;
+        return kavetta.exact_record.source->has_rotors;
     }
     if (form == OF_MODELS) {
         return !built_documents(kavetta).empty();

@@ -13,8 +13,8 @@ namespace {
 TEST(exact_record, takes_over_what_stands_in_the_records_once) {
     program kavetta = design_with_ports("n07_engine_oil_groove");
     EXPECT_TRUE(update_exact_record(kavetta));
-    EXPECT_TRUE(kavetta.exact_record.source.has_ports);
-    EXPECT_FALSE(kavetta.exact_record.source.has_performance);
+    EXPECT_TRUE(kavetta.exact_record.source->has_ports);
+    EXPECT_FALSE(kavetta.exact_record.source->has_performance);
     EXPECT_TRUE(kavetta.exact_record.results.has(exact_part::rotors));
     EXPECT_EQ(kavetta.exact_record.results.state_of(exact_part::timing), part_state::waiting);
     EXPECT_FALSE(update_exact_record(kavetta));
@@ -30,7 +30,7 @@ TEST(exact_record, typing_changes_nothing) {
     kavetta.entries.thick = "99";
     kavetta.entries.inlet_double_sided = "1";
     EXPECT_FALSE(update_exact_record(kavetta));
-    EXPECT_FALSE(kavetta.exact_record.source.which.inlet_double_sided) << "as it was designed";
+    EXPECT_FALSE(kavetta.exact_record.source->which.inlet_double_sided) << "as it was designed";
 }
 
 TEST(exact_record, another_calculation_leaves_the_older_performance) {
@@ -41,8 +41,8 @@ TEST(exact_record, another_calculation_leaves_the_older_performance) {
     kavetta.entries.thick = "12";
     calculate_profiles(kavetta, person);
     EXPECT_TRUE(update_exact_record(kavetta));
-    EXPECT_EQ(kavetta.exact_record.source.design.thick, 12.0);
-    EXPECT_FALSE(kavetta.exact_record.source.has_performance);
+    EXPECT_EQ(kavetta.exact_record.source->design.thick, 12.0);
+    EXPECT_FALSE(kavetta.exact_record.source->has_performance);
 }
 
 TEST(exact_record, has_nothing_of_a_design_that_failed) {
@@ -52,7 +52,7 @@ TEST(exact_record, has_nothing_of_a_design_that_failed) {
     scripted_user person;
     calculate_profiles(kavetta, person);
     update_exact_record(kavetta);
-    EXPECT_FALSE(kavetta.exact_record.source.has_rotors);
+    EXPECT_FALSE(kavetta.exact_record.source->has_rotors);
 }
 
 }  // namespace

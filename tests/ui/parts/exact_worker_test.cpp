@@ -9,7 +9,7 @@ namespace kvt {
 
 namespace {
 
-exact_source source_of_pair(double ecc) {
+std::shared_ptr<const exact_source> source_of_pair(double ecc) {
     exact_source source;
     source.has_rotors = true;
     design_params& design = source.design;
@@ -19,7 +19,7 @@ exact_source source_of_pair(double ecc) {
     design.radinnroot = 25.0 - 9.0 - ecc;
     design.outer_root = design.radinnroot + 3.0 * ecc;
     design.thick = 20.0;
-    return source;
+    return std::make_shared<const exact_source>(source);
 }
 
 struct came_parts {

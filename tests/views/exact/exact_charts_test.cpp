@@ -19,11 +19,11 @@ class exact_charts_test : public testing::Test {
         scripted_user person;
         calculate_performance(kavetta, person);
         update_exact_record(kavetta);
-        kavetta.exact_record.results = all_exact_results(kavetta.exact_record.source);
+        kavetta.exact_record.results = all_exact_results(*kavetta.exact_record.source);
     }
     std::optional<result_chart> chart(std::string_view name) const {
         const auto row = std::ranges::find(exact_chart_rows(), name, &exact_chart_row::name);
-        return make_exact_chart(*row, kavetta.exact_record.source, kavetta.exact_record.results,
+        return make_exact_chart(*row, *kavetta.exact_record.source, kavetta.exact_record.results,
                                 present_manner(kavetta));
     }
     const port_timing& timing() const { return kavetta.exact_record.results.timing; }

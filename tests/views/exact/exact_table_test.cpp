@@ -21,7 +21,7 @@ struct worked_out_design {
     }
     void show() {
         update_exact_record(kavetta);
-        kavetta.exact_record.results = all_exact_results(kavetta.exact_record.source);
+        kavetta.exact_record.results = all_exact_results(*kavetta.exact_record.source);
     }
     std::vector<exact_row> rows() const { return present_exact_rows(kavetta); }
     exact_row row(std::string_view name) const {
@@ -111,8 +111,10 @@ TEST(exact_table, tells_which_stage_is_missing_and_what_waits) {
 
 TEST(exact_table, tells_why_the_geometry_allows_no_figure) {
     worked_out_design design("n07_engine_oil_groove");
-    design.kavetta.exact_record.source.design.outer_root = 1000.0;
-    design.kavetta.exact_record.results = all_exact_results(design.kavetta.exact_record.source);
+    exact_source wide = *design.kavetta.exact_record.source;
+    wide.design.outer_root = 1000.0;
+    design.kavetta.exact_record.source = std::make_shared<const exact_source>(wide);
+    design.kavetta.exact_record.results = all_exact_results(wide);
     EXPECT_EQ(design.row("least_gap").exact,
               "The geometry allows no such figure (Invalid procedure call or argument)");
     EXPECT_FALSE(design.row("displacement").differs);
