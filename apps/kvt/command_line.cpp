@@ -4,6 +4,7 @@
 #include "core/capacity_unit.hpp"
 #include "kvt/assist_command.hpp"
 #include "kvt/calc_command.hpp"
+#include "kvt/command_description.hpp"
 #include "kvt/excel_command.hpp"
 #include "kvt/exit_status.hpp"
 #include "kvt/export_command.hpp"
@@ -17,7 +18,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <map>
 #include <new>
 #include <ostream>
 #include <string>
@@ -27,6 +27,7 @@ namespace kvt {
 
 namespace {
 
+constexpr const char* NAME = "kvt";
 constexpr const char* VERSION = KVT_VERSION;
 
 constexpr const char* ABOUT =
@@ -35,7 +36,6 @@ constexpr const char* ABOUT =
     "Calculate Performance.";
 
 constexpr const char* EXAMPLES =
-    "Examples:\n"
     "  kvt calc engine_oil.KVT\n"
     "  kvt calc engine_oil.KVT --set thick=12 --set fillet=0 --json -\n"
     "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
@@ -43,9 +43,10 @@ constexpr const char* EXAMPLES =
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
     "  kvt excel engine_oil.KVT\n"
-    "  kvt model engine_oil.KVT --package acad --what assembly --host builtin --out models\n"
-    "\n"
-    "Exit status: 0 ended ok, 1 the design was refused or failed or a file or standard\n"
+    "  kvt model engine_oil.KVT --package acad --what assembly --host builtin --out models";
+
+constexpr const char* EXIT_STATUSES =
+    "0 ended ok, 1 the design was refused or failed or a file or standard\n"
     "output could not be written, 2 usage, 3 the project file could not be read or there\n"
     "is no memory. Messages go to standard error.";
 
@@ -62,9 +63,26 @@ struct command_line {
     excel_request excel;          ///< its source is that of calc
 };
 
-const std::map<std::string, calc_stage> STAGES = {{"profiles", calc_stage::profiles},
-                                                  {"ports", calc_stage::ports},
-                                                  {"performance", calc_stage::performance}};
+struct stage_row {
+    const char* word;
+    calc_stage stage;
+};
+
+constexpr stage_row STAGES[] = {{"profiles", calc_stage::profiles},
+                                {"ports", calc_stage::ports},
+                                {"performance", calc_stage::performance}};
+
+std::vector<std::string> stage_words() {
+    std::vector<std::string> words;
+    for (const stage_row& row : STAGES) {
+        words.emplace_back(row.word);
+    }
+    return words;
+}
+
+calc_stage stage_of(const std::string& word) {
+    return std::ranges::find(STAGES, word, &stage_row::word)->stage;
+}
 
 /// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be
 /// typed.
@@ -108,16 +126,16 @@ void add_design_options(CLI::App& command, command_line& line) {
         .add_option("--capacity-unit", source.capacity_unit,
                     "Select a capacity unit after opening: " + capacity_unit_list())
         ->type_name("N")
-        ->check(plain(CLI::Range(1, static_cast<int>(capacity_units().size()))));
+        ->check(number_of(1, static_cast<int>(capacity_units().size())));
     command.add_option("--language", source.language, "Language of messages: 1 English, 2 German")
         ->type_name("1|2")
-        ->check(plain(CLI::Range(1, 2)));
+        ->check(number_of(ENGLISH, GERMAN));
 }
 
 void add_stage_option(CLI::App& command, command_line& line) {
     command.add_option("--stage", line.stage, "Stop after a stage; default: as far as it goes")
-        ->type_name("profiles|ports|performance")
-        ->check(plain(CLI::IsMember(STAGES)));
+        ->type_name(word_list(stage_words()))
+        ->check(one_of(stage_words()));
 }
 
 CLI::App* add_calc(CLI::App& app, command_line& line) {
@@ -259,20 +277,24 @@ std::vector<sub_command> add_sub_commands(CLI::App& app, command_line& line) {
             {add_excel(app, line), run_excel}};
 }
 
+void set_up(CLI::App& app) {
+    app.footer(std::string("Examples:\n") + EXAMPLES + "\n\nExit status: " + EXIT_STATUSES);
+    app.set_version_flag("--version", VERSION);
+    app.allow_windows_style_options(false);  // a path may begin with "/" there too
+}
+
 /// Reads the options and runs the command that they name.
 int run_options(int argc, const char* const* argv, command_line& line, std::ostream& out,
                 std::ostream& err) {
-    CLI::App app{ABOUT, "kvt"};
-    app.footer(EXAMPLES);
-    app.set_version_flag("--version", VERSION);
-    app.allow_windows_style_options(false);  // a path may begin with "/" there too
+    CLI::App app{ABOUT, NAME};
+    set_up(app);
     const std::vector<sub_command> commands = add_sub_commands(app, line);
     try {
         app.parse(argc, argv);
         for (const std::string& option : line.typed) {
             line.calc.source.typed.push_back(parse_typed(option));
         }
-        line.calc.last = STAGES.at(line.stage);
+        line.calc.last = stage_of(line.stage);
         check_together(line);
     } catch (const CLI::ParseError& ended) {
         return app.exit(ended, out, err) == 0 ? EXIT_OK : EXIT_USAGE;
@@ -294,6 +316,14 @@ int run_command_line(int argc, const char* const* argv, std::ostream& out, std::
         err << run_time_error_line(run_time_error(failure::out_of_memory), language) << '\n';
     }
     return status_after_printing(status, out, err, language);
+}
+
+program_description described_program() {
+    CLI::App app{ABOUT, NAME};
+    set_up(app);
+    command_line line;
+    add_sub_commands(app, line);
+    return {described_command(app), VERSION, EXAMPLES, EXIT_STATUSES, described_entries()};
 }
 
 }  // namespace kvt

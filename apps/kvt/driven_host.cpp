@@ -41,7 +41,7 @@ void add_host_option(CLI::App& command, host_request& request,
                      const std::vector<std::string>& hosts, const std::string& help) {
     command.add_option("--host", request.host, help)
         ->type_name(word_list(hosts))
-        ->check(plain(CLI::IsMember(hosts)));
+        ->check(one_of(hosts));
     CLI::Option* log =
         command.add_option("--log", request.log_file, "File for the recorder's calls, a line each");
     log->type_name("FILE");

@@ -67,6 +67,17 @@ std::string list_of(std::span<const written_file> files) {
     return list;
 }
 
+constexpr const char* ALL_FILES = "all";
+
+std::vector<std::string> words_of_group(file_group group) {
+    std::vector<std::string> words;
+    for (const written_file& file : files_of(group)) {
+        words.emplace_back(file.name);
+    }
+    words.emplace_back(ALL_FILES);
+    return words;
+}
+
 void add_names_option(CLI::App& command, const file_group_row& group, export_request& files) {
     const std::string format(group.format);
     command
@@ -75,12 +86,14 @@ void add_names_option(CLI::App& command, const file_group_row& group, export_req
                         list_of(files_of(group.group)) + ", or all")
         ->type_name("TYPE,...")
         ->delimiter(',')
-        ->check(CLI::Validator(
-            [&group, format](const std::string& name) {
-                const bool known = name == "all" || find_file(group.group, name) != nullptr;
-                return known ? "" : "'" + name + "' is no " + format + " file";
-            },
-            ""));
+        ->check(naming(CLI::Validator(
+                           [&group, format](const std::string& name) {
+                               const bool known =
+                                   name == ALL_FILES || find_file(group.group, name) != nullptr;
+                               return known ? "" : "'" + name + "' is no " + format + " file";
+                           },
+                           ""),
+                       words_of_group(group.group)));
 }
 
 void add_flag(CLI::App& command, const file_group_row& group, export_request& files) {

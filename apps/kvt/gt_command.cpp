@@ -109,7 +109,7 @@ void add_given_files(CLI::App& command, gt_command_request& request) {
 void add_gt_options(CLI::App& command, gt_command_request& request) {
     command.add_option("--year", request.year, "Version of GT-SUITE: 2018, 2019, 2020 or 2021")
         ->type_name("YEAR")
-        ->check(plain(CLI::Range(FIRST_GT_VERSION, LAST_GT_VERSION)));
+        ->check(number_of(FIRST_GT_VERSION, LAST_GT_VERSION));
     command.add_option("--fluid", request.fluid, "Fluid of its library")->type_name("NAME");
     command.add_flag("--open", request.opens, "Open the model in GT-SUITE");
     command

@@ -166,7 +166,7 @@ void add_file_options(CLI::App& command, model_command_request& request) {
         ->type_name(word_list(format_words(), ","))
         ->delimiter(',')
         ->allow_extra_args(false)
-        ->check(plain(CLI::IsMember(format_words())))
+        ->check(one_of(format_words()))
         ->needs(folder);
 }
 
@@ -196,13 +196,13 @@ int build_here(const model_command_request& request, model_run& run, std::ostrea
 void add_model_options(CLI::App& command, model_command_request& request) {
     command.add_option("--package", request.package, "CAD package that builds the models")
         ->type_name(word_list(package_codes()))
-        ->check(plain(CLI::IsMember(package_codes())))
+        ->check(one_of(package_codes()))
         ->required();
     command.add_option("--what", request.what, "Models to build, with commas between them")
         ->type_name("trochoid,inner,outer,porting,assembly")
         ->delimiter(',')
         ->allow_extra_args(false)
-        ->check(plain(CLI::IsMember(model_words())))
+        ->check(one_of(model_words()))
         ->required();
     request.formats = {format_words().front()};
     add_model_host_options(command, request.host);

@@ -1,6 +1,8 @@
 // option_check: checks of an option's text, of which its help text says nothing.
 #pragma once
 
+#include "base/number_text.hpp"
+
 #include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
@@ -26,5 +28,28 @@ inline std::string word_list(const std::vector<std::string>& words, const char* 
     }
     return list;
 }
+
+/// The same check with the words that it takes as its name, where words_of finds them.
+inline CLI::Validator naming(CLI::Validator check, const std::vector<std::string>& words) {
+    check.name(word_list(words));
+    return check;
+}
+
+/// A check that takes some words alone.
+inline CLI::Validator one_of(const std::vector<std::string>& words) {
+    return naming(plain(CLI::IsMember(words)), words);
+}
+
+/// A check that takes the whole numbers from the first to the last.
+inline CLI::Validator number_of(int first, int last) {
+    std::vector<std::string> words;
+    for (int number = first; number <= last; ++number) {
+        words.push_back(number_text(number));
+    }
+    return naming(plain(CLI::Range(first, last)), words);
+}
+
+/// The words that an option's check takes; none when it takes any text or has no check.
+std::vector<std::string> words_of(CLI::Option& option);
 
 }  // namespace kvt

@@ -40,10 +40,18 @@ std::string joined(const std::vector<std::string_view>& names) {
     return text;
 }
 
+std::vector<std::string_view> unit_texts() {
+    std::vector<std::string_view> texts;
+    for (const capacity_unit& unit : capacity_units()) {
+        texts.push_back(unit.list_text);
+    }
+    return texts;
+}
+
 std::string unknown_control(std::string_view control) {
-    std::vector<std::string_view> names = {"dimens1", "dimens2", "unittype"};
-    for (const entry_field& field : entry_fields()) {
-        names.push_back(field.name);
+    std::vector<std::string_view> names;
+    for (const typed_control& known : typed_controls()) {
+        names.push_back(known.name);
     }
     const std::vector<std::string_view> near = near_names(control, names);
     std::string text = "there is no control '" + std::string(control) + "'";
@@ -54,11 +62,7 @@ std::string unit_problem(std::string_view text) {
     if (capacity_unit_code(text) != 0) {
         return {};
     }
-    std::vector<std::string_view> texts;
-    for (const capacity_unit& unit : capacity_units()) {
-        texts.push_back(unit.list_text);
-    }
-    return "unittype is one of: " + joined(texts);
+    return "unittype is one of: " + joined(unit_texts());
 }
 
 std::string text_problem(const typed_entry& typed) {
@@ -72,6 +76,19 @@ std::string text_problem(const typed_entry& typed) {
 }
 
 }  // namespace
+
+std::vector<typed_control> typed_controls() {
+    std::vector<typed_control> controls = {{"Form1", "dimens1", {"1"}},
+                                           {"Form1", "dimens2", {"1"}},
+                                           {"Form1", "unittype", unit_texts()}};
+    for (const entry_field& field : entry_fields()) {
+        const bool is_check = field.kind == entry_kind::check;
+        controls.push_back(
+            {field.form, field.name,
+             is_check ? std::vector<std::string_view>{"0", "1"} : std::vector<std::string_view>{}});
+    }
+    return controls;
+}
 
 std::string typed_entry_problem(const typed_entry& typed) {
     if (typed.control == "unittype") {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace kvt {
 
@@ -13,6 +15,16 @@ struct typed_entry {
     std::string text;  ///< UTF-8; "0" or "1" for a check box, "1" for an option button, a list text
                        ///< for unittype
 };
+
+/// A control that can be typed into.
+struct typed_control {
+    std::string_view form;
+    std::string_view name;
+    std::vector<std::string_view> states;  ///< the texts that it takes; none when it takes any
+};
+
+/// Every such control: the units, then the entries in the order of the forms.
+std::vector<typed_control> typed_controls();
 
 /// What is wrong with a typed entry, for the caller of the program: the control does not exist
 /// (near names are offered), the text is none of the control's states, or a file could not hold it.
