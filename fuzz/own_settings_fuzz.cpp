@@ -1,11 +1,13 @@
-// Fuzz target: KVT.ini and Kavetta.ini beside it, whose lines stand behind a line "====": the
-// recent paths come back whole, whatever bytes they have.
+// Fuzz target: KVT.ini and preferences.ini beside it, whose lines stand behind a line "====": the
+// recent paths come back whole, whatever bytes they have, and every line that is not ours stays.
+#include "base/text_file.hpp"
 #include "core/settings_file.hpp"
 #include "require.hpp"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace kvt {
 
@@ -28,12 +30,28 @@ both_files files_of(const std::string& bytes) {
 app_state read_both(const both_files& files) {
     app_state state;
     read_settings(files.settings, state);
-    read_own_settings(files.own, state);
+    read_own_settings(preferences(files.own), state);
     return state;
 }
 
-both_files write_both(const app_state& state) {
-    return {write_settings(state), write_own_settings(state)};
+both_files write_both(const app_state& state, const std::string& own) {
+    preferences kept(own);
+    write_own_settings(state, kept);
+    return {write_settings(state), kept.text()};
+}
+
+/// Lines that say something, and no recent path; without the mark of UTF-8 before the first.
+std::vector<std::string> lines_of_others(const std::string& own) {
+    const std::string mark = "\xEF\xBB\xBF";
+    std::vector<std::string> lines;
+    for (const std::string& line : split_lines(own.starts_with(mark) ? own.substr(3) : own)) {
+        const bool is_head = line.find('[') != std::string::npos;
+        const bool is_recent = line.find("recent_") != std::string::npos;
+        if (line.find('=') != std::string::npos && !is_head && !is_recent) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
 }
 
 void require_same_paths(const app_state& state, const app_state& again) {
@@ -43,11 +61,13 @@ void require_same_paths(const app_state& state, const app_state& again) {
 }
 
 void check_read(const std::string& bytes) {
-    const app_state state = read_both(files_of(bytes));
-    const both_files written = write_both(state);
+    const both_files files = files_of(bytes);
+    const app_state state = read_both(files);
+    const both_files written = write_both(state, files.own);
+    require(lines_of_others(written.own) == lines_of_others(files.own), "other lines stay");
     const app_state again = read_both(written);
     require_same_paths(state, again);
-    const both_files twice = write_both(again);
+    const both_files twice = write_both(again, written.own);
     require(twice.settings == written.settings && twice.own == written.own,
             "writing again gives the same bytes");
 }
@@ -59,7 +79,7 @@ void check_paths(const std::string& bytes) {
     state.mnufileprev[1] = bytes.substr(0, third);
     state.mnufileprev[2] = bytes.substr(third, third);
     state.mnufileprev[3] = bytes.substr(2 * third);
-    require_same_paths(state, read_both(write_both(state)));
+    require_same_paths(state, read_both(write_both(state, bytes)));
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
-// The seven lines of the settings file: read as far as they go, written whole. And the paths of our
-// own file, which find their places by what the seven lines made of them.
+// The seven lines of the settings file: read as far as they go, written whole. And the paths of
+// preferences.ini, which find their places by what the seven lines made of them.
 #include "core/settings_file.hpp"
 
 #include "base/code_page.hpp"
+#include "base/number_text.hpp"
 #include "base/text_file.hpp"
 #include "base/trimmed.hpp"
 
@@ -53,7 +54,7 @@ void read_date(const std::string& line, std::string& date) {
     }
 }
 
-constexpr std::string_view RECENT_PATH = "recent_";
+constexpr std::string_view PROJECTS = "projects";
 
 /// What KVT.ini can hold of a path, UTF-8.
 std::string held_by_code_page(const std::string& path) {
@@ -63,62 +64,8 @@ std::string held_by_code_page(const std::string& path) {
     return held;
 }
 
-/// A path on one line: line ends and the sign that marks them become "%" and two digits.
-std::string one_line(const std::string& path) {
-    std::string line;
-    for (const char c : path) {
-        switch (c) {
-            case '\r':
-                line += "%0D";
-                break;
-            case '\n':
-                line += "%0A";
-                break;
-            case '%':
-                line += "%25";
-                break;
-            default:
-                line += c;
-        }
-    }
-    return line;
-}
-
-std::string path_of_line(std::string_view line) {
-    std::string path;
-    while (!line.empty()) {
-        std::size_t taken = 3;
-        if (line.starts_with("%0D")) {
-            path += '\r';
-        } else if (line.starts_with("%0A")) {
-            path += '\n';
-        } else if (line.starts_with("%25")) {
-            path += '%';
-        } else {
-            path += line.front();
-            taken = 1;
-        }
-        line.remove_prefix(taken);
-    }
-    return path;
-}
-
-/// One line of our own file.
-struct own_path {
-    std::size_t entry;
-    std::string path;
-};
-
-/// "recent_1=PATH" to "recent_3=PATH"; nothing for any other line.
-std::optional<own_path> own_path_of_line(std::string_view line) {
-    if (!line.starts_with(RECENT_PATH)) {
-        return std::nullopt;
-    }
-    line.remove_prefix(RECENT_PATH.size());
-    if (line.size() < 2 || line[0] < '1' || line[0] > '3' || line[1] != '=') {
-        return std::nullopt;
-    }
-    return own_path{static_cast<std::size_t>(line[0] - '0'), path_of_line(line.substr(2))};
+std::string recent_key(std::size_t entry) {
+    return "recent_" + number_text(static_cast<std::int32_t>(entry));
 }
 
 /// The whole path in place of what KVT.ini could hold of it. False when the entry is another one.
@@ -159,33 +106,36 @@ std::string write_settings(const app_state& state) {
     return file.bytes();
 }
 
-void read_own_settings(std::string_view utf8, app_state& state) {
-    std::vector<own_path> moved;
-    for (const std::string& line : split_lines(utf8)) {
-        const std::optional<own_path> own = own_path_of_line(line);
-        if (own && !restore_path(own->path, state.mnufileprev[own->entry])) {
-            moved.push_back(*own);
+void read_own_settings(const preferences& kept, app_state& state) {
+    std::vector<std::string> moved;
+    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+        const std::optional<std::string> path = kept.value(PROJECTS, recent_key(entry));
+        if (path && !restore_path(*path, state.mnufileprev[entry])) {
+            moved.push_back(*path);
         }
     }
-    for (const own_path& own : moved) {
+    for (const std::string& path : moved) {
         for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
-            if (restore_path(own.path, state.mnufileprev[entry])) {
+            if (restore_path(path, state.mnufileprev[entry])) {
                 break;
             }
         }
     }
 }
 
-std::string write_own_settings(const app_state& state) {
-    text_lines text;
+void write_own_settings(const app_state& state, preferences& kept) {
     for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
         const std::string& path = state.mnufileprev[entry];
         if (path != held_by_code_page(path)) {
-            text.raw_line(std::string(RECENT_PATH) + static_cast<char>('0' + entry) + "=" +
-                          one_line(path));
+            kept.set(PROJECTS, recent_key(entry), path);
+        } else {
+            kept.remove(PROJECTS, recent_key(entry));
         }
     }
-    return text.bytes();
+}
+
+preferences preferences_of_earlier_file(std::string_view utf8) {
+    return preferences("[" + std::string(PROJECTS) + "]\r\n" + std::string(utf8));
 }
 
 }  // namespace kvt

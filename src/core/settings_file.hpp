@@ -1,8 +1,9 @@
-// settings_file: KVT.ini, seven positional lines in the program's folder, and Kavetta.ini, which
-// keeps the recent paths that the code page of KVT.ini can't hold.
+// settings_file: KVT.ini, seven positional lines in the program's folder, and what preferences.ini
+// keeps beside it: the recent paths that the code page of KVT.ini can't hold.
 #pragma once
 
 #include "core/app_state.hpp"
+#include "core/preferences.hpp"
 
 #include <string>
 #include <string_view>
@@ -12,8 +13,10 @@ namespace kvt {
 /// The name of the settings file in the program's folder.
 inline constexpr std::string_view SETTINGS_FILE_NAME = "KVT.ini";
 
-/// The name of our own settings file beside it, UTF-8.
-inline constexpr std::string_view OWN_SETTINGS_FILE_NAME = "Kavetta.ini";
+/// The name of our own settings file beside it, UTF-8, and that of the file with its recent paths
+/// alone, which stood in its place in earlier versions.
+inline constexpr std::string_view PREFERENCES_FILE_NAME = "preferences.ini";
+inline constexpr std::string_view EARLIER_PREFERENCES_FILE_NAME = "Kavetta.ini";
 
 /// Reads lines 1 to 7 into recent entries 1 to 3, modelling_package, language, auto_update_mode and
 /// last_update_check (the text between the "#" characters). Missing lines leave empty
@@ -24,12 +27,15 @@ void read_settings(std::string_view bytes, app_state& state);
 /// comes as far as the code page holds it, with "?" for every other character and line end.
 std::string write_settings(const app_state& state);
 
-/// Reads "recent_1=PATH" to "recent_3=PATH" into the recent entries that read_settings has filled.
-/// A path counts for an entry that is what write_settings made of it, the one of its number first,
-/// so that a list which another version wrote to KVT.ini later stays. Other lines are ignored.
-void read_own_settings(std::string_view utf8, app_state& state);
+/// Reads the keys recent_1 to recent_3 of the section projects into the recent entries that
+/// read_settings has filled. A path counts for an entry that is what write_settings made of it, the
+/// one of its number first, so that a list which another version wrote to KVT.ini later stays.
+void read_own_settings(const preferences& kept, app_state& state);
 
-/// The text of our own settings file; empty when KVT.ini holds every path whole.
-std::string write_own_settings(const app_state& state);
+/// Sets the keys of the recent paths that KVT.ini can't hold whole, and drops the others.
+void write_own_settings(const app_state& state, preferences& kept);
+
+/// The lines "recent_1=PATH" of an earlier version as the section that they are today.
+preferences preferences_of_earlier_file(std::string_view utf8);
 
 }  // namespace kvt

@@ -1,4 +1,4 @@
-// The seven lines of KVT.ini.
+// The seven lines of KVT.ini, and the recent paths of preferences.ini.
 #include "core/settings_file.hpp"
 
 #include "base/text_file.hpp"
@@ -101,13 +101,20 @@ TEST(read_settings, keeps_the_date_when_line_7_is_no_date_field) {
     }
 }
 
+/// preferences.ini of a program that had none.
+std::string own_text(const app_state& state) {
+    preferences kept;
+    write_own_settings(state, kept);
+    return kept.text();
+}
+
 /// The recent entries after both files have been written and read.
 std::vector<std::string> kept(const std::vector<std::string>& recent) {
     app_state state;
     std::copy(recent.begin(), recent.end(), state.mnufileprev + 1);
     app_state again;
     read_settings(write_settings(state), again);
-    read_own_settings(write_own_settings(state), again);
+    read_own_settings(preferences(own_text(state)), again);
     return {again.mnufileprev + 1, again.mnufileprev + 4};
 }
 
@@ -128,7 +135,7 @@ TEST(own_settings, keep_paths_whole_that_the_code_page_can_not_hold) {
 TEST(own_settings, are_empty_when_KVT_ini_holds_every_path) {
     app_state state;
     read_settings(FULL, state);
-    EXPECT_EQ(write_own_settings(state), "");
+    EXPECT_EQ(own_text(state), "");
 }
 
 TEST(own_settings, are_utf8_and_KVT_ini_gets_what_it_can_hold) {
@@ -137,19 +144,39 @@ TEST(own_settings, are_utf8_and_KVT_ini_gets_what_it_can_hold) {
     EXPECT_TRUE(
         write_settings(state).starts_with("/Gr\xF6\xDF"
                                           "e/?????.KVT\r\n"));
-    EXPECT_EQ(write_own_settings(state), "recent_1=/Größe/Насос.KVT\r\n");
+    EXPECT_EQ(own_text(state), "[projects]\r\nrecent_1=/Größe/Насос.KVT\r\n");
 }
 
 TEST(read_own_settings, leaves_a_list_alone_that_was_written_without_it) {
     app_state state;
     read_settings("/other.KVT\r\n/???.KVT\r\n", state);
-    read_own_settings(
-        "recent_1=/Насос.KVT\r\nrecent_3=/три.KVT\r\nunknown=1\r\nrecent_2\r\nrecent_9=/"
-        "???.KVT\r\n",
-        state);
+    read_own_settings(preferences("[projects]\r\nrecent_1=/Насос.KVT\r\nrecent_3=/три.KVT\r\n"
+                                  "unknown=1\r\nrecent_2\r\nrecent_9=/???.KVT\r\n"),
+                      state);
     EXPECT_EQ(state.mnufileprev[1], "/other.KVT");
     EXPECT_EQ(state.mnufileprev[2], "/три.KVT");
     EXPECT_EQ(state.mnufileprev[3], "");
+}
+
+TEST(write_own_settings, keeps_what_it_does_not_know_and_drops_what_is_no_longer_true) {
+    app_state state;
+    state.mnufileprev[1] = "/a.KVT";
+    state.mnufileprev[2] = "/Насос.KVT";
+    state.mnufileprev[3] = "/b.KVT";
+    preferences kept(
+        "; mine\r\n[later]\r\nrecent_1=x\r\n[projects]\r\nrecent_1=/泵.KVT\r\n"
+        "pinned=/c.KVT\r\nno line of ours\r\n");
+    write_own_settings(state, kept);
+    EXPECT_EQ(kept.text(),
+              "; mine\r\n[later]\r\nrecent_1=x\r\n[projects]\r\n"
+              "pinned=/c.KVT\r\nno line of ours\r\nrecent_2=/Насос.KVT\r\n");
+}
+
+TEST(preferences_of_earlier_file, holds_its_recent_paths) {
+    app_state state;
+    read_settings("/?????.KVT\r\n", state);
+    read_own_settings(preferences_of_earlier_file("recent_1=/Насос.KVT\r\n"), state);
+    EXPECT_EQ(state.mnufileprev[1], "/Насос.KVT");
 }
 
 TEST(settings_file, writes_the_same_bytes_again_for_any_bytes_read) {

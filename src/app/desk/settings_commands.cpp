@@ -8,19 +8,48 @@
 #include "core/settings_file.hpp"
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace kvt {
 
 namespace {
 
-/// A missing file is no failure; one that can't be read leaves the paths as KVT.ini has them.
-std::string own_settings(const std::filesystem::path& folder) {
+/// A missing file is no failure; nor is one that can't be read.
+std::optional<std::string> text_of(const std::filesystem::path& file) {
     try {
-        return read_file(folder / OWN_SETTINGS_FILE_NAME, LARGEST_TEXT);
+        return read_file(file, LARGEST_TEXT);
     } catch (const run_time_error&) {
-        return {};
+        return std::nullopt;
     }
+}
+
+/// preferences.ini; without it what an earlier version has left.
+preferences kept_preferences(const std::filesystem::path& folder) {
+    if (const std::optional<std::string> text = text_of(folder / PREFERENCES_FILE_NAME)) {
+        return preferences(*text);
+    }
+    const std::optional<std::string> earlier = text_of(folder / EARLIER_PREFERENCES_FILE_NAME);
+    return earlier ? preferences_of_earlier_file(*earlier) : preferences();
+}
+
+void remove_file(const std::filesystem::path& file) {
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+}
+
+/// What stands there already, keys of a later version too, stays.
+void save_preferences(const program& kavetta) {
+    preferences kept = kept_preferences(kavetta.folder);
+    write_own_settings(kavetta.app_state, kept);
+    const std::filesystem::path file = kavetta.folder / PREFERENCES_FILE_NAME;
+    const std::string text = kept.text();
+    if (text.empty()) {
+        remove_file(file);
+    } else {
+        write_file(file, text);
+    }
+    remove_file(kavetta.folder / EARLIER_PREFERENCES_FILE_NAME);
 }
 
 /// Of the settings as they were saved last; empty when they are gone or can't be read.
@@ -38,18 +67,11 @@ std::string second_recent_path(const std::filesystem::path& folder) {
 
 void read_settings_files(const std::filesystem::path& folder, app_state& state) {
     read_settings(read_file(folder / SETTINGS_FILE_NAME, LARGEST_TEXT), state);
-    read_own_settings(own_settings(folder), state);
+    read_own_settings(kept_preferences(folder), state);
 }
 
 void save_settings(const program& kavetta) {
-    const std::filesystem::path own = kavetta.folder / OWN_SETTINGS_FILE_NAME;
-    const std::string whole_paths = write_own_settings(kavetta.app_state);
-    if (whole_paths.empty()) {
-        std::error_code ignored;
-        std::filesystem::remove(own, ignored);
-    } else {
-        write_file(own, whole_paths);
-    }
+    save_preferences(kavetta);
     write_file(kavetta.folder / SETTINGS_FILE_NAME, write_settings(kavetta.app_state));
 }
 

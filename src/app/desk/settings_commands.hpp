@@ -9,12 +9,12 @@ namespace kvt {
 struct app_state;
 struct program;
 
-/// Reads KVT.ini and, for the paths that it can't hold, Kavetta.ini, which may be missing. Throws
-/// file_not_found without KVT.ini.
+/// Reads KVT.ini and preferences.ini, which may be missing; then Kavetta.ini of an earlier version
+/// counts. Throws file_not_found without KVT.ini.
 void read_settings_files(const std::filesystem::path& folder, app_state& state);
 
-/// Writes KVT.ini whole, and Kavetta.ini when a path needs it. Throws run_time_error when one can't
-/// be written.
+/// Writes KVT.ini whole, and preferences.ini with what it holds already; one that would be empty
+/// goes, and so does Kavetta.ini. Throws run_time_error when a file can't be written.
 void save_settings(const program& kavetta);
 
 /// The folder of the open project: projects_folder; when that is empty the folder of the project's

@@ -119,7 +119,27 @@ TEST_F(start_up_test, keeps_recent_paths_whole_that_KVT_ini_can_not_hold) {
     EXPECT_EQ(again.app_state.projects_folder, cyrillic.string());
     again.app_state.mnufileprev[1] = "/a.KVT";
     save_settings(again);
-    EXPECT_FALSE(std::filesystem::exists(folder.path() / "Kavetta.ini")) << "nothing to keep";
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "preferences.ini")) << "nothing to keep";
+}
+
+TEST_F(start_up_test, takes_over_the_recent_paths_that_an_earlier_version_kept) {
+    write_file(folder.file("KVT.ini"), "/?????.KVT\r\n\r\n\r\n\r\n1\r\n\r\n##\r\n");
+    write_file(folder.file("Kavetta.ini"), "recent_1=/Насос.KVT\r\n");
+    load_settings(kavetta);
+    EXPECT_EQ(kavetta.app_state.mnufileprev[1], "/Насос.KVT");
+    save_settings(kavetta);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "Kavetta.ini"));
+    EXPECT_EQ(read_file(folder.file("preferences.ini")), "[projects]\r\nrecent_1=/Насос.KVT\r\n");
+    write_file(folder.file("Kavetta.ini"), "recent_1=/Осман.KVT\r\n");
+    load_settings(kavetta);
+    EXPECT_EQ(kavetta.app_state.mnufileprev[1], "/Насос.KVT") << "preferences.ini is there";
+}
+
+TEST_F(start_up_test, keeps_preferences_of_a_later_version) {
+    write_file(folder.file("preferences.ini"), "[view]\r\npreview=0\r\n");
+    load_settings(kavetta);
+    save_settings(kavetta);
+    EXPECT_EQ(read_file(folder.file("preferences.ini")), "[view]\r\npreview=0\r\n");
 }
 
 }  // namespace
