@@ -1,4 +1,5 @@
 #include "manual_pages/completion.hpp"
+#include "manual_pages/joined_words.hpp"
 
 namespace kvt {
 
@@ -141,14 +142,6 @@ _kvt() {
 complete -F _kvt kvt
 )bash";
 
-std::string joined(const std::vector<std::string>& words, const char* between = " ") {
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : between) + word;
-    }
-    return text;
-}
-
 /// "word profiles ports performance", as _kvt_complete_value takes it; "" for a flag.
 std::string value_of(const option_description& option) {
     switch (option.value) {
@@ -157,9 +150,9 @@ std::string value_of(const option_description& option) {
         case option_value::text:
             return "text";
         case option_value::word:
-            return "word " + joined(option.words);
+            return "word " + joined_words(option.words);
         case option_value::words:
-            return "words " + joined(option.words);
+            return "words " + joined_words(option.words);
         case option_value::entry:
             return "entry";
         case option_value::folder:
@@ -178,7 +171,7 @@ std::string options_case(const std::string& command,
                          const std::vector<option_description>& options) {
     std::string names;
     for (const option_description& option : options) {
-        names += (names.empty() ? "" : " ") + joined(option.names);
+        names += (names.empty() ? "" : " ") + joined_words(option.names);
     }
     return "    " + shell_quoted(command) + ") echo " + shell_quoted(names) + " ;;\n";
 }
@@ -228,7 +221,7 @@ std::string states_table(const program_description& kvt) {
         for (const std::string& state : group.states) {
             states += " " + shell_quoted(state);
         }
-        table += "    " + joined(group.names, " | ") + ") printf '%s\\n'" + states + " ;;\n";
+        table += "    " + joined_words(group.names, " | ") + ") printf '%s\\n'" + states + " ;;\n";
     }
     return table + "    esac\n}\n";
 }

@@ -1,4 +1,5 @@
 #include "manual_pages/completion.hpp"
+#include "manual_pages/joined_words.hpp"
 
 #include <algorithm>
 
@@ -13,14 +14,6 @@ std::string fish_quoted(const std::string& text) {
         quoted += c == '\'' || c == '\\' ? std::string("\\") + c : std::string{c};
     }
     return quoted + "'";
-}
-
-std::string joined(const std::vector<std::string>& words) {
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : " ") + word;
-    }
-    return text;
 }
 
 constexpr const char* FUNCTIONS = R"fish(
@@ -48,9 +41,9 @@ std::string value_of(const option_description& option) {
         case option_value::text:
             return " -x";
         case option_value::word:
-            return " -x -a " + fish_quoted(joined(option.words));
+            return " -x -a " + fish_quoted(joined_words(option.words));
         case option_value::words:
-            return " -x -a " + fish_quoted("(__kvt_list " + joined(option.words) + ")");
+            return " -x -a " + fish_quoted("(__kvt_list " + joined_words(option.words) + ")");
         case option_value::entry:
             return " -x -a '(__kvt_entries)'";
         case option_value::folder:
@@ -60,7 +53,7 @@ std::string value_of(const option_description& option) {
     }
     return option.endings.empty()
                ? " -r -F"
-               : " -x -a " + fish_quoted("(__kvt_files " + joined(option.endings) + ")");
+               : " -x -a " + fish_quoted("(__kvt_files " + joined_words(option.endings) + ")");
 }
 
 /// " -l stage", " -s h".

@@ -1,3 +1,4 @@
+#include "manual_pages/joined_words.hpp"
 #include "manual_pages/pages.hpp"
 #include "manual_pages/roff_page.hpp"
 
@@ -30,14 +31,6 @@ std::string head_of(const option_description& option) {
     return head;
 }
 
-std::string joined(const std::vector<std::string>& words, const char* between) {
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : between) + word;
-    }
-    return text;
-}
-
 /// Whether the help names each word already, in a text or in the name of the value.
 bool names_words(const option_description& option) {
     const std::string told = option.value_name + " " + option.help;
@@ -49,10 +42,10 @@ bool names_words(const option_description& option) {
 std::string meaning_of(const option_description& option) {
     std::string meaning = sentence(option.help);
     if (!names_words(option)) {
-        meaning += " One of: " + joined(option.words, ", ") + ".";
+        meaning += " One of: " + joined_words(option.words, ", ") + ".";
     }
     if (!option.needs.empty()) {
-        meaning += " Only together with " + joined(option.needs, " and ") + ".";
+        meaning += " Only together with " + joined_words(option.needs, " and ") + ".";
     }
     return option.is_required ? meaning + " Required." : meaning;
 }

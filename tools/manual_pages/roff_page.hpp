@@ -17,8 +17,8 @@ std::string italic(std::string_view utf8);
 /// One page in UTF-8. What is called roff is taken as it stands, any other text by roff_text.
 class roff_page {
   public:
-    /// name in capitals; source and manual stand in the last and in the first line: "Kavetta 2021.1.1",
-    /// "User Commands".
+    /// name in capitals; source and manual stand in the last and in the first line: "Kavetta
+    /// 2021.1.1", "User Commands".
     roff_page(std::string_view name, std::string_view source, std::string_view manual);
 
     void section(std::string_view title);

@@ -1,4 +1,5 @@
 #include "manual_pages/completion.hpp"
+#include "manual_pages/joined_words.hpp"
 
 namespace kvt {
 
@@ -14,14 +15,6 @@ std::string spec_text(const std::string& text) {
     return spec;
 }
 
-std::string joined(const std::vector<std::string>& words) {
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : " ") + word;
-    }
-    return text;
-}
-
 /// "*.[kK][vV][tT]", "(*.[tT][xX][tT]|*.[pP][dD][fF])"
 std::string file_action(const option_description& option) {
     std::string patterns;
@@ -35,9 +28,10 @@ std::string file_action(const option_description& option) {
 std::string action_of(const option_description& option) {
     switch (option.value) {
         case option_value::word:
-            return "(" + joined(option.words) + ")";
+            return "(" + joined_words(option.words) + ")";
         case option_value::words:
-            return "_values -s , " + spec_text(option.value_name) + " " + joined(option.words);
+            return "_values -s , " + spec_text(option.value_name) + " " +
+                   joined_words(option.words);
         case option_value::entry:
             return "_kvt_entries";
         case option_value::file:
@@ -92,11 +86,7 @@ std::string entries_function(const program_description& kvt) {
         "_kvt_entries() {\n    if compset -P 1 '*='; then\n"
         "        case ${${IPREFIX%=}##*=} in\n";
     for (const entries_of_states& group : entries_with_states(kvt)) {
-        std::string names;
-        for (const std::string& name : group.names) {
-            names += (names.empty() ? "" : "|") + name;
-        }
-        function += "        (" + names + ") compadd --";
+        function += "        (" + joined_words(group.names, "|") + ") compadd --";
         for (const std::string& state : group.states) {
             function += " " + shell_quoted(state);
         }
