@@ -61,22 +61,30 @@ QIcon counter_clockwise_icon(const QPalette& palette) {
     return turn_icon(palette, false);
 }
 
-QPixmap program_picture(int side) {
-    QPixmap picture(side, side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(side / 64.0, side / 64.0);
+void paint_program_picture(QPainter& painter) {
     painter.setPen(Qt::NoPen);
     QPainterPath ring;
     ring.addEllipse(QRectF(1, 1, 62, 62));
     painter.fillPath(ring - wave({32, 32}, 22, 4, 5), QColor(38, 94, 138));
     painter.fillPath(wave({35, 32}, 18, 4, 4), QColor(226, 132, 34));
+}
+
+QPixmap program_picture(int side) {
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / PICTURE_UNITS, side / PICTURE_UNITS);
+    paint_program_picture(painter);
     return picture;
 }
 
 QIcon program_icon() {
-    return QIcon(program_picture(ICON_SIZE));
+    QIcon icon;
+    for (const int side : PROGRAM_ICON_SIZES) {
+        icon.addPixmap(program_picture(side));
+    }
+    return icon;
 }
 
 }  // namespace kvt

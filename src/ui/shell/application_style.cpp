@@ -25,6 +25,8 @@ void set_application_style(QApplication& application) {
     QApplication::setApplicationDisplayName(QString());
     QApplication::setApplicationVersion(qt_text(FULL_VERSION));
     QApplication::setWindowIcon(program_icon());
+    // Desktops of Wayland take the icon of the desktop entry of this name.
+    QApplication::setDesktopFileName("kavetta");
     // The program ends when the Exit command says so, not when a window closes.
     application.setQuitOnLastWindowClosed(false);
 }
