@@ -33,6 +33,8 @@ COVERED_BY = {
     "apps/kvt/port_summary.cpp": "tests/kvt/stage_summaries_test.cpp",
     "apps/kvt/printed_status.cpp": "tests/kvt/program_test.cpp",
     "apps/kvt/report_texts.cpp": "tests/kvt/text_report_test.cpp",
+    "src/ui/shell/handover_server.cpp": "tests/ui/shell/hand_over_test.cpp",
+    "src/ui/shell/handover_words.cpp": "tests/ui/shell/hand_over_test.cpp",
     "src/app/stages/porting_type.cpp": "tests/app/desk/enabling_chain_test.cpp",
     "src/app/stages/typed_entry.cpp": "tests/kvt/typed_entry_test.cpp",
     "src/app/desk/program_title.cpp": "tests/app/files/project_commands_test.cpp",

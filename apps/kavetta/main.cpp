@@ -6,6 +6,7 @@
 #include "core/failure_text.hpp"
 #include "ui/shell/application_style.hpp"
 #include "ui/shell/desktop.hpp"
+#include "ui/shell/hand_over.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
@@ -59,8 +60,16 @@ int main(int argc, char** argv) {
     if (!folder) {
         return 1;
     }
+    const std::string project = project_argument();
+    const QString place = kvt::handover_place(*folder);
+    std::optional<kvt::file_lock> turn = kvt::wait_for_handover_turn(place);
+    if (!project.empty() && kvt::hand_over(place, project)) {
+        return 0;
+    }
     kvt::desktop desktop(*folder);
+    desktop.take_projects(place);
+    turn.reset();
     // The end of the program raises no further close events.
     QObject::connect(&desktop.runner(), &kvt::command_runner::ended, [] { QApplication::exit(0); });
-    return desktop.show_splash(project_argument()) ? QApplication::exec() : 0;
+    return desktop.show_splash(project) ? QApplication::exec() : 0;
 }

@@ -268,7 +268,8 @@ def main(kavetta, control_places_tool, share):
     with tempfile.TemporaryDirectory() as home:
         folder = pathlib.Path(home) / "Kavetta"
         program = subprocess.Popen([kavetta], cwd=home, stderr=subprocess.PIPE, text=True,
-                                   env={**display.environment, "HOME": home, "KAVETTA_HOME": str(folder)})
+                                   env={**display.environment, "HOME": home, "KAVETTA_HOME": str(folder),
+                                        "XDG_RUNTIME_DIR": home})
         try:
             walk(display, program, places, folder)
             print("The road leads from start to exit.")

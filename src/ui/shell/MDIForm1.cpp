@@ -21,6 +21,7 @@
 #include "ui/shell/window_menu.hpp"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMdiArea>
@@ -172,6 +173,15 @@ void MDIForm1::bring_to_front(const QString& form) {
         }
         area_->setActiveSubWindow(child);
     }
+}
+
+void MDIForm1::come_to_front(const QByteArray& token) {
+    // Qt takes the token from there, once.
+    qputenv("XDG_ACTIVATION_TOKEN", token);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    QApplication::alert(this);
 }
 
 void MDIForm1::save_layout() {

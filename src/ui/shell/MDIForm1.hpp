@@ -31,6 +31,9 @@ class MDIForm1 : public QMainWindow {
     /// Builds one of the forms that are forgotten when they close, in the middle of the window, not
     /// shown yet. Throws run_time_error when its load fails.
     void load_child(std::string_view form);
+    /// Shows the main window before those of other programs. Where the desktop lets only the user
+    /// do that, and the token is not one for it, the task bar points to the window.
+    void come_to_front(const QByteArray& token);
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -3,11 +3,13 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/layout_commands.hpp"
 #include "app/desk/start_up.hpp"
+#include "app/files/project_commands.hpp"
 #include "app/models/built_in_modeller.hpp"
 #include "app/program.hpp"
 #include "automation/system_host.hpp"
 #include "views/charts/result_chart.hpp"
 
+#include <QApplication>
 #include <QLocale>
 
 namespace kvt {
@@ -60,6 +62,7 @@ bool desktop::show_splash(const std::string& path) {
     if (!load()) {
         return false;
     }
+    start_path_ = path;
     splash_ = std::make_unique<splashform>();
     QObject::connect(splash_.get(), &splashform::elapsed, splash_.get(), [this, path] {
         start(path);
@@ -83,8 +86,39 @@ bool desktop::start(const std::string& path) {
         return false;
     }
     window_.show_start(layout);
+    is_started_ = true;
     autosave_timer_.start(AUTOSAVE_INTERVAL_MS);
     return true;
+}
+
+void desktop::take_projects(const QString& place) {
+    handover_ = std::make_unique<handover_server>(
+        place, [this](const std::string& project) { return answer_to(project); });
+    QObject::connect(handover_.get(), &handover_server::handed_over, handover_.get(),
+                     [this](const std::string& project, const QByteArray& token) {
+                         open_handed(project, token);
+                     });
+}
+
+handover_answer desktop::answer_to(const std::string& project) const {
+    if (!is_started_) {
+        return answer_early_handover(start_path_, project);
+    }
+    const bool is_busy =
+        runner_.is_running() || runner_.has_ended() || QApplication::activeModalWidget() != nullptr;
+    return answer_handover(program_, project, is_busy);
+}
+
+void desktop::open_handed(const std::string& project, const QByteArray& token) {
+    if (!is_started_) {
+        return;  // the window is about to come
+    }
+    if (answer_to(project) == handover_answer::takes) {
+        runner_.act([&project](kvt::program& kavetta, user& person) {
+            open_project_file(kavetta, person, project);
+        });
+    }
+    window_.come_to_front(token);
 }
 
 /// A command that waits for an answer has its entries in the middle of a change.

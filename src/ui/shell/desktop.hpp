@@ -7,6 +7,7 @@
 #include "ui/shell/MDIForm1.hpp"
 #include "ui/shell/chart_windows.hpp"
 #include "ui/shell/command_runner.hpp"
+#include "ui/shell/handover_server.hpp"
 #include "ui/shell/qt_language.hpp"
 #include "ui/shell/qt_user.hpp"
 #include "ui/shell/splashform.hpp"
@@ -33,6 +34,10 @@ class desktop {
     /// when that was not done. False when the program ended meanwhile.
     bool start(const std::string& path = {});
 
+    /// From now on later starts of the program hand their projects over at this place: one that is
+    /// open here already, and one that can be opened without a loss.
+    void take_projects(const QString& place);
+
     kvt::program& program() { return program_; }
     command_runner& runner() { return runner_; }
     MDIForm1& window() { return window_; }
@@ -44,6 +49,8 @@ class desktop {
     void load_form(std::string_view form);
     bool load();
     void save_unsaved();
+    handover_answer answer_to(const std::string& project) const;
+    void open_handed(const std::string& project, const QByteArray& token);
 
     kvt::program program_;
     qt_user person_;
@@ -55,7 +62,10 @@ class desktop {
     chart_windows charts_;
     std::unique_ptr<splashform> splash_;
     QTimer autosave_timer_;
+    std::unique_ptr<handover_server> handover_;
+    std::string start_path_;
     bool is_loaded_ = false;
+    bool is_started_ = false;
 };
 
 }  // namespace kvt
