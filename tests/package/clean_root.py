@@ -6,6 +6,7 @@ import re
 import shutil
 import subprocess
 
+# Papers: their folders are enough.
 LEFT_OUT = re.compile(r"/usr/share/(?:doc|man|info|locale)/.")
 DATABASE = pathlib.Path("var/lib/dpkg")
 MERGED = ("bin", "sbin", "lib", "lib32", "lib64", "libx32")
@@ -67,7 +68,8 @@ class machine_packages:
 
     def files(self, names):
         listed = run("dpkg-query", "--listfiles", *sorted(names)).splitlines()
-        return [path for path in listed if path.startswith("/") and path != "/." and not LEFT_OUT.match(path)]
+        return [path for path in listed if path.startswith("/") and path != "/."
+                and (not LEFT_OUT.match(path) or pathlib.Path(path).is_dir())]
 
 
 class clean_root:

@@ -142,6 +142,12 @@ def libraries_of_solid_models_are_recommended_only(made, _):
     expect(f"recommended are {recommended}", any("occt-modeling" in name for name in recommended))
 
 
+def manual_pages_and_completions_are_there(made, _):
+    for path in ("man/man1/kavetta.1.gz", "man/man1/kvt.1.gz", "bash-completion/completions/kvt",
+                 "zsh/vendor-completions/_kvt", "fish/vendor_completions.d/kvt.fish"):
+        expect(f"{path} is missing", (made.content / "usr/share" / path).exists())
+
+
 def guide_icons_and_examples_are_there(made, _):
     share = made.content / "usr/share"
     expect("the guide is missing", (share / "Kavetta/KVT_V2021_Help_EN.pdf").stat().st_size > 100000)
@@ -241,6 +247,7 @@ def removal_leaves_nothing_but_the_folder_of_the_user(_, place):
 TESTS = (
     lintian_finds_nothing, metainfo_and_desktop_entry_are_valid, screenshots_of_the_metainfo_are_pictures_of_the_package,
     libraries_of_solid_models_are_recommended_only, guide_icons_and_examples_are_there,
+    manual_pages_and_completions_are_there,
     installs_with_nothing_but_what_it_needs, kvt_calculates_an_example, kvt_without_the_recommended_libraries_says_so,
     kvt_builds_a_solid_model_with_them, kavetta_opens_a_project_in_its_window, the_desktop_knows_the_file_type,
     xdg_open_opens_a_project_in_the_running_program, kavetta_ends_and_leaves_no_socket,
