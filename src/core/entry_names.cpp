@@ -1,0 +1,86 @@
+#include "core/entry_names.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace kvt {
+
+namespace {
+
+/// The controls whose captions say what an entry is; empty where nothing is to be said.
+struct entry_place {
+    std::string_view entry;
+    std::string_view label;
+    std::string_view group{};  ///< its caption comes before
+    std::string_view end{};    ///< which of two boxes beside the label: a row of "entry_names"
+};
+
+constexpr std::array PLACES = {
+    entry_place{"volumereqd", "Label13"},
+    entry_place{"numlobes", "Label7"},
+    entry_place{"ecc", "Label3"},
+    entry_place{"radouter", "Label5"},
+    entry_place{"radinnroot", "Label10"},
+    entry_place{"clearn", "Label4"},
+    entry_place{"thick", "Label8"},
+    entry_place{"shaftdiameter", "Label2"},
+    entry_place{"minmaterial", "Label12"},
+    entry_place{"maxdiameter", "Label9"},
+    entry_place{"axial_clear", "Label15"},
+    entry_place{"radial_clear", "Label21"},
+    entry_place{"fillet", "Label6"},
+    entry_place{"outer_root", "Label20"},
+    entry_place{"coarseness", "Label1"},
+    entry_place{"inlet_start_inner", "Label2", "Frame2"},
+    entry_place{"inlet_start_outer", "Label3", "Frame2"},
+    entry_place{"inlet_end_inner", "Label4", "Frame2"},
+    entry_place{"inlet_end_outer", "Label5", "Frame2"},
+    entry_place{"inlet_inner_radius", "Label15", "Frame2"},
+    entry_place{"inlet_outer_radius", "Label14", "Frame2"},
+    entry_place{"outlet_start_inner", "Label9", "Frame3"},
+    entry_place{"outlet_start_outer", "Label8", "Frame3"},
+    entry_place{"outlet_end_inner", "Label7", "Frame3"},
+    entry_place{"outlet_end_outer", "Label6", "Frame3"},
+    entry_place{"Outlet_inner_radius", "Label13", "Frame3"},
+    entry_place{"Outlet_outer_radius", "Label16", "Frame3"},
+    entry_place{"port_radii", "Label1"},
+    entry_place{"groove_length", "Label10", "metering_groove"},
+    entry_place{"groove_width", "Label11", "metering_groove"},
+    entry_place{"groove_depth", "Label12", "metering_groove"},
+    entry_place{"fluid_density", "Label3"},
+    entry_place{"kin_visc", "Label1"},
+    entry_place{"vap_press", "Label2"},
+    entry_place{"bulk_mod_text", "Label4"},
+    entry_place{"speed_lo", "Label6", {}, "low_end"},
+    entry_place{"speed_hi", "Label6", {}, "high_end"},
+    entry_place{"pressure_lo", "Label7", {}, "low_end"},
+    entry_place{"pressure_hi", "Label7", {}, "high_end"},
+    entry_place{"young_inner", "Label10", {}, "inner_end"},
+    entry_place{"young_outer", "Label10", {}, "outer_end"},
+    entry_place{"poissons_inner", "Label11", {}, "inner_end"},
+    entry_place{"poissons_outer", "Label11", {}, "outer_end"},
+    entry_place{"friction", "Label14"},
+    entry_place{"Face_area_value", "Face_area_label"},
+    entry_place{"OD_area_value", "OD_area_label"},
+    entry_place{"UTS_value", "UTS_label"},
+    entry_place{"rotated_angle", "rotate_label"},
+};
+
+}  // namespace
+
+std::string entry_name(const entry_field& entry, const captions& shown) {
+    const auto place = std::ranges::find(PLACES, entry.name, &entry_place::entry);
+    if (place == PLACES.end()) {
+        return std::string(shown.of(entry.form, entry.name));
+    }
+    std::string name(shown.of(entry.form, place->label));
+    if (!place->group.empty()) {
+        name = std::string(shown.of(entry.form, place->group)) + ": " + name;
+    }
+    if (!place->end.empty()) {
+        name += ", " + std::string(shown.of("entry_names", place->end));
+    }
+    return name;
+}
+
+}  // namespace kvt

@@ -1,0 +1,47 @@
+// Tests of what the entries are called outside their forms.
+#include "core/entry_names.hpp"
+
+#include "core/text_table.hpp"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace kvt {
+namespace {
+
+std::string name_of(std::string_view entry) {
+    return entry_name(*find_entry(entry), captions());
+}
+
+TEST(entry_name, is_the_caption_beside_the_box) {
+    EXPECT_EQ(name_of("ecc"), "Eccentricity");
+    EXPECT_EQ(name_of("maxdiameter"), "Maximum Outer Rotor Diameter");
+    EXPECT_EQ(name_of("shadow_ports"), "Shadow Ports");
+    EXPECT_EQ(name_of("flow_checkbox"), "Flow");
+}
+
+TEST(entry_name, says_the_group_and_which_of_two_boxes) {
+    EXPECT_EQ(name_of("inlet_start_inner"), "Inlet Port: Start Angle Inner Radius");
+    EXPECT_EQ(name_of("Outlet_outer_radius"), "Outlet Port: Outer Radius");
+    EXPECT_EQ(name_of("groove_width"), "Metering Groove: Width (mm)");
+    EXPECT_EQ(name_of("speed_hi"), "Speed Range (RPM), high");
+    EXPECT_EQ(name_of("young_inner"), "Youngs Mod (GPa), inner");
+}
+
+TEST(entry_name, is_another_for_every_entry) {
+    std::set<std::string> names;
+    for (const entry_field& field : entry_fields()) {
+        const std::string name = entry_name(field, captions());
+        EXPECT_FALSE(name.empty()) << field.name;
+        EXPECT_TRUE(names.insert(name).second) << name;
+    }
+}
+
+TEST(entry_name, follows_the_captions) {
+    captions shown;
+    shown.set(*find_text(text_kind::caption, "Form1", "Label3"), 2);
+    EXPECT_EQ(entry_name(*find_entry("ecc"), shown), "Exzentrizität");
+}
+
+}  // namespace
+}  // namespace kvt
