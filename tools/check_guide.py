@@ -9,7 +9,7 @@ import re
 import sys
 
 FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "exact_figures", "model_view",
-         "viewwinfrm", "MDIForm1",
+         "history", "viewwinfrm", "MDIForm1",
          "Form2", "Form3", "Form4", "graphpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
@@ -23,6 +23,15 @@ WITHOUT_PAGE = {
     ("model_view", "save_filter"): "the types of a file dialog",
     ("model_view", "picture_title"): "the title of a file dialog",
     ("model_view", "picture_filter"): "the types of a file dialog",
+    ("history", "start_step"): "a word of a step's name",
+    ("history", "project_step"): "a word of a step's name",
+    ("history", "units_step"): "a word of a step's name",
+    ("history", "language_step"): "a word of a step's name",
+    ("history", "tick_on"): "a word of a step's name",
+    ("history", "tick_off"): "a word of a step's name",
+    ("history", "empty_text"): "a word of a step's name",
+    ("history", "and_more"): "a word of a step's name",
+    ("history", "more_entries"): "a word of a step's name",
     ("graphpopupmenu", "title"): "the title of a file dialog",
     ("graphpopupmenu", "filter"): "the types of a file dialog",
 }

@@ -32,6 +32,7 @@
 namespace kvt {
 
 class built_in_modeller;
+struct text_row;
 
 struct program {
     kvt::design_params design_params;
@@ -59,6 +60,10 @@ struct program {
     bool performance_valid = false;
     /// perf_res is loaded since the run, so its labels hold what they show.
     bool results_shown = false;
+
+    /// The caption of the button whose command has changed many entries at once, which names the
+    /// step in the history; null otherwise.
+    const text_row* step_caption = nullptr;
 
     /// What the command that ran last noticed; empty at the start of a command.
     std::vector<hint> hints;

@@ -69,6 +69,7 @@ bool drops_fluid_and_material(program& kavetta, user& person) {
 }  // namespace
 
 void clear_design(program& kavetta, user& person) {
+    kavetta.step_caption = find_caption("Form1", "cleardesign");
     set_unit_labels(kavetta, length_unit_of(MILLIMETRES));
     for (const default_text& row : ROTOR_DEFAULTS) {
         kavetta.entries.*row.member = row.text;

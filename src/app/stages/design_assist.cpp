@@ -72,6 +72,7 @@ assist_end design_assist(program& kavetta, user& person) {
     }
     find_lobes(kavetta);
     clear_ports(kavetta, person);
+    kavetta.step_caption = find_caption("Form1", "designer");
     kavetta.app_state.profiles_calculated = 0;
     apply_chain(kavetta.enabling, chain_event::assist_succeeded);
     person.set_busy(false);

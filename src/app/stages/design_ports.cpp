@@ -189,6 +189,7 @@ void design_ports_again(program& kavetta, user& person) {
 }
 
 void clear_ports(program& kavetta, user&) {
+    kavetta.step_caption = find_caption("portdes", "clear_ports");
     for (const box entry : TEXT_ENTRIES) {
         (kavetta.entries.*entry).clear();
     }

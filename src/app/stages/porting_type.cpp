@@ -19,14 +19,16 @@ void apply_shadow_rule(program& kavetta) {
     }
 }
 
-void porting_type_clicked(program& kavetta) {
-    apply_chain(kavetta.enabling, chain_event::porting_type_changed);
-
+void open_groove_entries(program& kavetta) {
     const bool groove = has_metering_groove(kavetta);
     kavetta.enabling.groove_length = groove;
     kavetta.enabling.groove_width = groove;
     kavetta.enabling.groove_depth = groove;
+}
 
+void porting_type_clicked(program& kavetta) {
+    apply_chain(kavetta.enabling, chain_event::porting_type_changed);
+    open_groove_entries(kavetta);
     apply_shadow_rule(kavetta);
 }
 

@@ -16,6 +16,9 @@ bool has_metering_groove(const program& kavetta);
 /// it.
 void apply_shadow_rule(program& kavetta);
 
+/// The groove entries can be used while metering_groove is ticked.
+void open_groove_entries(program& kavetta);
+
 /// The click on inlet_double_sided, outlet_double_sided, shadow_ports or metering_groove, after the
 /// box changed: performance must be calculated anew; both double-sided boxes together untick and
 /// disable shadow_ports; metering_groove decides whether the groove entries can be used.

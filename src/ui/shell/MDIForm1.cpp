@@ -13,6 +13,7 @@
 #include "ui/forms/viewwinfrm.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/parts/ink.hpp"
+#include "ui/shell/edit_menu.hpp"
 #include "ui/shell/form_factory.hpp"
 #include "ui/shell/loaded_form.hpp"
 #include "ui/shell/present_layout.hpp"
@@ -53,6 +54,7 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     colour_background();
     setAcceptDrops(true);
     menu_ = new main_menu(context, *this);
+    edits_ = new edit_menu(context, *this);
     windows_ = new window_menu(context, *this);
     statusBar()->setObjectName("status_bar");
     hints_ = new status_hints(context.kavetta, *statusBar());
@@ -84,6 +86,8 @@ void MDIForm1::connect_commands() {
     });
     connect(&context_.runner, &command_runner::finished, this, &MDIForm1::refresh);
     connect(&context_.runner, &command_runner::edited, hints_, &status_hints::refresh);
+    connect(&context_.runner, &command_runner::edited, edits_, &edit_menu::refresh);
+    connect(edits_, &edit_menu::history_asked, this, [this] { bring_to_front("history"); });
 }
 
 void MDIForm1::add_form(mdi_form* form, bool is_shown) {
@@ -110,6 +114,7 @@ void MDIForm1::refresh() {
     update_exact_record(context_.kavetta);
     setWindowTitle(qt_text(context_.kavetta.labels.title));
     menu_->refresh();
+    edits_->refresh();
     windows_->refresh();
     hints_->refresh();
     forms_.removeAll(nullptr);

@@ -13,6 +13,7 @@ class QMdiArea;
 namespace kvt {
 
 struct form_row;
+class edit_menu;
 class mdi_form;
 class status_hints;
 class window_menu;
@@ -63,6 +64,7 @@ class MDIForm1 : public QMainWindow {
     form_context context_;
     QMdiArea* area_;
     main_menu* menu_;
+    edit_menu* edits_;
     window_menu* windows_;
     status_hints* hints_;
     bool is_first_layout_ = false;     ///< of the first start, which follows the size of the window

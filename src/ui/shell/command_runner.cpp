@@ -2,6 +2,7 @@
 
 #include "app/desk/command_hints.hpp"
 #include "app/desk/run_command.hpp"
+#include "app/program.hpp"
 #include "app/stages/entry_handlers.hpp"
 
 #include <QMetaObject>
@@ -47,8 +48,55 @@ void command_runner::leave(const std::string& name) {
 }
 
 bool command_runner::run_left_entry() {
-    return left_entry_.empty() || running_ ||
-           run_with(std::exchange(left_entry_, {}), [](program&, user&) { return false; });
+    if (left_entry_.empty() || running_) {
+        return true;
+    }
+    runs_left_entry_ = true;
+    const bool is_done =
+        run_with(std::exchange(left_entry_, {}), [](program&, user&) { return false; });
+    runs_left_entry_ = false;
+    return is_done;
+}
+
+void command_runner::note_edit() {
+    if (history_.has_begun()) {
+        history_.note_typing(present_state());
+    }
+    emit edited();
+}
+
+void command_runner::begin_history() {
+    history_.begin(edited_state_of(program_, nullptr));
+    emit finished();
+}
+
+edited_state command_runner::present_state() const {
+    return edited_state_of(program_, &history_.present());
+}
+
+void command_runner::note_command() {
+    const text_row* caption = std::exchange(program_.step_caption, nullptr);
+    if (!history_.has_begun()) {
+        return;
+    }
+    if (runs_left_entry_) {
+        history_.note_left_entry(present_state());
+    } else {
+        history_.note_command(present_state(), caption);
+    }
+}
+
+void command_runner::go_to_step(std::size_t step) {
+    if (running_ || ended_ || step >= history_.size() || step == history_.position()) {
+        return;
+    }
+    emit starting();
+    left_entry_.clear();
+    run_with({}, [&](program& kavetta, user& person) {
+        restore_edited_state(kavetta, person, history_.step(step).state);
+        history_.move_to(step);
+        return false;
+    });
 }
 
 bool command_runner::run_with(const std::string& entry, const command& action) {
@@ -64,6 +112,7 @@ bool command_runner::run_with(const std::string& entry, const command& action) {
         return ends;
     });
     running_ = false;
+    note_command();
     emit finished();
     if (ended_) {
         emit ended();

@@ -2,6 +2,8 @@
 // use, then the command, then every form is refreshed.
 #pragma once
 
+#include "app/history/edit_history.hpp"
+
 #include <QObject>
 
 #include <functional>
@@ -34,7 +36,14 @@ class command_runner : public QObject {
     bool step(const std::function<void(program&)>& action);
 
     /// An entry was edited: who follows the typing shows its state anew.
-    void note_edit() { emit edited(); }
+    void note_edit();
+
+    /// The steps that can be undone; none before begin_history.
+    const edit_history& history() const { return history_; }
+    /// What is typed and chosen from now on can be undone.
+    void begin_history();
+    /// Goes back or forward to what stood behind a step of the history. No entry is left for it.
+    void go_to_step(std::size_t step);
 
     bool is_running() const { return running_; }
     bool has_ended() const { return ended_; }
@@ -64,6 +73,8 @@ class command_runner : public QObject {
     /// False when the handler failed: then nothing follows it.
     bool run_left_entry();
     bool run_with(const std::string& entry, const command& action);
+    edited_state present_state() const;
+    void note_command();
 
     program& program_;
     user& person_;
@@ -71,6 +82,8 @@ class command_runner : public QObject {
     bool ended_ = false;
     std::string entry_in_use_;
     std::string left_entry_;
+    bool runs_left_entry_ = false;
+    edit_history history_;
 };
 
 }  // namespace kvt

@@ -85,6 +85,7 @@ bool desktop::start(const std::string& path) {
     if (runner_.has_ended()) {
         return false;
     }
+    runner_.begin_history();
     window_.show_start(layout);
     is_started_ = true;
     autosave_timer_.start(AUTOSAVE_INTERVAL_MS);

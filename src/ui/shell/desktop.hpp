@@ -3,6 +3,7 @@
 
 #include "app/program.hpp"
 #include "ui/parts/entry_focus.hpp"
+#include "ui/parts/entry_undo_keys.hpp"
 #include "ui/parts/quiet_wheel.hpp"
 #include "ui/shell/MDIForm1.hpp"
 #include "ui/shell/chart_windows.hpp"
@@ -56,6 +57,7 @@ class desktop {
     qt_user person_;
     command_runner runner_;
     entry_focus entry_focus_;
+    entry_undo_keys entry_undo_keys_;
     quiet_wheel quiet_wheel_;
     qt_language qt_language_;
     MDIForm1 window_;

@@ -4,6 +4,7 @@
 #include "ui/forms/Perffrm.hpp"
 #include "ui/forms/exact_figures.hpp"
 #include "ui/forms/explain.hpp"
+#include "ui/forms/history.hpp"
 #include "ui/forms/model_view.hpp"
 #include "ui/forms/perf_res.hpp"
 #include "ui/forms/portdes.hpp"
@@ -40,6 +41,7 @@ constexpr std::array FORM_MAKERS = {
     form_maker{"result_tables", made<result_tables>},
     form_maker{"exact_figures", made<exact_figures>},
     form_maker{"model_view", made<model_view>},
+    form_maker{"history", made<history>},
 };
 
 }  // namespace

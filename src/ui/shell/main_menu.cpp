@@ -58,6 +58,8 @@ void main_menu::add_row(const menu_row& row, QMainWindow& window) {
     QMenu& menu = *menus_[qt_text(row.menu)];
     if (row.kind == menu_kind::separator) {
         menu.addSeparator()->setObjectName(name);
+    } else if (row.kind == menu_kind::step) {
+        menu.addAction(QString())->setObjectName(name);
     } else if (row.kind == menu_kind::recent_entries) {
         add_recent_entries(row, menu);
     } else if (row.kind == menu_kind::files) {

@@ -57,6 +57,11 @@ const std::array MENU_ROWS = {
     menu_row{"sep", "mnufile", menu_kind::separator},
     menu_row{"mnufileprev", "mnufile", menu_kind::recent_entries},
 
+    menu_row{"mnuedit", "", MENU},
+    menu_row{"mnueditundo", "mnuedit", menu_kind::step},
+    menu_row{"mnueditredo", "mnuedit", menu_kind::step},
+    menu_row{"mnuedithistory", "mnuedit"},
+
     menu_row{"mnumodel", "", MENU},
     menu_row{"mnumodelpackage", "mnumodel", ENTRY, false, NO_KEY,
              going_on<choose_modelling_package>},

@@ -10,8 +10,8 @@
 namespace kvt {
 
 /// menu: of the menu bar, or within a menu. files: an entry for each file of a group, under the
-/// name of its control.
-enum class menu_kind { menu, entry, separator, recent_entries, files };
+/// name of its control. step: an entry that the history names and enables.
+enum class menu_kind { menu, entry, separator, recent_entries, files, step };
 
 struct menu_row {
     std::string_view name = "";
