@@ -57,6 +57,7 @@ consteval auto form_rows() {
 #include "core/texts/result_tables.inc"
 #include "core/texts/select_graphs.inc"
 #include "core/texts/sheet.inc"
+#include "core/texts/spoken.inc"
 #include "core/texts/step.inc"
 #include "core/texts/viewwinfrm.inc"
     });
@@ -74,7 +75,8 @@ consteval auto all_rows() {
 constexpr auto ROWS = all_rows();
 
 constexpr bool is_caption(const text_row& row) {
-    return row.kind != text_kind::message && row.kind != text_kind::tooltip;
+    return row.kind != text_kind::message && row.kind != text_kind::tooltip &&
+           row.kind != text_kind::spoken;
 }
 
 constexpr auto control_of(const text_row& row) {

@@ -19,7 +19,8 @@ enum class text_kind {
     caption_mm,      ///< set by the millimetre label routine
     caption_inch,    ///< set by the inch label routine
     fixed_caption,   ///< a caption that no routine changes
-    tooltip          ///< explains a field with its unit
+    tooltip,         ///< explains a field with its unit
+    spoken           ///< what a screen reader calls a control that has no caption beside it
 };
 
 /// Whether a row must have a German text of its own.
@@ -60,7 +61,7 @@ std::span<const text_row* const> caption_rows();
 std::optional<std::size_t> caption_index(std::string_view form, std::string_view name);
 
 /// The row of a control, or nullptr. The first kind that exists in the order of text_kind, tooltips
-/// excluded.
+/// and spoken names excluded.
 const text_row* find_caption(std::string_view form, std::string_view name);
 const text_row* find_text(text_kind kind, std::string_view form, std::string_view name);
 

@@ -23,6 +23,8 @@ std::string kind_name(text_kind kind) {
             return "caption_inch";
         case text_kind::fixed_caption:
             return "fixed_caption";
+        case text_kind::spoken:
+            return "spoken";
         case text_kind::tooltip:
             break;
     }

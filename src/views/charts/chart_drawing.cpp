@@ -331,13 +331,15 @@ point2 place_of(const result_chart& chart, const chart_drawing& drawing,
     return place_on(axes_of(chart, drawing), chart, chart.curves[reading.curve], reading.point);
 }
 
+std::string value_text(const result_chart& chart, double value) {
+    const double step = mark_step((chart.maximum - chart.minimum) * chart.y_times);
+    return with_unit(rounded_text(value * chart.y_times, mark_decimals(step)), chart.y_unit);
+}
+
 std::string reading_text(const result_chart& chart, const chart_reading& reading) {
     const chart_curve& curve = chart.curves[reading.curve];
-    const double step = mark_step((chart.maximum - chart.minimum) * chart.y_times);
-    const std::string value =
-        rounded_text(curve.values[reading.point] * chart.y_times, mark_decimals(step));
     return curve.name + ", " + with_unit(number_text(chart.x_values[reading.point]), chart.x_unit) +
-           ": " + with_unit(value, chart.y_unit);
+           ": " + value_text(chart, curve.values[reading.point]);
 }
 
 point2 kept_inside(const chart_drawing& drawing, point2 corner, const chart_size& size) {

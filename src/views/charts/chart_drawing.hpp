@@ -102,6 +102,9 @@ std::optional<chart_reading> nearest_reading(const result_chart& chart,
 point2 place_of(const result_chart& chart, const chart_drawing& drawing,
                 const chart_reading& reading);
 
+/// "41.2 Lit/min": a value of a curve with the decimals that tell the marks of the y axis apart.
+std::string value_text(const result_chart& chart, double value);
+
 /// "1600 rpm, 3.6 bar: 41.2 Lit/min"
 std::string reading_text(const result_chart& chart, const chart_reading& reading);
 
