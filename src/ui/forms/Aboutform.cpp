@@ -36,6 +36,7 @@ Aboutform::Aboutform(const program& kavetta, QWidget* parent)
     layout->setColumnMinimumWidth(1, 170);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     show_texts();
+    picture->setAccessibleName(qt_text(PROGRAM_NAME));
     picture->setPixmap(program_icon().pixmap(64, 64));
     name->setText(qt_text(PROGRAM_NAME));
     setWindowTitle(windowTitle() + qt_text(MAJOR_VERSION));

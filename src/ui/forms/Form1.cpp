@@ -6,6 +6,7 @@
 #include "app/stages/calculate_profiles.hpp"
 #include "core/capacity_unit.hpp"
 #include "ui/forms/assist_area.hpp"
+#include "ui/parts/accessible_role.hpp"
 #include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/language_flag.hpp"
@@ -165,6 +166,7 @@ void Form1::add_buttons(QVBoxLayout& layout) {
 
 void Form1::add_results(QVBoxLayout& layout) {
     auto* card = new QFrame;
+    set_accessible_role(*card, QAccessible::Grouping);
     card->setFrameShape(QFrame::StyledPanel);
     card->setBackgroundRole(QPalette::Base);
     card->setAutoFillBackground(true);
@@ -175,8 +177,11 @@ void Form1::add_results(QVBoxLayout& layout) {
     grid->setColumnStretch(0, 1);
     const auto add = [&](const char* label, const char* output) {
         const int row = grid->rowCount();
-        grid->addWidget(named_label(label), row, 0);
-        grid->addWidget(result_label(output), row, 1);
+        QLabel* caption = named_label(label);
+        QLabel* result = result_label(output);
+        caption->setBuddy(result);
+        grid->addWidget(caption, row, 0);
+        grid->addWidget(result, row, 1);
         if (has_exact_value("Form1", output)) {
             grid->addWidget(new differing_sign("Form1", output, context_), row, 3);
         }

@@ -1,7 +1,9 @@
 #include "ui/forms/Form2.hpp"
 
+#include "app/desk/program_title.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/parts/form_parts.hpp"
+#include "ui/shell/qt_text.hpp"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -50,6 +52,7 @@ Form2::Form2(const program& kavetta, QWidget* parent) : dialog_form("Form2", kav
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     show_texts();
+    picture->setAccessibleName(qt_text(PROGRAM_NAME));
     picture->setPixmap(program_icon().pixmap(PICTURE_SIZE, PICTURE_SIZE));
 }
 

@@ -51,6 +51,9 @@ void GT_form::show_screen() {
     const std::string name = "GT_screen_" + std::to_string(gt_guide_screen_) + ".jpg";
     const QPixmap picture = picture_of_file(kavetta_.folder / name);
     picture_->setPixmap(picture.scaledToWidth(WIDTH, Qt::SmoothTransformation));
+    picture_->setAccessibleName(
+        qt_text(form_text("spoken", "gt_guide", kavetta_.app_state.language)) +
+        QString::number(gt_guide_screen_));
     if (gt_guide_screen_ == LAST_SCREEN) {
         next_->setText(
             qt_text(form_text("GT_form", "cmd_next_close", kavetta_.app_state.language)));

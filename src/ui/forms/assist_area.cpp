@@ -2,6 +2,7 @@
 
 #include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
+#include "ui/parts/accessible_role.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -22,6 +23,7 @@ constexpr QColor ASSIST_GREEN(0, 255, 0);
 /// A bar that keeps its room while it is hidden, so that nothing moves when the assist is switched.
 QFrame* frame_line(const char* name) {
     auto* line = new QFrame;
+    set_accessible_role(*line, QAccessible::Separator);
     line->setObjectName(name);
     line->setAutoFillBackground(true);
     line->setMinimumSize(FRAME_LINE, FRAME_LINE);
@@ -61,6 +63,7 @@ assist_area::assist_area(form_context context, QLayout* requirement)
 
 void assist_area::add_ground(QLayout* requirement) {
     ground_->setObjectName("Des_assist_bkgnd");
+    set_accessible_role(*ground_, QAccessible::Grouping);
     ground_->setAutoFillBackground(true);
     check_->setCheckable(true);
     QSizePolicy keeps_room = designer_->sizePolicy();

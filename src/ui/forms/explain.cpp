@@ -1,6 +1,10 @@
 #include "ui/forms/explain.hpp"
 
+#include "app/program.hpp"
+#include "core/text_table.hpp"
+#include "ui/parts/accessible_role.hpp"
 #include "ui/parts/picture_file.hpp"
+#include "ui/shell/qt_text.hpp"
 
 #include <QPainter>
 #include <QPixmap>
@@ -17,6 +21,7 @@ class picture_sheet : public QWidget {
   public:
     explicit picture_sheet(QPixmap picture) : picture_(std::move(picture)) {
         setObjectName("Image1");
+        set_accessible_role(*this, QAccessible::Graphic);
     }
 
     QSize sizeHint() const override {
@@ -46,6 +51,17 @@ explanation_form::explanation_form(explanation_window window, form_context conte
     : loaded_form(form_of(window).data(), context), window_(window) {
     auto* sheet = new picture_sheet(picture_of_file(load_explanation(context.kavetta, window)));
     bind(sheet, false);
+}
+
+/// The picture is in the language of its load, what is said of it in that of the captions.
+void explanation_form::refresh() {
+    loaded_form::refresh();
+    const char* text =
+        window_ == explanation_window::gerotor ? "rotors_explained" : "ports_explained";
+    auto* sheet = findChild<QWidget*>("Image1");
+    sheet->setAccessibleName(windowTitle());
+    sheet->setAccessibleDescription(
+        qt_text(form_text("spoken", text, context_.kavetta.app_state.language)));
 }
 
 void explanation_form::unload() {

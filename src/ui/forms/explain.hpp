@@ -11,6 +11,9 @@ namespace kvt {
 class explanation_form : public loaded_form {
     Q_OBJECT
 
+  public:
+    void refresh() override;
+
   protected:
     explanation_form(explanation_window window, form_context context);
 

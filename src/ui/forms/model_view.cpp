@@ -4,6 +4,7 @@
 #include "app/program.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
+#include "ui/parts/accessible_names.hpp"
 #include "ui/parts/body_tree.hpp"
 #include "ui/parts/chart_export.hpp"
 #include "ui/parts/entry_validator.hpp"
@@ -194,7 +195,7 @@ QWidget* model_view::housing_controls() {
             context_.person.show_status(
                 message_text(message::number_refused, context_.kavetta.app_state.language));
         });
-        auto* unit = new QLabel;
+        QLabel* unit = named_label(qPrintable(QString(name) + "_unit"));
         const int row = layout->rowCount();
         layout->addWidget(label_of(qPrintable(QString(name) + "_label"), box), row, 0);
         layout->addWidget(box, row, 1);
@@ -263,8 +264,7 @@ void model_view::refresh() {
     const program& kavetta = context_.kavetta;
     const bool is_new = bodies_->show_documents(built_documents(kavetta));
     show_length_unit(kavetta.app_state, units_);
-    canvas_->setAccessibleName(windowTitle());
-    bodies_->setAccessibleName(caption_of(kavetta, "model_view", "bodies_label").remove('&'));
+    set_accessible_name(*canvas_, windowTitle());
     close_->setEnabled(bodies_->topLevelItemCount() > 0);
     show_housing();
     shown_ = bodies_->ticked_bodies();
@@ -365,6 +365,8 @@ void model_view::follow_design_view() {
 void model_view::show_status() {
     const std::vector<model_body> chosen = bodies_->chosen_bodies();
     status_->setText(qt_text(bodies_line(context_.kavetta, chosen.empty() ? shown_ : chosen)));
+    const QString shown = qt_text(bodies_line(context_.kavetta, shown_));
+    set_accessible_description(*canvas_, QStringList({shown, canvas_->toolTip()}).join("\n"));
 }
 
 void model_view::fit() {

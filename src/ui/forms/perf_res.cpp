@@ -31,19 +31,21 @@ class result_grid {
     /// A result in the row of its caption.
     void add(const char* caption, const char* result) {
         const int row = grid_->rowCount();
-        grid_->addWidget(named_label(caption), row, 0);
-        grid_->addWidget(compact_result(result), row, 1);
+        QLabel* shown = compact_result(result);
+        grid_->addWidget(caption_of_result(caption, *shown), row, 0);
+        grid_->addWidget(shown, row, 1);
     }
     /// A result below its caption, which is long.
     void add_below(const char* caption, const char* result) {
-        grid_->addWidget(wrapped(named_label(caption)), grid_->rowCount(), 0, 1, 2);
+        QLabel* shown = compact_result(result);
+        grid_->addWidget(wrapped(caption_of_result(caption, *shown)), grid_->rowCount(), 0, 1, 2);
         const int row = grid_->rowCount();
         if (has_exact_value("perf_res", result)) {
-            grid_->addWidget(compact_result(result), row, 1);
+            grid_->addWidget(shown, row, 1);
             grid_->addWidget(new differing_sign("perf_res", result, context_), row, 0,
                              Qt::AlignRight);
         } else {
-            grid_->addWidget(compact_result(result), row, 0, 1, 2);
+            grid_->addWidget(shown, row, 0, 1, 2);
         }
     }
     /// A result that is a whole sentence.
@@ -63,6 +65,11 @@ class result_grid {
         font.setBold(true);
         label->setFont(font);
         return label;
+    }
+    static QLabel* caption_of_result(const char* name, QLabel& result) {
+        QLabel* caption = named_label(name);
+        caption->setBuddy(&result);
+        return caption;
     }
     static QLabel* wrapped(QLabel* label) {
         label->setWordWrap(true);

@@ -43,6 +43,7 @@ void progressfrm::show_progress(const QString& text, int percent) {
         setWindowTitle(text);
         label2_->setText(text);
     }
+    bar_->setAccessibleName(label2_->text());
     label1_->setText(QString::number(percent) + "%");
     bar_->setValue(percent);
     show();

@@ -3,9 +3,12 @@
 #include "app/program.hpp"
 #include "app/windows/cursor_text.hpp"
 #include "app/windows/view_commands.hpp"
+#include "core/length_unit.hpp"
+#include "ui/parts/accessible_names.hpp"
 #include "ui/parts/design_picture.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/shell/qt_text.hpp"
+#include "views/design_view_text.hpp"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -30,7 +33,25 @@ int pixels(double twips) {
 
 }  // namespace
 
+hold_button::hold_button() {
+    connect(this, &QToolButton::clicked, this, [this] {
+        if (!is_under_mouse_button_) {
+            emit stepped();
+        }
+    });
+}
+
+void hold_button::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+        event->key() == Qt::Key_Enter) {
+        emit stepped();
+    } else {
+        QToolButton::keyPressEvent(event);
+    }
+}
+
 void hold_button::mousePressEvent(QMouseEvent* event) {
+    is_under_mouse_button_ = true;
     QToolButton::mousePressEvent(event);
     if (event->button() == Qt::LeftButton) {
         emit held();
@@ -39,6 +60,7 @@ void hold_button::mousePressEvent(QMouseEvent* event) {
 
 void hold_button::mouseReleaseEvent(QMouseEvent* event) {
     QToolButton::mouseReleaseEvent(event);
+    is_under_mouse_button_ = false;
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
         emit let_go();
     }
@@ -103,6 +125,7 @@ hold_button* viewwinfrm::rotate_button(const char* name, const QIcon& icon, turn
     connect(button, &hold_button::held, timer, qOverload<>(&QTimer::start));
     connect(button, &hold_button::let_go, timer, &QTimer::stop);
     connect(timer, &QTimer::timeout, this, [this, direction] { turn(direction); });
+    connect(button, &hold_button::stepped, this, [this, direction] { turn(direction); });
     return button;
 }
 
@@ -140,6 +163,20 @@ void viewwinfrm::turn(turning direction) {
 void viewwinfrm::show_turned() {
     angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
     picture_->show_rotors(context_.kavetta.design_view);
+    describe_picture();
+}
+
+void viewwinfrm::name_controls() {
+    mdi_form::name_controls();
+    describe_picture();
+}
+
+void viewwinfrm::describe_picture() {
+    const program& kavetta = context_.kavetta;
+    const QString shown =
+        qt_text(design_view_text(kavetta.design_params, kavetta.view_state, kavetta.design_view,
+                                 length_unit_of(kavetta.app_state), kavetta.app_state.language));
+    set_accessible_description(*picture_, shown + "\n" + picture_->toolTip());
 }
 
 void viewwinfrm::stop_turning() {

@@ -14,22 +14,28 @@ namespace kvt {
 class design_picture;
 
 /// A button that acts as long as it is held: it says when the left mouse button goes down on it and
-/// when it goes up on it.
+/// when it goes up on it. Without the mouse each press is one step.
 /// Kept: a mouse-up elsewhere says nothing, so what was started goes on until the next mouse-up on
 /// the button; viewwinfrm_test holds it.
 class hold_button : public QToolButton {
     Q_OBJECT
 
   public:
-    using QToolButton::QToolButton;
+    hold_button();
 
   signals:
     void held();
     void let_go();
+    /// Space or Enter goes down, or a program that helps to read the screen presses the button.
+    void stepped();
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    bool is_under_mouse_button_ = false;
 };
 
 class viewwinfrm : public mdi_form {
@@ -48,6 +54,8 @@ class viewwinfrm : public mdi_form {
     /// The pair and its angle anew after a turn that another window has made.
     void show_turned();
 
+    void name_controls() override;
+
   signals:
     /// Where the mouse is in the design, as a text; empty when it is not over a drawing.
     void cursor_moved(const QString& place);
@@ -63,6 +71,7 @@ class viewwinfrm : public mdi_form {
     void move_band(double x, double y);
     void turn(turning direction);
     void stop_turning();
+    void describe_picture();
     void place_controls(int side);
 
     QWidget* content_;

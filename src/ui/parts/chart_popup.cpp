@@ -1,6 +1,7 @@
 #include "ui/parts/chart_popup.hpp"
 
 #include "core/text_table.hpp"
+#include "ui/shell/access_keys.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QAction>
@@ -29,6 +30,7 @@ chart_popup::chart_popup(std::int16_t language, QWidget* chart, Qt::ShortcutCont
             &chart_popup::refresh_save);
     connect(this, &QMenu::aboutToShow, this, &chart_popup::refresh_save);
     refresh_save();
+    give_access_keys(*this);
 }
 
 void chart_popup::add(const char* name, const QKeySequence& keys, request asked,

@@ -5,11 +5,14 @@
 #include "app/program.hpp"
 #include "app/windows/result_charts.hpp"
 #include "core/user.hpp"
+#include "ui/parts/accessible_names.hpp"
+#include "ui/parts/accessible_role.hpp"
 #include "ui/parts/chart_popup.hpp"
 #include "ui/parts/chart_printing.hpp"
 #include "ui/parts/legend_frame.hpp"
 #include "ui/parts/reading_keys.hpp"
 #include "ui/shell/qt_text.hpp"
+#include "views/charts/chart_text.hpp"
 
 #include <QClipboard>
 #include <QCursor>
@@ -35,13 +38,6 @@ double twips(double pixels) {
     return pixels * TWIPS_PER_PIXEL;
 }
 
-/// "Delivery Pressure (bar): 1 – 5"
-QString range_text(const QString& name, const std::vector<chart_mark>& marks) {
-    return marks.empty() ? name
-                         : name + ": " + qt_text(marks.front().text) + " \u2013 " +
-                               qt_text(marks.back().text);
-}
-
 const chart_label* label_at(const std::vector<chart_label>& labels, const QPointF& place) {
     for (const chart_label& label : labels) {
         if (label.visible && in_pixels(label.box).contains(place)) {
@@ -64,7 +60,8 @@ chart_view::chart_view(result_chart chart, form_context context, Qt::ShortcutCon
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(qt_text(chart_.title));
+    set_accessible_role(*this, QAccessible::Chart);
+    set_accessible_name(*this, qt_text(chart_.title));
     describe(QString());
     add_legend();
     add_popup();
@@ -76,7 +73,7 @@ void chart_view::show_chart(result_chart chart) {
         hidden_.assign(chart.curves.size(), false);
     }
     chart_ = std::move(chart);
-    setAccessibleName(qt_text(chart_.title));
+    set_accessible_name(*this, qt_text(chart_.title));
     show_legend_texts();
     end_reading();
     describe(QString());
@@ -106,7 +103,7 @@ void chart_view::show_legend_texts() {
     }
     const QString handling = tooltip_of(context_.kavetta, "graphpopupmenu", "legend_frame");
     legend_->setToolTip(QStringList({qt_text(chart_.legend_hint), handling}).join("\n").trimmed());
-    legend_->setAccessibleName(qt_text(chart_.legend_caption));
+    set_accessible_name(*legend_, qt_text(chart_.legend_caption));
 }
 
 void chart_view::add_popup() {
@@ -156,6 +153,7 @@ void chart_view::toggle_curve(int series) {
     if (reading_ && reading_->curve == curve) {
         end_reading();
     }
+    describe(QString());
     draw();
 }
 
@@ -210,14 +208,14 @@ void chart_view::read_by_key(const chart_reading& reading) {
     show_reading(reading, is_under_pointer ? QCursor::pos() : place);
 }
 
-/// What a screen reader says: the value that is read, then the ranges of the axes.
+/// What a screen reader says: the value that is read, then all that the chart shows.
 void chart_view::describe(const QString& reading) {
-    QStringList sentences = {range_text(qt_text(chart_.x_title), chart_.x_marks),
-                             range_text(qt_text(chart_.title), chart_.y_marks)};
+    QStringList sentences = {
+        qt_text(chart_text(chart_, hidden_, context_.kavetta.app_state.language))};
     if (!reading.isEmpty()) {
         sentences.prepend(reading);
     }
-    setAccessibleDescription(sentences.join("; "));
+    set_accessible_description(*this, sentences.join("; "));
 }
 
 /// The hint of the text at a place; empty where there is none.

@@ -1,10 +1,12 @@
 // Picture1: the square sheet of the Design view. It paints what the program has drawn and tells
-// where the mouse is.
+// where the mouse is, or the cross that the keys move.
 #pragma once
 
 #include "ui/parts/design_painting.hpp"
 
 #include <QWidget>
+
+#include <optional>
 
 namespace kvt {
 
@@ -12,6 +14,8 @@ class design_picture : public QWidget {
     Q_OBJECT
 
   public:
+    /// Without a mouse: the arrow keys move a cross, with Ctrl by one pixel; Space presses and
+    /// releases there in turn, Esc releases where it pressed.
     explicit design_picture(QWidget* parent);
 
     /// Takes over everything, or what a turn or the mouse changes.
@@ -33,8 +37,19 @@ class design_picture : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    void move_cross(const QPoint& step);
+    void press_space();
+    void drop_band();
+    void paint_cross(QPainter& painter) const;
+
+    QPoint cross_;  ///< pixels; shown while the picture has the focus by a key
+    bool shows_cross_ = false;
+    std::optional<QPoint> pressed_;  ///< where Space has begun a band
     design_painting painting_;
 };
 

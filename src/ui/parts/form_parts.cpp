@@ -3,6 +3,7 @@
 #include "core/app_state.hpp"
 #include "core/length_unit.hpp"
 #include "core/text_table.hpp"
+#include "ui/parts/accessible_role.hpp"
 #include "ui/parts/ink.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -132,6 +133,7 @@ void show_length_unit(const app_state& state, const QList<QLabel*>& labels) {
 
 QFrame* hairline() {
     auto* line = new QFrame;
+    set_accessible_role(*line, QAccessible::Separator);
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Plain);
     line->setForegroundRole(QPalette::Mid);

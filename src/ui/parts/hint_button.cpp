@@ -1,5 +1,8 @@
 #include "ui/parts/hint_button.hpp"
 
+#include "ui/parts/accessible_names.hpp"
+
+#include <QKeyEvent>
 #include <QListWidget>
 
 namespace kvt {
@@ -16,12 +19,13 @@ constexpr int LIST_WIDTH = 520;
 hint_button::hint_button() : list_(new QListWidget(this)) {
     setObjectName("hints");
     setAutoRaise(true);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     // The window may become narrower than the line.
     setMinimumWidth(1);
     list_->setObjectName("hint_list");
     list_->setWindowFlags(Qt::Popup);
     list_->setWordWrap(true);
+    list_->installEventFilter(this);
     list_->setSelectionMode(QAbstractItemView::NoSelection);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QToolButton::clicked, this, &hint_button::open_list);
@@ -30,6 +34,7 @@ hint_button::hint_button() : list_(new QListWidget(this)) {
 
 void hint_button::show_hints(const QString& line, const QStringList& hints) {
     line_ = line;
+    set_accessible_name(*this, line);
     setToolTip(hints.join('\n'));
     list_->clear();
     list_->addItems(hints);
@@ -40,6 +45,16 @@ void hint_button::show_hints(const QString& line, const QStringList& hints) {
 void hint_button::resizeEvent(QResizeEvent* event) {
     QToolButton::resizeEvent(event);
     shorten();
+}
+
+/// A list leaves Esc to its window, which it is itself here.
+bool hint_button::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        list_->hide();
+        return true;
+    }
+    return QToolButton::eventFilter(watched, event);
 }
 
 void hint_button::shorten() {
@@ -60,6 +75,8 @@ void hint_button::open_list() {
     const QPoint corner = mapToGlobal(QPoint(this->width() - width, -list_->height()));
     list_->move(corner);
     list_->show();
+    list_->setCurrentRow(0);
+    list_->setFocus();
 }
 
 }  // namespace kvt

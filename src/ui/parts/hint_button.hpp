@@ -20,6 +20,7 @@ class hint_button : public QToolButton {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void open_list();

@@ -1,5 +1,7 @@
 #include "ui/parts/legend_frame.hpp"
 
+#include "ui/parts/accessible_role.hpp"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -7,6 +9,7 @@ namespace kvt {
 
 legend_frame::legend_frame(QWidget* parent) : QWidget(parent) {
     setObjectName("legend_frame");
+    set_accessible_role(*this, QAccessible::Graphic);
     setCursor(Qt::ArrowCursor);
 }
 

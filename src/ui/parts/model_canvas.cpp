@@ -1,5 +1,7 @@
 #include "ui/parts/model_canvas.hpp"
 
+#include "ui/parts/accessible_role.hpp"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -59,6 +61,7 @@ QPointF step_of_key(int key) {
 
 model_canvas::model_canvas(const char* name) : camera_(1, 1) {
     setObjectName(name);
+    set_accessible_role(*this, QAccessible::Graphic);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(240, 180);

@@ -11,6 +11,8 @@
 #include "ui/forms/Form3.hpp"
 #include "ui/forms/exact_figures.hpp"
 #include "ui/forms/viewwinfrm.hpp"
+#include "ui/parts/accessible_names.hpp"
+#include "ui/parts/announcer.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/parts/ink.hpp"
 #include "ui/shell/edit_menu.hpp"
@@ -58,6 +60,7 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     windows_ = new window_menu(context, *this);
     statusBar()->setObjectName("status_bar");
     hints_ = new status_hints(context.kavetta, *statusBar());
+    announcer_ = new announcer(statusBar());
     // The first form of the table comes last, on top of the others.
     const auto rows = fixed_child_rows();
     for (auto form = rows.rbegin(); form != rows.rend(); ++form) {
@@ -67,6 +70,7 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     connect(findChild<viewwinfrm*>(), &viewwinfrm::cursor_moved, hints_,
             &status_hints::show_cursor);
     connect_commands();
+    connect_announcements();
     refresh();
 }
 
@@ -90,6 +94,14 @@ void MDIForm1::connect_commands() {
     connect(edits_, &edit_menu::history_asked, this, [this] { bring_to_front("history"); });
 }
 
+/// What a sighted user finds by a glance: new results, the line of the status bar, its hints.
+void MDIForm1::connect_announcements() {
+    connect(&context_.runner, &command_runner::finished, this,
+            [this] { announcer_->announce(qt_text(news_.take(context_.kavetta))); });
+    connect(statusBar(), &QStatusBar::messageChanged, announcer_, &announcer::announce);
+    connect(hints_, &status_hints::told, announcer_, &announcer::announce);
+}
+
 void MDIForm1::add_form(mdi_form* form, bool is_shown) {
     area_->addSubWindow(form, form->windowFlags());
     form->setVisible(is_shown);
@@ -107,6 +119,7 @@ void MDIForm1::load_child(std::string_view form) {
                 &viewwinfrm::show_turned);
     }
     made->refresh();
+    made->name_controls();
     made->setGeometry(made->start_place(area_->rect()));
 }
 
@@ -117,9 +130,11 @@ void MDIForm1::refresh() {
     edits_->refresh();
     windows_->refresh();
     hints_->refresh();
+    give_accessible_names(context_.kavetta, "MDIForm1", *statusBar());
     forms_.removeAll(nullptr);
     for (const QPointer<mdi_form>& form : forms_) {
         form->refresh();
+        form->name_controls();
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/desk/layout_commands.hpp"
+#include "app/desk/result_news.hpp"
 #include "ui/shell/main_menu.hpp"
 
 #include <QList>
@@ -12,6 +13,7 @@ class QMdiArea;
 
 namespace kvt {
 
+class announcer;
 struct form_row;
 class edit_menu;
 class mdi_form;
@@ -46,6 +48,7 @@ class MDIForm1 : public QMainWindow {
   private:
     void add_form(mdi_form* form, bool is_shown);
     void connect_commands();
+    void connect_announcements();
     void place_child(const form_row& form);
     void place_children();
     void place_fixed_windows();
@@ -67,6 +70,8 @@ class MDIForm1 : public QMainWindow {
     edit_menu* edits_;
     window_menu* windows_;
     status_hints* hints_;
+    announcer* announcer_;
+    result_news news_;
     bool is_first_layout_ = false;     ///< of the first start, which follows the size of the window
     QList<QPointer<mdi_form>> forms_;  ///< a form that was closed for good is nullptr
 };

@@ -1,5 +1,6 @@
 #include "ui/shell/dialog_form.hpp"
 
+#include "ui/parts/accessible_names.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QAbstractButton>
@@ -25,6 +26,11 @@ void dialog_form::show_texts() {
         }
         control->setToolTip(tooltip_of(kavetta_, form_, name));
     }
+}
+
+void dialog_form::showEvent(QShowEvent* event) {
+    give_accessible_names(kavetta_, form_, *this);
+    QDialog::showEvent(event);
 }
 
 }  // namespace kvt

@@ -21,6 +21,8 @@ class dialog_form : public QDialog {
   protected:
     /// Shows captions and tooltips in all named controls; call it when they exist.
     void show_texts();
+    /// All texts stand now: the controls get what a screen reader says of them.
+    void showEvent(QShowEvent* event) override;
 
     const program& kavetta_;
 

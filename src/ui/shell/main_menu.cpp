@@ -3,6 +3,7 @@
 #include "app/files/file_output.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
+#include "ui/shell/access_keys.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QAction>
@@ -29,7 +30,7 @@ bool holds_a_project(const std::string& caption) {
 }  // namespace
 
 main_menu::main_menu(form_context context, QMainWindow& window)
-    : QObject(&window), context_(context) {
+    : QObject(&window), context_(context), window_(window) {
     for (const menu_row& row : menu_rows()) {
         add_row(row, window);
     }
@@ -48,6 +49,7 @@ void main_menu::add_row(const menu_row& row, QMainWindow& window) {
                 refresh();
             });
         }
+        give_access_keys(*menu);  // behind the new texts
         menus_[name] = menu;
         actions_[name] = menu->menuAction();
         if (!row.enabled_as.empty()) {
@@ -112,17 +114,35 @@ void main_menu::add_recent_entries(const menu_row& row, QMenu& menu) {
 }
 
 void main_menu::refresh() {
+    const QList<QAction*> bar = window_.menuBar()->actions();
     for (auto entry = actions_.cbegin(); entry != actions_.cend(); ++entry) {
         const std::string name = utf8_text(entry.key());
         const auto other = enabled_as_.constFind(entry.key());
         const bool usable =
             is_enabled(context_.kavetta.enabling, "MDIForm1",
                        other == enabled_as_.cend() ? std::string_view(name) : *other);
-        entry.value()->setText(caption_of(context_.kavetta, "MDIForm1", name));
+        if (!bar.contains(entry.value())) {
+            entry.value()->setText(caption_of(context_.kavetta, "MDIForm1", name));
+        }
         entry.value()->setEnabled(usable && entry.value()->isVisible());
     }
+    refresh_titles();
     refresh_recent_entries();
     refresh_updates();
+}
+
+/// The titles in the bar have access keys all the time.
+void main_menu::refresh_titles() {
+    const QList<QAction*> bar = window_.menuBar()->actions();
+    QStringList titles;
+    for (const QAction* title : bar) {
+        titles.append(
+            caption_of(context_.kavetta, "MDIForm1", utf8_text(title->menu()->objectName())));
+    }
+    titles = with_access_keys(titles);
+    for (qsizetype i = 0; i < bar.size(); ++i) {
+        bar[i]->setText(titles[i]);
+    }
 }
 
 void main_menu::refresh_recent_entries() {

@@ -33,10 +33,12 @@ class main_menu : public QObject {
     void add_entry(const menu_row& row, QMenu& menu);
     void add_files(file_group group, QMenu& menu);
     void add_recent_entries(const menu_row& row, QMenu& menu);
+    void refresh_titles();
     void refresh_recent_entries();
     void refresh_updates();
 
     form_context context_;
+    QMainWindow& window_;
     QMap<QString, QMenu*> menus_;
     QMap<QString, QAction*> actions_;             ///< by name; for a menu the action that opens it
     QMap<QString, std::string_view> enabled_as_;  ///< by name, where another entry says it

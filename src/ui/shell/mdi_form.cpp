@@ -1,6 +1,7 @@
 #include "ui/shell/mdi_form.hpp"
 
 #include "core/window_rectangles.hpp"
+#include "ui/parts/accessible_names.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -8,8 +9,19 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QToolButton>
 
 namespace kvt {
+
+namespace {
+
+/// A check box, an option button and a flag choose; Enter belongs to the main button there.
+bool acts(const QAbstractButton& button) {
+    return qobject_cast<const QPushButton*>(&button) != nullptr ||
+           qobject_cast<const QToolButton*>(&button) != nullptr;
+}
+
+}  // namespace
 
 mdi_form::mdi_form(const char* form, form_context context) : context_(context), form_(form) {
     setObjectName(form);
@@ -36,6 +48,10 @@ void mdi_form::bind(QWidget* content, bool scrolls) {
 void mdi_form::refresh() {
     setWindowTitle(caption_of(context_.kavetta, form_, ""));
     binding_->refresh();
+}
+
+void mdi_form::name_controls() {
+    give_accessible_names(context_.kavetta, form_, *this);
 }
 
 void mdi_form::place(const window_rectangle& rectangle) {
@@ -72,8 +88,9 @@ void mdi_form::keyPressEvent(QKeyEvent* event) {
         QMdiSubWindow::keyPressEvent(event);
         return;
     }
-    auto* focused = qobject_cast<QPushButton*>(focusWidget());
-    QPushButton* pressed = focused != nullptr && focused->hasFocus() ? focused : main_button_;
+    auto* focused = qobject_cast<QAbstractButton*>(focusWidget());
+    const bool is_pressed_itself = focused != nullptr && focused->hasFocus() && acts(*focused);
+    QAbstractButton* pressed = is_pressed_itself ? focused : main_button_;
     if (pressed != nullptr) {
         pressed->click();
     }

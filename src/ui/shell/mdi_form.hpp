@@ -23,6 +23,10 @@ class mdi_form : public QMdiSubWindow {
     /// Shows the program's state: title, captions, entries, labels, enabling.
     virtual void refresh();
 
+    /// Gives the controls what a screen reader says of them; behind a refresh, when all texts
+    /// stand.
+    virtual void name_controls();
+
     /// Places the window, frame included; twips, 15 to a logical pixel.
     void place(const window_rectangle& rectangle);
     /// The place, frame included, that the window has or goes back to when it is neither maximised

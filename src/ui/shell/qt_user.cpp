@@ -2,6 +2,7 @@
 
 #include "app/desk/program_title.hpp"
 #include "app/program.hpp"
+#include "core/text_table.hpp"
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/Form4.hpp"
 #include "ui/forms/GT_form.hpp"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -103,6 +105,10 @@ void qt_user::prepare(QMessageBox& box, std::string_view text) const {
     box.setWindowTitle(qt_text(program_title()));
     box.setTextFormat(Qt::PlainText);
     box.setText(with_line_breaks(qt_text(text)));
+    if (auto* icon = box.findChild<QLabel*>("qt_msgboxex_icon_label")) {
+        icon->setAccessibleName(
+            qt_text(form_text("spoken", "message", kavetta_.app_state.language)));
+    }
 }
 
 void qt_user::command_ended() {

@@ -10,6 +10,7 @@
 #include "ui/shell/qt_text.hpp"
 
 #include <QLabel>
+#include <QShortcut>
 #include <QStatusBar>
 
 namespace kvt {
@@ -25,6 +26,8 @@ status_hints::status_hints(const program& kavetta, QStatusBar& bar)
     bar.addPermanentWidget(cursor_position_);
     bar.addPermanentWidget(stale_hint_);
     bar.addPermanentWidget(unsaved_mark_);
+    auto* open_hints = new QShortcut(Qt::Key_F6, &bar);
+    connect(open_hints, &QShortcut::activated, hints_, &hint_button::click);
 }
 
 void status_hints::refresh() {
@@ -33,13 +36,24 @@ void status_hints::refresh() {
     for (const hint& row : hints) {
         texts.append(qt_text(row.text));
     }
-    hints_->show_hints(qt_text(hint_summary(hints, kavetta_.app_state.language)), texts);
+    const QString line = qt_text(hint_summary(hints, kavetta_.app_state.language));
+    hints_->show_hints(line, texts);
     const QString hint = qt_text(stale_hint(kavetta_));
     stale_hint_->setText(hint);
     stale_hint_->setVisible(!hint.isEmpty());
     unsaved_mark_->setText(caption_of(kavetta_, "MDIForm1", "unsaved_mark"));
     unsaved_mark_->setToolTip(tooltip_of(kavetta_, "MDIForm1", "unsaved_mark"));
     unsaved_mark_->setVisible(has_unsaved_changes(kavetta_));
+    tell_new({line, hint});
+}
+
+void status_hints::tell_new(const QStringList& lines) {
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (!lines[i].isEmpty() && lines[i] != told_.value(i)) {
+            emit told(lines[i]);
+        }
+    }
+    told_ = lines;
 }
 
 void status_hints::show_cursor(const QString& place) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 
 class QLabel;
 class QStatusBar;
@@ -18,19 +19,26 @@ class status_hints : public QObject {
 
   public:
     /// Adds the button hints and the labels cursor_position, stale_hint and unsaved_mark to the
-    /// bar.
+    /// bar. F6 opens the list of the hints.
     status_hints(const program& kavetta, QStatusBar& bar);
 
     /// Looks which hints stand, which results are stale and whether the entries are saved.
     void refresh();
     void show_cursor(const QString& place);
 
+  signals:
+    /// A hint has come up, or another one.
+    void told(const QString& line);
+
   private:
+    void tell_new(const QStringList& lines);
+
     const program& kavetta_;
     hint_button* hints_;
     QLabel* cursor_position_;
     QLabel* stale_hint_;
     QLabel* unsaved_mark_;
+    QStringList told_;  ///< the lines on display
 };
 
 }  // namespace kvt

@@ -343,4 +343,49 @@ TEST_F(viewwinfrm_test, the_status_bar_tells_where_the_mouse_is_in_the_length_un
     EXPECT_EQ(label("cursor_position"), "");
 }
 
+TEST_F(viewwinfrm_test, zooms_by_keys_as_by_a_drag) {
+    calculate();
+    const QPoint middle = sheet()->rect().center();
+    drag(middle, middle + QPoint(40, 30));
+    const view_state dragged = kavetta().view_state;
+    press("zoom_all_command");
+    sheet()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(sheet(), Qt::Key_Space);
+    for (int step = 0; step < 4; ++step) {
+        QTest::keyClick(sheet(), Qt::Key_Right);
+    }
+    for (int step = 0; step < 3; ++step) {
+        QTest::keyClick(sheet(), Qt::Key_Down);
+    }
+    EXPECT_TRUE(kavetta().design_view.Line3.visible);
+    QTest::keyClick(sheet(), Qt::Key_Space);
+    settle();
+    EXPECT_EQ(kavetta().view_state.view_scale, dragged.view_scale);
+    EXPECT_EQ(kavetta().view_state.view_cx, dragged.view_cx);
+    EXPECT_EQ(kavetta().view_state.view_cy, dragged.view_cy);
+}
+
+TEST_F(viewwinfrm_test, drops_the_rectangle_of_the_keys_at_esc) {
+    calculate();
+    const double scale = kavetta().view_state.view_scale;
+    sheet()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(sheet(), Qt::Key_Space);
+    QTest::keyClick(sheet(), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(sheet(), Qt::Key_Down);
+    QTest::keyClick(sheet(), Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(kavetta().design_view.Line3.visible);
+    EXPECT_EQ(kavetta().view_state.view_scale, scale);
+}
+
+TEST_F(viewwinfrm_test, turns_by_one_degree_at_each_press_without_the_mouse) {
+    calculate();
+    QTest::keyClick(find<QWidget>("rotate_rotors_cw"), Qt::Key_Space);
+    QTest::keyClick(find<QWidget>("rotate_rotors_cw"), Qt::Key_Return);
+    EXPECT_EQ(angle(), 2.0);
+    find<QAbstractButton>("rotate_rotors_ccw")->click();  // what a screen reader does
+    EXPECT_EQ(angle(), 1.0);
+    EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
+}
+
 }  // namespace kvt

@@ -43,6 +43,20 @@ TEST_F(differing_sign_test, is_painted_and_says_both_values_in_the_language) {
     EXPECT_EQ(sign->text(), "") << "no text that a code page would have to hold";
 }
 
+TEST_F(differing_sign_test, opens_the_exact_figures_at_enter_and_space) {
+    start(own_design_file("n04_fuel"));
+    press("Calc");
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+        auto* sign = find_on<differing_sign>("Form1", "capacity_exact");
+        sign->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(sign, key);
+        settle();
+        ASSERT_NE(loaded("exact_figures"), nullptr) << key;
+        loaded("exact_figures")->close();
+        settle();
+    }
+}
+
 TEST_F(differing_sign_test, goes_with_a_design_that_failed) {
     start(own_design_file("n04_fuel"));
     press("Calc");

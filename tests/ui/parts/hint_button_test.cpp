@@ -58,4 +58,14 @@ TEST_F(hint_button_test, a_long_hint_does_not_widen_the_window) {
     EXPECT_EQ(utf8_text(button()->toolTip()), std::string(400, 'x'));
 }
 
+TEST_F(hint_button_test, opens_its_list_at_f6) {
+    start();
+    run_with({"Look here.", "And there."});
+    QTest::keyClick(&window(), Qt::Key_F6);
+    EXPECT_TRUE(list()->isVisible());
+    EXPECT_EQ(list()->currentRow(), 0);
+    QTest::keyClick(list(), Qt::Key_Escape);
+    EXPECT_FALSE(list()->isVisible());
+}
+
 }  // namespace kvt

@@ -13,6 +13,12 @@ namespace {
 
 class main_menu_test : public desktop_test {};
 
+std::string without_key(std::string_view text) {
+    std::string plain(text);
+    std::erase(plain, '&');
+    return plain;
+}
+
 }  // namespace
 
 TEST_F(main_menu_test, has_every_entry_of_the_text_table_with_its_caption) {
@@ -25,7 +31,11 @@ TEST_F(main_menu_test, has_every_entry_of_the_text_table_with_its_caption) {
                                         ? find<QAction>(name.c_str())
                                         : window().findChild<QMenu*>(name.c_str())->menuAction();
             ASSERT_NE(action, nullptr) << name;
-            EXPECT_EQ(utf8_text(action->text()), row.english) << name;
+            // The titles in the bar have access keys of their own, those of a menu come as it
+            // opens.
+            const bool is_title = window().menuBar()->actions().contains(action);
+            const QString text = is_title ? action->text().remove('&') : action->text();
+            EXPECT_EQ(utf8_text(text), is_title ? without_key(row.english) : row.english) << name;
         }
     }
 }
