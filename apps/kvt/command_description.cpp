@@ -3,7 +3,6 @@
 #include "app/stages/typed_entry.hpp"
 #include "core/app_state.hpp"
 #include "core/text_table.hpp"
-#include "kvt/option_check.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -68,6 +67,15 @@ std::vector<std::string> needs_of(const CLI::Option& option) {
     return needs;
 }
 
+/// The words that an option's check takes; none when it takes any text or has no check.
+std::vector<std::string> words_of(CLI::Option& option) {
+    try {
+        return parts_of(option.get_validator()->get_name(), '|');
+    } catch (const CLI::OptionNotFound&) {
+        return {};
+    }
+}
+
 option_description described_option(CLI::Option& option) {
     option_description described;
     described.names = names_of(option);
@@ -92,14 +100,6 @@ option_description described_option(CLI::Option& option) {
 }
 
 }  // namespace
-
-std::vector<std::string> words_of(CLI::Option& option) {
-    try {
-        return parts_of(option.get_validator()->get_name(), '|');
-    } catch (const CLI::OptionNotFound&) {
-        return {};  // without a check
-    }
-}
 
 command_description described_command(CLI::App& command) {
     command_description described;

@@ -29,7 +29,8 @@ inline std::string word_list(const std::vector<std::string>& words, const char* 
     return list;
 }
 
-/// The same check with the words that it takes as its name, where words_of finds them.
+/// The same check with the words that it takes as its name, where command_description
+/// finds them.
 inline CLI::Validator naming(CLI::Validator check, const std::vector<std::string>& words) {
     check.name(word_list(words));
     return check;
@@ -48,8 +49,5 @@ inline CLI::Validator number_of(int first, int last) {
     }
     return naming(plain(CLI::Range(first, last)), words);
 }
-
-/// The words that an option's check takes; none when it takes any text or has no check.
-std::vector<std::string> words_of(CLI::Option& option);
 
 }  // namespace kvt

@@ -16,13 +16,14 @@ import unittest
 SHELL, FOLDER, KVT, SOURCES = sys.argv[1], pathlib.Path(sys.argv[2]), sys.argv[3], pathlib.Path(sys.argv[4])
 SCRIPT = FOLDER / {"bash": "kvt", "zsh": "_kvt", "fish": "kvt.fish"}[SHELL]
 
-# Ctrl-X Ctrl-D writes the line and what was offered into the pipe "told".
+# Ctrl-X t writes the line and what was offered into the pipe "told". Between two lines the terminal may stand in its
+# own mode, in which it would take Ctrl-D for itself.
 BASH = r"""
 source {script}
 probe() {{ _kvt; offered=("${{COMPREPLY[@]}}"); }}
 complete -F probe kvt
 tell() {{ printf '%s\n' "$READLINE_LINE" "${{offered[@]}}" >told; offered=(); READLINE_LINE=; }}
-bind -x '"\C-x\C-d": tell'
+bind -x '"\C-xt": tell'
 bind 'set completion-query-items 0'
 """
 ZSH = r"""
@@ -40,7 +41,7 @@ compadd() {{
 }}
 tell() {{ print -rl -- "$BUFFER" $offered >told; offered=(); BUFFER= }}
 zle -N tell
-bindkey '^X^D' tell
+bindkey '^Xt' tell
 """
 
 
@@ -79,7 +80,7 @@ class interactive_shell:
 
     def complete(self, line):
         """The line after Tab, and what was offered for its last word."""
-        self.type(line + "\t\x18\x04")
+        self.type(line + "\t\x18t")
         completed, *offered = self.answer()
         return completed, sorted(set(offered) - {""})
 

@@ -78,7 +78,7 @@ _kvt_complete_value() {
 
 # COMMAND [WORD]...: whether an argument without a name stands among the words.
 _kvt_has_argument() {
-    local command=$1 value=
+    local command=$1 value= word
     shift
     for word; do
         if [[ -n $value ]]; then
@@ -110,7 +110,8 @@ _kvt_words() {
 }
 
 _kvt() {
-    local words word current option= value kind
+    local -a words kind
+    local current option= value
     _kvt_words
     local last=$((${#words[@]} - 1)) command=${words[1]}
     current=${words[last]}

@@ -122,8 +122,7 @@ void add_description(roff_page& page, const command_description& kvt) {
     page.roff_lines(roff_text(sentence(kvt.help)));
     page.paragraph(
         "Messages that the desktop program shows in a box go to standard error, and behind them "
-        "the "
-        "hints of the run; results go to standard output.");
+        "the hints of the run; results go to standard output.");
 }
 
 void add_commands(roff_page& page, const command_description& kvt) {

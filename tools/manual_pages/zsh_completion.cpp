@@ -5,14 +5,14 @@ namespace kvt {
 
 namespace {
 
-/// A text within a specification of _arguments: brackets and colons end its parts.
-std::string spec_text(const std::string& text) {
-    std::string spec;
+/// A text within a line of _arguments, in which brackets and colons end parts.
+std::string escaped(const std::string& text) {
+    std::string kept;
     for (const char c : text) {
-        spec +=
+        kept +=
             c == '[' || c == ']' || c == ':' || c == '\\' ? std::string("\\") + c : std::string{c};
     }
-    return spec;
+    return kept;
 }
 
 /// "*.[kK][vV][tT]", "(*.[tT][xX][tT]|*.[pP][dD][fF])"
@@ -24,14 +24,13 @@ std::string file_action(const option_description& option) {
     return patterns.empty() ? "_files" : "_files -g \"(" + patterns + ")(-.)\"";
 }
 
-/// What completes the value: the last part of a specification.
+/// What completes the value: the last part of a line.
 std::string action_of(const option_description& option) {
     switch (option.value) {
         case option_value::word:
             return "(" + joined_words(option.words) + ")";
         case option_value::words:
-            return "_values -s , " + spec_text(option.value_name) + " " +
-                   joined_words(option.words);
+            return "_values -s , " + escaped(option.value_name) + " " + joined_words(option.words);
         case option_value::entry:
             return "_kvt_entries";
         case option_value::file:
@@ -46,31 +45,31 @@ std::string action_of(const option_description& option) {
 }
 
 /// ":FILE.KVT:_files", without a value "".
-std::string value_spec(const option_description& option) {
+std::string value_part(const option_description& option) {
     return option.value == option_value::nothing
                ? ""
-               : ":" + spec_text(option.value_name) + ":" + action_of(option);
+               : ":" + escaped(option.value_name) + ":" + action_of(option);
 }
 
 /// '--stage=[Stop after a stage]:...', a line a name.
-std::string option_specs(const option_description& option) {
-    std::string specs;
+std::string option_lines(const option_description& option) {
+    std::string lines;
     for (const std::string& name : option.names) {
         const bool takes = option.value != option_value::nothing;
-        specs += " \\\n        " +
+        lines += " \\\n        " +
                  shell_quoted((option.is_repeatable ? "*" : "") + name + (takes ? "=" : "") + "[" +
-                              spec_text(short_help(option.help)) + "]" + value_spec(option));
+                              escaped(short_help(option.help)) + "]" + value_part(option));
     }
-    return specs;
+    return lines;
 }
 
 std::string arguments_call(const command_description& command) {
     std::string call = "_arguments";
     for (const option_description& option : command.options) {
-        call += option_specs(option);
+        call += option_lines(option);
     }
     for (const option_description& argument : command.arguments) {
-        call += " \\\n        " + shell_quoted("1" + value_spec(argument));
+        call += " \\\n        " + shell_quoted("1" + value_part(argument));
     }
     return call;
 }
