@@ -54,7 +54,7 @@ TEST_F(window_menu_test, shows_the_results_again_while_they_stand) {
 TEST_F(window_menu_test, shows_the_titles_in_german) {
     write_settings('2');
     start();
-    EXPECT_EQ(utf8_text(find<QMenu>("mnuwindow")->title()), "Fenster");
+    EXPECT_EQ(utf8_text(find<QMenu>("mnuwindow")->title()), "&Fenster") << "with its access key";
     EXPECT_EQ(titles()[0], utf8_text(form("Form1")->windowTitle()));
     EXPECT_EQ(titles()[2], "Entwerfen Sie Blick");
 }
