@@ -1,5 +1,7 @@
 #include "core/entry_names.hpp"
 
+#include "core/text_table.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -7,12 +9,11 @@ namespace kvt {
 
 namespace {
 
-/// The controls whose captions say what an entry is; empty where nothing is to be said.
+/// The controls whose captions say what an entry is.
 struct entry_place {
     std::string_view entry;
     std::string_view label;
     std::string_view group{};  ///< its caption comes before
-    std::string_view end{};    ///< which of two boxes beside the label: a row of "entry_names"
 };
 
 constexpr std::array PLACES = {
@@ -51,14 +52,6 @@ constexpr std::array PLACES = {
     entry_place{"kin_visc", "Label1"},
     entry_place{"vap_press", "Label2"},
     entry_place{"bulk_mod_text", "Label4"},
-    entry_place{"speed_lo", "Label6", {}, "low_end"},
-    entry_place{"speed_hi", "Label6", {}, "high_end"},
-    entry_place{"pressure_lo", "Label7", {}, "low_end"},
-    entry_place{"pressure_hi", "Label7", {}, "high_end"},
-    entry_place{"young_inner", "Label10", {}, "inner_end"},
-    entry_place{"young_outer", "Label10", {}, "outer_end"},
-    entry_place{"poissons_inner", "Label11", {}, "inner_end"},
-    entry_place{"poissons_outer", "Label11", {}, "outer_end"},
     entry_place{"friction", "Label14"},
     entry_place{"Face_area_value", "Face_area_label"},
     entry_place{"OD_area_value", "OD_area_label"},
@@ -68,7 +61,10 @@ constexpr std::array PLACES = {
 
 }  // namespace
 
-std::string entry_name(const entry_field& entry, const captions& shown) {
+std::string entry_name(const entry_field& entry, const captions& shown, std::int16_t language) {
+    if (const text_row* spoken = find_text(text_kind::spoken, entry.form, entry.name)) {
+        return std::string(row_text(*spoken, language));
+    }
     const auto place = std::ranges::find(PLACES, entry.name, &entry_place::entry);
     if (place == PLACES.end()) {
         return std::string(shown.of(entry.form, entry.name));
@@ -76,9 +72,6 @@ std::string entry_name(const entry_field& entry, const captions& shown) {
     std::string name(shown.of(entry.form, place->label));
     if (!place->group.empty()) {
         name = std::string(shown.of(entry.form, place->group)) + ": " + name;
-    }
-    if (!place->end.empty()) {
-        name += ", " + std::string(shown.of("entry_names", place->end));
     }
     return name;
 }

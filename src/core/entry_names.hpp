@@ -5,12 +5,14 @@
 #include "core/captions.hpp"
 #include "core/entries.hpp"
 
+#include <cstdint>
 #include <string>
 
 namespace kvt {
 
-/// "Eccentricity", "Inlet Port: Inner Radius", "Speed Range (RPM), low", in the language and with
-/// the units that the captions have now. A check box is called as its own caption.
-std::string entry_name(const entry_field& entry, const captions& shown);
+/// "Eccentricity", "Inlet Port: Inner Radius", "Metering Groove: Width (mm)", in the language and
+/// with the units that the captions have now. One of two boxes beside a caption is called as a
+/// screen reader calls it: "Lowest Speed". A check box is called as its own caption.
+std::string entry_name(const entry_field& entry, const captions& shown, std::int16_t language);
 
 }  // namespace kvt

@@ -41,7 +41,6 @@ consteval auto form_rows() {
 #include "core/texts/cnc.inc"
 #include "core/texts/data.inc"
 #include "core/texts/dxf.inc"
-#include "core/texts/entry_names.inc"
 #include "core/texts/exact_figures.inc"
 #include "core/texts/explanations.inc"
 #include "core/texts/fontfrm.inc"

@@ -1,6 +1,7 @@
 // Tests of what the entries are called outside their forms.
 #include "core/entry_names.hpp"
 
+#include "core/app_state.hpp"
 #include "core/text_table.hpp"
 
 #include <gtest/gtest.h>
@@ -10,7 +11,7 @@ namespace kvt {
 namespace {
 
 std::string name_of(std::string_view entry) {
-    return entry_name(*find_entry(entry), captions());
+    return entry_name(*find_entry(entry), captions(), ENGLISH);
 }
 
 TEST(entry_name, is_the_caption_beside_the_box) {
@@ -24,14 +25,14 @@ TEST(entry_name, says_the_group_and_which_of_two_boxes) {
     EXPECT_EQ(name_of("inlet_start_inner"), "Inlet Port: Start Angle Inner Radius");
     EXPECT_EQ(name_of("Outlet_outer_radius"), "Outlet Port: Outer Radius");
     EXPECT_EQ(name_of("groove_width"), "Metering Groove: Width (mm)");
-    EXPECT_EQ(name_of("speed_hi"), "Speed Range (RPM), high");
-    EXPECT_EQ(name_of("young_inner"), "Youngs Mod (GPa), inner");
+    EXPECT_EQ(name_of("speed_hi"), "Highest Speed");
+    EXPECT_EQ(name_of("young_inner"), "Youngs Modulus, Inner Rotor");
 }
 
 TEST(entry_name, is_another_for_every_entry) {
     std::set<std::string> names;
     for (const entry_field& field : entry_fields()) {
-        const std::string name = entry_name(field, captions());
+        const std::string name = entry_name(field, captions(), ENGLISH);
         EXPECT_FALSE(name.empty()) << field.name;
         EXPECT_TRUE(names.insert(name).second) << name;
     }
@@ -39,8 +40,9 @@ TEST(entry_name, is_another_for_every_entry) {
 
 TEST(entry_name, follows_the_captions) {
     captions shown;
-    shown.set(*find_text(text_kind::caption, "Form1", "Label3"), 2);
-    EXPECT_EQ(entry_name(*find_entry("ecc"), shown), "Exzentrizität");
+    shown.set(*find_text(text_kind::caption, "Form1", "Label3"), GERMAN);
+    EXPECT_EQ(entry_name(*find_entry("ecc"), shown, GERMAN), "Exzentrizität");
+    EXPECT_EQ(entry_name(*find_entry("speed_lo"), shown, GERMAN), "Niedrigste Drehzahl");
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ std::string shown_text(const told_step& told, const std::string& typed) {
 }
 
 std::string entry_step(const told_step& told, const entry_field& field) {
-    const std::string name = entry_name(field, told.kavetta.captions);
+    const std::string name =
+        entry_name(field, told.kavetta.captions, told.kavetta.app_state.language);
     const std::string& now = (*told.after.boxes).*field.member;
     if (field.kind == entry_kind::check) {
         return name + " " + word(told, is_ticked(now) ? "tick_on" : "tick_off");
