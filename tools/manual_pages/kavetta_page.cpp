@@ -39,6 +39,8 @@ void add_environment(roff_page& page) {
     page.row(bold("KAVETTA_UPDATE_SERVER"),
              "The server of the update check, in place of update_server.txt; empty, the check is "
              "off.");
+    page.row(bold("XDG_RUNTIME_DIR"),
+             "The folder of the sockets by which a project reaches a running Kavetta.");
     page.row(bold("GTIHOME"), "The folder in which GT-SUITE is installed.");
     page.row(bold("LC_ALL") + ", " + bold("LC_TIME") + ", " + bold("LANG"),
              "The form of dates. The language of the program is chosen on its Design form.");
@@ -56,13 +58,16 @@ std::string kavetta_page(std::string_view version) {
     page.roff_lines(roff_text(
         "The desktop program with which an engineer designs gerotor pumps: rotor profiles, "
         "ports and performance, with files for the workshop, for CAD and for simulation. "
-        "With a project it opens that, without one it asks for a new or an existing "
-        "project. F1 opens the user's guide."));
+        "With a project it opens that; where a Kavetta is running already the project may go to "
+        "its window, and this start ends. Without one it asks for a new or an existing project. "
+        "F1 opens the user's guide."));
     page.row(italic("PROJECT.KVT"), "Project file to open.");
     add_files(page);
     add_environment(page);
     page.section("EXIT STATUS");
-    page.roff_lines(roff_text("0 when it was left in order, 1 when its folder can't be filled."));
+    page.roff_lines(
+        roff_text("0 when it was left in order or its project went to a running Kavetta, 1 when "
+                  "its folder can't be filled."));
     page.section("SEE ALSO");
     page.roff_lines(bold("kvt") + "(1), the batch program.");
     return page.text();
