@@ -293,12 +293,15 @@ def read_a_chart(person, ear):
 
 
 def open_other_windows(person, ear):
-    for entry in ("Result Tables", "Exact Figures"):
-        person.choose("Window", entry)
-        ear.wait_for(f"the window '{entry}'", lambda: ear.find(entry))
-        walk(ear, entry, 100)
+    for menu, entry, title in (("Edit", "History...", "History"), ("Window", "Result Tables", "Result Tables"),
+                               ("Window", "Exact Figures", "Exact Figures"),
+                               ("Help", "Gerotor Explanation", "Gerotor Parameter Explanation"),
+                               ("Help", "Porting Explanation", "Porting Parameter Explanation")):
+        person.choose(menu, entry)
+        ear.wait_for(f"the window '{title}'", lambda: ear.find(title, "frame"))
+        walk(ear, title, 95)
         person.press("Escape")
-        ear.wait_for(f"the window '{entry}' to go", lambda: not ear.find(entry))
+        ear.wait_for(f"the window '{title}' to go", lambda: not ear.find(title, "frame"))
     for menu, entry, title in (("Output Data", "CNC Output Files", "CNC Output File Type"),
                                ("Solid Model", "Choose Solid Modelling Package", None), ("Help", "About", None)):
         before = set(person.windows(""))
