@@ -391,6 +391,7 @@ class test_script_test(tree_test):
         for name in ("scripts/setup", "bin/cmake", "tools/check_tidy.py", "tools/compare_programs.py"):
             self.program(name)
         self.program("scripts/windows/test", self.SUMMARY, status=1)
+        self.program("scripts/package_test", "100% tests passed, 0 tests failed out of 5\n")
         self.program("bin/ctest", self.SUMMARY, status=1)
 
     def program(self, name, prints="", status=0):
@@ -417,13 +418,13 @@ class test_script_test(tree_test):
 
     def test_the_clang_parts_are_left_out_on_demand_and_named(self):
         lines = self.run_it("--all", KVT_WITHOUT_CLANG="1")[1]
-        self.assertEqual(lines[-1], "27 passed, 3 failed")
+        self.assertEqual(lines[-1], "32 passed, 3 failed")
         self.assertIn("./test: left out: clang-tidy over all sources, preset clang", lines)
         self.assertNotIn("clang", self.started.read_text())
 
     def test_with_all_it_takes_the_sanitizers_and_the_other_compiler_too(self):
         status, lines = self.run_it("--all")
-        self.assertEqual(lines[-1], "29 passed, 3 failed")
+        self.assertEqual(lines[-1], "34 passed, 3 failed")
         self.assertEqual(status, 1)
         started = self.started.read_text()
         for piece in ("--preset asan", "--preset clang", "compare_programs.py build/ci", "check_tidy.py --all"):
@@ -435,8 +436,22 @@ class test_script_test(tree_test):
         self.started.unlink()
         lines = self.run_it("--all", KVT_WITHOUT_WINDOWS="1")[1]
         self.assertIn("./test: left out: the programs of Windows", lines)
-        self.assertEqual(lines[-1], "20 passed, 2 failed")
+        self.assertEqual(lines[-1], "25 passed, 2 failed")
         self.assertNotIn("windows", self.started.read_text())
+
+    def test_the_package_of_preset_ci_is_tested_or_named_with_the_reason(self):
+        self.run_it("--all")
+        self.assertIn("scripts/package_test build/ci", self.started.read_text())
+        self.program("scripts/package_test", "left out: no tools\n", status=77)
+        lines = self.run_it("--all")[1]
+        self.assertIn("./test: left out: the Debian package: no tools", lines)
+        self.assertEqual(lines[-1], "29 passed, 3 failed")
+
+    def test_a_test_that_failed_is_named_at_the_end(self):
+        self.program("bin/ctest", self.SUMMARY + "\t  4 - road.leads (Failed)\n\t  7 - exact.hangs (Timeout)\n", status=1)
+        lines = self.run_it()[1]
+        self.assertEqual(lines[-3:], ["./test: failed: preset ci, road.leads", "./test: failed: preset ci, exact.hangs",
+                                      "10 passed, 1 failed"])
 
     def test_a_skipped_test_is_named_and_not_counted(self):
         self.program("bin/ctest", self.SUMMARY + "\t  4 - output.read_by_ezdxf (Skipped)\n", status=1)
