@@ -314,6 +314,17 @@ def open_other_windows(person, ear):
         wait_for(f"the dialog of '{entry}' to go", lambda: set(person.windows("")) <= before)
 
 
+def build_a_model(person, ear):
+    person.choose("Solid Model", "Draw Inner Rotor")
+    person.window("Modelling Package Select")
+    person.go_to("AutoCAD")
+    person.press("space", "Return")
+    ear.wait_for("the window of the models", lambda: ear.find("Model View", "frame"))
+    walk(ear, "Model View", 110)
+    person.press("Escape")
+    ear.wait_for("the window of the models to go", lambda: not ear.find("Model View", "frame"))
+
+
 def save(person, folder):
     person.press("ctrl+shift+s")
     person.window(f"{TITLE} - Save Project")
@@ -356,6 +367,7 @@ def go(display, program, folder):
     calculate_performance(person, ear)
     read_a_chart(person, ear)
     open_other_windows(person, ear)
+    build_a_model(person, ear)
     save(person, folder)
     read_in_german(person, ear)
     leave(person, program)

@@ -33,6 +33,7 @@ entries boxes_of(const program& kavetta) {
 
 std::vector<std::string> cnc_files_of(const app_state& state) {
     std::vector<std::string> files;
+    files.reserve(CNC_FILES.size());
     for (const auto member : CNC_FILES) {
         files.push_back(state.*member);
     }
