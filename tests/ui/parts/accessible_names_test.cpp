@@ -11,6 +11,7 @@
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/Form3.hpp"
 #include "ui/forms/Form4.hpp"
+#include "ui/forms/GT_form.hpp"
 #include "ui/forms/graphview2.hpp"
 #include "ui/forms/newprojectname.hpp"
 
@@ -154,6 +155,8 @@ TEST_F(accessible_names_test, are_on_the_charts_with_what_they_show) {
 
 TEST_F(accessible_names_test, are_on_the_dialogs) {
     start(own_design_file("n07_engine_oil_groove"));
+    std::filesystem::copy_file(std::string(KVT_SHARE_FOLDER) + "/GT_screen_1.jpg",
+                               folder / "GT_screen_1.jpg");
     scripted_user person;
     for (const std::int16_t language : {ENGLISH, GERMAN}) {
         kavetta().app_state.language = language;
@@ -161,6 +164,7 @@ TEST_F(accessible_names_test, are_on_the_dialogs) {
             std::make_shared<Form2>(kavetta(), &window()),
             std::make_shared<Form3>(form_context{kavetta(), desk().runner(), person}, &window()),
             std::make_shared<Form4>(kavetta(), person, "", &window()),
+            std::make_shared<GT_form>(kavetta(), person, &window()),
             std::make_shared<newprojectname>(kavetta(), &window(), [] {}),
             std::make_shared<Aboutform>(kavetta(), &window())};
         for (const auto& dialog : dialogs) {
