@@ -12,7 +12,7 @@ namespace {
 /// The controls whose captions say what an entry is.
 struct entry_place {
     std::string_view entry;
-    std::string_view label;
+    const char* label;
     std::string_view group{};  ///< its caption comes before
 };
 
@@ -59,14 +59,24 @@ constexpr std::array PLACES = {
     entry_place{"rotated_angle", "rotate_label"},
 };
 
+const entry_place* find_place(std::string_view entry) {
+    const auto place = std::ranges::find(PLACES, entry, &entry_place::entry);
+    return place == PLACES.end() ? nullptr : &*place;
+}
+
 }  // namespace
+
+const char* entry_label(std::string_view entry) {
+    const entry_place* place = find_place(entry);
+    return place == nullptr ? "" : place->label;
+}
 
 std::string entry_name(const entry_field& entry, const captions& shown, std::int16_t language) {
     if (const text_row* spoken = find_text(text_kind::spoken, entry.form, entry.name)) {
         return std::string(row_text(*spoken, language));
     }
-    const auto place = std::ranges::find(PLACES, entry.name, &entry_place::entry);
-    if (place == PLACES.end()) {
+    const entry_place* place = find_place(entry.name);
+    if (place == nullptr) {
         return std::string(shown.of(entry.form, entry.name));
     }
     std::string name(shown.of(entry.form, place->label));

@@ -29,6 +29,14 @@ TEST(entry_name, says_the_group_and_which_of_two_boxes) {
     EXPECT_EQ(name_of("young_inner"), "Youngs Modulus, Inner Rotor");
 }
 
+TEST(entry_label, is_the_control_with_the_caption_of_the_box) {
+    EXPECT_STREQ(entry_label("ecc"), "Label3");
+    EXPECT_STREQ(entry_label("inlet_inner_radius"), "Label15");
+    EXPECT_STREQ(entry_label("UTS_value"), "UTS_label");
+    EXPECT_STREQ(entry_label("speed_lo"), "") << "it shares a caption";
+    EXPECT_STREQ(entry_label("shadow_ports"), "");
+}
+
 TEST(entry_name, is_another_for_every_entry) {
     std::set<std::string> names;
     for (const entry_field& field : entry_fields()) {

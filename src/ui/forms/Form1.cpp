@@ -5,6 +5,7 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "core/capacity_unit.hpp"
+#include "core/entry_names.hpp"
 #include "ui/forms/assist_area.hpp"
 #include "ui/parts/accessible_role.hpp"
 #include "ui/parts/differing_sign.hpp"
@@ -29,7 +30,6 @@ namespace kvt {
 namespace {
 
 struct entry_row {
-    const char* label;
     const char* entry;
     bool is_length;
 };
@@ -38,23 +38,19 @@ struct entry_row {
 const std::vector<std::vector<entry_row>>& entry_groups() {
     static const std::vector<std::vector<entry_row>> groups = {
         // The rotor pair.
-        {{"Label7", "numlobes", false},
-         {"Label3", "ecc", true},
-         {"Label10", "radinnroot", true},
-         {"Label5", "radouter", true},
-         {"Label20", "outer_root", true},
-         {"Label6", "fillet", true},
-         {"Label8", "thick", true}},
+        {{"numlobes", false},
+         {"ecc", true},
+         {"radinnroot", true},
+         {"radouter", true},
+         {"outer_root", true},
+         {"fillet", true},
+         {"thick", true}},
         // Limits that the pair must keep.
-        {{"Label2", "shaftdiameter", true},
-         {"Label12", "minmaterial", true},
-         {"Label9", "maxdiameter", true}},
+        {{"shaftdiameter", true}, {"minmaterial", true}, {"maxdiameter", true}},
         // Clearances.
-        {{"Label4", "clearn", true},
-         {"Label15", "axial_clear", true},
-         {"Label21", "radial_clear", true}},
+        {{"clearn", true}, {"axial_clear", true}, {"radial_clear", true}},
         // The drawing.
-        {{"Label1", "coarseness", false}},
+        {{"coarseness", false}},
     };
     return groups;
 }
@@ -109,7 +105,7 @@ void Form1::add_requirement(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     row->setSpacing(4);
     QLineEdit* required = number_box("volumereqd", ENTRY_WIDTH - 24);
-    QLabel* label = named_label("Label13");
+    QLabel* label = named_label(entry_label("volumereqd"));
     label->setBuddy(required);
     unittype_ = new QComboBox;
     unittype_->setObjectName("unittype");
@@ -132,16 +128,16 @@ void Form1::add_entries(QVBoxLayout& layout) {
     for (const std::vector<entry_row>& group : entry_groups()) {
         grid->addWidget(hairline(), grid->rowCount(), 0, 1, 3);
         for (const entry_row& row : group) {
-            add_entry(*grid, row.label, row.entry, row.is_length);
+            add_entry(*grid, row.entry, row.is_length);
         }
     }
     layout.addLayout(grid);
 }
 
-void Form1::add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length) {
+void Form1::add_entry(QGridLayout& grid, const char* entry, bool is_length) {
     const int row = grid.rowCount();
     QLineEdit* box = number_box(entry, ENTRY_WIDTH);
-    QLabel* text = named_label(label);
+    QLabel* text = named_label(entry_label(entry));
     text->setBuddy(box);
     QLabel* unit = named_label((QString(entry) + "_unit").toUtf8().constData());
     grid.addWidget(text, row, 0);

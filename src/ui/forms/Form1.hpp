@@ -36,7 +36,7 @@ class Form1 : public mdi_form {
     void add_header(QVBoxLayout& layout);
     void add_requirement(QVBoxLayout& layout);
     void add_entries(QVBoxLayout& layout);
-    void add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length);
+    void add_entry(QGridLayout& grid, const char* entry, bool is_length);
     void add_buttons(QVBoxLayout& layout);
     void add_results(QVBoxLayout& layout);
     void connect_commands();

@@ -6,6 +6,7 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "core/app_state.hpp"
+#include "core/entry_names.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "ui/parts/form_parts.hpp"
@@ -90,11 +91,10 @@ void add_heading(QGridLayout& grid, const char* name) {
 }
 
 /// A caption with the box at the end of its row.
-QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry,
-                     const char* widest = WIDEST_SINGLE) {
+QLineEdit* add_entry(QGridLayout& grid, const char* entry, const char* widest = WIDEST_SINGLE) {
     const int row = grid.rowCount();
     QLineEdit* box = compact_box(entry, widest);
-    QLabel* text = named_label(label);
+    QLabel* text = named_label(entry_label(entry));
     text->setBuddy(box);
     grid.addWidget(text, row, CAPTION, 1, BETWEEN);
     grid.addWidget(box, row, BETWEEN, 1, 2, Qt::AlignRight);
@@ -102,8 +102,8 @@ QLineEdit* add_entry(QGridLayout& grid, const char* label, const char* entry,
 }
 
 /// A percentage: the sign stands in the box, behind the number.
-void add_percentage(QGridLayout& grid, const char* label, const char* entry) {
-    QLineEdit* box = add_entry(grid, label, entry, WIDEST_PERCENTAGE);
+void add_percentage(QGridLayout& grid, const char* entry) {
+    QLineEdit* box = add_entry(grid, entry, WIDEST_PERCENTAGE);
     const QString sign = qt_text(message_text(message::unit_percent, ENGLISH));
     add_unit(*box, sign)->setText(sign);
 }
@@ -160,10 +160,10 @@ Perffrm::Perffrm(form_context context) : mdi_form("Perffrm", context) {
 
 void Perffrm::add_fluid(QGridLayout& grid) {
     add_heading(grid, "Label5");
-    add_entry(grid, "Label3", "fluid_density");
-    add_entry(grid, "Label1", "kin_visc");
-    add_entry(grid, "Label2", "vap_press");
-    add_entry(grid, "Label4", "bulk_mod_text");
+    add_entry(grid, "fluid_density");
+    add_entry(grid, "kin_visc");
+    add_entry(grid, "vap_press");
+    add_entry(grid, "bulk_mod_text");
     grid.addWidget(hairline(), grid.rowCount(), CAPTION, 1, COLUMNS);
 }
 
@@ -173,10 +173,10 @@ void Perffrm::add_materials(QGridLayout& grid) {
     grid.addWidget(heads, grid.rowCount(), LEFT_BOX, 1, 3);
     add_pair(grid, "Label10", "young_inner", nullptr, "young_outer");
     add_pair(grid, "Label11", "poissons_inner", nullptr, "poissons_outer");
-    add_entry(grid, "Label14", "friction");
-    add_entry(grid, "UTS_label", "UTS_value");
-    add_percentage(grid, "Face_area_label", "Face_area_value");
-    add_percentage(grid, "OD_area_label", "OD_area_value");
+    add_entry(grid, "friction");
+    add_entry(grid, "UTS_value");
+    add_percentage(grid, "Face_area_value");
+    add_percentage(grid, "OD_area_value");
     grid.addWidget(hairline(), grid.rowCount(), CAPTION, 1, COLUMNS);
 }
 

@@ -3,6 +3,7 @@
 #include "app/program.hpp"
 #include "app/stages/design_ports.hpp"
 #include "app/stages/porting_type.hpp"
+#include "core/entry_names.hpp"
 #include "core/text_table.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -82,31 +83,31 @@ portdes::portdes(form_context context) : mdi_form("portdes", context) {
 QGroupBox* portdes::inlet_frame() {
     QGroupBox* frame = named_frame("Frame2");
     QGridLayout& grid = *frame_grid(*frame);
-    add_entry(grid, "Label2", "inlet_start_inner", false);
-    add_entry(grid, "Label3", "inlet_start_outer", false);
-    add_entry(grid, "Label4", "inlet_end_inner", false);
-    add_entry(grid, "Label5", "inlet_end_outer", false);
-    add_entry(grid, "Label15", "inlet_inner_radius", true);
-    add_entry(grid, "Label14", "inlet_outer_radius", true);
+    add_entry(grid, "inlet_start_inner", false);
+    add_entry(grid, "inlet_start_outer", false);
+    add_entry(grid, "inlet_end_inner", false);
+    add_entry(grid, "inlet_end_outer", false);
+    add_entry(grid, "inlet_inner_radius", true);
+    add_entry(grid, "inlet_outer_radius", true);
     return frame;
 }
 
 QGroupBox* portdes::outlet_frame() {
     QGroupBox* frame = named_frame("Frame3");
     QGridLayout& grid = *frame_grid(*frame);
-    add_entry(grid, "Label9", "outlet_start_inner", false);
-    add_entry(grid, "Label8", "outlet_start_outer", false);
-    add_entry(grid, "Label7", "outlet_end_inner", false);
-    add_entry(grid, "Label6", "outlet_end_outer", false);
-    add_entry(grid, "Label13", "Outlet_inner_radius", true);
-    add_entry(grid, "Label16", "Outlet_outer_radius", true);
+    add_entry(grid, "outlet_start_inner", false);
+    add_entry(grid, "outlet_start_outer", false);
+    add_entry(grid, "outlet_end_inner", false);
+    add_entry(grid, "outlet_end_outer", false);
+    add_entry(grid, "Outlet_inner_radius", true);
+    add_entry(grid, "Outlet_outer_radius", true);
     return frame;
 }
 
-void portdes::add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length) {
+void portdes::add_entry(QGridLayout& grid, const char* entry, bool is_length) {
     const int row = grid.rowCount();
     QLineEdit* box = compact_box(entry, WIDEST_NUMBER);
-    QLabel* text = named_label(label);
+    QLabel* text = named_label(entry_label(entry));
     text->setBuddy(box);
     (is_length ? length_units_ : angle_units_).append(add_unit(*box, widest_unit()));
     grid.addWidget(text, row, 0);
@@ -130,10 +131,8 @@ QGroupBox* portdes::type_frame() {
     groove->setHorizontalSpacing(COLUMN_SPACING);
     groove->setVerticalSpacing(0);
     int column = 0;
-    for (const auto& [label, entry] :
-         {std::pair{"Label10", "groove_length"}, std::pair{"Label11", "groove_width"},
-          std::pair{"Label12", "groove_depth"}}) {
-        QLabel* text = named_label(label);
+    for (const char* entry : {"groove_length", "groove_width", "groove_depth"}) {
+        QLabel* text = named_label(entry_label(entry));
         QLineEdit* box = compact_box(entry, WIDEST_NUMBER);
         box->setMaximumWidth(QWIDGETSIZE_MAX);
         text->setBuddy(box);
@@ -148,7 +147,7 @@ QGroupBox* portdes::type_frame() {
 QWidget* portdes::fillet_row() {
     QBoxLayout* layout = nullptr;
     QWidget* row = row_of(layout);
-    QLabel* text = named_label("Label1");
+    QLabel* text = named_label(entry_label("port_radii"));
     QLineEdit* box = compact_box("port_radii", WIDEST_NUMBER);
     text->setBuddy(box);
     length_units_.append(add_unit(*box, widest_unit()));

@@ -29,7 +29,7 @@ class portdes : public mdi_form {
     QGroupBox* type_frame();
     QWidget* fillet_row();
     QWidget* button_row();
-    void add_entry(QGridLayout& grid, const char* label, const char* entry, bool is_length);
+    void add_entry(QGridLayout& grid, const char* entry, bool is_length);
     void connect_commands();
 
     QList<QLabel*> angle_units_;
