@@ -51,11 +51,7 @@ bool command_runner::run_left_entry() {
     if (left_entry_.empty() || running_) {
         return true;
     }
-    runs_left_entry_ = true;
-    const bool is_done =
-        run_with(std::exchange(left_entry_, {}), [](program&, user&) { return false; });
-    runs_left_entry_ = false;
-    return is_done;
+    return run_with(std::exchange(left_entry_, {}), nullptr);
 }
 
 void command_runner::note_edit() {
@@ -74,12 +70,12 @@ edited_state command_runner::present_state() const {
     return edited_state_of(program_, &history_.present());
 }
 
-void command_runner::note_command() {
+void command_runner::note_command(bool is_left_entry) {
     const text_row* caption = std::exchange(program_.step_caption, nullptr);
     if (!history_.has_begun()) {
         return;
     }
-    if (runs_left_entry_) {
+    if (is_left_entry) {
         history_.note_left_entry(present_state());
     } else {
         history_.note_command(present_state(), caption);
@@ -107,12 +103,12 @@ bool command_runner::run_with(const std::string& entry, const command& action) {
     bool is_done = false;
     ended_ = run_command(program_, person_, [&] {
         leave_entry(program_, person_, entry);
-        const bool ends = action(program_, person_);
+        const bool ends = action != nullptr && action(program_, person_);
         is_done = true;
         return ends;
     });
     running_ = false;
-    note_command();
+    note_command(action == nullptr);
     emit finished();
     if (ended_) {
         emit ended();

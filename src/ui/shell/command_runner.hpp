@@ -72,9 +72,10 @@ class command_runner : public QObject {
   private:
     /// False when the handler failed: then nothing follows it.
     bool run_left_entry();
+    /// No action: the handler of the entry alone.
     bool run_with(const std::string& entry, const command& action);
     edited_state present_state() const;
-    void note_command();
+    void note_command(bool is_left_entry);
 
     program& program_;
     user& person_;
@@ -82,7 +83,6 @@ class command_runner : public QObject {
     bool ended_ = false;
     std::string entry_in_use_;
     std::string left_entry_;
-    bool runs_left_entry_ = false;
     edit_history history_;
 };
 
