@@ -12,7 +12,7 @@ import sys
 import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "road"))
-from start_to_exit import TITLE, expect, road_fault, saved_lines, screen, take_picture, user, wait_for  # noqa: E402
+from start_to_exit import TITLE, expect, road_fault, saved_lines, use_on_screen, user, wait_for  # noqa: E402
 
 SKIPPED = 77
 INSIDE = "KVT_ACCESS_INSIDE"
@@ -356,6 +356,7 @@ def leave(person, program):
 
 
 def go(display, program, folder):
+    os.environ["DISPLAY"] = display.environment["DISPLAY"]  # where the bus is found
     ear = bus("Kavetta")
     person = keyboard(display, program, ear)
     start_new_project(person, ear)
@@ -373,30 +374,6 @@ def go(display, program, folder):
     leave(person, program)
 
 
-def inside(kavetta):
-    """On the session bus: starts screen and program."""
-    display = screen()
-    os.environ["DISPLAY"] = display.environment["DISPLAY"]
-    with tempfile.TemporaryDirectory() as home:
-        folder = pathlib.Path(home) / "Kavetta"
-        program = subprocess.Popen(
-            [kavetta], cwd=home, stderr=subprocess.PIPE, text=True,
-            env={**display.environment, "HOME": home, "KAVETTA_HOME": str(folder), "QT_ACCESSIBILITY": "1",
-                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
-        try:
-            go(display, program, folder)
-            print("The design is done without a mouse, and all of it can be heard.")
-            return 0
-        except road_fault as fault:
-            print(f"Lost: {fault}")
-            take_picture(display)
-            return 1
-        finally:
-            program.kill()
-            print(program.communicate()[1])
-            display.close()
-
-
 def interpreter():
     """The first Python that knows the bus: a package of the system belongs to the Python of the system. None without."""
     for python in (sys.executable, "/usr/bin/python3"):
@@ -408,7 +385,8 @@ def interpreter():
 
 def main(kavetta):
     if os.environ.get(INSIDE):
-        return inside(kavetta)
+        return use_on_screen(kavetta, go, "The design is done without a mouse, and all of it can be heard.",
+                             QT_ACCESSIBILITY="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
     python = interpreter()
     missing = [tool for tool in TOOLS if shutil.which(tool) is None] + ([] if python else ["python3-pyatspi"])
     if missing:

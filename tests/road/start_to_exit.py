@@ -258,21 +258,18 @@ def take_picture(display):
         subprocess.run(["import", "-window", "root", picture], env=display.environment, check=False)
 
 
-def main(kavetta, control_places_tool, share):
-    missing = [tool for tool in ("Xvfb", "openbox", "xdotool") if shutil.which(tool) is None]
-    if missing:
-        print(f"Not installed: {', '.join(missing)}. Run scripts/setup test.")
-        return 1
-    places = control_places(control_places_tool, share)
+def use_on_screen(kavetta, use, done, **environment):
+    """Starts the program on a screen of its own with a folder of its own; use(display, program, folder) works with it.
+    Answers the exit status. environment: further variables of the program.
+    """
     display = screen()
     with tempfile.TemporaryDirectory() as home:
         folder = pathlib.Path(home) / "Kavetta"
         program = subprocess.Popen([kavetta], cwd=home, stderr=subprocess.PIPE, text=True,
-                                   env={**display.environment, "HOME": home, "KAVETTA_HOME": str(folder),
-                                        "XDG_RUNTIME_DIR": home})
+                                   env={**display.environment, "HOME": home, "KAVETTA_HOME": str(folder), **environment})
         try:
-            walk(display, program, places, folder)
-            print("The road leads from start to exit.")
+            use(display, program, folder)
+            print(done)
             return 0
         except road_fault as fault:
             print(f"Lost: {fault}")
@@ -282,6 +279,17 @@ def main(kavetta, control_places_tool, share):
             program.kill()
             print(program.communicate()[1])
             display.close()
+
+
+def main(kavetta, control_places_tool, share):
+    missing = [tool for tool in ("Xvfb", "openbox", "xdotool") if shutil.which(tool) is None]
+    if missing:
+        print(f"Not installed: {', '.join(missing)}. Run scripts/setup test.")
+        return 1
+    places = control_places(control_places_tool, share)
+    with tempfile.TemporaryDirectory() as runtime:
+        return use_on_screen(kavetta, lambda display, program, folder: walk(display, program, places, folder),
+                             "The road leads from start to exit.", XDG_RUNTIME_DIR=runtime)
 
 
 if __name__ == "__main__":
