@@ -45,6 +45,7 @@ struct app_state {
     std::string last_update_check;
     bool auto_updates = true;     ///< the check mark of mnuupdatesauto; nothing else follows it
     std::string update_server;    ///< scheme, host and port; empty: the update check is off
+    bool preview_on = true;       ///< the tick of mnuwindowpreview; kept in preferences.ini
     bool exit_cancelled = false;  ///< set by Cancel at the exit question, never set back
 
     // The explanation windows: true while the window is closed.

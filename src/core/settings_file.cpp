@@ -1,5 +1,5 @@
-// The seven lines of the settings file: read as far as they go, written whole. And the paths of
-// preferences.ini, which find their places by what the seven lines made of them.
+// The seven lines of the settings file: read as far as they go, written whole. And the settings of
+// preferences.ini, whose paths find their places by what the seven lines made of them.
 #include "core/settings_file.hpp"
 
 #include "base/code_page.hpp"
@@ -56,6 +56,10 @@ void read_date(const std::string& line, std::string& date) {
 
 constexpr std::string_view PROJECTS = "projects";
 
+constexpr std::string_view VIEW = "view";
+constexpr std::string_view PREVIEW = "preview";
+constexpr std::string_view OFF = "0";
+
 /// What KVT.ini can hold of a path, UTF-8.
 std::string held_by_code_page(const std::string& path) {
     std::string held = utf8_of_code_page(code_page_of_utf8(path));
@@ -75,6 +79,34 @@ bool restore_path(const std::string& path, std::string& entry) {
     }
     entry = path;
     return true;
+}
+
+void read_recent_paths(const preferences& kept, app_state& state) {
+    std::vector<std::string> moved;
+    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+        const std::optional<std::string> path = kept.value(PROJECTS, recent_key(entry));
+        if (path && !restore_path(*path, state.mnufileprev[entry])) {
+            moved.push_back(*path);
+        }
+    }
+    for (const std::string& path : moved) {
+        for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+            if (restore_path(path, state.mnufileprev[entry])) {
+                break;
+            }
+        }
+    }
+}
+
+void write_recent_paths(const app_state& state, preferences& kept) {
+    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
+        const std::string& path = state.mnufileprev[entry];
+        if (path != held_by_code_page(path)) {
+            kept.set(PROJECTS, recent_key(entry), path);
+        } else {
+            kept.remove(PROJECTS, recent_key(entry));
+        }
+    }
 }
 
 }  // namespace
@@ -107,30 +139,16 @@ std::string write_settings(const app_state& state) {
 }
 
 void read_own_settings(const preferences& kept, app_state& state) {
-    std::vector<std::string> moved;
-    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
-        const std::optional<std::string> path = kept.value(PROJECTS, recent_key(entry));
-        if (path && !restore_path(*path, state.mnufileprev[entry])) {
-            moved.push_back(*path);
-        }
-    }
-    for (const std::string& path : moved) {
-        for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
-            if (restore_path(path, state.mnufileprev[entry])) {
-                break;
-            }
-        }
-    }
+    read_recent_paths(kept, state);
+    state.preview_on = kept.value(VIEW, PREVIEW) != OFF;
 }
 
 void write_own_settings(const app_state& state, preferences& kept) {
-    for (std::size_t entry = 1; entry < std::size(state.mnufileprev); ++entry) {
-        const std::string& path = state.mnufileprev[entry];
-        if (path != held_by_code_page(path)) {
-            kept.set(PROJECTS, recent_key(entry), path);
-        } else {
-            kept.remove(PROJECTS, recent_key(entry));
-        }
+    write_recent_paths(state, kept);
+    if (state.preview_on) {
+        kept.remove(VIEW, PREVIEW);
+    } else {
+        kept.set(VIEW, PREVIEW, OFF);
     }
 }
 

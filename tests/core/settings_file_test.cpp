@@ -172,6 +172,24 @@ TEST(write_own_settings, keeps_what_it_does_not_know_and_drops_what_is_no_longer
               "pinned=/c.KVT\r\nno line of ours\r\nrecent_2=/Насос.KVT\r\n");
 }
 
+TEST(own_settings, have_a_line_of_the_preview_while_it_is_off) {
+    app_state state;
+    EXPECT_TRUE(state.preview_on);
+    state.preview_on = false;
+    EXPECT_EQ(own_text(state), "[view]\r\npreview=0\r\n");
+    app_state again;
+    read_own_settings(preferences("[view]\r\npreview=0\r\n"), again);
+    EXPECT_FALSE(again.preview_on);
+    read_own_settings(preferences("[view]\r\npreview=off\r\n"), again);
+    EXPECT_TRUE(again.preview_on);
+}
+
+TEST(write_own_settings, drops_the_preview_that_is_on_again) {
+    preferences kept("[view]\r\npreview=0\r\n");
+    write_own_settings(app_state(), kept);
+    EXPECT_EQ(kept.text(), "");
+}
+
 TEST(preferences_of_earlier_file, holds_its_recent_paths) {
     app_state state;
     read_settings("/?????.KVT\r\n", state);
