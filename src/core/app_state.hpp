@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/fixed4.hpp"
+#include "core/sight_ticks.hpp"
 
 #include <cstdint>
 #include <string>
@@ -47,6 +48,9 @@ struct app_state {
     std::string update_server;    ///< scheme, host and port; empty: the update check is off
     bool preview_on = true;       ///< the tick of mnuwindowpreview; kept in preferences.ini
     bool exit_cancelled = false;  ///< set by Cancel at the exit question, never set back
+
+    // Settings of our own.
+    kvt::sight_ticks sight_ticks;
 
     // The explanation windows: true while the window is closed.
     bool explain_closed = true;

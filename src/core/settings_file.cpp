@@ -58,6 +58,8 @@ constexpr std::string_view PROJECTS = "projects";
 
 constexpr std::string_view VIEW = "view";
 constexpr std::string_view PREVIEW = "preview";
+constexpr std::string_view DESIGN_VIEW = "design_view";
+constexpr std::string_view ON = "1";
 constexpr std::string_view OFF = "0";
 
 /// What KVT.ini can hold of a path, UTF-8.
@@ -109,6 +111,26 @@ void write_recent_paths(const app_state& state, preferences& kept) {
     }
 }
 
+/// A value that is neither 0 nor 1 leaves the tick as it is without the key.
+void read_sight_ticks(const preferences& kept, sight_ticks& ticks) {
+    for (const sight_tick_row& row : sight_tick_rows()) {
+        const std::optional<std::string> value = kept.value(DESIGN_VIEW, row.key);
+        if (value == ON || value == OFF) {
+            ticks.*row.tick = value == ON;
+        }
+    }
+}
+
+void write_sight_ticks(const sight_ticks& ticks, preferences& kept) {
+    for (const sight_tick_row& row : sight_tick_rows()) {
+        if (ticks.*row.tick == sight_ticks{}.*row.tick) {
+            kept.remove(DESIGN_VIEW, row.key);
+        } else {
+            kept.set(DESIGN_VIEW, row.key, ticks.*row.tick ? ON : OFF);
+        }
+    }
+}
+
 }  // namespace
 
 void read_settings(std::string_view bytes, app_state& state) {
@@ -140,11 +162,13 @@ std::string write_settings(const app_state& state) {
 
 void read_own_settings(const preferences& kept, app_state& state) {
     read_recent_paths(kept, state);
+    read_sight_ticks(kept, state.sight_ticks);
     state.preview_on = kept.value(VIEW, PREVIEW) != OFF;
 }
 
 void write_own_settings(const app_state& state, preferences& kept) {
     write_recent_paths(state, kept);
+    write_sight_ticks(state.sight_ticks, kept);
     if (state.preview_on) {
         kept.remove(VIEW, PREVIEW);
     } else {

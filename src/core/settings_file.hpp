@@ -1,6 +1,6 @@
 // settings_file: KVT.ini, seven positional lines in the program's folder, and what preferences.ini
-// keeps beside it: the recent paths that the code page of KVT.ini can't hold, and whether the
-// preview is off.
+// keeps beside it: the recent paths that the code page of KVT.ini can't hold, whether the preview
+// is off, and the ticks of the Design view.
 #pragma once
 
 #include "core/app_state.hpp"
@@ -31,11 +31,12 @@ std::string write_settings(const app_state& state);
 /// Reads the keys recent_1 to recent_3 of the section projects into the recent entries that
 /// read_settings has filled. A path counts for an entry that is what write_settings made of it, the
 /// one of its number first, so that a list which another version wrote to KVT.ini later stays. And
-/// the key preview of the section view: 0 is off, anything else, or no key, is on.
+/// the key preview of the section view: 0 is off, anything else, or no key, is on. And the ticks of
+/// the section design_view, 0 or 1; without their keys they stay.
 void read_own_settings(const preferences& kept, app_state& state);
 
-/// Sets the keys of the recent paths that KVT.ini can't hold whole, and of the preview when it is
-/// off, and drops the others.
+/// Sets the keys of the recent paths that KVT.ini can't hold whole, of the preview when it is off,
+/// and of the ticks that are not as they are at first, and drops the others.
 void write_own_settings(const app_state& state, preferences& kept);
 
 /// The lines "recent_1=PATH" of an earlier version as the section that they are today.

@@ -81,7 +81,7 @@ void clear_rotors(design_view& view);
 void clear_all(design_view& view);
 
 /// The scale of a new drawing: view_scale = view_size * 0.95 / maxdiameter, twips per mm; view_ecc
-/// = ecc * view_scale.
+/// = ecc * view_scale. The drawing is one for view_size.
 void set_plot_scale(const design_params& design, view_state& state);
 
 /// The direction of a difference (dx, dy) for a drawn arc, radians: arctan(dy/dx), plus PI_L if dx

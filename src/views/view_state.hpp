@@ -18,6 +18,7 @@ struct view_state {
     double rotation_angle = 0.0;        ///< rotation of the inner rotor in the view, degrees
     double outer_rotation_angle = 0.0;  ///< rotation of the outer rotor in the view, degrees
     std::int16_t view_size = 3000;      ///< side of the square drawing area
+    std::int16_t drawn_size = 0;        ///< view_size of the present drawing; 0 before the first
     double view_scale = 0.0;            ///< twips per millimetre
     double view_cx = 3000.0;            ///< position of the pump's origin in the picture
     double view_cy = 3000.0;

@@ -96,6 +96,7 @@ void zoom_to_band(const design_params& design, view_state& state) {
     state.view_ecc = design.ecc * state.view_scale;
     state.view_cx = (state.view_cx - state.zoom_start_x) * state.view_zoom;
     state.view_cy = (state.view_cy - state.zoom_start_y) * state.view_zoom;
+    state.drawn_size = state.view_size;
 }
 
 void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,

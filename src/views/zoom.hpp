@@ -28,6 +28,7 @@ bool end_rubber_band(double x, double y, view_state& state, design_view& view);
 ///     view_zoom = view_size / w if w > h, else view_size / h
 ///     view_scale = view_scale view_zoom      view_ecc = ecc view_scale
 ///     view_cx = (view_cx - zoom_start_x) view_zoom      view_cy likewise
+/// The drawing is one for view_size then.
 void zoom_to_band(const design_params& design, view_state& state);
 
 /// Draws everything that the view shows anew at the present scale and place: the inner rotor

@@ -190,6 +190,22 @@ TEST(write_own_settings, drops_the_preview_that_is_on_again) {
     EXPECT_EQ(kept.text(), "");
 }
 
+TEST(own_settings, keep_the_ticks_of_the_design_view_that_are_not_as_at_first) {
+    app_state state;
+    state.sight_ticks.filled = false;
+    state.sight_ticks.grid = true;
+    EXPECT_EQ(own_text(state), "[design_view]\r\nfilled=0\r\ngrid=1\r\n");
+    app_state again;
+    read_own_settings(preferences(own_text(state)), again);
+    EXPECT_EQ(again.sight_ticks, state.sight_ticks);
+}
+
+TEST(read_own_settings, leaves_a_tick_whose_value_is_neither_0_nor_1) {
+    app_state state;
+    read_own_settings(preferences("[design_view]\r\nfilled=no\r\ndimensions=2\r\n"), state);
+    EXPECT_EQ(state.sight_ticks, sight_ticks{});
+}
+
 TEST(preferences_of_earlier_file, holds_its_recent_paths) {
     app_state state;
     read_settings("/?????.KVT\r\n", state);

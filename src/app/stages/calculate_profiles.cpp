@@ -86,6 +86,7 @@ void closing_steps(program& kavetta, user& person) {
     view_state& view = kavetta.view_state;
     view.view_cx = view.view_size / 2.0;
     view.view_cy = view.view_size / 2.0;
+    view.drawn_size = view.view_size;
     view.view_zoom = 1.0;
     design_ports_again(kavetta, person);
     kavetta.app_state.zoom_all_requested = 0;

@@ -143,7 +143,11 @@ void viewwinfrm::connect_picture() {
 
 void viewwinfrm::refresh() {
     mdi_form::refresh();
-    picture_->show_view(context_.kavetta.design_view);
+    show_drawing();
+}
+
+void viewwinfrm::show_drawing() {
+    picture_->show_view(context_.kavetta.design_view, view_box(context_.kavetta.view_state));
 }
 
 void viewwinfrm::move_band(double x, double y) {
@@ -207,6 +211,7 @@ void viewwinfrm::size_picture() {
         resize(pixels(layout->form_width), pixels(layout->form_height));
     }
     place_controls(pixels(layout->picture_side));
+    show_drawing();
 }
 
 /// The picture in the middle, the row below it. With a large font, or in a small form, the content

@@ -47,8 +47,8 @@ class viewwinfrm : public mdi_form {
     void refresh() override;
 
     /// The resize rule: the side of the picture follows the form's height, and the form's width
-    /// follows the picture. Maximised, the form keeps its size. The drawing stays as it is until
-    /// the next Calculate Profiles.
+    /// follows the picture. Maximised, the form keeps its size. The drawing fills the picture; its
+    /// record stays as it is until the next Calculate Profiles.
     void size_picture();
 
     /// The pair and its angle anew after a turn that another window has made.
@@ -68,6 +68,7 @@ class viewwinfrm : public mdi_form {
     QWidget* bottom_row();
     hold_button* rotate_button(const char* name, const QIcon& icon, turning direction);
     void connect_picture();
+    void show_drawing();
     void move_band(double x, double y);
     void turn(turning direction);
     void stop_turning();

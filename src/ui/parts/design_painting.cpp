@@ -62,22 +62,18 @@ constexpr std::array PORT_STYLES = {
     line_style{&design_view::inlet_portline, 0, 0, 255, 2.0},
 };
 
-double pixels(double twips) {
-    return twips / TWIPS_PER_PIXEL;
+QPointF start_of(const drawn_line& line, const view_box& box) {
+    return {box.pixels(line.x1), box.pixels(line.y1)};
 }
 
-QPointF start_of(const drawn_line& line) {
-    return {pixels(line.x1), pixels(line.y1)};
+QPointF end_of(const drawn_line& line, const view_box& box) {
+    return {box.pixels(line.x2), box.pixels(line.y2)};
 }
 
-QPointF end_of(const drawn_line& line) {
-    return {pixels(line.x2), pixels(line.y2)};
-}
-
-QList<QPointF> points_of(const std::vector<drawn_point>& places) {
+QList<QPointF> points_of(const std::vector<drawn_point>& places, const view_box& box) {
     QList<QPointF> points;
     for (const drawn_point& place : places) {
-        points.append({pixels(place.x), pixels(place.y)});
+        points.append({box.pixels(place.x), box.pixels(place.y)});
     }
     return points;
 }
@@ -107,13 +103,13 @@ bool is_on_the_way(QPointF from, QPointF point, QPointF to) {
 /// Segments that continue each other become an outline with clean joins: thousands of antialiased
 /// segments shorter than a pixel would blend into a line that is too thick. Points that nobody can
 /// see are left out. Long outlines come in pieces, which are painted in half the time.
-std::vector<QPolygonF> outlines_of(const line_array& array) {
+std::vector<QPolygonF> outlines_of(const line_array& array, const view_box& box) {
     std::vector<QPolygonF> outlines;
     QPointF last;
     for (std::size_t index = array.element0_visible ? 0 : 1; index < array.elements.size();
          ++index) {
-        const QPointF start = start_of(array.elements[index]);
-        const QPointF end = end_of(array.elements[index]);
+        const QPointF start = start_of(array.elements[index], box);
+        const QPointF end = end_of(array.elements[index], box);
         if (!can_be_seen({start, end})) {
             continue;
         }
@@ -162,13 +158,13 @@ void add_curve(QPainterPath& path, QPointF centre, double radius, double from, d
 }
 
 /// Arcs run counter-clockwise as seen on the screen; an end before the start lies one turn further.
-QPainterPath arc_path(const drawn_arc& arc) {
+QPainterPath arc_path(const drawn_arc& arc, const view_box& box) {
     QPainterPath path;
-    const double radius = pixels(arc.radius);
+    const double radius = box.pixels(arc.radius);
     if (!(radius > 0.0)) {
         return path;
     }
-    const QPointF centre(pixels(arc.x), pixels(arc.y));
+    const QPointF centre(box.pixels(arc.x), box.pixels(arc.y));
     const double turn = arc.end_angle - arc.start_angle;
     const double sweep = turn < 0.0 ? turn + 2.0 * std::numbers::pi : turn;
     const int curves = std::max(1, static_cast<int>(std::ceil(sweep / largest_curve(radius))));
@@ -179,10 +175,10 @@ QPainterPath arc_path(const drawn_arc& arc) {
     return path;
 }
 
-std::vector<QPainterPath> arc_paths(const std::vector<drawn_arc>& arcs) {
+std::vector<QPainterPath> arc_paths(const std::vector<drawn_arc>& arcs, const view_box& box) {
     std::vector<QPainterPath> paths;
     for (const drawn_arc& arc : arcs) {
-        if (QPainterPath path = arc_path(arc); !path.isEmpty()) {
+        if (QPainterPath path = arc_path(arc, box); !path.isEmpty()) {
             paths.push_back(std::move(path));
         }
     }
@@ -190,13 +186,14 @@ std::vector<QPainterPath> arc_paths(const std::vector<drawn_arc>& arcs) {
 }
 
 /// The outside circle as two half turns.
-std::vector<QPainterPath> circle_paths(const drawn_circle& circle) {
+std::vector<QPainterPath> circle_paths(const drawn_circle& circle, const view_box& box) {
     if (!circle.visible) {
         return {};
     }
     const double radius = circle.diameter / 2.0;
     return arc_paths({{circle.x, circle.y, radius, 0.0, std::numbers::pi},
-                      {circle.x, circle.y, radius, std::numbers::pi, 2.0 * std::numbers::pi}});
+                      {circle.x, circle.y, radius, std::numbers::pi, 2.0 * std::numbers::pi}},
+                     box);
 }
 
 QPen outline_pen(const QColor& colour, double width) {
@@ -205,24 +202,24 @@ QPen outline_pen(const QColor& colour, double width) {
 
 }  // namespace
 
-design_painting::design_painting(const design_view& view) {
+design_painting::design_painting(const design_view& view, const view_box& box) : box_(box) {
     take_rotors(view);
     take_ports(view);
     take_band(view.Line3);
 }
 
 void design_painting::take_rotors(const design_view& view) {
-    chamber_ = QPolygonF(points_of(view.chamber.outline));
-    chamber_ends_ = points_of(view.chamber.contacts);
-    arcs_ = arc_paths(view.Picture1);
-    inner_rotor_ = outlines_of(view.Line1);
-    circle_ = circle_paths(view.Shape1);
+    chamber_ = QPolygonF(points_of(view.chamber.outline, box_));
+    chamber_ends_ = points_of(view.chamber.contacts, box_);
+    arcs_ = arc_paths(view.Picture1, box_);
+    inner_rotor_ = outlines_of(view.Line1, box_);
+    circle_ = circle_paths(view.Shape1, box_);
 }
 
 void design_painting::take_ports(const design_view& view) {
     ports_.clear();
     for (const line_style& style : PORT_STYLES) {
-        std::vector<QPolygonF> outlines = outlines_of(view.*style.member);
+        std::vector<QPolygonF> outlines = outlines_of(view.*style.member, box_);
         if (!outlines.empty()) {
             ports_.push_back(
                 {QColor(style.red, style.green, style.blue), style.width, std::move(outlines)});
@@ -237,7 +234,7 @@ bool design_painting::take_band(const rubber_band& band) {
     band_.clear();
     if (band.visible) {
         for (const drawn_line& line : band.lines) {
-            band_.append(QLineF(start_of(line), end_of(line)));
+            band_.append(QLineF(start_of(line, box_), end_of(line, box_)));
         }
     }
     return true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "views/design_view.hpp"
+#include "views/sight/view_box.hpp"
 
 #include <QColor>
 #include <QLineF>
@@ -22,8 +23,8 @@ namespace kvt {
 class design_painting {
   public:
     design_painting() = default;
-    /// Takes the data over; 15 twips are one logical pixel.
-    explicit design_painting(const design_view& view);
+    /// Takes the data over, as it stands in its box.
+    explicit design_painting(const design_view& view, const view_box& box = {});
 
     /// Takes the rotors over again, which a turn moves; ports and rubber band stay.
     void take_rotors(const design_view& view);
@@ -44,6 +45,7 @@ class design_painting {
     void paint_chamber(QPainter& painter) const;
     void paint_contacts(QPainter& painter) const;
 
+    view_box box_;
     // In stacking order, lowest first.
     QPolygonF chamber_;               ///< filled
     QList<QPointF> chamber_ends_;     ///< its contacts

@@ -1,6 +1,5 @@
 #include "ui/parts/design_picture.hpp"
 
-#include "core/form_table.hpp"
 #include "ui/parts/accessible_role.hpp"
 
 #include <QMouseEvent>
@@ -24,12 +23,6 @@ constexpr int CROSS_STEP = 10;
 constexpr int CROSS_ARM = 12;
 constexpr QColor CROSS_INK(0, 90, 200);
 
-QPointF twips(const QPointF& pixels) {
-    const QPointF place = pixels * TWIPS_PER_PIXEL;
-    return {std::clamp(place.x(), SMALLEST_TWIPS, LARGEST_TWIPS),
-            std::clamp(place.y(), SMALLEST_TWIPS, LARGEST_TWIPS)};
-}
-
 }  // namespace
 
 design_picture::design_picture(QWidget* parent) : QWidget(parent) {
@@ -43,9 +36,16 @@ design_picture::design_picture(QWidget* parent) : QWidget(parent) {
     set_accessible_role(*this, QAccessible::Graphic);
 }
 
-void design_picture::show_view(const design_view& view) {
-    painting_ = design_painting(view);
+void design_picture::show_view(const design_view& view, const view_box& box) {
+    box_ = box;
+    painting_ = design_painting(view, box);
     update();
+}
+
+point2 design_picture::twips(const QPointF& pixels) const {
+    const point2 place = box_.on_drawing({pixels.x(), pixels.y()});
+    return {std::clamp(place.x, SMALLEST_TWIPS, LARGEST_TWIPS),
+            std::clamp(place.y, SMALLEST_TWIPS, LARGEST_TWIPS)};
 }
 
 void design_picture::show_rotors(const design_view& view) {
@@ -79,18 +79,18 @@ void design_picture::paint_cross(QPainter& painter) const {
 }
 
 void design_picture::mousePressEvent(QMouseEvent* event) {
-    const QPointF place = twips(event->position());
-    emit pressed(place.x(), place.y());
+    const point2 place = twips(event->position());
+    emit pressed(place.x, place.y);
 }
 
 void design_picture::mouseMoveEvent(QMouseEvent* event) {
-    const QPointF place = twips(event->position());
-    emit moved(place.x(), place.y());
+    const point2 place = twips(event->position());
+    emit moved(place.x, place.y);
 }
 
 void design_picture::mouseReleaseEvent(QMouseEvent* event) {
-    const QPointF place = twips(event->position());
-    emit released(place.x(), place.y());
+    const point2 place = twips(event->position());
+    emit released(place.x, place.y);
 }
 
 void design_picture::leaveEvent(QEvent*) {
@@ -136,25 +136,25 @@ void design_picture::move_cross(const QPoint& step) {
     shows_cross_ = true;
     const QPoint to = cross_ + step;
     cross_ = {std::clamp(to.x(), 0, width() - 1), std::clamp(to.y(), 0, height() - 1)};
-    const QPointF place = twips(cross_);
-    emit moved(place.x(), place.y());
+    const point2 place = twips(cross_);
+    emit moved(place.x, place.y);
     update();
 }
 
 void design_picture::press_space() {
-    const QPointF place = twips(cross_);
+    const point2 place = twips(cross_);
     if (std::exchange(pressed_, pressed_ ? std::nullopt : std::optional(cross_))) {
-        emit released(place.x(), place.y());
+        emit released(place.x, place.y);
     } else {
-        emit pressed(place.x(), place.y());
+        emit pressed(place.x, place.y);
     }
 }
 
 /// A band without a size zooms nothing.
 void design_picture::drop_band() {
     if (const std::optional<QPoint> start = std::exchange(pressed_, std::nullopt)) {
-        const QPointF place = twips(*start);
-        emit released(place.x(), place.y());
+        const point2 place = twips(*start);
+        emit released(place.x, place.y);
     }
 }
 

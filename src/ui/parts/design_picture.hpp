@@ -19,13 +19,13 @@ class design_picture : public QWidget {
     explicit design_picture(QWidget* parent);
 
     /// Takes over everything, or what a turn or the mouse changes.
-    void show_view(const design_view& view);
+    void show_view(const design_view& view, const view_box& box);
     void show_rotors(const design_view& view);
     void show_band(const rubber_band& band);
 
   signals:
-    // Any mouse button; twips from the upper left corner, within 16 bits. During a drag they may
-    // lie outside the sheet.
+    // Any mouse button; twips of the drawing from the upper left corner, within 16 bits. During a
+    // drag they may lie outside the sheet.
     void pressed(double x, double y);
     void moved(double x, double y);  ///< with or without a button held
     void released(double x, double y);
@@ -42,6 +42,7 @@ class design_picture : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    point2 twips(const QPointF& pixels) const;
     void move_cross(const QPoint& step);
     void press_space();
     void drop_band();
@@ -50,6 +51,7 @@ class design_picture : public QWidget {
     QPoint cross_;  ///< pixels; shown while the picture has the focus by a key
     bool shows_cross_ = false;
     std::optional<QPoint> pressed_;  ///< where Space has begun a band
+    view_box box_;
     design_painting painting_;
 };
 

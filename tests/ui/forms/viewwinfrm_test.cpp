@@ -126,6 +126,40 @@ TEST_F(viewwinfrm_test, zoom_all_draws_the_same_pair_in_the_new_size_and_keeps_r
     EXPECT_EQ(kavetta().app_state.zoom_all_requested, 0);
 }
 
+TEST_F(viewwinfrm_test, the_drawing_fills_the_picture_at_any_size_and_its_record_stays) {
+    calculate();
+    const double scale = kavetta().view_state.view_scale;
+    const double diameter = kavetta().design_view.Shape1.diameter;
+    for (const int height : {279, 679, 1079}) {
+        form()->resize(form()->width(), height);
+        settle();
+        const int side = picture().width();
+        EXPECT_EQ(side, height - 79);
+        const QImage drawn = sheet()->grab().toImage();
+        // The outside circle begins 2.5 % from the left and ends 2.5 % from the right.
+        const int left = qRound(0.025 * side), middle = side / 2;
+        EXPECT_GT(dark_pixels(drawn, QRect(left - 2, middle - 4, 5, 8)), 6) << height;
+        EXPECT_GT(dark_pixels(drawn, QRect(side - left - 3, middle - 4, 5, 8)), 6) << height;
+        EXPECT_EQ(dark_pixels(drawn, QRect(0, 0, left - 3, side)), 0) << height;
+    }
+    EXPECT_EQ(kavetta().view_state.view_scale, scale);
+    EXPECT_EQ(kavetta().design_view.Shape1.diameter, diameter);
+}
+
+TEST_F(viewwinfrm_test, the_mouse_is_mapped_back_to_a_drawing_of_another_size) {
+    calculate();
+    hover({100, 120});
+    const std::string place = label("cursor_position");
+    form()->resize(form()->width(), 879);  // twice the side
+    settle();
+    hover({200, 240});
+    EXPECT_EQ(label("cursor_position"), place);
+    const double scale = kavetta().view_state.view_scale;
+    drag({600, 300}, {700, 500});  // what was 50 by 100 pixels of the picture of 400
+    EXPECT_EQ(kavetta().view_state.view_cx, (3000.0 - 4500.0) * 8.0);
+    EXPECT_EQ(kavetta().view_state.view_scale, scale * 8.0);  // into the box of 800 now
+}
+
 TEST_F(viewwinfrm_test, closing_hides_it_and_keeps_its_drawing) {
     start(design_file("n07_engine_oil_groove"));
     press("Calc");
