@@ -47,6 +47,7 @@ consteval auto form_rows() {
 #include "core/texts/graphpopupmenu.inc"
 #include "core/texts/history.inc"
 #include "core/texts/kvt.inc"
+#include "core/texts/limits.inc"
 #include "core/texts/model_view.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/perf_res.inc"

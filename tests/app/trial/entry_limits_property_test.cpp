@@ -1,0 +1,81 @@
+// The limits of random designs: accepted just inside, refused just outside. Hard designs are among
+// them: their dimensions are drawn anew until the rotors are refused, or are at the edge of it.
+#include "app/trial/design_trial.hpp"
+#include "app/trial/entry_limits.hpp"
+#include "base/number_text.hpp"
+#include "support/random_design.hpp"
+
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace kvt {
+namespace {
+
+constexpr int DESIGNS = 200;
+/// Of the end, or of a millionth of the number inside for an end next to 0.
+constexpr double JUST = 1e-6;
+
+constexpr std::array ENTRIES = {
+    "ecc",        "radouter",         "radinnroot",        "numlobes",
+    "clearn",     "fillet",           "shaftdiameter",     "maxdiameter",
+    "port_radii", "outlet_end_inner", "inlet_start_inner", "minmaterial"};
+
+/// Every third design as an engineer may leave it: a dimension that is often refused.
+program drawn_design(random_values& random, int number) {
+    program kavetta = random_design(random);
+    if (number % 3 == 0) {
+        std::string& box =
+            kavetta.entries.*
+            find_entry(ENTRIES.at(static_cast<std::size_t>(random.whole(0, 2))))->member;
+        box = typed_number(val(box) * random.real(0.4, 2.0));
+    }
+    return kavetta;
+}
+
+struct tried_entry {
+    const program& kavetta;
+    const entry_field& entry;
+    calc_stage last;
+
+    bool accepts(double number) const {
+        return try_design(kavetta, typed_entry{std::string(entry.name), number_text(number)}, last)
+            .accepted;
+    }
+};
+
+/// Checks one end from both sides.
+void expect_end(const tried_entry& tried, const entry_limits& limits, const entry_limit& end) {
+    const double outward = end.refused < end.accepted ? -1.0 : 1.0;
+    const double size = std::max(std::abs(end.accepted), JUST * std::abs(limits.inside));
+    const bool is_whole = tried.entry.name == std::string_view("numlobes");
+    const double just = is_whole ? 1.0 : JUST * size;
+    EXPECT_TRUE(tried.accepts(end.accepted)) << end.accepted;
+    EXPECT_FALSE(tried.accepts(end.accepted + outward * just)) << end.accepted;
+    EXPECT_TRUE(is_whole || tried.accepts(end.accepted - outward * just)) << end.accepted;
+    EXPECT_TRUE(tried.accepts(val(end.shown))) << end.shown;
+}
+
+TEST(entry_limits_property, are_right_at_both_ends) {
+    random_values random;
+    int ends = 0;
+    const int count = property_count(DESIGNS);
+    for (int number = 0; number < count; ++number) {
+        const program kavetta = drawn_design(random, number);
+        const entry_field& entry =
+            *find_entry(ENTRIES.at(static_cast<std::size_t>(random.whole(0, ENTRIES.size() - 1))));
+        const calc_stage last = random.whole(0, 1) == 0 ? calc_stage::profiles : calc_stage::ports;
+        SCOPED_TRACE(std::string(entry.name) + " of design " + std::to_string(number));
+        const auto limits = find_limits(kavetta, entry, last);
+        for (const auto end : {&entry_limits::lowest, &entry_limits::highest}) {
+            if (limits && (*limits).*end) {
+                expect_end({kavetta, entry, last}, *limits, *((*limits).*end));
+                ++ends;
+            }
+        }
+    }
+    EXPECT_GE(ends, count / 2);
+}
+
+}  // namespace
+}  // namespace kvt
