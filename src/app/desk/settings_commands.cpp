@@ -75,6 +75,10 @@ void save_settings(const program& kavetta) {
     write_file(kavetta.folder / SETTINGS_FILE_NAME, write_settings(kavetta.app_state));
 }
 
+void toggle_preview(program& kavetta, user&) {
+    kavetta.app_state.preview_on = !kavetta.app_state.preview_on;
+}
+
 std::string existing_folder_of(const program& kavetta, const std::string& path) {
     const std::string folder = folder_of_path(path);
     std::error_code ignored;

@@ -6,6 +6,7 @@
 
 namespace kvt {
 
+class user;
 struct app_state;
 struct program;
 
@@ -16,6 +17,9 @@ void read_settings_files(const std::filesystem::path& folder, app_state& state);
 /// Writes KVT.ini whole, and preferences.ini with what it holds already; one that would be empty
 /// goes, and so does Kavetta.ini. Throws run_time_error when a file can't be written.
 void save_settings(const program& kavetta);
+
+/// Preview: whether entries are tried while they are typed; kept with the settings.
+void toggle_preview(program& kavetta, user& person);
 
 /// The folder of the open project: projects_folder; when that is empty the folder of the project's
 /// path, else the program's folder with "projects".

@@ -11,6 +11,7 @@
 #include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/language_flag.hpp"
+#include "ui/parts/trial_label.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QButtonGroup>
@@ -178,6 +179,7 @@ void Form1::add_results(QVBoxLayout& layout) {
         caption->setBuddy(result);
         grid->addWidget(caption, row, 0);
         grid->addWidget(result, row, 1);
+        grid->addWidget(new trial_label("Form1", output), row, 2);
         if (has_exact_value("Form1", output)) {
             grid->addWidget(new differing_sign("Form1", output, context_), row, 3);
         }
@@ -224,6 +226,12 @@ void Form1::refresh() {
     unittype_->setToolTip(tooltip_of(context_.kavetta, "Form1", "unittype"));
     image1_->setChecked(context_.kavetta.app_state.language == ENGLISH);
     image2_->setChecked(context_.kavetta.app_state.language == GERMAN);
+}
+
+/// The trial of the capacity stands in the place of its unit, which the list above names too.
+void Form1::show_trial(const trial_figures* trial) {
+    mdi_form::show_trial(trial);
+    findChild<QLabel*>("units_label")->setVisible(findChild<QLabel*>("capacity_trial")->isHidden());
 }
 
 /// The button that runs at Enter is the one that can be pressed.

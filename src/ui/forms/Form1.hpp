@@ -23,6 +23,7 @@ class Form1 : public mdi_form {
     explicit Form1(form_context context);
 
     void refresh() override;
+    void show_trial(const trial_figures* trial) override;
 
   signals:
     /// The form's close is the Exit command.

@@ -2,6 +2,7 @@
 
 #include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
+#include "ui/parts/trial_label.hpp"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -28,12 +29,13 @@ class result_grid {
         grid_->setColumnStretch(0, 1);
     }
 
-    /// A result in the row of its caption.
+    /// A result in the row of its caption; its trial below it.
     void add(const char* caption, const char* result) {
         const int row = grid_->rowCount();
         QLabel* shown = compact_result(result);
         grid_->addWidget(caption_of_result(caption, *shown), row, 0);
         grid_->addWidget(shown, row, 1);
+        add_trial(result);
     }
     /// A result below its caption, which is long.
     void add_below(const char* caption, const char* result) {
@@ -47,6 +49,7 @@ class result_grid {
         } else {
             grid_->addWidget(shown, row, 0, 1, 2);
         }
+        add_trial(result);
     }
     /// A result that is a whole sentence.
     void add_sentence(const char* result) {
@@ -54,6 +57,11 @@ class result_grid {
         sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
         sentence->setFocusPolicy(Qt::NoFocus);
         grid_->addWidget(sentence, grid_->rowCount(), 0, 1, 2);
+    }
+    void add_trial(const char* result) {
+        auto* trial = new trial_label("perf_res", result);
+        trial->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid_->addWidget(trial, grid_->rowCount(), 0, 1, 2);
     }
     void add_line() { grid_->addWidget(hairline(), grid_->rowCount(), 0, 1, 2); }
     void finish() { grid_->setRowStretch(grid_->rowCount(), 1); }
@@ -95,6 +103,7 @@ perf_res::perf_res(form_context context) : loaded_form("perf_res", context) {
     results.add_below("max_cutter_inner_label", "max_cutter_inner");
     results.add_line();
     results.add_sentence("Label1");
+    results.add_trial("Label1");
     results.finish();
     bind(content, true);
 }

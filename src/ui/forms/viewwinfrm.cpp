@@ -27,6 +27,12 @@ namespace {
 constexpr int TURN_INTERVAL = 10;
 constexpr int ANGLE_WIDTH = 56;
 
+/// A trial, on the white sheet beside black rotors, red and blue ports; pale where it is older than
+/// the entries.
+constexpr QColor TRIAL_COLOUR(150, 0, 210);
+constexpr QColor PALE_TRIAL_COLOUR(150, 0, 210, 90);
+constexpr double TRIAL_WIDTH = 1.2;  ///< pixels
+
 int pixels(double twips) {
     return qRound(twips / TWIPS_PER_PIXEL);
 }
@@ -148,6 +154,7 @@ void viewwinfrm::refresh() {
 
 void viewwinfrm::show_drawing() {
     picture_->show_view(context_.kavetta.design_view, view_box(context_.kavetta.view_state));
+    show_overlays();
 }
 
 void viewwinfrm::move_band(double x, double y) {
@@ -155,6 +162,35 @@ void viewwinfrm::move_band(double x, double y) {
         picture_->show_band(context_.kavetta.design_view.Line3);
         emit cursor_moved(qt_text(cursor_text(context_.kavetta, x, y)));
     }
+}
+
+void viewwinfrm::show_preview(const preview_state& trial) {
+    rotors_ = trial.rotors();
+    ports_ = trial.ports();
+    show_overlays();
+}
+
+/// They are drawn anew where the view stands, which a turn, a zoom or another size changes.
+void viewwinfrm::show_overlays() {
+    view_overlays overlays;
+    add_overlay(rotors_, {.rotors = true}, overlays);
+    if (ports_.design != nullptr) {
+        overlaid_outlines ports = ports_.design->outlines;
+        ports.rotors = false;
+        add_overlay(ports_, ports, overlays);
+    }
+    picture_->show_overlays(std::move(overlays));
+}
+
+void viewwinfrm::add_overlay(const shown_trial& trial, const overlaid_outlines& which,
+                             view_overlays& overlays) const {
+    if (trial.design == nullptr) {
+        return;
+    }
+    const view_state place = overlay_place(context_.kavetta, *trial.design);
+    overlays.above.push_back(
+        {design_painting(overlay_of(*trial.design, which, place), view_box(place)),
+         trial.is_pale ? PALE_TRIAL_COLOUR : TRIAL_COLOUR, TRIAL_WIDTH});
 }
 
 void viewwinfrm::turn(turning direction) {
@@ -167,6 +203,7 @@ void viewwinfrm::turn(turning direction) {
 void viewwinfrm::show_turned() {
     angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
     picture_->show_rotors(context_.kavetta.design_view);
+    show_overlays();
     describe_picture();
 }
 

@@ -1,6 +1,7 @@
 // viewwinfrm: the Design view, where the rotor pair is drawn to scale, zoomed and turned.
 #pragma once
 
+#include "app/trial/preview_state.hpp"
 #include "ui/shell/mdi_form.hpp"
 #include "views/rotation.hpp"
 
@@ -12,6 +13,7 @@ class QTimer;
 namespace kvt {
 
 class design_picture;
+struct view_overlays;
 
 /// A button that acts as long as it is held: it says when the left mouse button goes down on it and
 /// when it goes up on it. Without the mouse each press is one step.
@@ -54,6 +56,9 @@ class viewwinfrm : public mdi_form {
     /// The pair and its angle anew after a turn that another window has made.
     void show_turned();
 
+    /// What lies over the calculated design: the trial of the entries that are being typed.
+    void show_preview(const preview_state& trial);
+
     void name_controls() override;
 
   signals:
@@ -73,6 +78,9 @@ class viewwinfrm : public mdi_form {
     void turn(turning direction);
     void stop_turning();
     void describe_picture();
+    void show_overlays();
+    void add_overlay(const shown_trial& trial, const overlaid_outlines& which,
+                     view_overlays& overlays) const;
     void place_controls(int side);
 
     QWidget* content_;
@@ -80,6 +88,7 @@ class viewwinfrm : public mdi_form {
     QWidget* bottom_row_;
     QLineEdit* angle_ = nullptr;
     QList<QTimer*> timers_;
+    shown_trial rotors_, ports_;  ///< drawn over the pair
 };
 
 }  // namespace kvt

@@ -273,6 +273,25 @@ void design_painting::paint(QPainter& painter) const {
     paint_contacts(painter);
 }
 
+void design_painting::paint_outlines(QPainter& painter, const QColor& colour, double width) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(outline_pen(colour, width));
+    for (const std::vector<QPainterPath>* paths : {&arcs_, &circle_}) {
+        for (const QPainterPath& path : *paths) {
+            painter.drawPath(path);
+        }
+    }
+    for (const QPolygonF& outline : inner_rotor_) {
+        painter.drawPolyline(outline);
+    }
+    for (const layer& drawn : ports_) {
+        for (const QPolygonF& outline : drawn.outlines) {
+            painter.drawPolyline(outline);
+        }
+    }
+}
+
 void design_painting::paint_chamber(QPainter& painter) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(CHAMBER_COLOUR);

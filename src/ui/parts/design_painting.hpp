@@ -32,6 +32,8 @@ class design_painting {
     bool take_band(const rubber_band& band);
 
     void paint(QPainter& painter) const;
+    /// Rotors and ports alone, all in one colour and width.
+    void paint_outlines(QPainter& painter, const QColor& colour, double width) const;
     bool is_empty() const;
 
   private:

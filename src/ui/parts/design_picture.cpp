@@ -59,10 +59,17 @@ void design_picture::show_band(const rubber_band& band) {
     }
 }
 
+void design_picture::show_overlays(view_overlays overlays) {
+    overlays_ = std::move(overlays);
+    update();
+}
+
 void design_picture::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::white);
+    paint_overlays(overlays_.below, painter);
     painting_.paint(painter);
+    paint_overlays(overlays_.above, painter);
     if (hasFocus() && shows_cross_) {
         paint_cross(painter);
     }

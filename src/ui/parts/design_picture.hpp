@@ -2,7 +2,7 @@
 // where the mouse is, or the cross that the keys move.
 #pragma once
 
-#include "ui/parts/design_painting.hpp"
+#include "ui/parts/view_overlays.hpp"
 
 #include <QWidget>
 
@@ -22,6 +22,7 @@ class design_picture : public QWidget {
     void show_view(const design_view& view, const view_box& box);
     void show_rotors(const design_view& view);
     void show_band(const rubber_band& band);
+    void show_overlays(view_overlays overlays);
 
   signals:
     // Any mouse button; twips of the drawing from the upper left corner, within 16 bits. During a
@@ -53,6 +54,7 @@ class design_picture : public QWidget {
     std::optional<QPoint> pressed_;  ///< where Space has begun a band
     view_box box_;
     design_painting painting_;
+    view_overlays overlays_;
 };
 
 }  // namespace kvt

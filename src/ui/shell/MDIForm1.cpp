@@ -15,10 +15,12 @@
 #include "ui/parts/announcer.hpp"
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/parts/ink.hpp"
+#include "ui/parts/trial_label.hpp"
 #include "ui/shell/edit_menu.hpp"
 #include "ui/shell/form_factory.hpp"
 #include "ui/shell/loaded_form.hpp"
 #include "ui/shell/present_layout.hpp"
+#include "ui/shell/preview.hpp"
 #include "ui/shell/qt_text.hpp"
 #include "ui/shell/status_hints.hpp"
 #include "ui/shell/window_menu.hpp"
@@ -71,6 +73,8 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
             &status_hints::show_cursor);
     connect_commands();
     connect_announcements();
+    preview_ = new preview(context, this);
+    connect(preview_, &preview::changed, this, &MDIForm1::show_preview);
     refresh();
 }
 
@@ -136,6 +140,24 @@ void MDIForm1::refresh() {
         form->refresh();
         form->name_controls();
     }
+    show_preview();
+}
+
+/// The trial of the entries as they are being typed; a screen reader hears nothing of it.
+void MDIForm1::show_preview() {
+    const preview_state& trial = preview_->state();
+    std::optional<trial_figures> figures;
+    if (trial.figures().design != nullptr) {
+        figures = {labels_of(*trial.figures().design, context_.kavetta.app_state),
+                   trial.figures().is_pale};
+    }
+    findChild<viewwinfrm*>()->show_preview(trial);
+    for (const QPointer<mdi_form>& form : forms_) {
+        if (form != nullptr) {
+            form->show_trial(figures ? &*figures : nullptr);
+        }
+    }
+    hints_->show_trial_message(trial.messages());
 }
 
 void MDIForm1::show_start(const start_layout& start) {

@@ -17,6 +17,7 @@ class announcer;
 struct form_row;
 class edit_menu;
 class mdi_form;
+class preview;
 class status_hints;
 class window_menu;
 
@@ -49,6 +50,7 @@ class MDIForm1 : public QMainWindow {
     void add_form(mdi_form* form, bool is_shown);
     void connect_commands();
     void connect_announcements();
+    void show_preview();
     void place_child(const form_row& form);
     void place_children();
     void place_fixed_windows();
@@ -70,6 +72,7 @@ class MDIForm1 : public QMainWindow {
     edit_menu* edits_;
     window_menu* windows_;
     status_hints* hints_;
+    preview* preview_;
     announcer* announcer_;
     result_news news_;
     bool is_first_layout_ = false;     ///< of the first start, which follows the size of the window

@@ -51,6 +51,7 @@ class command_runner : public QObject {
     /// The user has entered an entry: its leave handler is due before the next command. Empty: no
     /// entry is in use.
     void use_entry(const std::string& name);
+    const std::string& entry_in_use() const { return entry_in_use_; }
     /// The user has left an entry: its handler runs from the event loop, not inside the change of
     /// focus.
     void leave(const std::string& name);

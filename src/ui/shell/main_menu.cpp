@@ -129,6 +129,7 @@ void main_menu::refresh() {
     refresh_titles();
     refresh_recent_entries();
     refresh_updates();
+    actions_["mnuwindowpreview"]->setChecked(context_.kavetta.app_state.preview_on);
 }
 
 /// The titles in the bar have access keys all the time.

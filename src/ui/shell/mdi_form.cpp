@@ -1,8 +1,10 @@
 #include "ui/shell/mdi_form.hpp"
 
+#include "app/program.hpp"
 #include "core/window_rectangles.hpp"
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/trial_label.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QCloseEvent>
@@ -52,6 +54,10 @@ void mdi_form::refresh() {
 
 void mdi_form::name_controls() {
     give_accessible_names(context_.kavetta, form_, *this);
+}
+
+void mdi_form::show_trial(const trial_figures* trial) {
+    show_trial_figures(*this, context_.kavetta.labels, trial, context_.kavetta.decimal_mark);
 }
 
 void mdi_form::place(const window_rectangle& rectangle) {

@@ -12,6 +12,8 @@ class QPushButton;
 
 namespace kvt {
 
+struct trial_figures;
+
 /// A child window named as its form. A derived class builds its controls below a content widget,
 /// names each one, and calls bind().
 class mdi_form : public QMdiSubWindow {
@@ -26,6 +28,9 @@ class mdi_form : public QMdiSubWindow {
     /// Gives the controls what a screen reader says of them; behind a refresh, when all texts
     /// stand.
     virtual void name_controls();
+
+    /// Shows what a trial would change the results to; null: there is none.
+    virtual void show_trial(const trial_figures* trial);
 
     /// Places the window, frame included; twips, 15 to a logical pixel.
     void place(const window_rectangle& rectangle);

@@ -2,6 +2,7 @@
 
 #include "app/desk/exit_program.hpp"
 #include "app/desk/explanation_windows.hpp"
+#include "app/desk/settings_commands.hpp"
 #include "app/desk/update_check.hpp"
 #include "app/files/design_sheet_file.hpp"
 #include "app/files/file_output.hpp"
@@ -111,8 +112,10 @@ const std::array MENU_ROWS = {
              true},
     menu_row{"mnuupdateschecknow", "mnuupdates", ENTRY, false, NO_KEY, going_on<check_now>},
 
-    // Its entries are the titles of the child windows.
+    // Below these stand the titles of the child windows.
     menu_row{"mnuwindow", "", MENU},
+    menu_row{"mnuwindowpreview", "mnuwindow", ENTRY, false, NO_KEY, going_on<toggle_preview>, true},
+    menu_row{"sep_windows", "mnuwindow", menu_kind::separator},
 
     menu_row{"mnuhelp", "", MENU},
     menu_row{"mnuhelpexplain", "mnuhelp", ENTRY, false, NO_KEY, going_on<show_gerotor_explanation>},

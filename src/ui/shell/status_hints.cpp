@@ -19,9 +19,12 @@ status_hints::status_hints(const program& kavetta, QStatusBar& bar)
     : QObject(&bar),
       kavetta_(kavetta),
       hints_(new hint_button),
+      trial_message_(named_label("trial_message")),
       cursor_position_(named_label("cursor_position")),
       stale_hint_(named_label("stale_hint")),
       unsaved_mark_(named_label("unsaved_mark")) {
+    trial_message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar.addWidget(trial_message_, 1);
     bar.addPermanentWidget(hints_);
     bar.addPermanentWidget(cursor_position_);
     bar.addPermanentWidget(stale_hint_);
@@ -54,6 +57,12 @@ void status_hints::tell_new(const QStringList& lines) {
         }
     }
     told_ = lines;
+}
+
+void status_hints::show_trial_message(const std::vector<std::string>& messages) {
+    const QString line = messages.empty() ? QString() : qt_text(messages.front()).simplified();
+    trial_message_->setText(line);
+    trial_message_->setToolTip(line);
 }
 
 void status_hints::show_cursor(const QString& place) {

@@ -6,6 +6,9 @@
 #include <QObject>
 #include <QStringList>
 
+#include <string>
+#include <vector>
+
 class QLabel;
 class QStatusBar;
 
@@ -25,6 +28,9 @@ class status_hints : public QObject {
     /// Looks which hints stand, which results are stale and whether the entries are saved.
     void refresh();
     void show_cursor(const QString& place);
+    /// The first message of a trial, at the left while no line of a command stands there; nobody
+    /// is told of it.
+    void show_trial_message(const std::vector<std::string>& messages);
 
   signals:
     /// A hint has come up, or another one.
@@ -35,6 +41,7 @@ class status_hints : public QObject {
 
     const program& kavetta_;
     hint_button* hints_;
+    QLabel* trial_message_;
     QLabel* cursor_position_;
     QLabel* stale_hint_;
     QLabel* unsaved_mark_;
