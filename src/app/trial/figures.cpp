@@ -27,16 +27,19 @@ constexpr std::array FIGURES = {
 constexpr const char* ARROW = "→ ";
 constexpr int CHANGE_DECIMALS = 1;
 
-/// From the first digit on, or from the sign or the point before it.
-std::string number_part(const std::string& text) {
-    std::size_t first = text.find_first_of("0123456789");
+constexpr std::string_view DIGITS = "0123456789";
+constexpr std::string_view NUMBER_SIGNS = "0123456789.-";
+
+/// The first number in a text, without what stands before it and its unit.
+std::string number_in(const std::string& text) {
+    std::size_t first = text.find_first_of(DIGITS);
     if (first == std::string::npos) {
         return {};
     }
     while (first > 0 && (text[first - 1] == '-' || text[first - 1] == '.')) {
         --first;
     }
-    return text.substr(first);
+    return text.substr(first, text.find_first_not_of(NUMBER_SIGNS, first) - first);
 }
 
 /// ", +4.5 %"
@@ -58,17 +61,13 @@ const figure* find_figure(std::string_view form, std::string_view control) {
     return found == FIGURES.end() ? nullptr : found;
 }
 
-std::string figure_text(const figure& row, const labels& texts, char decimal_mark) {
-    return with_decimal_mark(number_part(texts.*row.text), decimal_mark);
-}
-
 std::string changed_figure_text(const figure& row, const labels& present, const labels& other,
                                 char decimal_mark) {
-    const std::string shown = number_part(other.*row.text);
+    const std::string shown = number_in(other.*row.text);
     if (shown.empty()) {
         return {};
     }
-    const double before = val(number_part(present.*row.text));
+    const double before = val(number_in(present.*row.text));
     const std::string change =
         row.is_angle || before == 0.0 ? std::string() : change_text(before, val(shown));
     return ARROW + with_decimal_mark(shown, decimal_mark) + with_decimal_mark(change, decimal_mark);

@@ -21,10 +21,6 @@ std::span<const figure> figures();
 /// The row of a control; null for one that is no figure.
 const figure* find_figure(std::string_view form, std::string_view control);
 
-/// The text of a figure from its number on, with the decimal mark: "7403 RPM" of " 7403 RPM", and
-/// of a sentence what stands at its end. Empty without a number.
-std::string figure_text(const figure& row, const labels& texts, char decimal_mark);
-
 /// From the present result to another design's: "→ 7.94, +4.5 %", the change 100 (other - present)
 /// / |present| with one decimal. Without the change where the present result is 0, missing or an
 /// angle; empty where the other has none.

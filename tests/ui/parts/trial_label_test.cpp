@@ -55,7 +55,7 @@ TEST(show_trial_figures, finds_the_labels_below_a_widget) {
     labels present;
     present.area_ratio = "20 %";
     show_trial_figures(form, present, &trial, '.');
-    EXPECT_EQ(utf8_text(label->text()), "→ 30 %, +50.0 %");
+    EXPECT_EQ(utf8_text(label->text()), "→ 30, +50.0 %");
 }
 
 }  // namespace kvt
