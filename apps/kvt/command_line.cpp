@@ -11,6 +11,7 @@
 #include "kvt/export_options.hpp"
 #include "kvt/given_date.hpp"
 #include "kvt/gt_command.hpp"
+#include "kvt/limits_command.hpp"
 #include "kvt/model_command.hpp"
 #include "kvt/option_check.hpp"
 #include "kvt/printed_status.hpp"
@@ -41,6 +42,7 @@ constexpr const char* EXAMPLES =
     "  kvt export engine_oil.KVT --out files --set numlobes=8\n"
     "  kvt report engine_oil.KVT --out engine_oil.pdf\n"
     "  kvt assist engine_oil.KVT --set volumereqd=20 --write found.KVT\n"
+    "  kvt limits engine_oil.KVT ecc radouter\n"
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
     "  kvt excel engine_oil.KVT\n"
     "  kvt model engine_oil.KVT --package acad --what assembly --host builtin --out models";
@@ -58,6 +60,7 @@ struct command_line {
     export_request files;         ///< its source is that of calc
     report_request report;        ///< its source and last stage are those of calc
     assist_request assist;        ///< its source is that of calc
+    limits_request limits;        ///< its source and last stage are those of calc
     gt_command_request gt;        ///< its source is that of calc
     model_command_request model;  ///< its source is that of calc
     excel_request excel;          ///< its source is that of calc
@@ -190,6 +193,19 @@ CLI::App* add_assist(CLI::App& app, command_line& line) {
     return assist;
 }
 
+CLI::App* add_limits(CLI::App& app, command_line& line) {
+    CLI::App* limits =
+        app.add_subcommand("limits", "Tell how far entries can go until the design is refused");
+    add_design_options(*limits, line);
+    limits
+        ->add_option("ENTRY", line.limits.entries,
+                     "Entries as --set names them; default: every entry that has limits")
+        ->check(check_of(limited_entry_problem));
+    limits->add_flag("--json", line.limits.json, "Print the limits as JSON");
+    add_stage_option(*limits, line);
+    return limits;
+}
+
 CLI::App* add_gt(CLI::App& app, command_line& line) {
     CLI::App* gt = app.add_subcommand("gt", "Make the model of a design for GT-SUITE");
     add_design_options(*gt, line);
@@ -253,6 +269,12 @@ int run_assist(command_line& line, std::ostream& out, std::ostream& err) {
     return assist_design(line.assist, out, err);
 }
 
+int run_limits(command_line& line, std::ostream& out, std::ostream& err) {
+    line.limits.source = line.calc.source;
+    line.limits.last = line.calc.last;
+    return print_limits(line.limits, out, err);
+}
+
 int run_gt(command_line& line, std::ostream& out, std::ostream& err) {
     line.gt.source = line.calc.source;
     return make_gt_model(line.gt, out, err);
@@ -273,8 +295,8 @@ std::vector<sub_command> add_sub_commands(CLI::App& app, command_line& line) {
     app.require_subcommand(1);
     return {{add_calc(app, line), run_calc},     {add_export(app, line), run_export},
             {add_report(app, line), run_report}, {add_assist(app, line), run_assist},
-            {add_gt(app, line), run_gt},         {add_model(app, line), run_model},
-            {add_excel(app, line), run_excel}};
+            {add_limits(app, line), run_limits}, {add_gt(app, line), run_gt},
+            {add_model(app, line), run_model},   {add_excel(app, line), run_excel}};
 }
 
 void set_up(CLI::App& app) {

@@ -2,6 +2,7 @@
 
 #include "base/trimmed.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -71,12 +72,13 @@ std::optional<int> decimals_of(std::string_view text) {
     return number ? std::optional(static_cast<int>(number->decimals)) : std::nullopt;
 }
 
-std::optional<std::string> stepped_number(std::string_view text, int steps) {
+std::optional<std::string> stepped_number(std::string_view text, int steps, bool may_be_negative) {
     std::optional<scaled_number> number = scaled(text);
     if (!number) {
         return std::nullopt;
     }
     number->units += steps;
+    number->units = may_be_negative ? number->units : std::max<std::int64_t>(number->units, 0);
     return text_of(*number);
 }
 

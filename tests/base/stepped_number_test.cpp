@@ -34,6 +34,12 @@ TEST(stepped_number, has_no_last_digit_to_count_elsewhere) {
     }
 }
 
+TEST(stepped_number, stops_at_zero_where_it_must) {
+    EXPECT_EQ(stepped_number("0.05", -10, false), "0.00");
+    EXPECT_EQ(stepped_number("0,05", -1, false), "0,04");
+    EXPECT_EQ(stepped_number("3", -10, false), "0");
+}
+
 TEST(decimals_of, counts_behind_point_and_comma) {
     EXPECT_EQ(decimals_of("12"), 0);
     EXPECT_EQ(decimals_of("1.50"), 2);

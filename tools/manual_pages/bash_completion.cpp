@@ -200,7 +200,9 @@ std::string value_table(const command_description& kvt) {
         "a name.\n_kvt_value() {\n    case \"$1 $2\" in\n";
     for (const command_description& command : kvt.commands) {
         for (const option_description& argument : command.arguments) {
-            table += value_case(command.name, "", value_of(argument));
+            if (argument.is_required) {
+                table += value_case(command.name, "", value_of(argument));
+            }
         }
         for (const option_description& option : command.options) {
             if (option.value != option_value::nothing) {

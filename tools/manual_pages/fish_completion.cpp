@@ -80,7 +80,9 @@ std::string options_of(const std::string& condition, const command_description& 
                                switches_of(option) + value_of(option) + described(option.help));
     }
     for (const option_description& argument : command.arguments) {
-        lines += complete_line(condition, value_of(argument) + described(argument.help));
+        if (argument.is_required) {
+            lines += complete_line(condition, value_of(argument) + described(argument.help));
+        }
     }
     return lines;
 }

@@ -99,7 +99,8 @@ class shared_options {
 std::string synopsis_of(const std::string& program, const command_description& command) {
     std::string roff = bold(program) + " " + bold(command.name);
     for (const option_description& argument : command.arguments) {
-        roff += " " + italic(argument.value_name);
+        roff += argument.is_required ? " " + italic(argument.value_name)
+                                     : " [" + italic(argument.value_name) + "...]";
     }
     for (const option_description& option : command.options) {
         if (option.is_required) {
@@ -131,6 +132,7 @@ void add_commands(roff_page& page, const command_description& kvt) {
     for (const command_description& command : kvt.commands) {
         page.part(command.name);
         page.roff_lines(roff_text(sentence(command.help)));
+        add_rows(page, shared.of(command.arguments, false));
         add_rows(page, shared.of(command.options, false));
     }
     page.section("OPTIONS OF EVERY COMMAND");

@@ -69,7 +69,8 @@ std::string arguments_call(const command_description& command) {
         call += option_lines(option);
     }
     for (const option_description& argument : command.arguments) {
-        call += " \\\n        " + shell_quoted("1" + value_part(argument));
+        const char* place = argument.is_repeatable ? "*" : "1";
+        call += " \\\n        " + shell_quoted(place + value_part(argument));
     }
     return call;
 }
