@@ -17,6 +17,9 @@ constexpr int NEAR_STEPS = 64;
 /// Half of what is promised, of the end; of SMALLEST_END for one next to 0.
 constexpr double END_WIDTH = 5e-8;
 constexpr double SMALLEST_END = 1e-6;
+/// What holds this near to an end, of the end, holds at it.
+constexpr double JUST = 1e-6;
+constexpr int MOST_SLIVERS = 8;
 /// An accepted number this near to 0, of the number inside, goes down to 0.
 constexpr double NEXT_TO_ZERO = 1e-6;
 constexpr double FARTHEST = 1000.0;
@@ -89,6 +92,8 @@ class limit_search {
     std::optional<entry_limit> lowest_from(double inside) const;
     std::optional<entry_limit> highest_from(double inside) const;
     std::optional<entry_limit> expand(double inside, double bound) const;
+    double next_to(double end, double direction) const;
+    entry_limit end_between(double accepted, double refused, std::string message) const;
     entry_limit bisect(double accepted, double refused, std::string message) const;
 
     double end_width(double accepted, double refused) const;
@@ -159,17 +164,49 @@ entry_limit limit_search::bisect(double accepted, double refused, std::string me
     return {accepted, refused, std::move(message), {}};
 }
 
-/// Steps that double, towards a bound on either side.
+/// A number a little beyond an end, or a little before it.
+double limit_search::next_to(double end, double direction) const {
+    return end + direction * JUST * std::max(std::abs(end), SMALLEST_END);
+}
+
+/// The end between two numbers. One that belongs to a sliver of accepted numbers is none: the end
+/// is looked for before it.
+entry_limit limit_search::end_between(double accepted, double refused, std::string message) const {
+    const double inward = refused < accepted ? 1.0 : -1.0;
+    entry_limit end = bisect(accepted, refused, std::move(message));
+    for (int count = 0; count < MOST_SLIVERS && !is_whole(); ++count) {
+        const double before = next_to(end.accepted, inward);
+        if ((before - accepted) * inward >= 0.0) {
+            break;
+        }
+        probe tried = try_number(before);
+        if (tried.accepted) {
+            break;
+        }
+        end = bisect(accepted, before, std::move(tried.message));
+    }
+    return end;
+}
+
+/// Steps that double, towards a bound on either side. A sliver of refused numbers, e.g. one for
+/// which a formula divides by zero, is no end.
 std::optional<entry_limit> limit_search::expand(double inside, double bound) const {
     const double direction = bound < inside ? -1.0 : 1.0;
     double accepted = inside;
     double step = first_step(inside);
-    while (accepted != bound) {
+    for (int slivers = 0; (bound - accepted) * direction > 0.0;) {
         const double next = accepted + direction * step;
         const double number = direction < 0.0 ? std::max(next, bound) : std::min(next, bound);
         probe tried = try_number(number);
         if (!tried.accepted) {
-            return bisect(accepted, number, std::move(tried.message));
+            const entry_limit end = end_between(accepted, number, std::move(tried.message));
+            const double beyond = next_to(end.accepted, direction);
+            if (is_whole() || slivers++ == MOST_SLIVERS || !try_number(beyond).accepted) {
+                return end;
+            }
+            accepted = beyond;
+            step = first_step(inside);
+            continue;
         }
         accepted = number;
         step *= is_whole() ? 1.0 : 2.0;
@@ -204,7 +241,7 @@ std::optional<entry_limits> limit_search::find_near(double present) const {
             limits.inside = number;
             limits.is_above_present = direction > 0.0;
             (direction > 0.0 ? limits.lowest : limits.highest) =
-                bisect(number, before, try_number(before).message);
+                end_between(number, before, try_number(before).message);
             (direction > 0.0 ? limits.highest : limits.lowest) =
                 direction > 0.0 ? highest_from(number) : lowest_from(number);
             return limits;

@@ -14,10 +14,12 @@
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/announcer.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/entry_nudge.hpp"
 #include "ui/parts/ink.hpp"
 #include "ui/parts/trial_label.hpp"
 #include "ui/shell/edit_menu.hpp"
 #include "ui/shell/form_factory.hpp"
+#include "ui/shell/limits_line.hpp"
 #include "ui/shell/loaded_form.hpp"
 #include "ui/shell/present_layout.hpp"
 #include "ui/shell/preview.hpp"
@@ -72,6 +74,9 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     connect(findChild<viewwinfrm*>(), &viewwinfrm::cursor_moved, hints_,
             &status_hints::show_cursor);
     connect_commands();
+    // Behind the forms, which show their own tooltips after a command.
+    limits_ = new limits_line(context, *statusBar());
+    new entry_nudge(this);
     connect_announcements();
     preview_ = new preview(context, this);
     connect(preview_, &preview::changed, this, &MDIForm1::show_preview);
@@ -104,6 +109,7 @@ void MDIForm1::connect_announcements() {
             [this] { announcer_->announce(qt_text(news_.take(context_.kavetta))); });
     connect(statusBar(), &QStatusBar::messageChanged, announcer_, &announcer::announce);
     connect(hints_, &status_hints::told, announcer_, &announcer::announce);
+    connect(limits_, &limits_line::told, announcer_, &announcer::announce);
 }
 
 void MDIForm1::add_form(mdi_form* form, bool is_shown) {

@@ -16,6 +16,7 @@ namespace kvt {
 class announcer;
 struct form_row;
 class edit_menu;
+class limits_line;
 class mdi_form;
 class preview;
 class status_hints;
@@ -73,6 +74,7 @@ class MDIForm1 : public QMainWindow {
     window_menu* windows_;
     status_hints* hints_;
     preview* preview_;
+    limits_line* limits_ = nullptr;
     announcer* announcer_;
     result_news news_;
     bool is_first_layout_ = false;     ///< of the first start, which follows the size of the window
