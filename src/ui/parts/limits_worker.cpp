@@ -9,38 +9,23 @@ namespace kvt {
 
 limits_worker::~limits_worker() {
     give_up();
-    pool_.waitForDone();
 }
 
 void limits_worker::give_up() {
-    if (task_ != nullptr) {
-        task_->is_given_up = true;
-        task_.reset();
+    if (is_given_up_ != nullptr) {
+        *is_given_up_ = true;
     }
+    task_.give_up();
 }
 
 void limits_worker::start(std::shared_ptr<const program> copy, const entry_field& entry,
                           calc_stage last) {
     give_up();
-    pool_.setMaxThreadCount(1);
-    task_ = std::make_shared<job>();
-    task_->copy = std::move(copy);
-    task_->entry = &entry;
-    task_->last = last;
-    pool_.start([this, task = task_] { work(task); });
-}
-
-/// In the thread of the pool; what it found goes to the thread of the windows.
-void limits_worker::work(const std::shared_ptr<job>& task) {
-    const auto limits = find_limits(*task->copy, *task->entry, task->last, &task->is_given_up);
-    QMetaObject::invokeMethod(
-        this,
-        [this, task, limits] {
-            if (!task->is_given_up) {
-                emit found(limits);
-            }
-        },
-        Qt::QueuedConnection);
+    is_given_up_ = std::make_shared<std::atomic<bool>>(false);
+    task_.start([this, copy = std::move(copy), &entry, last, is_given_up = is_given_up_] {
+        const auto limits = find_limits(*copy, entry, last, is_given_up.get());
+        return [this, limits] { emit found(limits); };
+    });
 }
 
 }  // namespace kvt

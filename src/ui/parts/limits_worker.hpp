@@ -2,9 +2,9 @@
 #pragma once
 
 #include "app/trial/entry_limits.hpp"
+#include "ui/parts/latest_task.hpp"
 
 #include <QObject>
-#include <QThreadPool>
 
 #include <atomic>
 #include <memory>
@@ -21,6 +21,7 @@ class limits_worker : public QObject {
 
     /// Finds the limits of an entry of the copy; what was begun before is given up.
     void start(std::shared_ptr<const program> copy, const entry_field& entry, calc_stage last);
+    /// Ends the search between two trials.
     void give_up();
 
   signals:
@@ -28,16 +29,8 @@ class limits_worker : public QObject {
     void found(const std::optional<kvt::entry_limits>& limits);
 
   private:
-    struct job {
-        std::shared_ptr<const program> copy;
-        const entry_field* entry = nullptr;
-        calc_stage last{};
-        std::atomic<bool> is_given_up = false;
-    };
-    void work(const std::shared_ptr<job>& task);
-
-    QThreadPool pool_;
-    std::shared_ptr<job> task_;
+    std::shared_ptr<std::atomic<bool>> is_given_up_;  ///< of the search that was started last
+    latest_task task_;
 };
 
 }  // namespace kvt

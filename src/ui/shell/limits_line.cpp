@@ -23,8 +23,8 @@ limits_line::limits_line(form_context context, QStatusBar& bar)
     nearest_->setFocusPolicy(Qt::TabFocus);
     // The window may become narrower than the line.
     label_->setMinimumWidth(1);
-    bar.insertPermanentWidget(0, label_);
-    bar.insertPermanentWidget(1, nearest_);
+    bar.addPermanentWidget(label_);
+    bar.addPermanentWidget(nearest_);
     clear();
     delay_.setSingleShot(true);
     delay_.setInterval(DELAY_MS);
