@@ -22,8 +22,9 @@ std::span<const figure> figures();
 const figure* find_figure(std::string_view form, std::string_view control);
 
 /// From the present result to another design's: "→ 7.94, +4.5 %", the change 100 (other - present)
-/// / |present| with one decimal. Without the change where the present result is 0, missing or an
-/// angle; empty where the other has none.
+/// / |present| with one decimal. The number has no unit: that stands behind the present result.
+/// Without the change where the present result is 0, missing or an angle; empty where the other
+/// design has none.
 std::string changed_figure_text(const figure& row, const labels& present, const labels& other,
                                 char decimal_mark);
 

@@ -29,7 +29,6 @@ std::string capacity_text(const kept_design& kept, std::int16_t unit) {
 
 kept_design kept_design_of(program kavetta) {
     kept_design kept;
-    kept.name = std::move(kavetta.app_state.project_name);
     kept.design_params = kavetta.design_params;
     kept.rotor_profiles = std::move(kavetta.rotor_profiles);
     kept.port_params = std::move(kavetta.port_params);

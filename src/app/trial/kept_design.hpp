@@ -1,5 +1,5 @@
-// kept_design: a calculated design apart from the records: one that was tried while its entries are
-// typed, or one that is pinned beside the present design.
+// kept_design: a calculated design apart from the records, such as one that was tried while its
+// entries are typed.
 #pragma once
 
 #include "core/entries.hpp"
@@ -7,7 +7,6 @@
 #include "views/overlay_drawing.hpp"
 
 #include <cstdint>
-#include <string>
 
 namespace kvt {
 
@@ -15,7 +14,6 @@ struct program;
 struct app_state;
 
 struct kept_design {
-    std::string name;  ///< of its project
     kvt::design_params design_params;
     kvt::rotor_profiles rotor_profiles;
     kvt::port_params port_params;

@@ -172,7 +172,7 @@ void viewwinfrm::show_preview(const preview_state& trial) {
 
 /// They are drawn anew where the view stands, which a turn, a zoom or another size changes.
 void viewwinfrm::show_overlays() {
-    view_overlays overlays;
+    std::vector<view_overlay> overlays;
     add_overlay(rotors_, {.rotors = true}, overlays);
     if (ports_.design != nullptr) {
         overlaid_outlines ports = ports_.design->outlines;
@@ -183,14 +183,13 @@ void viewwinfrm::show_overlays() {
 }
 
 void viewwinfrm::add_overlay(const shown_trial& trial, const overlaid_outlines& which,
-                             view_overlays& overlays) const {
+                             std::vector<view_overlay>& overlays) const {
     if (trial.design == nullptr) {
         return;
     }
     const view_state place = overlay_place(context_.kavetta, *trial.design);
-    overlays.above.push_back(
-        {design_painting(overlay_of(*trial.design, which, place), view_box(place)),
-         trial.is_pale ? PALE_TRIAL_COLOUR : TRIAL_COLOUR, TRIAL_WIDTH});
+    overlays.push_back({design_painting(overlay_of(*trial.design, which, place), view_box(place)),
+                        trial.is_pale ? PALE_TRIAL_COLOUR : TRIAL_COLOUR, TRIAL_WIDTH});
 }
 
 void viewwinfrm::turn(turning direction) {

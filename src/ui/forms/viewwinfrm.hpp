@@ -7,13 +7,15 @@
 
 #include <QToolButton>
 
+#include <vector>
+
 class QLineEdit;
 class QTimer;
 
 namespace kvt {
 
 class design_picture;
-struct view_overlays;
+struct view_overlay;
 
 /// A button that acts as long as it is held: it says when the left mouse button goes down on it and
 /// when it goes up on it. Without the mouse each press is one step.
@@ -80,7 +82,7 @@ class viewwinfrm : public mdi_form {
     void describe_picture();
     void show_overlays();
     void add_overlay(const shown_trial& trial, const overlaid_outlines& which,
-                     view_overlays& overlays) const;
+                     std::vector<view_overlay>& overlays) const;
     void place_controls(int side);
 
     QWidget* content_;

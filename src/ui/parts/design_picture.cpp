@@ -59,7 +59,7 @@ void design_picture::show_band(const rubber_band& band) {
     }
 }
 
-void design_picture::show_overlays(view_overlays overlays) {
+void design_picture::show_overlays(std::vector<view_overlay> overlays) {
     overlays_ = std::move(overlays);
     update();
 }
@@ -67,9 +67,8 @@ void design_picture::show_overlays(view_overlays overlays) {
 void design_picture::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::white);
-    paint_overlays(overlays_.below, painter);
     painting_.paint(painter);
-    paint_overlays(overlays_.above, painter);
+    paint_overlays(overlays_, painter);
     if (hasFocus() && shows_cross_) {
         paint_cross(painter);
     }

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 namespace kvt {
 
@@ -22,7 +23,7 @@ class design_picture : public QWidget {
     void show_view(const design_view& view, const view_box& box);
     void show_rotors(const design_view& view);
     void show_band(const rubber_band& band);
-    void show_overlays(view_overlays overlays);
+    void show_overlays(std::vector<view_overlay> overlays);
 
   signals:
     // Any mouse button; twips of the drawing from the upper left corner, within 16 bits. During a
@@ -54,7 +55,7 @@ class design_picture : public QWidget {
     std::optional<QPoint> pressed_;  ///< where Space has begun a band
     view_box box_;
     design_painting painting_;
-    view_overlays overlays_;
+    std::vector<view_overlay> overlays_;
 };
 
 }  // namespace kvt

@@ -1,5 +1,4 @@
-// view_overlays: the outlines of other designs in the Design view, over or below the calculated
-// pair.
+// view_overlays: the outlines of other designs over the calculated pair in the Design view.
 #pragma once
 
 #include "ui/parts/design_painting.hpp"
@@ -19,11 +18,7 @@ struct view_overlay {
     double width = 1.0;  ///< pixels
 };
 
-/// Both lists are painted from their first element on.
-struct view_overlays {
-    std::vector<view_overlay> below, above;
-};
-
+/// From the first one on.
 void paint_overlays(const std::vector<view_overlay>& overlays, QPainter& painter);
 
 }  // namespace kvt
