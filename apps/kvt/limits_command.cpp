@@ -49,6 +49,7 @@ calc_stage accepted_stage(const program& kavetta, calc_stage last) {
 
 std::vector<const entry_field*> entries_of(const limits_request& request, calc_stage accepted) {
     std::vector<const entry_field*> entries;
+    entries.reserve(request.entries.size());
     for (const std::string& name : request.entries) {
         entries.push_back(find_entry(name));
     }

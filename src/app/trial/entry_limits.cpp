@@ -14,9 +14,11 @@ namespace kvt {
 namespace {
 
 constexpr int NEAR_STEPS = 64;
-/// Half of what is promised, of the end; of SMALLEST_END for one next to 0.
+/// Half of what is promised, of the size of the end.
 constexpr double END_WIDTH = 5e-8;
+/// The size of an end next to 0; of an angle a degree.
 constexpr double SMALLEST_END = 1e-6;
+constexpr double SMALLEST_ANGLE_DEG = 1.0;
 /// What holds this near to an end, of the end, holds at it.
 constexpr double JUST = 1e-6;
 constexpr int MOST_SLIVERS = 8;
@@ -96,6 +98,7 @@ class limit_search {
     entry_limit end_between(double accepted, double refused, std::string message) const;
     entry_limit bisect(double accepted, double refused, std::string message) const;
 
+    double size_of(double end) const;
     double end_width(double accepted, double refused) const;
     int first_decimals(double inside) const;
     bool show_rounded(entry_limit& limit, double inside, int decimals) const;
@@ -143,9 +146,13 @@ probe limit_search::try_number(double number) const {
     return {trial.accepted, trial.accepted ? std::string() : refusal_of(trial)};
 }
 
+double limit_search::size_of(double end) const {
+    const double least = kind_ == number_kind::angle ? SMALLEST_ANGLE_DEG : SMALLEST_END;
+    return std::max(std::abs(end), least);
+}
+
 double limit_search::end_width(double accepted, double refused) const {
-    const double size = std::max({std::abs(accepted), std::abs(refused), SMALLEST_END});
-    return is_whole() ? 1.0 : END_WIDTH * size;
+    return is_whole() ? 1.0 : END_WIDTH * std::min(size_of(accepted), size_of(refused));
 }
 
 /// From an accepted number and a refused one to two that are next to each other.
@@ -166,7 +173,7 @@ entry_limit limit_search::bisect(double accepted, double refused, std::string me
 
 /// A number a little beyond an end, or a little before it.
 double limit_search::next_to(double end, double direction) const {
-    return end + direction * JUST * std::max(std::abs(end), SMALLEST_END);
+    return end + direction * JUST * size_of(end);
 }
 
 /// The end between two numbers. One that belongs to a sliver of accepted numbers is none: the end
@@ -268,9 +275,10 @@ bool limit_search::show_rounded(entry_limit& limit, double inside, int decimals)
     const double scale = std::pow(10.0, decimals);
     const double scaled = limit.accepted * scale;
     const double nearest = std::round(scaled) / scale;
+    const double outward = is_lowest ? -1.0 : 1.0;
     const bool is_between = (nearest - limit.accepted) * (nearest - limit.refused) < 0.0;
     limit.shown = number_text(nearest);
-    if (is_between && accepts(limit.shown)) {
+    if (is_between && accepts(limit.shown) && !try_number(next_to(nearest, outward)).accepted) {
         limit.accepted = nearest;
         return true;
     }

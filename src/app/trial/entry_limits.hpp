@@ -36,9 +36,10 @@ struct entry_limits {
 
 /// The interval in which the design is accepted up to a stage, on copies of the program. The end is
 /// found by steps that double, from 1/64 of the present number, then by halves, to better than 1e-7
-/// of it; a whole number is counted up and down. A present number that is refused gives the
-/// interval that begins next to it, within 64 steps of 1/64 of it on either side. Nothing for an
-/// entry that these stages don't read, where no number is accepted, and as soon as it is given up.
+/// of it (of a degree for an angle next to 0); a whole number is counted up and down. A present
+/// number that is refused gives the interval that begins next to it, within 64 steps of 1/64 of it
+/// on either side. Nothing for an entry that these stages don't read, where no number is accepted,
+/// and as soon as it is given up.
 std::optional<entry_limits> find_limits(const program& kavetta, const entry_field& entry,
                                         calc_stage last,
                                         const std::atomic<bool>* is_given_up = nullptr);

@@ -3,6 +3,7 @@
 #include "app/trial/design_trial.hpp"
 #include "app/trial/entry_limits.hpp"
 #include "base/number_text.hpp"
+#include "core/entry_numbers.hpp"
 #include "support/random_design.hpp"
 
 #include <array>
@@ -13,7 +14,7 @@ namespace kvt {
 namespace {
 
 constexpr int DESIGNS = 200;
-/// Of the end, or of a millionth of the number inside for an end next to 0.
+/// Of the end; of a degree for an angle next to 0, of a millionth for any other end there.
 constexpr double JUST = 1e-6;
 
 constexpr std::array ENTRIES = {
@@ -45,9 +46,10 @@ struct tried_entry {
 };
 
 /// Checks one end from both sides.
-void expect_end(const tried_entry& tried, const entry_limits& limits, const entry_limit& end) {
+void expect_end(const tried_entry& tried, const entry_limit& end) {
     const double outward = end.refused < end.accepted ? -1.0 : 1.0;
-    const double size = std::max(std::abs(end.accepted), JUST * std::abs(limits.inside));
+    const bool is_angle = number_kind_of(tried.entry.name) == number_kind::angle;
+    const double size = std::max(std::abs(end.accepted), is_angle ? 1.0 : JUST);
     const bool is_whole = tried.entry.name == std::string_view("numlobes");
     const double just = is_whole ? 1.0 : JUST * size;
     EXPECT_TRUE(tried.accepts(end.accepted)) << end.accepted;
@@ -69,7 +71,7 @@ TEST(entry_limits_property, are_right_at_both_ends) {
         const auto limits = find_limits(kavetta, entry, last);
         for (const auto end : {&entry_limits::lowest, &entry_limits::highest}) {
             if (limits && (*limits).*end) {
-                expect_end({kavetta, entry, last}, *limits, *((*limits).*end));
+                expect_end({kavetta, entry, last}, *((*limits).*end));
                 ++ends;
             }
         }
