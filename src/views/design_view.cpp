@@ -38,7 +38,7 @@ void clear_all(design_view& view) {
 }
 
 void set_plot_scale(const design_params& design, view_state& state) {
-    state.view_scale = checked_divide(state.view_size * 0.95, design.maxdiameter);
+    state.view_scale = checked_divide(state.view_size * WHOLE_VIEW_SHARE, design.maxdiameter);
     state.view_ecc = design.ecc * state.view_scale;
     state.drawn_size = state.view_size;
 }

@@ -80,6 +80,9 @@ void clear_rotors(design_view& view);
 /// Clears everything, ports and groove included.
 void clear_all(design_view& view);
 
+/// What the outside diameter takes of the side of the picture.
+inline constexpr double WHOLE_VIEW_SHARE = 0.95;
+
 /// The scale of a new drawing: view_scale = view_size * 0.95 / maxdiameter, twips per mm; view_ecc
 /// = ecc * view_scale. The drawing is one for view_size.
 void set_plot_scale(const design_params& design, view_state& state);

@@ -99,6 +99,28 @@ void zoom_to_band(const design_params& design, view_state& state) {
     state.drawn_size = state.view_size;
 }
 
+bool zoom_at(const design_params& design, double factor, double x, double y, view_state& state) {
+    const double m = state.drawn_size > 0 ? checked_divide(state.view_size, state.drawn_size) : 1.0;
+    const double zoom = factor * m;
+    const double whole = checked_divide(state.view_size * WHOLE_VIEW_SHARE, design.maxdiameter);
+    const double scale = state.view_scale * zoom;
+    if (scale < SMALLEST_ZOOM * whole || scale > LARGEST_ZOOM * whole) {
+        return false;
+    }
+    state.view_zoom = zoom;
+    state.view_scale = scale;
+    state.view_ecc = design.ecc * scale;
+    state.view_cx = x * m + (state.view_cx - x) * zoom;
+    state.view_cy = y * m + (state.view_cy - y) * zoom;
+    state.drawn_size = state.view_size;
+    return true;
+}
+
+void pan_by(double dx, double dy, view_state& state) {
+    state.view_cx += dx;
+    state.view_cy += dy;
+}
+
 void redraw_zoomed(const design_params& design, const rotor_profiles& rotors,
                    const port_params& ports, view_state& state, design_view& view) {
     const noted_ports noted = note_ports(view);

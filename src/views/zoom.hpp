@@ -31,6 +31,18 @@ bool end_rubber_band(double x, double y, view_state& state, design_view& view);
 /// The drawing is one for view_size then.
 void zoom_to_band(const design_params& design, view_state& state);
 
+/// The view larger by a factor about a place (x, y) of the drawing, twips, which stays under the
+/// pointer; the drawing is one for view_size then, larger by m = view_size / drawn_size:
+///     view_zoom = factor m      view_scale = view_scale view_zoom      view_ecc = ecc view_scale
+///     view_cx = x m + (view_cx - x) view_zoom      view_cy likewise
+/// False, and nothing happens, beyond SMALLEST_ZOOM and LARGEST_ZOOM of the whole view.
+bool zoom_at(const design_params& design, double factor, double x, double y, view_state& state);
+inline constexpr double SMALLEST_ZOOM = 0.2;
+inline constexpr double LARGEST_ZOOM = 2000.0;
+
+/// The view moved by a way in twips of the drawing.
+void pan_by(double dx, double dy, view_state& state);
+
 /// Draws everything that the view shows anew at the present scale and place: the inner rotor
 /// (without clearn_half, which only the first drawing adds), the ports, port angles and groove
 /// where they were drawn, the outer rotor and Shape1. angleline_count becomes the number of

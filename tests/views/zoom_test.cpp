@@ -196,5 +196,49 @@ TEST(zoomed_drawing, fails_where_a_coordinate_exceeds_single_precision) {
                    failure::overflow);
 }
 
+TEST(zoom_at, keeps_the_place_under_the_pointer) {
+    const design_params design = sample_design();
+    view_state state = state_for(design);
+    const double scale = state.view_scale;
+    EXPECT_TRUE(zoom_at(design, 2.0, 2000.0, 500.0, state));
+    EXPECT_EQ(state.view_zoom, 2.0);
+    EXPECT_EQ(state.view_scale, 2.0 * scale);
+    EXPECT_EQ(state.view_ecc, design.ecc * 2.0 * scale);
+    EXPECT_EQ(state.view_cx, 1000.0);  // 2000 + (1500 - 2000) 2
+    EXPECT_EQ(state.view_cy, 2500.0);  // 500 + (1500 - 500) 2
+}
+
+TEST(zoom_at, draws_for_the_present_size_of_the_box) {
+    const design_params design = sample_design();
+    view_state state = state_for(design);
+    const double scale = state.view_scale;
+    state.view_size = 6000;  // twice the drawing
+    EXPECT_TRUE(zoom_at(design, 1.5, 2000.0, 1500.0, state));
+    EXPECT_EQ(state.drawn_size, 6000);
+    EXPECT_EQ(state.view_scale, 3.0 * scale);
+    EXPECT_EQ(state.view_cx, 2500.0);  // 4000 + (1500 - 2000) 3
+}
+
+TEST(zoom_at, ends_at_a_smallest_and_a_largest_scale) {
+    const design_params design = sample_design();
+    view_state state = state_for(design);
+    const view_state before = state;
+    for (const double factor : {0.19, 2001.0}) {
+        EXPECT_FALSE(zoom_at(design, factor, 100.0, 100.0, state));
+        EXPECT_EQ(state.view_scale, before.view_scale);
+        EXPECT_EQ(state.view_cx, before.view_cx);
+    }
+}
+
+TEST(pan_by, moves_the_place_alone) {
+    const design_params design = sample_design();
+    view_state state = state_for(design);
+    const double scale = state.view_scale;
+    pan_by(-300.0, 40.0, state);
+    EXPECT_EQ(state.view_cx, 1200.0);
+    EXPECT_EQ(state.view_cy, 1540.0);
+    EXPECT_EQ(state.view_scale, scale);
+}
+
 }  // namespace
 }  // namespace kvt

@@ -1,0 +1,81 @@
+#include "views/sight/sight_palette.hpp"
+
+namespace kvt {
+
+namespace {
+
+constexpr sight_palette ON_WHITE = {
+    .paper = {0xff, 0xff, 0xff},
+    .ink = {0x00, 0x00, 0x00},
+    .body = {0xdd, 0xe6, 0xee},
+    .inner_rotor = {0xf2, 0xea, 0xd8},
+    .inlet = {0x00, 0x00, 0xff},
+    .outlet = {0xff, 0x00, 0x00},
+    .groove = {0xff, 0x80, 0x00},
+    .groove_end = {0x00, 0xc0, 0x00},
+    .marked_chamber = {0xff, 0xc8, 0x3c},
+    .marked_contact = {0xa0, 0x00, 0x78},
+    .cross = {0x00, 0x5a, 0xc8},
+    .chamber = {0xd6, 0xf0, 0xd2},
+    .grid = {0xe2, 0xe5, 0xe9},
+    .grid_axis = {0xb8, 0xbe, 0xc6},
+    .scale_bar = {0x30, 0x36, 0x3c},
+    .dimension = {0x1f, 0x3a, 0x68},
+    .extension = {0x6a, 0x76, 0x86},
+    .area = {0x1d, 0x5a, 0x22},
+    .contact = {0xa0, 0x00, 0x78},
+    .measure = {0xb8, 0x00, 0x68},
+};
+
+constexpr sight_palette ON_DARK = {
+    .paper = {0x1e, 0x20, 0x23},
+    .ink = {0xe6, 0xe9, 0xed},
+    .body = {0x2f, 0x3a, 0x45},
+    .inner_rotor = {0x45, 0x3e, 0x30},
+    .inlet = {0x7a, 0x90, 0xff},
+    .outlet = {0xff, 0x6c, 0x62},
+    .groove = {0xff, 0xa0, 0x3c},
+    .groove_end = {0x4c, 0xd8, 0x54},
+    .marked_chamber = {0x8a, 0x68, 0x14},
+    .marked_contact = {0xff, 0x7a, 0xd0},
+    .cross = {0x64, 0xb0, 0xff},
+    .chamber = {0x28, 0x4a, 0x2c},
+    .grid = {0x33, 0x37, 0x3c},
+    .grid_axis = {0x58, 0x5f, 0x68},
+    .scale_bar = {0xd0, 0xd6, 0xdc},
+    .dimension = {0x9c, 0xc4, 0xff},
+    .extension = {0x8a, 0x96, 0xa4},
+    .area = {0xa8, 0xe8, 0xa4},
+    .contact = {0xff, 0x7a, 0xd0},
+    .measure = {0xff, 0x8c, 0xc8},
+};
+
+}  // namespace
+
+const sight_palette& sight_palette_on(bool dark_ground) {
+    return dark_ground ? ON_DARK : ON_WHITE;
+}
+
+rgb_colour colour_of(sight_ink ink, const sight_palette& palette) {
+    switch (ink) {
+        case sight_ink::grid:
+            return palette.grid;
+        case sight_ink::grid_axis:
+            return palette.grid_axis;
+        case sight_ink::scale_bar:
+            return palette.scale_bar;
+        case sight_ink::dimension:
+            return palette.dimension;
+        case sight_ink::extension:
+            return palette.extension;
+        case sight_ink::chamber:
+            return palette.area;
+        case sight_ink::contact:
+            return palette.contact;
+        case sight_ink::measure:
+            break;
+    }
+    return palette.measure;
+}
+
+}  // namespace kvt
