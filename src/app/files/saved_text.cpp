@@ -79,6 +79,14 @@ file_dialog save_text_dialog(std::string_view title_suffix, std::string_view fil
     return dialog;
 }
 
+void tell_outcome(user& person, const saved_text& saved) {
+    if (saved.is_whole) {
+        person.show_status(saved.outcome);
+    } else {
+        person.show_message(saved.outcome);
+    }
+}
+
 std::optional<saved_text> ask_and_save_text(
     const program& kavetta, user& person, const file_dialog& dialog,
     const std::function<void(text_lines&, const std::string& path)>& write) {

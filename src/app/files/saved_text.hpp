@@ -46,6 +46,9 @@ struct saved_text {
     bool is_whole = true;  ///< written as it should be
 };
 
+/// A file that is whole in the status bar, anything else in a box.
+void tell_outcome(user& person, const saved_text& saved);
+
 /// The dialog's answer, starting in the project's folder, then save_text. A cancelled dialog or an
 /// empty name writes nothing and answers nothing; a failure ends in the outcome, without a message.
 std::optional<saved_text> ask_and_save_text(

@@ -99,15 +99,6 @@ bool has_ending(std::string_view path, std::string_view ending) {
            is_same_ignoring_case(path.substr(path.size() - ending.size()), ending);
 }
 
-/// A file that is there in the status bar, a failure in a box.
-void tell(user& person, const saved_text& saved) {
-    if (saved.is_whole) {
-        person.show_status(saved.outcome);
-    } else {
-        person.show_message(saved.outcome);
-    }
-}
-
 /// Saves behind the hourglass, and tells what became of it.
 void save_and_tell(const program& kavetta, user& person, const std::string& path,
                    const std::vector<model_body>& bodies,
@@ -118,7 +109,7 @@ void save_and_tell(const program& kavetta, user& person, const std::string& path
                                                numbers_of(bodies), housing);
     });
     person.set_busy(false);
-    tell(person, saved);
+    tell_outcome(person, saved);
 }
 
 }  // namespace
@@ -172,7 +163,7 @@ void save_model_picture(const program& kavetta, user& person,
     const auto saved = ask_and_save_bytes(kavetta, person, dialog,
                                           [&picture](const std::string&) { return picture(); });
     if (saved) {
-        tell(person, *saved);
+        tell_outcome(person, *saved);
     }
 }
 

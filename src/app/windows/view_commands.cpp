@@ -1,7 +1,9 @@
 #include "app/windows/view_commands.hpp"
 
+#include "app/files/saved_text.hpp"
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
+#include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "views/exact/chamber_mark.hpp"
 #include "views/zoom.hpp"
@@ -16,12 +18,24 @@ void redraw_at_angle(program& kavetta) {
     draw_marked_chamber(kavetta.design_params, kavetta.view_state, kavetta.design_view);
 }
 
-void zoom_to_present_band(program& kavetta, user& person) {
-    person.set_busy(true);
-    zoom_to_band(kavetta.design_params, kavetta.view_state);
+/// The pair at angle 0.
+void redraw_in_place(program& kavetta) {
     redraw_zoomed(kavetta.design_params, kavetta.rotor_profiles, kavetta.port_params,
                   kavetta.view_state, kavetta.design_view);
     draw_marked_chamber(kavetta.design_params, kavetta.view_state, kavetta.design_view);
+}
+
+void redraw_in_place_at_angle(program& kavetta) {
+    redraw_in_place(kavetta);
+    if (kavetta.view_state.rotation_angle != 0.0) {
+        redraw_at_angle(kavetta);
+    }
+}
+
+void zoom_to_present_band(program& kavetta, user& person) {
+    person.set_busy(true);
+    zoom_to_band(kavetta.design_params, kavetta.view_state);
+    redraw_in_place(kavetta);
 }
 
 }  // namespace
@@ -57,6 +71,20 @@ void rubber_band_up(program& kavetta, user& person, double x, double y) {
     }
 }
 
+void zoom_by_wheel(program& kavetta, double factor, double x, double y) {
+    if (has_rotors(kavetta.design_view) &&
+        zoom_at(kavetta.design_params, factor, x, y, kavetta.view_state)) {
+        redraw_in_place_at_angle(kavetta);
+    }
+}
+
+void pan_view(program& kavetta, double dx, double dy) {
+    if (has_rotors(kavetta.design_view)) {
+        pan_by(dx, dy, kavetta.view_state);
+        redraw_in_place_at_angle(kavetta);
+    }
+}
+
 void zoom_all(program& kavetta, user& person) {
     kavetta.app_state.zoom_all_requested = -1;
     calculate_profiles(kavetta, person);
@@ -73,6 +101,19 @@ void take_typed_angle(program& kavetta) {
     if (has_rotors(kavetta.design_view)) {
         turn_to_typed(kavetta.design_params, kavetta.entries.rotated_angle, kavetta.view_state);
         show_rotation(kavetta);
+    }
+}
+
+void save_view_picture(const program& kavetta, user& person,
+                       const std::function<std::string(const std::string& path)>& bytes_of) {
+    const std::int16_t language = kavetta.app_state.language;
+    file_dialog dialog = save_text_dialog(form_text("viewpopupmenu", "title", language),
+                                          form_text("viewpopupmenu", "filter", language), "");
+    dialog.filter_index = 1;
+    dialog.file_name =
+        kavetta.app_state.project_name + " - " + std::string(form_text("viewwinfrm", "", language));
+    if (const auto saved = ask_and_save_bytes(kavetta, person, dialog, bytes_of)) {
+        tell_outcome(person, *saved);
     }
 }
 

@@ -4,7 +4,9 @@
 #include "views/rotation.hpp"
 #include "views/view_layout.hpp"
 
+#include <functional>
 #include <optional>
+#include <string>
 
 namespace kvt {
 
@@ -23,6 +25,12 @@ void rubber_band_down(program& kavetta, double x, double y);
 void rubber_band_move(program& kavetta, double x, double y);
 void rubber_band_up(program& kavetta, user& person, double x, double y);
 
+/// The wheel over the picture: everything larger by a factor about a place, twips of the drawing,
+/// and the middle button: moved by a way in them. Rotors and ports are drawn anew there, at their
+/// angle. Nothing without rotors. Throw as redraw_zoomed and redraw_rotated do.
+void zoom_by_wheel(program& kavetta, double factor, double x, double y);
+void pan_view(program& kavetta, double dx, double dy);
+
 /// zoom_all_command: Calculate Profiles again, with its results, enablings and forms kept; ports on
 /// display are designed again too. Throws as calculate_profiles does.
 void zoom_all(program& kavetta, user& person);
@@ -34,6 +42,11 @@ void rotation_tick(program& kavetta, turning direction);
 /// Enter in rotated_angle: takes the typed angle, shows the angle taken, turns the rotors. Throws
 /// as redraw_rotated does, overflow for a number beyond a double.
 void take_typed_angle(program& kavetta);
+
+/// Asks for a path and saves the picture of the view there; the bytes are those of the path's
+/// ending. A cancelled dialog saves nothing.
+void save_view_picture(const program& kavetta, user& person,
+                       const std::function<std::string(const std::string& path)>& bytes_of);
 
 /// The pair at the angle of the view, the angle in rotated_angle, and the marked chamber. Throws as
 /// redraw_rotated does.

@@ -5,6 +5,7 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "base/whole_file.hpp"
 #include "support/sample_design.hpp"
 #include "support/scripted_user.hpp"
 #include "support/temporary_folder.hpp"
@@ -154,6 +155,47 @@ TEST_F(view_commands_test, a_resize_changes_only_the_next_drawing) {
     zoom_all(kavetta, person);
     EXPECT_EQ(kavetta.view_state.view_cx, 3000.0);
     EXPECT_EQ(kavetta.view_state.view_scale, 6000.0 * 0.95 / 52.0);
+}
+
+TEST_F(view_commands_test, the_wheel_zooms_at_its_place_and_keeps_angle_and_ports) {
+    calculate();
+    kavetta.entries.rotated_angle = "30";
+    take_typed_angle(kavetta);
+    const drawn_line before = kavetta.design_view.Line1.elements[10];
+    zoom_by_wheel(kavetta, 2.0, 1500.0, 1500.0);
+    const drawn_line& after = kavetta.design_view.Line1.elements[10];
+    EXPECT_NEAR(after.x1, 1500.0 + (before.x1 - 1500.0) * 2.0, 0.01);
+    EXPECT_NEAR(after.y1, 1500.0 + (before.y1 - 1500.0) * 2.0, 0.01);
+    EXPECT_EQ(kavetta.view_state.rotation_angle, 30.0);
+}
+
+TEST_F(view_commands_test, the_middle_button_moves_everything_by_the_way_of_the_mouse) {
+    calculate();
+    zoom_by_wheel(kavetta, 1.0, 0.0, 0.0);  // a zoom draws the inner rotor on its axis
+    const drawn_line before = kavetta.design_view.Line1.elements[10];
+    pan_view(kavetta, 100.0, -50.0);
+    EXPECT_NEAR(kavetta.design_view.Line1.elements[10].x1, before.x1 + 100.0, 0.01);
+    EXPECT_NEAR(kavetta.design_view.Line1.elements[10].y1, before.y1 - 50.0, 0.01);
+    EXPECT_EQ(kavetta.design_view.Shape1.x, 1600.0);
+}
+
+TEST_F(view_commands_test, without_rotors_wheel_and_middle_button_do_nothing) {
+    zoom_by_wheel(kavetta, 2.0, 100.0, 100.0);
+    pan_view(kavetta, 10.0, 10.0);
+    EXPECT_EQ(kavetta.view_state.view_cx, view_state().view_cx);
+    EXPECT_EQ(kavetta.view_state.view_scale, 0.0);
+}
+
+TEST_F(view_commands_test, the_picture_goes_to_the_path_that_was_chosen) {
+    const temporary_folder folder;
+    const std::string path = folder.file("view.svg");
+    person.files = {path};
+    const auto bytes = [](const std::string& asked) { return "bytes of " + asked; };
+    save_view_picture(kavetta, person, bytes);
+    EXPECT_EQ(read_file(path), "bytes of " + path);
+    person.files = {std::nullopt};
+    save_view_picture(kavetta, person, bytes);
+    EXPECT_EQ(read_file(path), "bytes of " + path);
 }
 
 }  // namespace
