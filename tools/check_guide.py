@@ -10,7 +10,7 @@ import sys
 
 FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "exact_figures", "model_view",
          "history", "viewwinfrm", "MDIForm1",
-         "Form2", "Form3", "Form4", "graphpopupmenu"]
+         "Form2", "Form3", "Form4", "graphpopupmenu", "viewpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
 
@@ -34,6 +34,14 @@ WITHOUT_PAGE = {
     ("history", "more_entries"): "a word of a step's name",
     ("graphpopupmenu", "title"): "the title of a file dialog",
     ("graphpopupmenu", "filter"): "the types of a file dialog",
+    ("viewpopupmenu", "title"): "the title of a file dialog",
+    ("viewpopupmenu", "filter"): "the types of a file dialog",
+    ("viewpopupmenu", "shown"): "a word of a screen reader",
+    ("viewpopupmenu", "dimensions"): "a word of a screen reader",
+    ("viewpopupmenu", "grid"): "a word of a screen reader",
+    ("viewpopupmenu", "contacts"): "a word of a screen reader",
+    ("viewpopupmenu", "areas"): "a word of a screen reader",
+    ("viewpopupmenu", "measured"): "a word of a screen reader",
 }
 # Menus whose entries come with a later version; the guide names the menu.
 LATER_MENUS = ("mnustep", "mnudxf")

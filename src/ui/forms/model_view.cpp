@@ -107,10 +107,6 @@ QSlider* height_slider(const char* name) {
     return slider;
 }
 
-QColor qt_colour(const rgb_colour& colour) {
-    return {colour.red, colour.green, colour.blue};
-}
-
 }  // namespace
 
 model_view::model_view(form_context context) : loaded_form("model_view", context) {

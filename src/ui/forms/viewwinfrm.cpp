@@ -6,11 +6,17 @@
 #include "core/length_unit.hpp"
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/design_picture.hpp"
+#include "ui/parts/design_popup.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/sight_painting.hpp"
 #include "ui/shell/qt_text.hpp"
 #include "views/design_view_text.hpp"
+#include "views/sight/snap.hpp"
+#include "views/zoom.hpp"
 
+#include <QClipboard>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -18,6 +24,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kvt {
 
@@ -27,11 +34,16 @@ namespace {
 constexpr int TURN_INTERVAL = 10;
 constexpr int ANGLE_WIDTH = 56;
 
-/// A trial, on the white sheet beside black rotors, red and blue ports; pale where it is older than
-/// the entries.
-constexpr QColor TRIAL_COLOUR(150, 0, 210);
-constexpr QColor PALE_TRIAL_COLOUR(150, 0, 210, 90);
+/// A trial, beside rotors in ink, red and blue ports, on a light and on a dark sheet; pale where it
+/// is older than the entries.
+constexpr QColor TRIAL_COLOUR(170, 70, 235);
+constexpr QColor PALE_TRIAL_COLOUR(170, 70, 235, 90);
 constexpr double TRIAL_WIDTH = 1.2;  ///< pixels
+
+/// How much larger one notch of the wheel draws.
+constexpr double ZOOM_OF_STEP = 1.25;
+/// How near a measured point is drawn to a profile or a centre.
+constexpr double SNAP_PIXELS = 9.0;
 
 int pixels(double twips) {
     return qRound(twips / TWIPS_PER_PIXEL);
@@ -144,23 +156,158 @@ void viewwinfrm::connect_picture() {
         context_.runner.act(
             [x, y](program& kavetta, user& person) { rubber_band_up(kavetta, person, x, y); });
     });
-    connect(picture_, &design_picture::left, this, [this] { emit cursor_moved(QString()); });
+    connect(picture_, &design_picture::left, this, &viewwinfrm::leave_picture);
+    connect(picture_, &design_picture::wheeled, this, &viewwinfrm::zoom_by_steps);
+    connect(picture_, &design_picture::panned, this, &viewwinfrm::pan);
+    connect(picture_, &design_picture::menu_asked, this, &viewwinfrm::open_popup);
+    connect_measuring();
+}
+
+void viewwinfrm::connect_measuring() {
+    connect(picture_, &design_picture::point_set, this, &viewwinfrm::set_point);
+    connect(picture_, &design_picture::point_dragged, this, [this](double x, double y) {
+        if (measured_.first && !measured_.second) {
+            set_point(x, y);
+        }
+    });
+    connect(picture_, &design_picture::point_dropped, this, [this] {
+        measured_ = {};
+        tell_sight();
+    });
+}
+
+void viewwinfrm::connect_popup() {
+    connect(popup_, &design_popup::ticked, this, &viewwinfrm::take_tick);
+    connect(popup_, &design_popup::copy_asked, this, &viewwinfrm::copy_picture);
+    connect(popup_, &design_popup::save_asked, this, &viewwinfrm::save_picture);
+}
+
+/// A menu of the language in force; the language does not change while it is open.
+void viewwinfrm::translate_popup() {
+    const std::int16_t language = context_.kavetta.app_state.language;
+    if (popup_ != nullptr && popup_language_ == language) {
+        return;
+    }
+    delete popup_;
+    popup_ = new design_popup(language, picture_);
+    popup_language_ = language;
+    connect_popup();
+}
+
+void viewwinfrm::open_popup(const QPoint& global_place) {
+    if (!popup_->isVisible()) {
+        popup_->show_ticks(context_.kavetta.app_state.sight_ticks);
+        popup_->popup(global_place);
+    }
+}
+
+void viewwinfrm::take_tick(const sight_tick_row& row, bool on) {
+    if (context_.runner.step(
+            [&row, on](program& kavetta) { kavetta.app_state.sight_ticks.*row.tick = on; })) {
+        measured_ = {};
+        tell_sight();
+    }
 }
 
 void viewwinfrm::refresh() {
     mdi_form::refresh();
+    translate_popup();
     show_drawing();
 }
 
 void viewwinfrm::show_drawing() {
-    picture_->show_view(context_.kavetta.design_view, view_box(context_.kavetta.view_state));
+    const program& kavetta = context_.kavetta;
+    picture_->show_view(kavetta.design_view, view_box(kavetta.view_state));
+    show_sight();
     show_overlays();
+}
+
+sight_source viewwinfrm::source() const {
+    const program& kavetta = context_.kavetta;
+    return {kavetta.design_params,         kavetta.view_state, kavetta.design_view,
+            kavetta.app_state.sight_ticks, measured_,          length_unit_of(kavetta.app_state),
+            kavetta.app_state.language};
+}
+
+void viewwinfrm::show_sight() {
+    const sight_source seen = source();
+    picture_->set_measuring(seen.ticks.measuring && has_rotors(seen.view));
+    picture_->show_sight(
+        seen.ticks.filled ? fill_of(seen.view, view_box(seen.state)) : rotor_fill(),
+        draw_sight(seen, metrics_of_view()));
+}
+
+/// The same, and in words for a screen reader.
+void viewwinfrm::tell_sight() {
+    show_sight();
+    describe_picture();
+}
+
+void viewwinfrm::zoom_by_steps(double steps, double x, double y) {
+    const double factor = std::pow(ZOOM_OF_STEP, steps);
+    if (context_.runner.step([=](program& kavetta) { zoom_by_wheel(kavetta, factor, x, y); })) {
+        show_drawing();
+    }
+}
+
+void viewwinfrm::pan(double dx, double dy) {
+    if (context_.runner.step([=](program& kavetta) { pan_view(kavetta, dx, dy); })) {
+        show_drawing();
+    }
+}
+
+void viewwinfrm::set_point(double x, double y) {
+    point_at(view_box(context_.kavetta.view_state), {x, y});
+    if (measured_.pointer) {
+        measured_.set_point(*measured_.pointer);
+    }
+    tell_sight();
+}
+
+/// The pointer at a place of the box, drawn to what is near.
+void viewwinfrm::point_at(const view_box& box, const point2& pixels) {
+    const program& kavetta = context_.kavetta;
+    const double reach = box.on_drawing({SNAP_PIXELS, 0.0}).x;
+    const snapped_place snapped =
+        snap_to_drawing(kavetta.design_view, kavetta.view_state, box.on_drawing(pixels), reach);
+    measured_.pointer = box.on_pump(box.on_box(snapped.place));
+    measured_.pointer_kind = snapped.kind;
+}
+
+shown_picture viewwinfrm::shown() const {
+    return {[this](QPainter& painter) { picture_->paint(painter, sight_palette_on(false)); },
+            picture_->width(), windowTitle()};
+}
+
+void viewwinfrm::copy_picture() const {
+    QGuiApplication::clipboard()->setImage(image_of(shown(), devicePixelRatioF()));
+}
+
+void viewwinfrm::save_picture() {
+    context_.runner.act([this](const program& kavetta, user& person) {
+        save_view_picture(kavetta, person, [this](const std::string& path) {
+            return picture_of_path(shown(), path, devicePixelRatioF());
+        });
+    });
 }
 
 void viewwinfrm::move_band(double x, double y) {
     if (context_.runner.step([x, y](program& kavetta) { rubber_band_move(kavetta, x, y); })) {
         picture_->show_band(context_.kavetta.design_view.Line3);
         emit cursor_moved(qt_text(cursor_text(context_.kavetta, x, y)));
+        if (context_.kavetta.app_state.sight_ticks.measuring) {
+            const view_box box(context_.kavetta.view_state);
+            point_at(box, box.on_box({x, y}));
+            show_sight();
+        }
+    }
+}
+
+void viewwinfrm::leave_picture() {
+    emit cursor_moved(QString());
+    if (measured_.pointer) {
+        measured_.pointer.reset();
+        show_sight();
     }
 }
 
@@ -203,7 +350,7 @@ void viewwinfrm::show_turned() {
     angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
     picture_->show_rotors(context_.kavetta.design_view);
     show_overlays();
-    describe_picture();
+    tell_sight();
 }
 
 void viewwinfrm::name_controls() {
@@ -216,7 +363,9 @@ void viewwinfrm::describe_picture() {
     const QString shown =
         qt_text(design_view_text(kavetta.design_params, kavetta.view_state, kavetta.design_view,
                                  length_unit_of(kavetta.app_state), kavetta.app_state.language));
-    set_accessible_description(*picture_, shown + "\n" + picture_->toolTip());
+    const QString more = qt_text(sight_words(source()));
+    set_accessible_description(
+        *picture_, (more.isEmpty() ? shown : shown + " " + more) + "\n" + picture_->toolTip());
 }
 
 void viewwinfrm::stop_turning() {

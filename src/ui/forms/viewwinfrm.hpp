@@ -2,8 +2,11 @@
 #pragma once
 
 #include "app/trial/preview_state.hpp"
+#include "core/sight_ticks.hpp"
+#include "ui/parts/design_export.hpp"
 #include "ui/shell/mdi_form.hpp"
 #include "views/rotation.hpp"
+#include "views/sight/sight.hpp"
 
 #include <QToolButton>
 
@@ -15,6 +18,7 @@ class QTimer;
 namespace kvt {
 
 class design_picture;
+class design_popup;
 struct view_overlay;
 
 /// A button that acts as long as it is held: it says when the left mouse button goes down on it and
@@ -75,8 +79,24 @@ class viewwinfrm : public mdi_form {
     QWidget* bottom_row();
     hold_button* rotate_button(const char* name, const QIcon& icon, turning direction);
     void connect_picture();
+    void connect_measuring();
+    void connect_popup();
+    void translate_popup();
+    void open_popup(const QPoint& global_place);
+    void take_tick(const sight_tick_row& row, bool on);
     void show_drawing();
+    void show_sight();
+    void tell_sight();
+    sight_source source() const;
+    shown_picture shown() const;
+    void zoom_by_steps(double steps, double x, double y);
+    void pan(double dx, double dy);
+    void set_point(double x, double y);
+    void point_at(const view_box& box, const point2& pixels);
+    void copy_picture() const;
+    void save_picture();
     void move_band(double x, double y);
+    void leave_picture();
     void turn(turning direction);
     void stop_turning();
     void describe_picture();
@@ -91,6 +111,9 @@ class viewwinfrm : public mdi_form {
     QLineEdit* angle_ = nullptr;
     QList<QTimer*> timers_;
     shown_trial rotors_, ports_;  ///< drawn over the pair
+    design_popup* popup_ = nullptr;
+    std::int16_t popup_language_ = 0;
+    measurement measured_;
 };
 
 }  // namespace kvt

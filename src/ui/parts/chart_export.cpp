@@ -31,21 +31,6 @@ std::string bytes_of(const QBuffer& file) {
     return file.data().toStdString();
 }
 
-std::string svg_file(const shown_chart& shown) {
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    QSvgGenerator drawing;
-    drawing.setOutputDevice(&file);
-    drawing.setResolution(DOTS_PER_INCH);
-    drawing.setSize(shown.size);
-    drawing.setViewBox(QRect(QPoint(0, 0), shown.size));
-    drawing.setTitle(qt_text(shown.chart.title));
-    QPainter painter(&drawing);
-    paint(painter, shown);
-    painter.end();
-    return bytes_of(file);
-}
-
 /// One page of the chart's own size.
 std::string pdf_file(const shown_chart& shown) {
     QBuffer file;
@@ -95,7 +80,8 @@ std::string exported_chart(const shown_chart& shown, chart_format format, double
                            char decimal_mark) {
     switch (format) {
         case chart_format::svg:
-            return svg_file(shown);
+            return svg_of(shown.size, qt_text(shown.chart.title),
+                          [&shown](QPainter& painter) { paint(painter, shown); });
         case chart_format::pdf:
             return pdf_file(shown);
         case chart_format::csv:
@@ -104,6 +90,22 @@ std::string exported_chart(const shown_chart& shown, chart_format format, double
             break;
     }
     return picture_file(chart_picture(shown, EXPORT_DENSITY * screen_density), "PNG");
+}
+
+std::string svg_of(const QSize& size, const QString& title,
+                   const std::function<void(QPainter&)>& paint_all) {
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    QSvgGenerator drawing;
+    drawing.setOutputDevice(&file);
+    drawing.setResolution(DOTS_PER_INCH);
+    drawing.setSize(size);
+    drawing.setViewBox(QRect(QPoint(0, 0), size));
+    drawing.setTitle(title);
+    QPainter painter(&drawing);
+    paint_all(painter);
+    painter.end();
+    return bytes_of(file);
 }
 
 std::string picture_file(const QImage& picture, const char* format) {

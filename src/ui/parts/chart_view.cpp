@@ -256,10 +256,8 @@ void chart_view::export_chart() {
                 return exported_chart(shown(), format_of(path), devicePixelRatioF(),
                                       kavetta.decimal_mark);
             });
-        if (saved && saved->is_whole) {
-            person.show_status(saved->outcome);
-        } else if (saved) {
-            person.show_message(saved->outcome);
+        if (saved) {
+            tell_outcome(person, *saved);
         }
     });
 }

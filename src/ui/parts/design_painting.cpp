@@ -1,6 +1,7 @@
 #include "ui/parts/design_painting.hpp"
 
 #include "core/form_table.hpp"
+#include "ui/parts/ink.hpp"
 
 #include <QPainter>
 #include <QPen>
@@ -23,10 +24,7 @@ constexpr double INVISIBLE = 0.02;
 /// The most steps of a piece of an outline.
 constexpr qsizetype LONGEST_PIECE = 16;
 
-/// The marked chamber and its contacts, on the white sheet.
-constexpr QColor CHAMBER_COLOUR(255, 200, 60);
-constexpr QColor CONTACT_COLOUR(160, 0, 120);
-constexpr double CONTACT_RADIUS = 4.0;  ///< pixels
+constexpr double CONTACT_RADIUS = 4.0;  ///< of the marked chamber, pixels
 
 /// Line width of both rotors and of the outside circle, pixels.
 constexpr double OUTLINE_WIDTH = 2.0;
@@ -48,18 +46,18 @@ constexpr QRectF ANY_PICTURE(-MARGIN, -MARGIN, LARGEST_SIDE + 2.0 * MARGIN,
 
 struct line_style {
     line_array design_view::*member;
-    int red, green, blue;
+    rgb_colour sight_palette::*colour;
     double width;  ///< pixels
 };
 
 /// The line arrays of the ports in stacking order, lowest first.
 constexpr std::array PORT_STYLES = {
-    line_style{&design_view::metering_groove_extraline, 0, 192, 0, 2.0},
-    line_style{&design_view::anglelineout, 0, 0, 0, 1.0},
-    line_style{&design_view::angleline, 0, 0, 0, 1.0},
-    line_style{&design_view::metering_groove_portline, 255, 128, 0, 2.0},
-    line_style{&design_view::outlet_portline, 255, 0, 0, 2.0},
-    line_style{&design_view::inlet_portline, 0, 0, 255, 2.0},
+    line_style{&design_view::metering_groove_extraline, &sight_palette::groove_end, 2.0},
+    line_style{&design_view::anglelineout, &sight_palette::ink, 1.0},
+    line_style{&design_view::angleline, &sight_palette::ink, 1.0},
+    line_style{&design_view::metering_groove_portline, &sight_palette::groove, 2.0},
+    line_style{&design_view::outlet_portline, &sight_palette::outlet, 2.0},
+    line_style{&design_view::inlet_portline, &sight_palette::inlet, 2.0},
 };
 
 QPointF start_of(const drawn_line& line, const view_box& box) {
@@ -221,8 +219,7 @@ void design_painting::take_ports(const design_view& view) {
     for (const line_style& style : PORT_STYLES) {
         std::vector<QPolygonF> outlines = outlines_of(view.*style.member, box_);
         if (!outlines.empty()) {
-            ports_.push_back(
-                {QColor(style.red, style.green, style.blue), style.width, std::move(outlines)});
+            ports_.push_back({style.colour, style.width, std::move(outlines)});
         }
     }
 }
@@ -245,32 +242,33 @@ bool design_painting::is_empty() const {
            circle_.empty();
 }
 
-void design_painting::paint(QPainter& painter) const {
+void design_painting::paint(QPainter& painter, const sight_palette& palette) const {
+    const QColor ink = qt_colour(palette.ink);
     painter.setRenderHint(QPainter::Antialiasing);
-    paint_chamber(painter);
+    paint_chamber(painter, palette);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(outline_pen(Qt::black, OUTLINE_WIDTH));
+    painter.setPen(outline_pen(ink, OUTLINE_WIDTH));
     for (const QPainterPath& arc : arcs_) {
         painter.drawPath(arc);
     }
     for (const layer& drawn : ports_) {
-        painter.setPen(outline_pen(drawn.colour, drawn.width));
+        painter.setPen(outline_pen(qt_colour(palette.*drawn.colour), drawn.width));
         for (const QPolygonF& outline : drawn.outlines) {
             painter.drawPolyline(outline);
         }
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(Qt::black, 1.0, Qt::DotLine));
+    painter.setPen(QPen(ink, 1.0, Qt::DotLine));
     painter.drawLines(band_);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(outline_pen(Qt::black, OUTLINE_WIDTH));
+    painter.setPen(outline_pen(ink, OUTLINE_WIDTH));
     for (const QPolygonF& outline : inner_rotor_) {
         painter.drawPolyline(outline);
     }
     for (const QPainterPath& half : circle_) {
         painter.drawPath(half);
     }
-    paint_contacts(painter);
+    paint_contacts(painter, palette);
 }
 
 void design_painting::paint_outlines(QPainter& painter, const QColor& colour, double width) const {
@@ -292,15 +290,15 @@ void design_painting::paint_outlines(QPainter& painter, const QColor& colour, do
     }
 }
 
-void design_painting::paint_chamber(QPainter& painter) const {
+void design_painting::paint_chamber(QPainter& painter, const sight_palette& palette) const {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(CHAMBER_COLOUR);
+    painter.setBrush(qt_colour(palette.marked_chamber));
     painter.drawPolygon(chamber_);
 }
 
-void design_painting::paint_contacts(QPainter& painter) const {
-    painter.setPen(QPen(Qt::white, 1.0));
-    painter.setBrush(CONTACT_COLOUR);
+void design_painting::paint_contacts(QPainter& painter, const sight_palette& palette) const {
+    painter.setPen(QPen(qt_colour(palette.paper), 1.0));
+    painter.setBrush(qt_colour(palette.marked_contact));
     for (const QPointF& place : chamber_ends_) {
         painter.drawEllipse(place, CONTACT_RADIUS, CONTACT_RADIUS);
     }

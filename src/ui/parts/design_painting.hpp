@@ -3,6 +3,7 @@
 #pragma once
 
 #include "views/design_view.hpp"
+#include "views/sight/sight_palette.hpp"
 #include "views/sight/view_box.hpp"
 
 #include <QColor>
@@ -31,21 +32,21 @@ class design_painting {
     /// Takes the rubber band over again. False when there was none to see and there is none now.
     bool take_band(const rubber_band& band);
 
-    void paint(QPainter& painter) const;
+    void paint(QPainter& painter, const sight_palette& palette) const;
     /// Rotors and ports alone, all in one colour and width.
     void paint_outlines(QPainter& painter, const QColor& colour, double width) const;
     bool is_empty() const;
 
   private:
     struct layer {
-        QColor colour;
+        rgb_colour sight_palette::*colour = nullptr;
         double width = 1.0;
         std::vector<QPolygonF> outlines;
     };
 
     void take_ports(const design_view& view);
-    void paint_chamber(QPainter& painter) const;
-    void paint_contacts(QPainter& painter) const;
+    void paint_chamber(QPainter& painter, const sight_palette& palette) const;
+    void paint_contacts(QPainter& painter, const sight_palette& palette) const;
 
     view_box box_;
     // In stacking order, lowest first.

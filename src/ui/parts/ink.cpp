@@ -30,6 +30,10 @@ QColor mix(const QColor& ground, const QColor& ink, double share) {
 
 }  // namespace
 
+QColor qt_colour(const rgb_colour& colour) {
+    return {colour.red, colour.green, colour.blue};
+}
+
 bool is_dark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < DARK_BELOW;
 }

@@ -1,10 +1,14 @@
 // ink: colours of text that can be read on their ground, whatever palette the desktop brings.
 #pragma once
 
+#include "views/rgb_colour.hpp"
+
 #include <QColor>
 #include <QPalette>
 
 namespace kvt {
+
+QColor qt_colour(const rgb_colour& colour);
 
 /// Whether windows have a dark ground.
 bool is_dark(const QPalette& palette);

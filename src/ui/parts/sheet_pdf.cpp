@@ -1,6 +1,7 @@
 #include "ui/parts/sheet_pdf.hpp"
 
 #include "base/run_time_error.hpp"
+#include "ui/parts/ink.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QBuffer>
@@ -33,10 +34,6 @@ QFont qt_font(const sheet_font& font, double dots_per_mm) {
         std::max(1, static_cast<int>(std::lround(font.points * MM_PER_POINT * dots_per_mm))));
     shown.setBold(font.is_bold);
     return shown;
-}
-
-QColor qt_colour(const rgb_colour& colour) {
-    return {colour.red, colour.green, colour.blue};
 }
 
 /// In widths of the pen.

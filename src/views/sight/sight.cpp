@@ -1,6 +1,7 @@
 #include "views/sight/sight.hpp"
 
 #include "base/number_text.hpp"
+#include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 #include "views/sight/chamber_sight.hpp"
 #include "views/sight/drawn_dimensions.hpp"
@@ -62,13 +63,7 @@ std::vector<std::string> ticked_words(const sight_source& source) {
     return words;
 }
 
-}  // namespace
-
-sight_drawing draw_sight(const sight_source& source, const sight_metrics& metrics) {
-    sight_drawing drawing;
-    if (!has_rotors(source.view)) {
-        return drawing;
-    }
+void draw_ticked(const sight_source& source, const sight_metrics& metrics, sight_drawing& drawing) {
     const view_box box(source.state);
     const view_state& state = source.state;
     if (source.ticks.grid) {
@@ -88,13 +83,9 @@ sight_drawing draw_sight(const sight_source& source, const sight_metrics& metric
     if (source.ticks.measuring) {
         add_measurement(source.measured, source.unit, source.language, box, metrics, drawing);
     }
-    return drawing;
 }
 
-std::string sight_words(const sight_source& source) {
-    if (!has_rotors(source.view)) {
-        return {};
-    }
+std::string ticked_text(const sight_source& source) {
     std::string text;
     if (const std::vector<std::string> words = ticked_words(source); !words.empty()) {
         text = word(source, "shown") + joined(words) + ".";
@@ -107,6 +98,28 @@ std::string sight_words(const sight_source& source) {
                 ".";
     }
     return text;
+}
+
+}  // namespace
+
+sight_drawing draw_sight(const sight_source& source, const sight_metrics& metrics) {
+    sight_drawing drawing;
+    try {
+        if (has_rotors(source.view)) {
+            draw_ticked(source, metrics, drawing);
+        }
+    } catch (const run_time_error&) {
+        drawing = {};
+    }
+    return drawing;
+}
+
+std::string sight_words(const sight_source& source) {
+    try {
+        return has_rotors(source.view) ? ticked_text(source) : std::string();
+    } catch (const run_time_error&) {
+        return {};
+    }
 }
 
 }  // namespace kvt

@@ -25,7 +25,7 @@ struct sight_source {
     std::int16_t language;
 };
 
-/// Nothing while no rotors are drawn.
+/// Nothing while no rotors are drawn, nor for a design with a number that no text can hold.
 sight_drawing draw_sight(const sight_source& source, const sight_metrics& metrics);
 
 /// "Shown, too: dimensions, grid of 5 mm, contact points, chamber areas 2.1 mm², 83.12 mm².

@@ -1,11 +1,19 @@
 // viewwinfrm: the resize rule, the picture, zoom, Zoom All, rotation.
+#include "app/desk/settings_commands.hpp"
 #include "app/program.hpp"
 #include "ui/desktop_fixture.hpp"
+#include "views/sight/sight_palette.hpp"
+#include "views/sight/view_box.hpp"
 
+#include <QAccessible>
+#include <QClipboard>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QWheelEvent>
+#include <QXmlStreamReader>
 
 namespace kvt {
 
@@ -37,6 +45,36 @@ class viewwinfrm_test : public desktop_test {
                           Qt::NoButton, {});
         QApplication::sendEvent(sheet(), &event);
     }
+    /// The wheel is turned over a place of the picture, in notches.
+    void wheel(QPointF place, int notches) {
+        QWheelEvent event(place, sheet()->mapToGlobal(place), {}, {0, 120 * notches}, Qt::NoButton,
+                          {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(sheet(), &event);
+        settle();
+    }
+    /// What the mouse points at, mm.
+    point2 pointed_at(QPointF place) {
+        return *view_box(kavetta().view_state).on_pump({place.x(), place.y()});
+    }
+    QMenu* popup() { return sheet()->findChild<QMenu*>("viewpopupmenu"); }
+    /// The right button opens the menu; the entry is clicked there.
+    void choose_in_popup(const char* entry) {
+        QTest::mouseClick(sheet(), Qt::RightButton, {}, {30, 30});
+        settle();
+        ASSERT_TRUE(popup()->isVisible());
+        QAction* action = popup()->findChild<QAction*>(entry);
+        QTest::mouseClick(popup(), Qt::LeftButton, {}, popup()->actionGeometry(action).center());
+        settle();
+        ASSERT_FALSE(popup()->isVisible());
+    }
+    std::string description() { return describe(sheet()).toStdString(); }
+    static QString describe(QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Description);
+    }
+    bool has_description(const std::string& words) {
+        return description().find(words) != std::string::npos;
+    }
+    QImage seen() { return sheet()->grab().toImage(); }
     void hold(const char* name) { QTest::mousePress(find<QWidget>(name), Qt::LeftButton); }
     void let_go(const char* name) { QTest::mouseRelease(find<QWidget>(name), Qt::LeftButton); }
     void type_angle(const std::string& text) {
@@ -55,6 +93,19 @@ int dark_pixels(const QImage& image, const QRect& area) {
     }
     return count;
 }
+
+int pixels_of(const QImage& image, const rgb_colour& colour) {
+    const QRgb wanted = qRgb(colour.red, colour.green, colour.blue);
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += (image.pixel(x, y) | 0xff000000) == wanted ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+const sight_palette& LIGHT = sight_palette_on(false);
 
 }  // namespace
 
@@ -420,6 +471,277 @@ TEST_F(viewwinfrm_test, turns_by_one_degree_at_each_press_without_the_mouse) {
     find<QAbstractButton>("rotate_rotors_ccw")->click();  // what a screen reader does
     EXPECT_EQ(angle(), 1.0);
     EXPECT_FALSE(timer("Timer_rotate_cw")->isActive());
+}
+
+TEST_F(viewwinfrm_test, the_wheel_zooms_at_the_pointer) {
+    calculate();
+    const double scale = kavetta().view_state.view_scale;
+    const point2 before = pointed_at({300, 150});
+    wheel({300, 150}, 2);
+    EXPECT_NEAR(kavetta().view_state.view_scale, scale * 1.25 * 1.25, 1e-9 * scale);
+    EXPECT_NEAR(pointed_at({300, 150}).x, before.x, 1e-9);
+    EXPECT_NEAR(pointed_at({300, 150}).y, before.y, 1e-9);
+    wheel({300, 150}, -2);
+    EXPECT_NEAR(kavetta().view_state.view_scale, scale, 1e-9 * scale);
+    press("zoom_all_command");
+    EXPECT_EQ(kavetta().view_state.view_scale, scale);
+}
+
+TEST_F(viewwinfrm_test, the_wheel_zooms_a_turned_pair_and_in_a_box_of_another_size) {
+    calculate();
+    type_angle("30");
+    form()->resize(form()->width(), 679);
+    settle();
+    const point2 before = pointed_at({100, 400});
+    wheel({100, 400}, 3);
+    EXPECT_NEAR(pointed_at({100, 400}).x, before.x, 1e-9);
+    EXPECT_NEAR(pointed_at({100, 400}).y, before.y, 1e-9);
+    EXPECT_EQ(angle(), 30.0);
+    EXPECT_EQ(kavetta().view_state.drawn_size, kavetta().view_state.view_size);
+}
+
+TEST_F(viewwinfrm_test, the_wheel_ends_at_a_largest_and_a_smallest_scale) {
+    calculate();
+    const double scale = kavetta().view_state.view_scale;
+    for (int turn = 0; turn < 20; ++turn) {
+        wheel({200, 200}, 4);
+    }
+    EXPECT_LE(kavetta().view_state.view_scale, 2000.0 * scale);
+    EXPECT_GT(kavetta().view_state.view_scale, 500.0 * scale);
+    for (int turn = 0; turn < 20; ++turn) {
+        wheel({200, 200}, -4);
+    }
+    EXPECT_GE(kavetta().view_state.view_scale, 0.2 * scale);
+    EXPECT_FALSE(desk().runner().has_ended());
+}
+
+TEST_F(viewwinfrm_test, plus_and_minus_zoom_at_the_cross) {
+    calculate();
+    const double scale = kavetta().view_state.view_scale;
+    sheet()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(sheet(), Qt::Key_Plus);
+    EXPECT_NEAR(kavetta().view_state.view_scale, 1.25 * scale, 1e-9 * scale);
+    QTest::keyClick(sheet(), Qt::Key_Minus);
+    EXPECT_NEAR(kavetta().view_state.view_scale, scale, 1e-9 * scale);
+}
+
+TEST_F(viewwinfrm_test, the_middle_button_pans_and_draws_no_band) {
+    calculate();
+    const view_state before = kavetta().view_state;
+    const point2 held = pointed_at({200, 200});
+    QTest::mousePress(sheet(), Qt::MiddleButton, {}, {200, 200});
+    QMouseEvent move(QEvent::MouseMove, QPointF(240, 170), sheet()->mapToGlobal(QPointF(240, 170)),
+                     Qt::NoButton, Qt::MiddleButton, {});
+    QApplication::sendEvent(sheet(), &move);
+    EXPECT_FALSE(kavetta().design_view.Line3.visible);
+    QTest::mouseRelease(sheet(), Qt::MiddleButton, {}, {240, 170});
+    settle();
+    EXPECT_NEAR(pointed_at({240, 170}).x, held.x, 1e-9);
+    EXPECT_NEAR(pointed_at({240, 170}).y, held.y, 1e-9);
+    EXPECT_EQ(kavetta().view_state.view_scale, before.view_scale);
+    hover({300, 300});
+    EXPECT_NEAR(pointed_at({240, 170}).x, held.x, 1e-9);  // let go
+}
+
+TEST_F(viewwinfrm_test, neither_wheel_nor_middle_button_do_anything_before_there_are_rotors) {
+    start();
+    wheel({200, 200}, 3);
+    drag({100, 100}, {200, 200}, Qt::MiddleButton);
+    EXPECT_EQ(kavetta().view_state.view_scale, 0.0);
+    EXPECT_EQ(kavetta().view_state.view_cx, view_state().view_cx);
+}
+
+TEST_F(viewwinfrm_test, fills_both_rotors_and_the_ports_until_the_tick_goes) {
+    calculate();
+    EXPECT_GT(pixels_of(seen(), LIGHT.body), 3000);
+    EXPECT_GT(pixels_of(seen(), LIGHT.inner_rotor), 3000);
+    choose_in_popup("sight_filled");
+    EXPECT_FALSE(kavetta().app_state.sight_ticks.filled);
+    EXPECT_EQ(pixels_of(seen(), LIGHT.body), 0);
+    EXPECT_EQ(pixels_of(seen(), LIGHT.inner_rotor), 0);
+}
+
+TEST_F(viewwinfrm_test, the_ports_are_translucent) {
+    calculate();
+    const int before = pixels_of(seen(), LIGHT.inner_rotor);
+    press("design_ports");
+    ASSERT_GT(kavetta().design_view.inlet_portline.elements.size(), 1U);
+    EXPECT_LT(pixels_of(seen(), LIGHT.inner_rotor), before);
+}
+
+TEST_F(viewwinfrm_test, each_tick_of_the_menu_draws_its_part) {
+    calculate();
+    const struct {
+        const char* entry;
+        rgb_colour colour;
+        const char* words;
+    } cases[] = {{"sight_dimensions", LIGHT.dimension, "dimensions"},
+                 {"sight_grid", LIGHT.grid, "grid of 5 mm"},
+                 {"sight_contacts", LIGHT.contact, "contact points"},
+                 {"sight_chambers", LIGHT.chamber, "chamber areas "}};
+    for (const auto& row : cases) {
+        EXPECT_EQ(pixels_of(seen(), row.colour), 0) << row.entry;
+        choose_in_popup(row.entry);
+        EXPECT_GT(pixels_of(seen(), row.colour), 50) << row.entry;
+        EXPECT_TRUE(has_description(row.words)) << description();
+        choose_in_popup(row.entry);
+        EXPECT_EQ(pixels_of(seen(), row.colour), 0) << row.entry;
+        EXPECT_FALSE(has_description(row.words)) << description();
+    }
+}
+
+TEST_F(viewwinfrm_test, the_areas_follow_the_turning_pair) {
+    calculate();
+    choose_in_popup("sight_chambers");
+    const std::string at_rest = description();
+    hold("rotate_rotors_cw");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return angle() >= 5.0; }));
+    let_go("rotate_rotors_cw");
+    EXPECT_NE(description(), at_rest);
+    EXPECT_TRUE(has_description("chamber areas "));
+}
+
+TEST_F(viewwinfrm_test, the_menu_shows_its_ticks_and_opens_by_its_keys) {
+    calculate();
+    choose_in_popup("sight_grid");
+    sheet()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(sheet(), Qt::Key_Menu);
+    ASSERT_TRUE(popup()->isVisible());
+    EXPECT_TRUE(popup()->findChild<QAction*>("sight_grid")->isChecked());
+    EXPECT_FALSE(popup()->findChild<QAction*>("sight_dimensions")->isChecked());
+    QTest::keyClick(popup(), Qt::Key_Escape);
+    EXPECT_FALSE(popup()->isVisible());
+    QTest::keyClick(sheet(), Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_TRUE(popup()->isVisible());
+    QTest::keyClick(popup(), Qt::Key_Down);  // the first entry
+    QTest::keyClick(popup(), Qt::Key_Return);
+    EXPECT_FALSE(kavetta().app_state.sight_ticks.filled);
+}
+
+TEST_F(viewwinfrm_test, the_menu_is_german_after_the_language_has_changed) {
+    calculate();
+    press("Image2");
+    EXPECT_EQ(popup()->findChild<QAction*>("sight_dimensions")->text().remove('&').toStdString(),
+              "Maße");
+    choose_in_popup("sight_dimensions");
+    EXPECT_TRUE(has_description("Außerdem zu sehen: Maße"));
+}
+
+TEST_F(viewwinfrm_test, keeps_its_ticks_in_the_settings_of_our_own) {
+    calculate();
+    choose_in_popup("sight_grid");
+    choose_in_popup("sight_filled");
+    save_settings(kavetta());
+    EXPECT_EQ(read_file(kavetta().folder / "preferences.ini"),
+              "[design_view]\r\nfilled=0\r\ngrid=1\r\n");
+}
+
+TEST_F(viewwinfrm_test, measures_between_two_clicks_that_snap_to_profile_and_centres) {
+    calculate();
+    press("zoom_all_command");
+    choose_in_popup("sight_measuring");
+    const double scale = kavetta().view_state.view_scale;
+    // The middle of the picture is the outer axis, the outside circle goes to 2.5 % of the side.
+    QTest::mouseClick(sheet(), Qt::LeftButton, {}, {197, 203});
+    QTest::mouseClick(sheet(), Qt::LeftButton, {}, {386, 200});
+    settle();
+    EXPECT_TRUE(has_description("Measured: 26 mm, dx 26 mm, dy ")) << description();
+    EXPECT_GT(pixels_of(seen(), LIGHT.measure), 20);
+    EXPECT_EQ(kavetta().view_state.view_scale, scale);
+    EXPECT_FALSE(kavetta().design_view.Line3.visible);
+}
+
+TEST_F(viewwinfrm_test, measures_along_a_drag_and_by_keys_and_drops_it_at_esc) {
+    calculate();
+    choose_in_popup("sight_measuring");
+    QTest::mousePress(sheet(), Qt::LeftButton, {}, {200, 200});
+    hover({300, 200});
+    QTest::mouseRelease(sheet(), Qt::LeftButton, {}, {390, 200});
+    settle();
+    EXPECT_TRUE(has_description("Measured: 26 mm")) << description();
+    sheet()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(sheet(), Qt::Key_Escape);
+    EXPECT_FALSE(has_description("Measured:"));
+    QTest::keyClick(sheet(), Qt::Key_Space);
+    for (int step = 0; step < 19; ++step) {
+        QTest::keyClick(sheet(), Qt::Key_Right);
+    }
+    QTest::keyClick(sheet(), Qt::Key_Space);
+    EXPECT_TRUE(has_description("Measured: 26 mm")) << description();
+}
+
+TEST_F(viewwinfrm_test, draws_the_band_with_the_left_button_again_when_measuring_ends) {
+    calculate();
+    choose_in_popup("sight_measuring");
+    drag({300, 150}, {350, 250});
+    EXPECT_EQ(kavetta().view_state.view_zoom, 1.0);
+    choose_in_popup("sight_measuring");
+    drag({300, 150}, {350, 250});
+    EXPECT_EQ(kavetta().view_state.view_zoom, 4.0);
+}
+
+TEST_F(viewwinfrm_test, copies_its_picture_from_the_menu_and_by_its_keys) {
+    calculate();
+    QApplication::clipboard()->clear();
+    choose_in_popup("popupcopy");
+    const QImage copied = QApplication::clipboard()->image();
+    EXPECT_EQ(copied.size(), picture());
+    EXPECT_GT(pixels_of(copied, LIGHT.body), 3000);
+    QApplication::clipboard()->clear();
+    sheet()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(sheet(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->image().size(), picture());
+}
+
+TEST_F(viewwinfrm_test, saves_its_picture_as_png_of_twice_the_size) {
+    calculate();
+    const auto path = folder.path() / "view.png";
+    robot.files = {path.string()};
+    choose_in_popup("popupsave");
+    EXPECT_EQ(QImage(QString::fromStdString(path.string())).size(), 2 * picture());
+}
+
+TEST_F(viewwinfrm_test, saves_what_it_shows_as_vectors) {
+    calculate();
+    choose_in_popup("sight_dimensions");
+    const auto path = folder.path() / "view.svg";
+    robot.files = {path.string()};
+    choose_in_popup("popupsave");
+    const std::string file = read_file(path);
+    QXmlStreamReader reader(QByteArray::fromStdString(file));
+    int outlines = 0;
+    int texts = 0;
+    int images = 0;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement()) {
+            outlines += reader.name() == QStringLiteral("path") ||
+                                reader.name() == QStringLiteral("polyline")
+                            ? 1
+                            : 0;
+            texts += reader.name() == QStringLiteral("text") ? 1 : 0;
+            images += reader.name() == QStringLiteral("image") ? 1 : 0;
+        }
+    }
+    EXPECT_FALSE(reader.hasError());
+    EXPECT_GT(outlines, 20);
+    EXPECT_EQ(texts, 6);
+    EXPECT_EQ(images, 0);
+    EXPECT_NE(file.find("52 mm"), std::string::npos);
+}
+
+TEST_F(viewwinfrm_test, has_a_dark_sheet_in_a_dark_palette_and_copies_on_white_paper) {
+    calculate();
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 42, 46)));
+    settle();
+    EXPECT_GT(pixels_of(seen(), sight_palette_on(true).paper), 3000);
+    EXPECT_EQ(pixels_of(seen(), LIGHT.paper), 0);
+    choose_in_popup("popupcopy");
+    EXPECT_GT(pixels_of(QApplication::clipboard()->image(), LIGHT.paper), 3000);
+    QApplication::setPalette(before);
+    settle();
+    EXPECT_GT(pixels_of(seen(), LIGHT.paper), 3000);
 }
 
 }  // namespace kvt

@@ -16,7 +16,7 @@ QImage painted(const design_view& view) {
     QImage image(100, 100, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    design_painting(view).paint(painter);
+    design_painting(view).paint(painter, sight_palette_on(false));
     return image;
 }
 
@@ -141,7 +141,7 @@ TEST(design_painting, a_turn_takes_the_rotors_over_and_keeps_ports_and_band) {
     QImage image(100, 100, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painting.paint(painter);
+    painting.paint(painter, sight_palette_on(false));
     EXPECT_EQ(image.pixel(50, 50), qRgb(0, 0, 255));
     EXPECT_EQ(image.pixel(50, 20), qRgb(0, 0, 0));
 }
