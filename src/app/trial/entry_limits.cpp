@@ -2,6 +2,7 @@
 
 #include "app/trial/design_trial.hpp"
 #include "base/number_text.hpp"
+#include "base/run_time_error.hpp"
 #include "base/stepped_number.hpp"
 #include "core/entry_numbers.hpp"
 #include "core/text_table.hpp"
@@ -121,7 +122,7 @@ double limit_search::upper_bound(double inside) const {
         case number_kind::plain:
             break;
     }
-    return inside == 0.0 ? FARTHEST : inside * FARTHEST;
+    return inside == 0.0 ? FARTHEST : std::abs(inside) * FARTHEST;
 }
 
 /// 1/64 of the number; of one degree, or of one unit, where that says nothing.
@@ -221,13 +222,12 @@ std::optional<entry_limit> limit_search::expand(double inside, double bound) con
     return std::nullopt;
 }
 
+/// A negative length that the program takes has no lowest one.
 std::optional<entry_limit> limit_search::lowest_from(double inside) const {
-    const bool ends_at_zero = kind_ == number_kind::length || kind_ == number_kind::plain;
-    if (ends_at_zero && inside > 0.0) {
-        const double bound = inside * NEXT_TO_ZERO;
-        return expand(inside, bound);
+    if (kind_ == number_kind::angle || is_whole()) {
+        return expand(inside, lower_bound());
     }
-    return expand(inside, lower_bound());
+    return inside > 0.0 ? expand(inside, inside * NEXT_TO_ZERO) : std::nullopt;
 }
 
 std::optional<entry_limit> limit_search::highest_from(double inside) const {
@@ -335,6 +335,8 @@ std::optional<entry_limits> find_limits(const program& kavetta, const entry_fiel
         return limit_search(kavetta, entry, last, is_given_up).find();
     } catch (const given_up&) {
         return std::nullopt;
+    } catch (const run_time_error&) {
+        return std::nullopt;  // a number too large to be read, or a thousand times too large
     }
 }
 

@@ -134,6 +134,19 @@ TEST_F(entry_limits_test, read_a_decimal_comma) {
     EXPECT_EQ(point->highest->shown, comma->highest->shown);
 }
 
+TEST_F(entry_limits_test, are_none_of_a_number_without_bounds) {
+    for (const char* huge : {"1e308", "1e999"}) {
+        kavetta.entries.axial_clear = huge;
+        EXPECT_FALSE(limits_of("axial_clear")) << huge;
+    }
+}
+
+TEST_F(entry_limits_test, of_a_negative_number_have_no_lowest) {
+    kavetta.entries.axial_clear = "-1";
+    const auto limits = limits_of("axial_clear");
+    EXPECT_FALSE(limits && limits->is_present_accepted && limits->lowest);
+}
+
 TEST_F(entry_limits_test, are_given_up_at_once) {
     const std::atomic<bool> is_given_up = true;
     EXPECT_FALSE(find_limits(kavetta, *find_entry("ecc"), PROFILES, &is_given_up));
