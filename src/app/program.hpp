@@ -32,7 +32,6 @@
 namespace kvt {
 
 class built_in_modeller;
-struct kept_design;
 struct text_row;
 
 struct program {
@@ -68,9 +67,6 @@ struct program {
 
     /// What the command that ran last noticed; empty at the start of a command.
     std::vector<hint> hints;
-
-    /// The design that stands beside the present one until it is unpinned; null without one.
-    std::shared_ptr<const kept_design> pinned;
 
     /// The files with entries that nobody saved: of the run, not of the design, so that copies of
     /// the records share it.
