@@ -12,7 +12,8 @@ import sys
 import tempfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "road"))
-from start_to_exit import TITLE, expect, road_fault, saved_lines, use_on_screen, user, wait_for  # noqa: E402
+from start_to_exit import (PATIENCE_SECONDS, TITLE, expect, road_fault, saved_lines,  # noqa: E402
+                           use_on_screen, user, wait_for)
 
 SKIPPED = 77
 INSIDE = "KVT_ACCESS_INSIDE"
@@ -71,11 +72,11 @@ class bus:
         while self.context.iteration(False):
             pass
 
-    def wait_for(self, what, look):
+    def wait_for(self, what, look, patience=PATIENCE_SECONDS):
         def listen_and_look():
             self.listen()
             return look()
-        return wait_for(what, listen_and_look)
+        return wait_for(what, listen_and_look, patience)
 
     def application(self):
         desktop = self.atspi.get_desktop(0)
@@ -85,6 +86,13 @@ class bus:
                 child.set_cache_mask(self.atspi.Cache.NONE)
                 return child
         return None
+
+    def is_active(self, beginning):
+        """Whether the window whose title begins so is the one that the program takes keys for."""
+        program = self.application()
+        windows = [program.get_child_at_index(i) for i in range(program.get_child_count())]
+        return any(each is not None and each.get_name().startswith(beginning) and
+                   each.get_state_set().contains(self.atspi.StateType.ACTIVE) for each in windows)
 
     def hear_line(self, beginning):
         """Waits until a line is announced that begins so; that line."""
@@ -99,6 +107,14 @@ class bus:
             self.focused.get_role() in menu_items or
             self.focused.get_state_set().contains(self.atspi.StateType.FOCUSED))
         return self.focused if there else None
+
+    def has_moved_from(self, before, patience=PATIENCE_SECONDS):
+        """Waits until something else has the focus. False when nothing gets it."""
+        try:
+            self.wait_for("the focus to move", lambda: self.focus() not in (None, before), patience)
+            return True
+        except road_fault:
+            return False
 
     def focused_name(self):
         found = self.focus()
@@ -149,19 +165,37 @@ class keyboard(user):
 
     def choose(self, menu, *entries):
         """Opens a menu by its access key and goes down to its entries with the arrow."""
+        self.return_to_main_window()
         title = self.ear.find(menu, "menu item") or self.ear.find(menu, "menu")
         expect(f"there is no menu '{menu}'", title is not None)
         key = self.ear.atspi.Action.get_key_binding(title, 0)
         expect(f"the menu '{menu}' has no access key, but '{key}'", key.startswith("Alt+"))
-        self.press_to_move(key.replace("Alt+", "alt+").lower(), "into the open menu")
+        self.open_menu(key.replace("Alt+", "alt+").lower())
         for entry in entries:
             self.go_down_to(entry)
         self.press("Return")
 
+    def return_to_main_window(self):
+        """An access key or a shortcut is lost that arrives before the program knows that its main window is active."""
+        main_window = self.windows(f"^{TITLE} - '")[0]
+        wait_for("the main window to be active", lambda: self.activate(main_window))
+        self.ear.wait_for("the program to know it", lambda: self.ear.is_active(f"{TITLE} - '"))
+
+    def open_menu(self, key):
+        """The toolkit hands Alt to the bus before it takes it: one that comes back late closes the menu that the letter
+        has opened. Then the key is pressed again."""
+        before = self.ear.focus()
+        for patience in (5, 10, PATIENCE_SECONDS):
+            self.press(key)
+            if self.ear.has_moved_from(before, patience):
+                return
+        raise road_fault(f"the key '{key}' opens no menu")
+
     def press_to_move(self, key, where):
         before = self.ear.focus()
         self.press(key)
-        self.ear.wait_for(f"the focus to move {where}", lambda: self.ear.focus() not in (None, before))
+        if not self.ear.has_moved_from(before):
+            raise road_fault(f"after {PATIENCE_SECONDS} s the focus did not move {where}")
 
     def go_down_to(self, entry):
         for _ in range(40):
@@ -326,8 +360,8 @@ def build_a_model(person, ear):
 
 
 def save(person, folder):
-    person.press("ctrl+shift+s")
-    person.window(f"{TITLE} - Save Project")
+    person.return_to_main_window()
+    person.press_shortcut("ctrl+shift+s", f"{TITLE} - Save Project")
     person.press("ctrl+a")
     path = folder / "projects" / "access.KVT"
     person.type(str(path))

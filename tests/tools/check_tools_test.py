@@ -453,6 +453,16 @@ class test_script_test(tree_test):
         self.assertEqual(lines[-3:], ["./test: failed: preset ci, road.leads", "./test: failed: preset ci, exact.hangs",
                                       "10 passed, 1 failed"])
 
+    def test_the_last_words_of_a_test_that_failed_are_printed_at_the_end(self):
+        self.program("bin/ctest", self.SUMMARY + "\t  4 - road.leads (Failed)\n", status=1)
+        rule = "-" * 58
+        self.write("build/ci/Testing/Temporary/LastTest.log", "".join(
+            f"{i}/10 Test: {name}\nCommand: x\nOutput:\n{rule}\n{output}\n<end of output>\nTest time =   0.27 sec\n{rule}\n"
+            for i, (name, output) in enumerate([("road.leads", "first try"), ("road.leads", "lost the window"),
+                                                ("road.leads_on", "another's words")], 1)))
+        self.assertEqual(self.run_it()[1][-4:-1], ["== preset ci, road.leads", "lost the window",
+                                                   "./test: failed: preset ci, road.leads"])
+
     def test_a_skipped_test_is_named_and_not_counted(self):
         self.program("bin/ctest", self.SUMMARY + "\t  4 - output.read_by_ezdxf (Skipped)\n", status=1)
         status, lines = self.run_it()

@@ -105,17 +105,20 @@ void take_option(served_program& program, const std::string& option) {
 }
 
 /// Until the last object is gone. A client that was killed, or a reference that got lost on the
-/// way, must not keep the server: it ends after a while without a call, too.
+/// way, must not keep the server: it ends after a while without a sign of life, too. On a busy
+/// machine a client calculates, or gives up thousands of objects, for half a minute.
 void serve_calls(const served_program& program) {
-    constexpr UINT LONGEST_REST_MS = 10000;
+    constexpr UINT LONGEST_REST_MS = 60000;
     SetTimer(nullptr, 0, LONGEST_REST_MS, nullptr);
-    long calls_before = 0;
+    long signs_before = 0;
     MSG message = {};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (message.message == WM_TIMER && program.calls == calls_before) {
+        if (message.message == WM_TIMER && program.signs_of_life == signs_before) {
             return;
         }
-        calls_before = message.message == WM_TIMER ? program.calls : calls_before;
+        if (message.message == WM_TIMER) {
+            signs_before = program.signs_of_life;
+        }
         DispatchMessageW(&message);
     }
 }

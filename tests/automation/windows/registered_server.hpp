@@ -36,7 +36,8 @@ class registered_server {
 
     template <typename condition>
     static void wait(const condition& done) {
-        constexpr int TRIES = 200;
+        // Longer than the server rests when it has lost its client.
+        constexpr int TRIES = 3000;
         for (int i = 0; i < TRIES && !done(); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(50));
         }

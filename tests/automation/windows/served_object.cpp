@@ -149,6 +149,7 @@ class served_object final : public IDispatch {
     ULONG STDMETHODCALLTYPE Release() override {
         const ULONG left = --references_;
         if (left == 0) {
+            ++program_.signs_of_life;
             if (--program_.objects == 0) {
                 PostQuitMessage(0);
             }
@@ -178,7 +179,7 @@ class served_object final : public IDispatch {
 
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* answer, EXCEPINFO* exception, UINT*) override {
-        ++program_.calls;
+        ++program_.signs_of_life;
         if (program_.rejections > 0) {
             --program_.rejections;
             return CALL_REJECTED;

@@ -17,7 +17,7 @@ struct served_program {
     int rejections = 0;              ///< how many calls are still rejected as of a busy program
     int calls_to_live = -1;          ///< the process ends in place of a later one; negative: never
     long objects = 0;
-    long calls = 0;
+    long signs_of_life = 0;  ///< calls of members and objects given up: a client is there
 };
 
 /// With one reference.
