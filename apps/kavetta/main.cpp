@@ -67,6 +67,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     kvt::desktop desktop(*folder);
+    desktop.offer_examples(share_folder() / "projects");
     desktop.take_projects(place);
     turn.reset();
     // The end of the program raises no further close events.

@@ -28,7 +28,7 @@ class scripted_user : public user {
     std::deque<answer> answers;
     std::deque<std::optional<std::string>> files;
     std::deque<std::optional<std::string>> project_names;
-    std::deque<start_choice> start_choices;
+    std::deque<start_answer> start_answers;
     std::deque<std::optional<std::string>> packages;  ///< codes chosen on Form4; nothing cancels
     std::deque<std::unique_ptr<report_printer>> printers;
     /// For failures; without an entry the program ends.
@@ -57,9 +57,9 @@ class scripted_user : public user {
         log.emplace_back("project name");
         return next(project_names);
     }
-    start_choice ask_new_or_open() override {
+    start_answer ask_new_or_open() override {
         log.emplace_back("new or open");
-        return next(start_choices);
+        return next(start_answers);
     }
     std::optional<std::string> ask_modelling_package(std::string_view code) override {
         log.push_back("modelling package " + std::string(code));

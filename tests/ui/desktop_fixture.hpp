@@ -23,6 +23,10 @@
 
 namespace kvt {
 
+/// The folder of the examples that the start prompt shows.
+inline const std::filesystem::path DELIVERED_PROJECTS =
+    std::filesystem::path(KVT_SHARE_FOLDER) / "projects";
+
 /// The delivered designs with known results.
 inline std::string design_file(const std::string& name) {
     return std::string(KVT_TEST_DATA) + "/designs/" + name + ".KVT";

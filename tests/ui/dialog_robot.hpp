@@ -37,10 +37,11 @@ class dialog_robot : public QObject {
     /// The buttons to press in the boxes of failures, whose texts stand among the messages; without
     /// one the program ends. "" is Esc.
     std::deque<std::string> failure_answers;
-    std::vector<std::string> default_buttons;       ///< of those boxes
-    std::deque<std::optional<std::string>> files;   ///< the path to choose; nothing cancels
-    std::deque<std::optional<std::string>> names;   ///< project names; nothing cancels
-    std::deque<std::string> prompts;                ///< "new", "open" or "" (closed) for Form2
+    std::vector<std::string> default_buttons;      ///< of those boxes
+    std::deque<std::optional<std::string>> files;  ///< the path to choose; nothing cancels
+    std::deque<std::optional<std::string>> names;  ///< project names; nothing cancels
+    std::deque<std::string>
+        prompts;  ///< "new", "open", the name of an example or "" (closed) for Form2
     std::deque<std::optional<std::string>> prints;  ///< the file to print to; nothing cancels
     std::vector<std::string> proposed_prints;       ///< the files that the print dialogs proposed
     std::string left_open;                     ///< name of a dialog that the test itself works in

@@ -52,7 +52,7 @@ form_pictures pictures_of_charts() {
 }
 
 form_pictures pictures_of_dialogs(const program& kavetta) {
-    Form2 prompt(kavetta, nullptr);
+    Form2 prompt(kavetta, delivered_examples(kavetta.folder / "projects"), nullptr);
     newprojectname name(kavetta, nullptr, [] {});
     Aboutform about(kavetta, nullptr);
     fontfrm font(kavetta, nullptr);

@@ -4,6 +4,7 @@
 #include "app/desk/settings_commands.hpp"
 #include "app/desk/unit_commands.hpp"
 #include "app/desk/update_check.hpp"
+#include "app/files/examples.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
 #include "base/environment.hpp"
@@ -78,15 +79,17 @@ void start_project(program& kavetta, user& person, std::string_view path) {
     app_state& state = kavetta.app_state;
     const bool recovered = offer_unsaved_entries(kavetta, person);
     const bool prompted = !recovered && path.empty();
-    const start_choice choice = prompted ? person.ask_new_or_open() : start_choice::neither;
-    state.new_pressed = choice == start_choice::new_project;
-    state.open_pressed = choice == start_choice::open_project;
+    const start_answer answered = prompted ? person.ask_new_or_open() : start_answer();
+    state.new_pressed = answered.choice == start_choice::new_project;
+    state.open_pressed = answered.choice == start_choice::open_project;
     if (!recovered && !path.empty()) {
         open_project_file(kavetta, person, path);
     } else if (state.new_pressed) {
         new_project(kavetta, person);
     } else if (state.open_pressed) {
         open_project(kavetta, person);
+    } else if (answered.choice == start_choice::example) {
+        open_example(kavetta, person, answered.example);
     }
     set_captions(kavetta);
     if (!recovered) {

@@ -23,7 +23,7 @@ class silent_user : public user {
     }
     std::optional<std::string> choose_file(const file_dialog&) override { return std::nullopt; }
     std::optional<std::string> ask_project_name() override { return std::nullopt; }
-    start_choice ask_new_or_open() override { return start_choice::neither; }
+    start_answer ask_new_or_open() override { return {}; }
     std::optional<std::string> ask_modelling_package(std::string_view) override {
         return std::nullopt;
     }

@@ -1,6 +1,7 @@
 // desktop: one running Kavetta with its windows, from the settings to the end.
 #pragma once
 
+#include "app/files/examples.hpp"
 #include "app/program.hpp"
 #include "ui/parts/entry_focus.hpp"
 #include "ui/parts/entry_undo_keys.hpp"
@@ -34,6 +35,11 @@ class desktop {
     /// the windows; from then on changed entries are saved every 30 s. Reads the settings first
     /// when that was not done. False when the program ended meanwhile.
     bool start(const std::string& path = {});
+
+    /// The start prompt shows the projects of a folder as examples.
+    void offer_examples(const std::filesystem::path& folder) {
+        person_.offer_examples(delivered_examples(folder));
+    }
 
     /// From now on later starts of the program hand their projects over at this place: one that is
     /// open here already, and one that can be opened without a loss.

@@ -187,11 +187,11 @@ std::optional<std::string> qt_user::ask_project_name() {
     return dialog.name();
 }
 
-start_choice qt_user::ask_new_or_open() {
+start_answer qt_user::ask_new_or_open() {
     refresh();
-    Form2 prompt(kavetta_, parent());
+    Form2 prompt(kavetta_, examples_, parent());
     prompt.exec();
-    return prompt.choice();
+    return prompt.chosen();
 }
 
 std::optional<std::string> qt_user::ask_modelling_package(std::string_view code) {

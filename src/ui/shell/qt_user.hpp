@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/desk/told_messages.hpp"
+#include "app/files/examples.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "ui/shell/qt_tools.hpp"
@@ -12,6 +13,8 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 class QMainWindow;
 class QMessageBox;
@@ -31,6 +34,11 @@ class qt_user : public user {
     void attach(QMainWindow* window, std::function<void()> refresh,
                 std::function<void(std::string_view)> load);
 
+    /// The delivered designs that the start prompt shows.
+    void offer_examples(std::vector<delivered_example> examples) {
+        examples_ = std::move(examples);
+    }
+
     /// The user has edited an entry, or a command is over: what was told before may be told again.
     void entry_edited() { told_.entry_edited(); }
     void command_ended();
@@ -45,7 +53,7 @@ class qt_user : public user {
     std::optional<std::string> choose_file(const file_dialog& dialog) override;
     void open_file(std::string_view path) override;
     std::optional<std::string> ask_project_name() override;
-    start_choice ask_new_or_open() override;
+    start_answer ask_new_or_open() override;
     std::optional<std::string> ask_modelling_package(std::string_view code) override;
     std::unique_ptr<report_printer> choose_printer(const print_request& request) override;
     void show_status(std::string_view text) override;
@@ -74,6 +82,7 @@ class qt_user : public user {
     QPointer<QMainWindow> window_;
     std::function<void()> refresh_;
     std::function<void(std::string_view)> load_;
+    std::vector<delivered_example> examples_;
     QPointer<progressfrm> progress_;
     qt_tools tools_;
     told_messages told_;

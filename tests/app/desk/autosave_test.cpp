@@ -52,14 +52,14 @@ class autosave_test : public project_test {
         person.questions.clear();
         person.statuses.clear();
         person.answers = {answers.begin(), answers.end()};
-        person.start_choices = {start_choice::neither};
+        person.start_answers = {start_answer{start_choice::neither, {}}};
         start_project(kavetta, person);
     }
     void save_project_as_pump() {
         person.files = {folder.file("projects/pump.KVT")};
         EXPECT_TRUE(save_project_as(kavetta, person));
     }
-    bool was_prompted() const { return person.start_choices.empty(); }
+    bool was_prompted() const { return person.start_answers.empty(); }
 
     void exit_with(answer reply) {
         person.answers = {reply};

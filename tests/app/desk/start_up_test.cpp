@@ -67,14 +67,14 @@ TEST_F(start_up_test, shows_the_assist_switched_off) {
     load_settings(kavetta);
     EXPECT_EQ(look_of_assist(kavetta.app_state),
               (assist_look{"Assist OFF", false, true, false, true}));
-    person.start_choices = {start_choice::neither};
+    person.start_answers = {start_answer{start_choice::neither, {}}};
     start_project(kavetta, person);
     EXPECT_EQ(look_of_assist(kavetta.app_state),
               (assist_look{"Assist OFF", false, true, false, true}));
 }
 
 TEST_F(start_up_test, starts_a_new_project_without_asking_for_fluid_values) {
-    person.start_choices = {start_choice::new_project};
+    person.start_answers = {start_answer{start_choice::new_project, {}}};
     person.project_names = {std::nullopt};
     start_project(kavetta, person);
     EXPECT_EQ(kavetta.labels.title, "Kavetta V2021 - ''") << "cancelled: an empty name";
@@ -82,14 +82,22 @@ TEST_F(start_up_test, starts_a_new_project_without_asking_for_fluid_values) {
 }
 
 TEST_F(start_up_test, opens_a_project_from_the_prompt) {
-    person.start_choices = {start_choice::open_project};
+    person.start_answers = {start_answer{start_choice::open_project, {}}};
     person.files = {project_file("pump.KVT", project_lines())};
     start_project(kavetta, person);
     EXPECT_EQ(kavetta.entries.ecc, "2.85");
 }
 
+TEST_F(start_up_test, begins_a_project_without_a_file_from_an_example) {
+    person.start_answers = {
+        start_answer{start_choice::example, project_file("pump.KVT", project_lines())}};
+    start_project(kavetta, person);
+    EXPECT_EQ(kavetta.entries.ecc, "2.85");
+    EXPECT_FALSE(kavetta.app_state.project_has_file);
+}
+
 TEST_F(start_up_test, leaves_the_form_empty_when_the_prompt_is_closed) {
-    person.start_choices = {start_choice::neither};
+    person.start_answers = {start_answer{start_choice::neither, {}}};
     start_project(kavetta, person);
     EXPECT_EQ(kavetta.labels.title, "Kavetta V2021");
     EXPECT_EQ(kavetta.entries, entries());

@@ -87,7 +87,7 @@ class layout_test : public desktop_test {
                                  "perf_res", "model_view"}) {
             look_at(*find<QMdiSubWindow>(name), what + " " + name);
         }
-        Form2 prompt(kavetta(), nullptr);
+        Form2 prompt(kavetta(), delivered_examples(DELIVERED_PROJECTS), nullptr);
         newprojectname name(kavetta(), nullptr, [] {});
         Aboutform about(kavetta(), nullptr);
         fontfrm font(kavetta(), nullptr);

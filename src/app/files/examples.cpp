@@ -1,0 +1,67 @@
+#include "app/files/examples.hpp"
+
+#include "app/desk/autosave.hpp"
+#include "app/desk/program_title.hpp"
+#include "app/files/project_commands.hpp"
+#include "app/program.hpp"
+#include "base/run_time_error.hpp"
+#include "core/failure_text.hpp"
+#include "core/text_table.hpp"
+#include "core/user.hpp"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+namespace kvt {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string name_of_example(const fs::path& file) {
+    std::string name = file.stem().string();
+    std::ranges::replace(name, '_', ' ');
+    return name;
+}
+
+void load_example(program& kavetta, user& person, const std::string& path) {
+    program before = kavetta;
+    try {
+        load_entries(kavetta, person, path);
+    } catch (const run_time_error&) {
+        kavetta = std::move(before);
+        throw;
+    }
+    kavetta.app_state.project_has_file = false;
+    kavetta.labels.title = project_title(kavetta.app_state.project_name);
+    note_new_entries(kavetta);
+}
+
+}  // namespace
+
+std::vector<delivered_example> delivered_examples(const fs::path& folder) {
+    std::vector<delivered_example> found;
+    std::error_code error;
+    for (fs::directory_iterator file(folder, error), end; !error && file != end;
+         file.increment(error)) {
+        if (file->path().extension() == ".KVT") {
+            found.push_back({name_of_example(file->path()), file->path().string()});
+        }
+    }
+    std::ranges::sort(found, {}, &delivered_example::name);
+    return found;
+}
+
+void open_example(program& kavetta, user& person, std::string_view path) {
+    const std::int16_t language = kavetta.app_state.language;
+    try {
+        load_example(kavetta, person, std::string(path));
+        person.show_status(std::string(message_text(message::example_opened, language)));
+    } catch (const run_time_error& error) {
+        person.show_status(std::string(message_text(message::open_failed, language)) +
+                           failure_text(error, language));
+    }
+}
+
+}  // namespace kvt
