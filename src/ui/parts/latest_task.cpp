@@ -1,5 +1,6 @@
 #include "ui/parts/latest_task.hpp"
 
+#include <exception>
 #include <utility>
 
 namespace kvt {
@@ -24,19 +25,23 @@ void latest_task::start(work asked) {
     pool_.start([this, task = task_] { run(task); });
 }
 
-/// In the thread of the pool.
+/// In the thread of the pool, where nobody would catch a failure.
 void latest_task::run(const std::shared_ptr<job>& task) {
     if (task->is_given_up) {
         return;
     }
-    QMetaObject::invokeMethod(
-        this,
-        [task, end = task->asked()] {
-            if (!task->is_given_up) {
-                end();
-            }
-        },
-        Qt::QueuedConnection);
+    try {
+        QMetaObject::invokeMethod(
+            this,
+            [task, end = task->asked()] {
+                if (!task->is_given_up) {
+                    end();
+                }
+            },
+            Qt::QueuedConnection);
+    } catch (const std::exception& failed) {
+        qWarning("a task beside the windows failed: %s", failed.what());
+    }
 }
 
 }  // namespace kvt

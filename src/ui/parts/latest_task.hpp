@@ -16,7 +16,8 @@ class latest_task : public QObject {
   public:
     /// What is left to do in the thread of the windows.
     using ending = std::function<void()>;
-    /// Runs in another thread; nobody else may change what it holds.
+    /// Runs in another thread; nobody else may change what it holds. One that throws has no ending:
+    /// what is shown stays as it is.
     using work = std::function<ending()>;
 
     using QObject::QObject;

@@ -5,6 +5,7 @@
 #include <QThread>
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 #include <vector>
 
 namespace kvt {
@@ -49,6 +50,15 @@ TEST(latest_task, what_was_given_up_does_not_end) {
     task.give_up();
     QTest::qWait(100);
     EXPECT_FALSE(has_ended);
+}
+
+TEST(latest_task, work_that_fails_has_no_ending_and_the_next_one_goes_on) {
+    latest_task task;
+    task.start([]() -> latest_task::ending { throw std::out_of_range("no such element"); });
+    QTest::qWait(50);
+    bool has_ended = false;
+    task.start([&]() -> latest_task::ending { return [&] { has_ended = true; }; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return has_ended; }, PATIENCE_MS));
 }
 
 TEST(latest_task, waits_for_its_work_when_it_goes) {
