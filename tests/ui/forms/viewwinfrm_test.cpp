@@ -28,7 +28,7 @@ class viewwinfrm_test : public desktop_test {
     double angle() { return kavetta().view_state.rotation_angle; }
 
     void calculate() {
-        start(design_file("n07_engine_oil_groove"));
+        start(own_design_file("n07_engine_oil_groove"));
         press("Calc");
     }
     /// A drag in the picture, pixels.
@@ -143,7 +143,7 @@ TEST_F(viewwinfrm_test, maximised_only_the_picture_is_sized) {
 
 TEST_F(viewwinfrm_test,
        the_picture_is_white_paper_until_profiles_are_calculated_then_black_rotors) {
-    start(design_file("n07_engine_oil_groove"));
+    start(own_design_file("n07_engine_oil_groove"));
     QWidget* sheet = find<QWidget>("Picture1");
     const QImage empty = sheet->grab().toImage();
     EXPECT_EQ(dark_pixels(empty, empty.rect()), 0);
@@ -165,7 +165,7 @@ TEST_F(viewwinfrm_test,
 }
 
 TEST_F(viewwinfrm_test, zoom_all_draws_the_same_pair_in_the_new_size_and_keeps_results) {
-    start(design_file("n07_engine_oil_groove"));
+    start(own_design_file("n07_engine_oil_groove"));
     press("Calc");
     const std::size_t elements = kavetta().design_view.Line1.elements.size();
     const double diameter = kavetta().design_view.Shape1.diameter;
@@ -212,7 +212,7 @@ TEST_F(viewwinfrm_test, the_mouse_is_mapped_back_to_a_drawing_of_another_size) {
 }
 
 TEST_F(viewwinfrm_test, closing_hides_it_and_keeps_its_drawing) {
-    start(design_file("n07_engine_oil_groove"));
+    start(own_design_file("n07_engine_oil_groove"));
     press("Calc");
     form()->close();
     EXPECT_FALSE(form()->isVisible());
