@@ -11,6 +11,7 @@
 #include "support/scripted_user.hpp"
 #include "ui/parts/chart_painting.hpp"
 #include "ui/parts/design_painting.hpp"
+#include "views/sight/sight_palette.hpp"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -47,7 +48,7 @@ void paint_the_pair(benchmark::State& state) {
     for (auto _ : state) {
         sheet.fill(Qt::white);
         QPainter painter(&sheet);
-        painting.paint(painter);
+        painting.paint(painter, kvt::sight_palette_on(false));
     }
 }
 
@@ -59,7 +60,7 @@ void take_over_and_paint_the_pair(benchmark::State& state) {
         const kvt::design_painting painting(view);
         sheet.fill(Qt::white);
         QPainter painter(&sheet);
-        painting.paint(painter);
+        painting.paint(painter, kvt::sight_palette_on(false));
     }
 }
 
@@ -74,7 +75,7 @@ void turn_and_paint_the_pair(benchmark::State& state) {
         painting.take_rotors(kavetta.design_view);
         sheet.fill(Qt::white);
         QPainter painter(&sheet);
-        painting.paint(painter);
+        painting.paint(painter, kvt::sight_palette_on(false));
     }
 }
 

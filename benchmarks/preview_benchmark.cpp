@@ -6,6 +6,7 @@
 #include "support/performed_design.hpp"
 #include "ui/parts/latest_task.hpp"
 #include "ui/parts/view_overlays.hpp"
+#include "views/sight/sight_palette.hpp"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -47,7 +48,8 @@ void paint_over(const kvt::program& kavetta, const kvt::kept_design& trial, QIma
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
     const kvt::view_state place = kvt::overlay_place(kavetta, trial);
-    kvt::design_painting(kavetta.design_view, kvt::view_box(place)).paint(painter);
+    kvt::design_painting(kavetta.design_view, kvt::view_box(place))
+        .paint(painter, kvt::sight_palette_on(false));
     const kvt::design_painting outlines(kvt::overlay_of(trial, trial.outlines, place),
                                         kvt::view_box(place));
     kvt::paint_overlays({{outlines, QColor(Qt::magenta), 1.0}}, painter);

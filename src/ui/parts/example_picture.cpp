@@ -7,6 +7,7 @@
 #include "base/run_time_error.hpp"
 #include "core/form_table.hpp"
 #include "ui/parts/design_painting.hpp"
+#include "views/sight/sight_palette.hpp"
 
 #include <QPainter>
 
@@ -39,7 +40,7 @@ QPixmap example_picture(const std::string& path, int side, double pixel_ratio) {
     picture.setDevicePixelRatio(pixel_ratio);
     picture.fill(Qt::white);
     QPainter painter(&picture);
-    design_painting(kavetta.design_view).paint(painter);
+    design_painting(kavetta.design_view).paint(painter, sight_palette_on(false));
     return picture;
 }
 
