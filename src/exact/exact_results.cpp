@@ -70,6 +70,8 @@ void work_out(exact_part part, const exact_source& source, exact_results& exact)
         }
         exact.states[index] = part_state::there;
     } catch (const run_time_error& error) {
+        // A figure that is no number is not left for those who lay out the others.
+        take_part(part, exact_results(), exact);
         exact.failures[index] = error;
         exact.states[index] = part_state::failed;
     }

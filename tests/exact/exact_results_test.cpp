@@ -44,6 +44,18 @@ TEST(exact_results, a_geometry_without_such_figures_fails_with_its_reason) {
     EXPECT_EQ(exact.failure_of(exact_part::gap)->kind(), failure::invalid_procedure_call);
 }
 
+/// Without a thickness there is no flow that its pulses could be compared with.
+TEST(exact_results, a_part_that_fails_leaves_no_figure_that_is_no_number) {
+    exact_source source = source_with_rotors();
+    exact_results exact = all_exact_results(source);
+    source.design.thick = 0.0;
+    work_out(exact_part::rotors, source, exact);
+    EXPECT_EQ(exact.state_of(exact_part::rotors), part_state::failed);
+    EXPECT_EQ(exact.rotors.flow.irregularity, 0.0);
+    EXPECT_EQ(exact.rotors.flow.harmonics, flow_figures().harmonics);
+    EXPECT_EQ(exact.rotors.swept_cc, 0.0);
+}
+
 TEST(exact_results, hard_designs_end_in_figures_or_in_a_reason) {
     random_values random(property_seed());
     for (int run = 0; run < property_count(60); ++run) {
