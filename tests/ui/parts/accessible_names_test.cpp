@@ -161,7 +161,7 @@ TEST_F(accessible_names_test, are_on_the_dialogs) {
     for (const std::int16_t language : {ENGLISH, GERMAN}) {
         kavetta().app_state.language = language;
         const std::vector<std::shared_ptr<dialog_form>> dialogs = {
-            std::make_shared<Form2>(kavetta(), &window()),
+            std::make_shared<Form2>(kavetta(), delivered_examples(DELIVERED_PROJECTS), &window()),
             std::make_shared<Form3>(form_context{kavetta(), desk().runner(), person}, &window()),
             std::make_shared<Form4>(kavetta(), person, "", &window()),
             std::make_shared<GT_form>(kavetta(), person, &window()),
