@@ -4,9 +4,11 @@
 #include "core/settings_file.hpp"
 #include "require.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kvt {
@@ -40,14 +42,21 @@ both_files write_both(const app_state& state, const std::string& own) {
     return {write_settings(state), kept.text()};
 }
 
-/// Lines that say something, and no recent path; without the mark of UTF-8 before the first.
+/// A line that may have a key of ours, in whatever section.
+bool may_be_ours(const std::string& line) {
+    const auto has = [&line](std::string_view key) { return line.find(key) != std::string::npos; };
+    return has("recent_") || has("preview") ||
+           std::ranges::any_of(sight_tick_rows(),
+                               [&](const sight_tick_row& row) { return has(row.key); });
+}
+
+/// Lines that say something, and no setting of ours; without the mark of UTF-8 before the first.
 std::vector<std::string> lines_of_others(const std::string& own) {
     const std::string mark = "\xEF\xBB\xBF";
     std::vector<std::string> lines;
     for (const std::string& line : split_lines(own.starts_with(mark) ? own.substr(3) : own)) {
         const bool is_head = line.find('[') != std::string::npos;
-        const bool is_recent = line.find("recent_") != std::string::npos;
-        if (line.find('=') != std::string::npos && !is_head && !is_recent) {
+        if (line.find('=') != std::string::npos && !is_head && !may_be_ours(line)) {
             lines.push_back(line);
         }
     }
