@@ -117,11 +117,18 @@ TEST(described_program, tells_what_an_option_takes) {
 
 TEST(described_program, takes_a_project_in_every_command) {
     for (const command_description& one : described_program().command.commands) {
-        ASSERT_EQ(one.arguments.size(), 1U) << one.name;
+        ASSERT_EQ(one.arguments.size(), one.name == "limits" ? 2U : 1U) << one.name;
         EXPECT_EQ(one.arguments[0].value, option_value::file);
         EXPECT_EQ(one.arguments[0].endings, std::vector<std::string>{"KVT"});
         EXPECT_TRUE(one.arguments[0].names.empty());
     }
+}
+
+TEST(described_program, takes_entries_behind_the_project_where_their_limits_are_asked) {
+    const command_description kvt = described_program().command;
+    const auto limits = std::ranges::find(kvt.commands, "limits", &command_description::name);
+    ASSERT_NE(limits, kvt.commands.end());
+    EXPECT_EQ(limits->arguments[1].value, option_value::word);
 }
 
 TEST(described_entries, have_a_meaning_each_and_take_their_states) {
