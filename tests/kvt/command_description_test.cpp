@@ -128,7 +128,9 @@ TEST(described_program, takes_entries_behind_the_project_where_their_limits_are_
     const command_description kvt = described_program().command;
     const auto limits = std::ranges::find(kvt.commands, "limits", &command_description::name);
     ASSERT_NE(limits, kvt.commands.end());
-    EXPECT_EQ(limits->arguments[1].value, option_value::word);
+    EXPECT_EQ(limits->arguments[1].value, option_value::text);
+    EXPECT_TRUE(limits->arguments[1].is_repeatable);
+    EXPECT_FALSE(limits->arguments[1].is_required);
 }
 
 TEST(described_entries, have_a_meaning_each_and_take_their_states) {
