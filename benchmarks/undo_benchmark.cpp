@@ -21,7 +21,10 @@ std::unique_ptr<kvt::desktop> calculated_desk(const kvt::temporary_folder& folde
     kvt::write_file(folder.path() / "KVT.ini", "\r\n\r\n\r\n\r\n1\r\nmanual\r\n##\r\n");
     kvt::write_file(folder.path() / "screen.ini", "");
     auto desk = std::make_unique<kvt::desktop>(folder.path());
-    desk->start(std::string(KVT_TEST_DATA) + "/designs/n07_engine_oil_groove.KVT");
+    const std::filesystem::path project = folder.path() / "n07_engine_oil_groove.KVT";
+    std::filesystem::copy_file(
+        std::filesystem::path(KVT_TEST_DATA) / "designs" / project.filename(), project);
+    desk->start(project.string());
     desk->runner().act([](kvt::program& kavetta, kvt::user& person) {
         kvt::calculate_profiles(kavetta, person);
         kvt::design_ports(kavetta, person);

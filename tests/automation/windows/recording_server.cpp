@@ -106,9 +106,9 @@ void take_option(served_program& program, const std::string& option) {
 
 /// Until the last object is gone. A client that was killed, or a reference that got lost on the
 /// way, must not keep the server: it ends after a while without a sign of life, too. On a busy
-/// machine a client calculates, or gives up thousands of objects, for half a minute.
+/// machine a client calculates, or gives up thousands of objects, for many seconds.
 void serve_calls(const served_program& program) {
-    constexpr UINT LONGEST_REST_MS = 60000;
+    constexpr UINT LONGEST_REST_MS = 30000;
     SetTimer(nullptr, 0, LONGEST_REST_MS, nullptr);
     long signs_before = 0;
     MSG message = {};
