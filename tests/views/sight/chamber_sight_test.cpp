@@ -2,10 +2,7 @@
 #include "views/sight/chamber_sight.hpp"
 
 #include "exact/chamber.hpp"
-#include "support/sample_design.hpp"
-#include "views/design_view.hpp"
-#include "views/rotation.hpp"
-#include "views/zoom.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -14,24 +11,9 @@
 namespace kvt {
 namespace {
 
-sight_metrics five_pixels_a_letter() {
-    return {[](const std::string& text) { return 5.0 * static_cast<double>(text.size()); }, 12.0};
-}
+struct turned_pair : sample_sight {
+    using sample_sight::sample_sight;
 
-struct turned_pair {
-    design_params design = sample_design();
-    view_state state;
-    design_view view;
-
-    explicit turned_pair(double degrees) {
-        const rotor_profiles rotors = rotor_pair_of(design);
-        state.view_size = 6000;
-        state.view_cx = state.view_cy = 3000.0;
-        set_plot_scale(design, state);
-        redraw_zoomed(design, rotors, {}, state, view);
-        turn_to(design, degrees, state);
-        redraw_rotated(design, rotors, state, view);
-    }
     /// How far a place of the box lies from the nearest arc of the outer rotor as drawn, pixels.
     double from_outer_rotor(const point2& place) const {
         double nearest = 1e9;
@@ -85,7 +67,7 @@ TEST(add_chambers, lie_between_the_rotors_as_they_are_drawn) {
         const turned_pair pair(degrees);
         sight_drawing drawing;
         add_chambers(pair.design, pair.state.rotation_angle, length_unit_of(MILLIMETRES), ENGLISH,
-                     view_box(pair.state), five_pixels_a_letter(), drawing);
+                     view_box(pair.state), letters_of(5.0, 12.0), drawing);
         EXPECT_EQ(drawing.areas.size(), 7U);
         for (const std::vector<point2>& area : drawing.areas) {
             EXPECT_LT(pair.from_outer_rotor(area.front()), 0.2) << degrees;

@@ -1,8 +1,7 @@
 // Tests of the dimension lines of the rotor pair.
 #include "views/sight/drawn_dimensions.hpp"
 
-#include "support/sample_design.hpp"
-#include "views/design_view.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -12,20 +11,14 @@ namespace kvt {
 namespace {
 
 view_box sample_box(std::int16_t size) {
-    view_state state;
-    state.view_size = size;
-    state.view_cx = state.view_cy = size / 2.0;
-    set_plot_scale(sample_design(), state);
-    return view_box(state);
+    return view_box(sample_place(size));
 }
 
 sight_drawing drawn(const pair_turn& turn = {}, std::int16_t units = MILLIMETRES,
                     std::int16_t size = 6000) {
     sight_drawing drawing;
-    add_dimensions(
-        sample_design(), turn, length_unit_of(units), ENGLISH, sample_box(size),
-        {[](const std::string& text) { return 6.0 * static_cast<double>(text.size()); }, 14.0},
-        drawing);
+    add_dimensions(sample_design(), turn, length_unit_of(units), ENGLISH, sample_box(size),
+                   letters_of(6.0, 14.0), drawing);
     return drawing;
 }
 

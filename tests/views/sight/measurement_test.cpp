@@ -1,8 +1,7 @@
 // Tests of the measured line.
 #include "views/sight/measurement.hpp"
 
-#include "support/sample_design.hpp"
-#include "views/design_view.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -13,19 +12,12 @@ namespace {
 const length_unit& MM = length_unit_of(MILLIMETRES);
 
 view_box sample_box() {
-    view_state state;
-    state.view_size = 6000;
-    state.view_cx = state.view_cy = 3000.0;
-    set_plot_scale(sample_design(), state);
-    return view_box(state);
+    return view_box(sample_place(6000));
 }
 
 sight_drawing drawn(const measurement& measured) {
     sight_drawing drawing;
-    add_measurement(
-        measured, MM, ENGLISH, sample_box(),
-        {[](const std::string& text) { return 6.0 * static_cast<double>(text.size()); }, 14.0},
-        drawing);
+    add_measurement(measured, MM, ENGLISH, sample_box(), letters_of(6.0, 14.0), drawing);
     return drawing;
 }
 

@@ -1,9 +1,7 @@
 // Tests of the surfaces of the Design view.
 #include "views/sight/rotor_fill.hpp"
 
-#include "support/sample_design.hpp"
-#include "views/rotation.hpp"
-#include "views/zoom.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -24,22 +22,6 @@ double area_of(const std::vector<point2>& polygon) {
     }
     return std::abs(twice) / 2.0;
 }
-
-struct drawn_pair {
-    design_params design = sample_design();
-    view_state state;
-    design_view view;
-
-    explicit drawn_pair(double degrees) {
-        const rotor_profiles rotors = rotor_pair_of(design);
-        state.view_size = 6000;
-        state.view_cx = state.view_cy = 3000.0;
-        set_plot_scale(design, state);
-        redraw_zoomed(design, rotors, {}, state, view);
-        turn_to(design, degrees, state);
-        redraw_rotated(design, rotors, state, view);
-    }
-};
 
 TEST(clipped_polygon, keeps_what_lies_inside_and_runs_along_the_edges) {
     const std::vector<point2> square = {{-5.0, -5.0}, {5.0, -5.0}, {5.0, 5.0}, {-5.0, 5.0}};
@@ -67,7 +49,7 @@ TEST(fill_of, is_nothing_without_a_drawing) {
 }
 
 TEST(fill_of, keeps_the_surfaces_of_the_rotors_at_every_angle) {
-    const drawn_pair rest(0.0);
+    const sample_sight rest(0.0);
     const rotor_fill at_rest = fill_of(rest.view, view_box(rest.state));
     const double side = 400.0;
     EXPECT_NEAR(area_of(at_rest.body), PI / 4.0 * std::pow(0.95 * side, 2.0), 0.01 * side * side);
@@ -75,7 +57,7 @@ TEST(fill_of, keeps_the_surfaces_of_the_rotors_at_every_angle) {
     EXPECT_LT(area_of(at_rest.inner), area_of(at_rest.space));
     EXPECT_LT(area_of(at_rest.space), area_of(at_rest.body));
     for (const double degrees : {15.0, 100.0, 333.0}) {
-        const drawn_pair turned(degrees);
+        const sample_sight turned(degrees);
         const rotor_fill fill = fill_of(turned.view, view_box(turned.state));
         EXPECT_NEAR(area_of(fill.space), area_of(at_rest.space), 0.002 * area_of(at_rest.space));
         EXPECT_NEAR(area_of(fill.inner), area_of(at_rest.inner), 0.002 * area_of(at_rest.inner));
@@ -83,7 +65,7 @@ TEST(fill_of, keeps_the_surfaces_of_the_rotors_at_every_angle) {
 }
 
 TEST(fill_of, stays_within_the_box_however_far_it_is_zoomed) {
-    drawn_pair pair(0.0);
+    sample_sight pair(0.0);
     zoom_at(pair.design, 500.0, 3500.0, 3200.0, pair.state);
     redraw_zoomed(pair.design, rotor_pair_of(pair.design), {}, pair.state, pair.view);
     const rotor_fill fill = fill_of(pair.view, view_box(pair.state));

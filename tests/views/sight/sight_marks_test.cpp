@@ -1,16 +1,12 @@
 // Tests of arrow heads, dimension lines and texts of the Design view.
 #include "views/sight/sight_marks.hpp"
 
-#include "views/view_state.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <gtest/gtest.h>
 
 namespace kvt {
 namespace {
-
-sight_metrics ten_pixels_a_letter() {
-    return {[](const std::string& text) { return 10.0 * static_cast<double>(text.size()); }, 14.0};
-}
 
 view_box box_of_200() {
     view_state state;
@@ -60,9 +56,9 @@ TEST(add_measured_line, has_its_arrows_outside_of_a_narrow_gap) {
 
 TEST(add_text, stands_round_its_middle_and_is_moved_into_the_box) {
     sight_drawing drawing;
-    add_text({100.0, 100.0}, "abc", sight_ink::dimension, box_of_200(), ten_pixels_a_letter(),
+    add_text({100.0, 100.0}, "abc", sight_ink::dimension, box_of_200(), letters_of(10.0, 14.0),
              drawing);
-    add_text({195.0, -5.0}, "abc", sight_ink::dimension, box_of_200(), ten_pixels_a_letter(),
+    add_text({195.0, -5.0}, "abc", sight_ink::dimension, box_of_200(), letters_of(10.0, 14.0),
              drawing);
     EXPECT_EQ(drawing.texts[0].corner, (point2{83.0, 93.0}));  // 30 and 2 on either side
     EXPECT_EQ(drawing.texts[1].corner, (point2{164.0, 2.0}));
@@ -74,7 +70,8 @@ TEST(add_text, goes_with_its_place_when_that_lies_far_outside) {
     sight_drawing drawing;
     for (const point2& middle :
          {point2{-30.0, 50.0}, {230.0, 50.0}, {50.0, -30.0}, {50.0, 230.0}}) {
-        add_text(middle, "abc", sight_ink::dimension, box_of_200(), ten_pixels_a_letter(), drawing);
+        add_text(middle, "abc", sight_ink::dimension, box_of_200(), letters_of(10.0, 14.0),
+                 drawing);
     }
     EXPECT_TRUE(drawing.texts.empty());
 }

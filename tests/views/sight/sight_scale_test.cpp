@@ -1,8 +1,7 @@
 // Tests of the grid and the scale bar of the Design view.
 #include "views/sight/sight_scale.hpp"
 
-#include "support/sample_design.hpp"
-#include "views/design_view.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -13,16 +12,8 @@ namespace {
 const length_unit& MM = length_unit_of(MILLIMETRES);
 const length_unit& INCH = length_unit_of(INCHES);
 
-sight_metrics seven_pixels_a_letter() {
-    return {[](const std::string& text) { return 7.0 * static_cast<double>(text.size()); }, 14.0};
-}
-
 view_box box_of(std::int16_t size) {
-    view_state state;
-    state.view_size = size;
-    state.view_cx = state.view_cy = size / 2.0;
-    set_plot_scale(sample_design(), state);
-    return view_box(state);
+    return view_box(sample_place(size));
 }
 
 TEST(step_from, is_the_least_step_that_is_not_below) {
@@ -59,7 +50,7 @@ TEST(length_text, has_its_unit_and_one_decimal_more_than_the_mouse) {
 TEST(add_grid, goes_through_the_inner_rotor_axis_and_stays_in_the_box) {
     const view_box box = box_of(6000);
     sight_drawing drawing;
-    add_grid(box, MM, ENGLISH, seven_pixels_a_letter(), drawing);
+    add_grid(box, MM, ENGLISH, letters_of(7.0, 14.0), drawing);
     const point2 axis = box.of_pump({0.0, 0.0});
     int axes = 0;
     for (const sight_line& line : drawing.grid) {
@@ -81,7 +72,7 @@ TEST(add_grid, goes_through_the_inner_rotor_axis_and_stays_in_the_box) {
 TEST(add_grid, has_a_bar_as_long_as_its_text_says) {
     const view_box box = box_of(6000);
     sight_drawing drawing;
-    add_grid(box, MM, ENGLISH, seven_pixels_a_letter(), drawing);
+    add_grid(box, MM, ENGLISH, letters_of(7.0, 14.0), drawing);
     ASSERT_EQ(drawing.texts.size(), 1U);
     EXPECT_EQ(drawing.texts[0].text, "10 mm");
     const sight_line& bar = drawing.lines.front();
@@ -91,7 +82,7 @@ TEST(add_grid, has_a_bar_as_long_as_its_text_says) {
 
 TEST(add_grid, of_no_design_is_nothing) {
     sight_drawing drawing;
-    add_grid(view_box(), MM, ENGLISH, seven_pixels_a_letter(), drawing);
+    add_grid(view_box(), MM, ENGLISH, letters_of(7.0, 14.0), drawing);
     EXPECT_TRUE(drawing.grid.empty());
     EXPECT_TRUE(drawing.lines.empty());
 }

@@ -1,36 +1,22 @@
 // Tests of what the ticks of the Design view show.
 #include "views/sight/sight.hpp"
 
-#include "support/sample_design.hpp"
-#include "views/zoom.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <gtest/gtest.h>
 
 namespace kvt {
 namespace {
 
-struct seen_pair {
-    design_params design = sample_design();
-    view_state state;
-    design_view view;
+struct seen_pair : sample_sight {
     sight_ticks ticks{false, false, false, false, false, false};
     measurement measured;
     std::int16_t language = ENGLISH;
 
-    seen_pair() {
-        state.view_size = 6000;
-        state.view_cx = state.view_cy = 3000.0;
-        set_plot_scale(design, state);
-        redraw_zoomed(design, rotor_pair_of(design), {}, state, view);
-    }
     sight_source source() const {
         return {design, state, view, ticks, measured, length_unit_of(MILLIMETRES), language};
     }
-    sight_drawing drawn() const {
-        return draw_sight(
-            source(),
-            {[](const std::string& text) { return 5.0 * static_cast<double>(text.size()); }, 12.0});
-    }
+    sight_drawing drawn() const { return draw_sight(source(), letters_of(5.0, 12.0)); }
 };
 
 bool is_empty(const sight_drawing& drawing) {

@@ -1,8 +1,7 @@
 // Tests of what draws a measured point to itself.
 #include "views/sight/snap.hpp"
 
-#include "support/sample_design.hpp"
-#include "views/zoom.hpp"
+#include "views/sight/sample_sight.hpp"
 
 #include <gtest/gtest.h>
 #include <numbers>
@@ -36,17 +35,7 @@ TEST(nearest_on_arc, goes_through_zero_where_its_end_is_before_its_start) {
     EXPECT_NEAR(nearest_on_arc(arc, {-50.0, -20.0}).y, -100.0, 1e-9);
 }
 
-struct drawn_pair {
-    design_params design = sample_design();
-    view_state state;
-    design_view view;
-
-    drawn_pair() {
-        state.view_size = 6000;
-        state.view_cx = state.view_cy = 3000.0;
-        set_plot_scale(design, state);
-        redraw_zoomed(design, rotor_pair_of(design), {}, state, view);
-    }
+struct drawn_pair : sample_sight {
     snapped_place at(double x, double y) const {
         return snap_to_drawing(view, state, {x, y}, 120.0);
     }

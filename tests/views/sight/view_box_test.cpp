@@ -2,23 +2,13 @@
 #include "views/sight/view_box.hpp"
 
 #include "support/property_runs.hpp"
-#include "support/sample_design.hpp"
-#include "views/design_view.hpp"
+#include "views/sight/sample_sight.hpp"
 #include "views/twips.hpp"
-#include "views/zoom.hpp"
 
 #include <gtest/gtest.h>
 
 namespace kvt {
 namespace {
-
-view_state drawn_at(std::int16_t size) {
-    view_state state;
-    state.view_size = size;
-    state.view_cx = state.view_cy = size / 2.0;
-    set_plot_scale(sample_design(), state);
-    return state;
-}
 
 TEST(view_box, has_fifteen_twips_a_pixel_without_a_drawing) {
     EXPECT_EQ(view_box().on_box({150.0, -30.0}), (point2{10.0, -2.0}));
@@ -28,13 +18,13 @@ TEST(view_box, has_fifteen_twips_a_pixel_without_a_drawing) {
 }
 
 TEST(view_box, has_fifteen_twips_a_pixel_while_the_box_has_the_size_of_the_drawing) {
-    const view_box box(drawn_at(6000));
+    const view_box box(sample_place(6000));
     EXPECT_EQ(box.on_box({3000.0, 6000.0}), (point2{200.0, 400.0}));
     EXPECT_EQ(box.side(), 400.0);
 }
 
 TEST(view_box, is_filled_by_the_drawing_at_another_size) {
-    view_state state = drawn_at(6000);
+    view_state state = sample_place(6000);
     for (const int side : {1500, 9000, 32767}) {
         state.view_size = static_cast<std::int16_t>(side);
         const view_box box(state);
@@ -45,7 +35,7 @@ TEST(view_box, is_filled_by_the_drawing_at_another_size) {
 }
 
 TEST(view_box, keeps_one_to_one_for_a_box_that_is_gone) {
-    view_state state = drawn_at(6000);
+    view_state state = sample_place(6000);
     state.view_size = -30;
     EXPECT_EQ(view_box(state).on_box({150.0, 0.0}), (point2{10.0, 0.0}));
 }
@@ -53,7 +43,7 @@ TEST(view_box, keeps_one_to_one_for_a_box_that_is_gone) {
 TEST(view_box, maps_the_mouse_back_to_where_the_drawing_has_it) {
     random_values random(property_seed());
     for (int left = property_count(200); left > 0; --left) {
-        view_state state = drawn_at(6000);
+        view_state state = sample_place(6000);
         state.view_cx = random.real(-9000.0, 9000.0);
         state.view_size = static_cast<std::int16_t>(random.real(300.0, 32000.0));
         const view_box box(state);
@@ -71,7 +61,7 @@ TEST(view_box, maps_the_mouse_back_to_where_the_drawing_has_it) {
 }
 
 TEST(view_box, is_that_of_the_present_size_after_a_zoom) {
-    view_state state = drawn_at(6000);
+    view_state state = sample_place(6000);
     state.view_size = 3000;
     state.zoom_start_x = state.zoom_start_y = 1000;
     state.zoom_end_x = state.zoom_end_y = 4000;
