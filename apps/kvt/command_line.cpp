@@ -16,6 +16,7 @@
 #include "kvt/option_check.hpp"
 #include "kvt/printed_status.hpp"
 #include "kvt/report_command.hpp"
+#include "kvt/stage_words.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -66,25 +67,16 @@ struct command_line {
     excel_request excel;          ///< its source is that of calc
 };
 
-struct stage_row {
-    const char* word;
-    calc_stage stage;
-};
-
-constexpr stage_row STAGES[] = {{"profiles", calc_stage::profiles},
-                                {"ports", calc_stage::ports},
-                                {"performance", calc_stage::performance}};
-
 std::vector<std::string> stage_words() {
     std::vector<std::string> words;
-    for (const stage_row& row : STAGES) {
+    for (const stage_row& row : STAGE_ROWS) {
         words.emplace_back(row.word);
     }
     return words;
 }
 
 calc_stage stage_of(const std::string& word) {
-    return std::ranges::find(STAGES, word, &stage_row::word)->stage;
+    return std::ranges::find(STAGE_ROWS, word, &stage_row::word)->stage;
 }
 
 /// "CONTROL=TEXT"; the text may hold further "=". Throws CLI::ValidationError for what can't be

@@ -10,6 +10,7 @@
 #include "kvt/exit_status.hpp"
 #include "kvt/json_fields.hpp"
 #include "kvt/report_texts.hpp"
+#include "kvt/stage_words.hpp"
 
 #include <algorithm>
 #include <ostream>
@@ -28,13 +29,6 @@ struct found_limits {
 
 bool is_box(const entry_field& entry) {
     return entry.kind == entry_kind::text;
-}
-
-calc_stage first_reading_stage(const entry_field& entry) {
-    if (entry.form == "Perffrm") {
-        return calc_stage::performance;
-    }
-    return entry.form == "portdes" ? calc_stage::ports : calc_stage::profiles;
 }
 
 /// The last stage, not beyond `last`, up to which the design is accepted as it stands.
@@ -59,7 +53,8 @@ std::vector<const entry_field*> entries_of(const limits_request& request, calc_s
     for (const entry_field& entry : entry_fields()) {
         const bool is_of_a_stage =
             entry.form == "Form1" || entry.form == "portdes" || entry.form == "Perffrm";
-        if (is_box(entry) && is_of_a_stage && first_reading_stage(entry) <= accepted) {
+        const calc_stage first = reading_stage(entry).value_or(calc_stage::profiles);
+        if (is_box(entry) && is_of_a_stage && first <= accepted) {
             entries.push_back(&entry);
         }
     }
@@ -70,7 +65,7 @@ std::vector<found_limits> find_all(const program& kavetta, const limits_request&
     const calc_stage accepted = accepted_stage(kavetta, request.last);
     std::vector<found_limits> found;
     for (const entry_field* entry : entries_of(request, accepted)) {
-        const calc_stage last = std::max(accepted, first_reading_stage(*entry));
+        const calc_stage last = std::max(accepted, reading_stage(*entry).value_or(accepted));
         found.push_back({*entry, last, find_limits(kavetta, *entry, last)});
     }
     return found;
@@ -107,24 +102,12 @@ json end_json(const program& kavetta, const std::optional<entry_limit>& end) {
             {"message", end->message}};
 }
 
-std::string_view stage_name(calc_stage stage) {
-    switch (stage) {
-        case calc_stage::profiles:
-            return "profiles";
-        case calc_stage::ports:
-            return "ports";
-        case calc_stage::performance:
-            break;
-    }
-    return "performance";
-}
-
 json limits_json(const program& kavetta, const found_limits& found) {
     json object = {{"entry", found.entry.name},
                    {"name", limited_entry_name(kavetta, found.entry)},
                    {"unit", entry_unit(found.entry, kavetta.captions, kavetta.app_state)},
                    {"text", kavetta.entries.*found.entry.member},
-                   {"stage", stage_name(found.last)},
+                   {"stage", stage_word(found.last)},
                    {"found", found.limits.has_value()}};
     if (found.limits) {
         const entry_limits& limits = *found.limits;

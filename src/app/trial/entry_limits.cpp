@@ -55,23 +55,11 @@ std::string refusal_of(const design_trial& trial) {
     return {};
 }
 
-/// Whether the stages up to `last` read an entry.
-bool is_read(const entry_field& entry, calc_stage last) {
-    if (entry.kind != entry_kind::text) {
-        return false;
-    }
-    if (entry.form == "Form1") {
-        return entry.name != "volumereqd";
-    }
-    return (entry.form == "portdes" && last != calc_stage::profiles) ||
-           (entry.form == "Perffrm" && last == calc_stage::performance);
-}
-
 class limit_search {
   public:
     limit_search(const program& kavetta, const entry_field& entry, calc_stage last,
                  const std::atomic<bool>* is_given_up)
-        : base_(trial_copy(kavetta)),
+        : base_(kavetta),
           entry_(entry),
           kind_(number_kind_of(entry.name)),
           last_(last),
@@ -105,7 +93,7 @@ class limit_search {
     bool show_rounded(entry_limit& limit, double inside, int decimals) const;
     void show(entry_limit& limit, double inside) const;
 
-    program base_;
+    const program& base_;
     const entry_field& entry_;
     number_kind kind_;
     calc_stage last_;
@@ -326,9 +314,24 @@ const entry_limit* entry_limits::nearest() const {
     return &*(is_above_present ? lowest : highest);
 }
 
+std::optional<calc_stage> reading_stage(const entry_field& entry) {
+    // The required volume is for the Design assist alone.
+    if (entry.kind != entry_kind::text || entry.name == "volumereqd") {
+        return std::nullopt;
+    }
+    if (entry.form == "Form1") {
+        return calc_stage::profiles;
+    }
+    if (entry.form == "portdes") {
+        return calc_stage::ports;
+    }
+    return entry.form == "Perffrm" ? std::optional(calc_stage::performance) : std::nullopt;
+}
+
 std::optional<entry_limits> find_limits(const program& kavetta, const entry_field& entry,
                                         calc_stage last, const std::atomic<bool>* is_given_up) {
-    if (!is_read(entry, last)) {
+    const std::optional<calc_stage> first = reading_stage(entry);
+    if (!first || *first > last) {
         return std::nullopt;
     }
     try {

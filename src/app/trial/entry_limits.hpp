@@ -34,6 +34,10 @@ struct entry_limits {
     bool is_above_present = false;  ///< of an interval that does not hold the present number
 };
 
+/// The first stage that reads an entry. Nothing for one that no stage reads, and for one that is no
+/// box.
+std::optional<calc_stage> reading_stage(const entry_field& entry);
+
 /// The interval in which the design is accepted up to a stage, on copies of the program. The end is
 /// found by steps that double, from 1/64 of the present number, then by halves, to better than 1e-7
 /// of it (of a degree for an angle next to 0); a whole number is counted up and down. A present
