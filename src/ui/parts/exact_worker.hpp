@@ -3,11 +3,10 @@
 #pragma once
 
 #include "exact/exact_results.hpp"
+#include "ui/parts/latest_task.hpp"
 
 #include <QObject>
-#include <QThreadPool>
 
-#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -18,8 +17,6 @@ class exact_worker : public QObject {
 
   public:
     using QObject::QObject;
-    /// Waits for a part that is at work.
-    ~exact_worker() override;
 
     /// Works out parts of a design, one after the other; what was begun before is given up.
     void start(std::shared_ptr<const exact_source> source, std::vector<exact_part> parts);
@@ -30,15 +27,7 @@ class exact_worker : public QObject {
     void worked_out(kvt::exact_part part, const kvt::exact_results& results);
 
   private:
-    struct job {
-        std::shared_ptr<const exact_source> source;
-        std::vector<exact_part> parts;
-        std::atomic<bool> is_given_up = false;
-    };
-    void work(const std::shared_ptr<job>& task);
-
-    QThreadPool pool_;
-    std::shared_ptr<job> task_;
+    latest_task task_;  ///< waits, when it goes, for a part that is at work
 };
 
 }  // namespace kvt

@@ -33,7 +33,7 @@ void latest_task::run(const std::shared_ptr<job>& task) {
     try {
         QMetaObject::invokeMethod(
             this,
-            [task, end = task->asked()] {
+            [task, end = task->asked(task->is_given_up)] {
                 if (!task->is_given_up) {
                     end();
                 }

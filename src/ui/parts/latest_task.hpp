@@ -16,9 +16,9 @@ class latest_task : public QObject {
   public:
     /// What is left to do in the thread of the windows.
     using ending = std::function<void()>;
-    /// Runs in another thread; nobody else may change what it holds. One that throws has no ending:
-    /// what is shown stays as it is.
-    using work = std::function<ending()>;
+    /// Runs in another thread; nobody else may change what it holds. It may look whether it has
+    /// been given up meanwhile. One that throws has no ending: what is shown stays as it is.
+    using work = std::function<ending(const std::atomic<bool>& is_given_up)>;
 
     using QObject::QObject;
     /// Waits for work that is at it.

@@ -6,7 +6,6 @@
 
 #include <QObject>
 
-#include <atomic>
 #include <memory>
 
 namespace kvt {
@@ -16,8 +15,6 @@ class limits_worker : public QObject {
 
   public:
     using QObject::QObject;
-    /// Waits for a trial that is at work.
-    ~limits_worker() override;
 
     /// Finds the limits of an entry of the copy; what was begun before is given up.
     void start(std::shared_ptr<const program> copy, const entry_field& entry, calc_stage last);
@@ -29,8 +26,7 @@ class limits_worker : public QObject {
     void found(const std::optional<kvt::entry_limits>& limits);
 
   private:
-    std::shared_ptr<std::atomic<bool>> is_given_up_;  ///< of the search that was started last
-    latest_task task_;
+    latest_task task_;  ///< waits, when it goes, for a trial that is at work
 };
 
 }  // namespace kvt

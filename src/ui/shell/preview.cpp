@@ -30,7 +30,8 @@ void preview::look() {
 void preview::try_entries() {
     auto copy = std::make_shared<program>(trial_copy(context_.kavetta));
     tried_stages stages = stages_on_display(context_.kavetta, context_.runner.entry_in_use());
-    task_.start([this, copy, stages = std::move(stages)]() -> latest_task::ending {
+    task_.start([this, copy,
+                 stages = std::move(stages)](const std::atomic<bool>&) -> latest_task::ending {
         auto tried = std::make_shared<tried_design>(try_typed_entries(std::move(*copy), stages));
         return [this, tried] {
             state_.take(std::move(*tried));

@@ -20,7 +20,7 @@ TEST(latest_task, works_elsewhere_and_ends_in_the_thread_of_the_windows) {
     latest_task task;
     QThread* worked = nullptr;
     QThread* ended = nullptr;
-    task.start([&]() -> latest_task::ending {
+    task.start([&](const std::atomic<bool>&) -> latest_task::ending {
         worked = QThread::currentThread();
         return [&] { ended = QThread::currentThread(); };
     });
@@ -34,7 +34,7 @@ TEST(latest_task, the_newest_work_wins) {
     latest_task task;
     std::vector<int> ended;
     for (int number = 1; number <= 50; ++number) {
-        task.start([&ended, number]() -> latest_task::ending {
+        task.start([&ended, number](const std::atomic<bool>&) -> latest_task::ending {
             return [&ended, number] { ended.push_back(number); };
         });
     }
@@ -46,7 +46,8 @@ TEST(latest_task, the_newest_work_wins) {
 TEST(latest_task, what_was_given_up_does_not_end) {
     latest_task task;
     bool has_ended = false;
-    task.start([&]() -> latest_task::ending { return [&] { has_ended = true; }; });
+    task.start(
+        [&](const std::atomic<bool>&) -> latest_task::ending { return [&] { has_ended = true; }; });
     task.give_up();
     QTest::qWait(100);
     EXPECT_FALSE(has_ended);
@@ -54,10 +55,13 @@ TEST(latest_task, what_was_given_up_does_not_end) {
 
 TEST(latest_task, work_that_fails_has_no_ending_and_the_next_one_goes_on) {
     latest_task task;
-    task.start([]() -> latest_task::ending { throw std::out_of_range("no such element"); });
+    task.start([](const std::atomic<bool>&) -> latest_task::ending {
+        throw std::out_of_range("no such element");
+    });
     QTest::qWait(50);
     bool has_ended = false;
-    task.start([&]() -> latest_task::ending { return [&] { has_ended = true; }; });
+    task.start(
+        [&](const std::atomic<bool>&) -> latest_task::ending { return [&] { has_ended = true; }; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return has_ended; }, PATIENCE_MS));
 }
 
@@ -66,7 +70,7 @@ TEST(latest_task, waits_for_its_work_when_it_goes) {
     std::atomic<bool> is_begun = false;
     {
         latest_task task;
-        task.start([&]() -> latest_task::ending {
+        task.start([&](const std::atomic<bool>&) -> latest_task::ending {
             is_begun = true;
             QThread::msleep(50);
             is_done = true;
