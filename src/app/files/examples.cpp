@@ -3,15 +3,10 @@
 #include "app/desk/autosave.hpp"
 #include "app/desk/program_title.hpp"
 #include "app/files/project_commands.hpp"
-#include "app/program.hpp"
-#include "base/run_time_error.hpp"
-#include "core/failure_text.hpp"
-#include "core/text_table.hpp"
-#include "core/user.hpp"
+#include "app/files/whole_load.hpp"
 
 #include <algorithm>
 #include <system_error>
-#include <utility>
 
 namespace kvt {
 
@@ -26,13 +21,7 @@ std::string name_of_example(const fs::path& file) {
 }
 
 void load_example(program& kavetta, user& person, const std::string& path) {
-    program before = kavetta;
-    try {
-        load_entries(kavetta, person, path);
-    } catch (const run_time_error&) {
-        kavetta = std::move(before);
-        throw;
-    }
+    load_whole(kavetta, [&] { load_entries(kavetta, person, path); });
     kavetta.app_state.project_has_file = false;
     kavetta.labels.title = project_title(kavetta.app_state.project_name);
     note_new_entries(kavetta);
@@ -54,13 +43,12 @@ std::vector<delivered_example> delivered_examples(const fs::path& folder) {
 }
 
 void open_example(program& kavetta, user& person, std::string_view path) {
-    const std::int16_t language = kavetta.app_state.language;
     try {
         load_example(kavetta, person, std::string(path));
-        person.show_status(std::string(message_text(message::example_opened, language)));
+        person.show_status(
+            std::string(message_text(message::example_opened, kavetta.app_state.language)));
     } catch (const run_time_error& error) {
-        person.show_status(std::string(message_text(message::open_failed, language)) +
-                           failure_text(error, language));
+        show_failure_status(kavetta, person, message::open_failed, error);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "app/desk/unit_commands.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/files/project_reset.hpp"
+#include "app/files/whole_load.hpp"
 #include "app/program.hpp"
 #include "app/stages/design_assist.hpp"
 #include "base/code_page.hpp"
@@ -13,7 +14,6 @@
 #include "base/run_time_error.hpp"
 #include "base/utf8_text.hpp"
 #include "base/whole_file.hpp"
-#include "core/failure_text.hpp"
 #include "core/recent_list.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -35,12 +35,6 @@ file_dialog project_dialog(const program& kavetta, message title_end) {
     return dialog;
 }
 
-void show_failure_status(const program& kavetta, user& person, message id,
-                         const run_time_error& error) {
-    person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
-                       failure_text(error, kavetta.app_state.language));
-}
-
 void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {
     person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
                        std::string(path));
@@ -55,15 +49,9 @@ void remember_projects_folder(program& kavetta) {
     kavetta.app_state.projects_folder = existing_folder_of(kavetta, kavetta.app_state.project_path);
 }
 
-/// load_project, or nothing at all: what it has assigned before it fails is taken back.
+/// load_project, or nothing at all.
 void load_whole_project(program& kavetta, user& person, std::string_view path) {
-    program before = kavetta;
-    try {
-        load_project(kavetta, person, path);
-    } catch (const run_time_error&) {
-        kavetta = std::move(before);
-        throw;
-    }
+    load_whole(kavetta, [&] { load_project(kavetta, person, path); });
     remember_projects_folder(kavetta);
     show_done_status(kavetta, person, message::project_opened, path);
 }
