@@ -73,10 +73,15 @@ std::string area_text(double mm2, const length_unit& unit, std::int16_t language
 void add_chambers(const design_params& design, double rotation_angle, const length_unit& unit,
                   std::int16_t language, const view_box& box, const sight_metrics& metrics,
                   sight_drawing& drawing) {
-    for (const seen_chamber& chamber : chambers_at(design, rotation_angle)) {
+    const std::vector<seen_chamber> seen = chambers_at(design, rotation_angle);
+    if (seen.empty()) {
+        return;
+    }
+    const exact_pair pair = nominal_pair(design);
+    const lobe_outline lobe = outline_of_lobe(design);
+    for (const seen_chamber& chamber : seen) {
         std::vector<point2> outline;
-        for (const point2& point : chamber_polygon(nominal_pair(design), outline_of_lobe(design),
-                                                   chamber.place, SAGITTA)) {
+        for (const point2& point : chamber_polygon(pair, lobe, chamber.place, SAGITTA)) {
             outline.push_back(box.of_pump(point));
         }
         if (outline.empty()) {
@@ -90,8 +95,12 @@ void add_chambers(const design_params& design, double rotation_angle, const leng
 
 void add_contacts(const design_params& design, double rotation_angle, const view_box& box,
                   sight_drawing& drawing) {
-    for (const seen_chamber& chamber : chambers_at(design, rotation_angle)) {
-        const exact_pair pair = nominal_pair(design);
+    const std::vector<seen_chamber> seen = chambers_at(design, rotation_angle);
+    if (seen.empty()) {
+        return;
+    }
+    const exact_pair pair = nominal_pair(design);
+    for (const seen_chamber& chamber : seen) {
         const lobe_contact contact =
             contact_of_lobe(pair, lobes_of_chamber(pair, chamber.place).first);
         drawing.circles.push_back(
