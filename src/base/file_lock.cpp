@@ -17,8 +17,11 @@ constexpr int TRIES = 100;
 
 std::optional<file_lock> file_lock::take(const std::filesystem::path& path) {
     for (int left = TRIES; left > 0; --left) {
-        descriptor file =
-            open_file(path, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
+        descriptor file = open_file(path, {.access = file_access::both,
+                                           .creation = file_creation::where_missing,
+                                           .follows_links = false,
+                                           .waits_for_devices = false,
+                                           .mode = 0600});
         if (!file.is_open() || try_lock(file) == lock_answer::held_by_another) {
             return std::nullopt;
         }

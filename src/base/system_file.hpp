@@ -5,24 +5,29 @@
 #include "base/descriptor.hpp"
 
 #include <cstddef>
-#include <fcntl.h>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace kvt {
 
-#ifdef _WIN32
-// What that system does of itself, or has no use for.
-inline constexpr int O_CLOEXEC = 0;
-inline constexpr int O_NONBLOCK = 0;
-inline constexpr int O_NOFOLLOW = 0;
-#endif
+enum class file_access { reading, writing, both };
+/// What becomes of a file before it is open: nothing, it is emptied, created where there is none,
+/// or refused where there is one.
+enum class file_creation { none, emptied, where_missing, always_new };
 
-/// A file opened with the flags of open, bytes as they are; closed when it can't be. It may be
-/// renamed and removed while it is open. mode is that of a created one, less what the user's mask
-/// takes away.
-descriptor open_file(const std::filesystem::path& path, int flags, int mode = 0);
+struct opening {
+    file_access access = file_access::reading;
+    file_creation creation = file_creation::none;
+    bool follows_links = true;
+    bool waits_for_devices = true;
+    /// Of a created file, as in POSIX, less what the user's mask takes away.
+    int mode = 0;
+};
+
+/// An open file, bytes as they are; closed when it can't be. Started programs don't have it, and it
+/// may be renamed and removed while it is open.
+descriptor open_file(const std::filesystem::path& path, const opening& how);
 
 /// The number of bytes that were read or written, at most those asked for; -1: failed.
 std::ptrdiff_t read_bytes(const descriptor& file, char* bytes, std::size_t count);

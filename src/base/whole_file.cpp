@@ -2,6 +2,7 @@
 #include "base/whole_file.hpp"
 
 #include "base/file_lock.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/system_file.hpp"
 
@@ -24,7 +25,7 @@ constexpr std::string_view TEMPORARY_END = ".tmp";
 constexpr int EVERYBODY = 0666;
 
 [[noreturn]] void fail(failure kind, const fs::path& path, file_fault fault = {}) {
-    throw run_time_error(kind, path.string(), fault);
+    throw run_time_error(kind, utf8_of_path(path), fault);
 }
 
 /// With what the system said last.
@@ -51,9 +52,10 @@ bool wrote_all(const descriptor& file, std::string_view bytes) {
     return true;
 }
 
-/// Opens the file itself with further flags and writes bytes from its start.
-void write_to(const fs::path& path, int flags, std::string_view bytes) {
-    descriptor file = open_file(path, O_WRONLY | O_CLOEXEC | flags, EVERYBODY);
+/// Opens the file itself and writes bytes from its start.
+void write_to(const fs::path& path, file_creation creation, std::string_view bytes) {
+    descriptor file =
+        open_file(path, {.access = file_access::writing, .creation = creation, .mode = EVERYBODY});
     if (!file.is_open() || !wrote_all(file, bytes) || !reached_the_disk(file) || !file.close()) {
         fail_access(path, errno);
     }
@@ -73,7 +75,8 @@ bool is_temporary_name(std::string_view name) {
 /// Whoever writes a temporary file holds its lock, so one without belongs to a program that was
 /// killed.
 void remove_if_left_over(const fs::path& path) {
-    const descriptor file = open_file(path, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    const descriptor file = open_file(
+        path, {.access = file_access::both, .follows_links = false, .waits_for_devices = false});
     if (file.is_open() && kind_of(file) == file_kind::plain &&
         try_lock(file) == lock_answer::taken && is_at(file, path)) {
         std::error_code ignored;
@@ -85,7 +88,7 @@ void remove_left_over_files(const fs::path& folder) {
     std::error_code error;
     fs::directory_iterator file(folder.empty() ? fs::path(".") : folder, error);
     for (; !error && file != fs::directory_iterator(); file.increment(error)) {
-        if (is_temporary_name(file->path().filename().string())) {
+        if (is_temporary_name(utf8_of_path(file->path().filename()))) {
             remove_if_left_over(file->path());
         }
     }
@@ -97,8 +100,8 @@ class temporary_file {
   public:
     explicit temporary_file(const fs::path& folder) {
         for (int number = 0; number < TEMPORARY_NAME_COUNT && !file_.is_open(); ++number) {
-            path_ = folder / (std::string(TEMPORARY_START) + std::to_string(number) +
-                              std::string(TEMPORARY_END));
+            path_ = folder / path_of_utf8(std::string(TEMPORARY_START) + std::to_string(number) +
+                                          std::string(TEMPORARY_END));
             if (!create() && errno != EEXIST) {
                 return;
             }
@@ -129,7 +132,9 @@ class temporary_file {
     /// Never a file that is there already. Between creation and lock another program may take the
     /// file for a left-over one: then the next name is tried.
     bool create() {
-        descriptor file = open_file(path_, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, EVERYBODY);
+        descriptor file = open_file(path_, {.access = file_access::writing,
+                                            .creation = file_creation::always_new,
+                                            .mode = EVERYBODY});
         if (!file.is_open()) {
             return false;
         }
@@ -169,12 +174,12 @@ void replace_file(const fs::path& target, std::optional<fs::perms> old_permissio
 /// The old file is opened for writing without touching it: what the user may not write must not be
 /// replaced either.
 bool may_be_written(const fs::path& path) {
-    return open_file(path, O_WRONLY | O_CLOEXEC | O_NONBLOCK).is_open();
+    return open_file(path, {.access = file_access::writing, .waits_for_devices = false}).is_open();
 }
 
 /// The file that the path names, opened for reading; devices and pipes are never waited for.
 descriptor open_plain_file(const fs::path& path) {
-    descriptor file = open_file(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    descriptor file = open_file(path, {.waits_for_devices = false});
     const file_kind kind = file.is_open() ? kind_of(file) : file_kind::unknown;
     if (kind == file_kind::unknown) {
         const int error = errno;
@@ -248,12 +253,12 @@ bool is_only_written_in_place(const fs::path& path) {
 }
 
 void write_in_place(const fs::path& path, std::string_view bytes) {
-    write_to(path, O_TRUNC, bytes);
+    write_to(path, file_creation::emptied, bytes);
 }
 
 void write_at_start(const fs::path& path, std::string_view bytes) {
     require_folder(path);
-    write_to(path, O_CREAT, bytes);
+    write_to(path, file_creation::where_missing, bytes);
 }
 
 }  // namespace kvt

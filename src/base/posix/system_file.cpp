@@ -3,14 +3,48 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace kvt {
 
 namespace fs = std::filesystem;
 
-descriptor open_file(const fs::path& path, int flags, int mode) {
-    return descriptor(::open(path.c_str(), flags, static_cast<mode_t>(mode)));
+namespace {
+
+int flag_of(file_access access) {
+    switch (access) {
+        case file_access::reading:
+            return O_RDONLY;
+        case file_access::writing:
+            return O_WRONLY;
+        case file_access::both:
+            break;
+    }
+    return O_RDWR;
+}
+
+int flag_of(file_creation creation) {
+    switch (creation) {
+        case file_creation::none:
+            return 0;
+        case file_creation::emptied:
+            return O_TRUNC;
+        case file_creation::where_missing:
+            return O_CREAT;
+        case file_creation::always_new:
+            break;
+    }
+    return O_CREAT | O_EXCL;
+}
+
+}  // namespace
+
+descriptor open_file(const fs::path& path, const opening& how) {
+    const int flags = flag_of(how.access) | flag_of(how.creation) |
+                      (how.follows_links ? 0 : O_NOFOLLOW) |
+                      (how.waits_for_devices ? 0 : O_NONBLOCK) | O_CLOEXEC;
+    return descriptor(::open(path.c_str(), flags, static_cast<mode_t>(how.mode)));
 }
 
 std::ptrdiff_t read_bytes(const descriptor& file, char* bytes, std::size_t count) {
@@ -26,8 +60,8 @@ bool reached_the_disk(const descriptor& file) {
 }
 
 void flush_folder(const fs::path& folder) {
-    const descriptor open_folder =
-        open_file(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const fs::path named = folder.empty() ? "." : folder;
+    const descriptor open_folder(::open(named.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (open_folder.is_open()) {
         static_cast<void>(reached_the_disk(open_folder));
     }

@@ -32,7 +32,7 @@ lock_answer try_lock(const descriptor& file) {
 }
 
 bool is_at(const descriptor& file, const std::filesystem::path& path) {
-    const descriptor other = open_file(path, O_RDONLY);
+    const descriptor other = open_file(path, {});
     BY_HANDLE_FILE_INFORMATION own = {};
     BY_HANDLE_FILE_INFORMATION named = {};
     return other.is_open() && GetFileInformationByHandle(handle_of(file), &own) != 0 &&

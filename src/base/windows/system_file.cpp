@@ -4,6 +4,7 @@
 #include "base/path_text.hpp"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <io.h>
 #include <random>
 #include <sys/stat.h>
@@ -16,7 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int ACCESS_KINDS = O_RDONLY | O_WRONLY | O_RDWR;
 constexpr DWORD OTHERS_MAY_ALL = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 /// errno for what the system said last.
@@ -33,22 +33,30 @@ bool noted(bool done) {
     return done;
 }
 
-DWORD access_of(int flags) {
-    switch (flags & ACCESS_KINDS) {
-        case O_WRONLY:
-            return GENERIC_WRITE;
-        case O_RDWR:
-            return GENERIC_READ | GENERIC_WRITE;
-        default:
+DWORD flag_of(file_access access) {
+    switch (access) {
+        case file_access::reading:
             return GENERIC_READ;
+        case file_access::writing:
+            return GENERIC_WRITE;
+        case file_access::both:
+            break;
     }
+    return GENERIC_READ | GENERIC_WRITE;
 }
 
-DWORD creation_of(int flags) {
-    if ((flags & O_CREAT) != 0) {
-        return (flags & O_EXCL) != 0 ? CREATE_NEW : OPEN_ALWAYS;
+DWORD flag_of(file_creation creation) {
+    switch (creation) {
+        case file_creation::none:
+            return OPEN_EXISTING;
+        case file_creation::emptied:
+            return TRUNCATE_EXISTING;
+        case file_creation::where_missing:
+            return OPEN_ALWAYS;
+        case file_creation::always_new:
+            break;
     }
-    return (flags & O_TRUNC) != 0 ? TRUNCATE_EXISTING : OPEN_EXISTING;
+    return CREATE_NEW;
 }
 
 /// ".kvt-XXXXXX" with six characters of their own in place of the X.
@@ -63,9 +71,9 @@ void replace_marks(std::string& name) {
 
 }  // namespace
 
-descriptor open_file(const fs::path& path, int flags, int /*mode*/) {
-    const HANDLE handle = CreateFileW(path.c_str(), access_of(flags), OTHERS_MAY_ALL, nullptr,
-                                      creation_of(flags), FILE_ATTRIBUTE_NORMAL, nullptr);
+descriptor open_file(const fs::path& path, const opening& how) {
+    const HANDLE handle = CreateFileW(path.c_str(), flag_of(how.access), OTHERS_MAY_ALL, nullptr,
+                                      flag_of(how.creation), FILE_ATTRIBUTE_NORMAL, nullptr);
     if (!noted(handle != INVALID_HANDLE_VALUE)) {
         return descriptor();
     }

@@ -23,7 +23,7 @@ TEST(file_lock, is_held_by_one_and_free_again_when_it_goes_with_its_file) {
 TEST(file_lock, keeps_nobody_from_reading_the_file) {
     const temporary_folder folder;
     write_file(folder / "a", "text");
-    const descriptor file = open_file(folder / "a", O_RDWR);
+    const descriptor file = open_file(folder / "a", {.access = file_access::both});
     ASSERT_EQ(try_lock(file), lock_answer::taken);
     EXPECT_EQ(read_file(folder / "a"), "text");
 }
@@ -32,7 +32,7 @@ TEST(is_at, tells_an_open_file_from_another_of_its_name) {
     const temporary_folder folder;
     write_file(folder / "a", "1");
     write_file(folder / "b", "2");
-    const descriptor file = open_file(folder / "a", O_RDONLY);
+    const descriptor file = open_file(folder / "a", {});
     EXPECT_TRUE(is_at(file, folder / "a"));
     EXPECT_FALSE(is_at(file, folder / "b"));
     EXPECT_FALSE(is_at(file, folder / "c"));

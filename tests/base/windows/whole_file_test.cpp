@@ -30,7 +30,7 @@ TEST_F(files, are_written_byte_for_byte) {
 
 TEST_F(files, that_another_program_has_open_stay_as_they_are) {
     write_file(folder / "a.txt", "old");
-    const descriptor reader = open_file(folder / "a.txt", O_RDONLY);
+    const descriptor reader = open_file(folder / "a.txt", {});
     ASSERT_TRUE(reader.is_open());
     EXPECT_FAILURE(write_file(folder / "a.txt", "new"), failure::path_file_access);
     EXPECT_EQ(read_file(folder / "a.txt"), "old");
@@ -40,7 +40,7 @@ TEST_F(files, that_another_program_has_open_stay_as_they_are) {
 TEST_F(files, left_over_by_a_killed_program_are_removed_and_locked_ones_stay) {
     write_at_start(folder / ".kvt-7.tmp", "left over");
     write_at_start(folder / ".kvt-8.tmp", "being written");
-    const descriptor writer = open_file(folder / ".kvt-8.tmp", O_RDWR);
+    const descriptor writer = open_file(folder / ".kvt-8.tmp", {.access = file_access::both});
     ASSERT_EQ(try_lock(writer), lock_answer::taken);
     write_file(folder / "a.txt", "new");
     EXPECT_FALSE(fs::exists(folder / ".kvt-7.tmp"));
