@@ -4,6 +4,7 @@
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
 #include "ui/shell/desktop.hpp"
@@ -24,7 +25,7 @@ std::unique_ptr<kvt::desktop> calculated_desk(const kvt::temporary_folder& folde
     const std::filesystem::path project = folder.path() / "n07_engine_oil_groove.KVT";
     std::filesystem::copy_file(
         std::filesystem::path(KVT_TEST_DATA) / "designs" / project.filename(), project);
-    desk->start(project.string());
+    desk->start(utf8_of_path(project));
     desk->runner().act([](kvt::program& kavetta, kvt::user& person) {
         kvt::calculate_profiles(kavetta, person);
         kvt::design_ports(kavetta, person);

@@ -1,6 +1,7 @@
 // Fuzz target: the whole road from typed entries to profiles, ports, performance and every file. A
 // run ends as it says, and no file holds a number that is none.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 #include "fuzzed_design.hpp"
 #include "kvt/batch_user.hpp"
@@ -71,7 +72,7 @@ void check_export(const fuzzed_design& design) {
     std::ostringstream told;
     const int status = export_design(request, out, told);
     require(status == EXIT_OK || status == EXIT_REFUSED, "a sample is exported or refused");
-    check_files(request.folder.string());
+    check_files(utf8_of_path(request.folder));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "fuzzed_design.hpp"
 
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "core/entries.hpp"
 #include "support/temporary_folder.hpp"
@@ -38,7 +39,7 @@ std::string copied_design(const std::string& named) {
     if (!std::filesystem::exists(copy)) {
         std::filesystem::copy_file(std::filesystem::path(KVT_DESIGNS) / copy.filename(), copy);
     }
-    return copy.string();
+    return utf8_of_path(copy);
 }
 
 /// The named entry, else one that the name's bytes stand for; a check box takes 0 or 1.
@@ -79,7 +80,7 @@ std::string fresh_output_folder() {
     const std::filesystem::path out = work_folder() / "out";
     std::filesystem::remove_all(out);
     std::filesystem::create_directory(out);
-    return out.string();
+    return utf8_of_path(out);
 }
 
 }  // namespace kvt

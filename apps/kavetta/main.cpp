@@ -7,6 +7,7 @@
 #include "ui/shell/application_style.hpp"
 #include "ui/shell/desktop.hpp"
 #include "ui/shell/hand_over.hpp"
+#include "ui/shell/qt_path.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
@@ -21,11 +22,10 @@ namespace {
 /// The share folder beside the installed program, else the one of the build.
 std::filesystem::path share_folder() {
     const std::filesystem::path beside =
-        std::filesystem::path(kvt::utf8_text(QApplication::applicationDirPath())) /
-        KVT_INSTALLED_SHARE_FOLDER;
+        kvt::path_of_qt(QApplication::applicationDirPath()) / KVT_INSTALLED_SHARE_FOLDER;
     std::error_code error;
     return std::filesystem::is_directory(beside, error) ? beside
-                                                        : std::filesystem::path(KVT_SHARE_FOLDER);
+                                                        : kvt::path_of_utf8(KVT_SHARE_FOLDER);
 }
 
 /// The program's folder, filled with the delivered files that are missing. Nothing when that fails:
@@ -48,7 +48,7 @@ std::optional<std::filesystem::path> filled_program_folder() {
 std::string project_argument() {
     const QStringList arguments = QApplication::arguments();
     return arguments.size() < 2 ? std::string()
-                                : kvt::utf8_text(QFileInfo(arguments[1]).absoluteFilePath());
+                                : kvt::native_path_text(QFileInfo(arguments[1]).absoluteFilePath());
 }
 
 }  // namespace

@@ -26,14 +26,14 @@ void create_folder(const std::filesystem::path& folder) {
     std::error_code failed;
     std::filesystem::create_directories(folder, failed);
     if (failed) {
-        throw run_time_error(failure::path_not_found, folder.string());
+        throw run_time_error(failure::path_not_found, utf8_of_path(folder));
     }
 }
 
 /// The project as it stands, before anything is calculated. False when it could not be written.
 bool export_project(const program& kavetta, const export_request& request, std::ostream& out,
                     std::ostream& err) {
-    const std::string path = (request.folder / exported_project_name(request.source)).string();
+    const std::string path = utf8_of_path(request.folder / exported_project_name(request.source));
     try {
         create_folder(request.folder);
         write_entries(kavetta, path, disk_write::left_to_the_system);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/files/saved_text.hpp"
+#include "base/path_text.hpp"
 
 #include <cstdint>
 #include <filesystem>
@@ -19,7 +20,9 @@ class export_folder {
                   std::ostream& err)
         : path_(std::move(path)), language_(language), out_(out), err_(err) {}
 
-    std::string path_of(std::string_view name) const { return (path_ / name).string(); }
+    std::string path_of(std::string_view name) const {
+        return utf8_of_path(path_ / path_of_utf8(name));
+    }
     std::ostream& err() { return err_; }
 
     /// Saves a file as far as its writer gets. A failure is told, and refuses the file.

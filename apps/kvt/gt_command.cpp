@@ -33,7 +33,7 @@ fs::path delivered_file(const char* name) {
             return folder / name;
         }
     }
-    return fs::path(KVT_SHARE_FOLDER) / name;
+    return path_of_utf8(KVT_SHARE_FOLDER) / name;
 }
 
 void print(std::ostream& out, const gt_result& made) {
@@ -42,7 +42,7 @@ void print(std::ostream& out, const gt_result& made) {
         out << "pass " << ++number << ": " << pass.objects << " objects, " << pass.lines
             << " lines\n";
     }
-    out << made.model.string() << '\n';
+    out << utf8_of_path(made.model) << '\n';
 }
 
 /// The passes alone, on files that a converter has left.

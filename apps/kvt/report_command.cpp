@@ -19,7 +19,7 @@ namespace kvt {
 namespace {
 
 bool ends_in(const std::string& file, std::string_view ending) {
-    return is_same_ignoring_case(path_of_utf8(file).extension().string(), ending);
+    return is_same_ignoring_case(utf8_of_path(path_of_utf8(file).extension()), ending);
 }
 
 std::string text_bytes(const text_printer& text) {

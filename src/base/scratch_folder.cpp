@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 scratch_folder::scratch_folder() {
     std::error_code error;
-    std::string name = (fs::temp_directory_path(error) / "kvt-XXXXXX").string();
+    std::string name = utf8_of_path(fs::temp_directory_path(error) / "kvt-XXXXXX");
     if (error || !make_private_folder(name)) {
         throw run_time_error(failure::path_file_access, name,
                              {file_fault::reason::system, error ? error.value() : errno});

@@ -10,7 +10,7 @@
 namespace kvt {
 
 /// The name of the layout file in the program's folder.
-inline constexpr std::string_view LAYOUT_FILE_NAME = "screen.ini";
+inline constexpr const char* LAYOUT_FILE_NAME = "screen.ini";
 
 /// The bytes of the layout file for the windows as they are on the screen at this moment: the five
 /// fixed blocks, then a block for each optional window that has a rectangle. Numbers are

@@ -12,12 +12,12 @@
 namespace kvt {
 
 /// The name of the settings file in the program's folder.
-inline constexpr std::string_view SETTINGS_FILE_NAME = "KVT.ini";
+inline constexpr const char* SETTINGS_FILE_NAME = "KVT.ini";
 
 /// The name of our own settings file beside it, UTF-8, and that of the file with its recent paths
 /// alone, which stood in its place in earlier versions.
-inline constexpr std::string_view PREFERENCES_FILE_NAME = "preferences.ini";
-inline constexpr std::string_view EARLIER_PREFERENCES_FILE_NAME = "Kavetta.ini";
+inline constexpr const char* PREFERENCES_FILE_NAME = "preferences.ini";
+inline constexpr const char* EARLIER_PREFERENCES_FILE_NAME = "Kavetta.ini";
 
 /// Reads lines 1 to 7 into recent entries 1 to 3, modelling_package, language, auto_update_mode and
 /// last_update_check (the text between the "#" characters). Missing lines leave empty

@@ -1,5 +1,6 @@
 // Tests of the guide's layout: chapters in order, contents with the right pages, pictures that are
 // there.
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "guide_pdf/guide_book.hpp"
 #include "support/temporary_folder.hpp"
@@ -23,7 +24,7 @@ class guide_pdf : public testing::Test {
         write_file(folder.path() / name, text);
     }
     guide_book book() {
-        const QString place = QString::fromStdString(folder.path().string());
+        const QString place = QString::fromStdString(utf8_of_path(folder.path()));
         return {place, {place, place}, writer};
     }
     static std::string paragraphs(int count) {

@@ -2,6 +2,7 @@
 // command did to it.
 #pragma once
 
+#include "base/path_text.hpp"
 #include "core/report_printer.hpp"
 #include "core/user.hpp"
 
@@ -99,7 +100,7 @@ class scripted_user : public user {
 
   protected:
     static std::string line_of(const started_tool& tool) {
-        std::string line = tool.program.string();
+        std::string line = utf8_of_path(tool.program);
         for (const std::string& argument : tool.arguments) {
             line += " " + argument;
         }

@@ -1,4 +1,5 @@
 """Tests of the checks in tools: each passes a good tree and names the fault of a bad one."""
+import json
 import os
 import pathlib
 import shutil
@@ -17,6 +18,7 @@ import check_includes  # noqa: E402
 import check_line_ends  # noqa: E402
 import check_named_tests  # noqa: E402
 import check_pages  # noqa: E402
+import check_paths  # noqa: E402
 import check_sources_have_tests  # noqa: E402
 import check_sources_of_formulas  # noqa: E402
 import check_texts  # noqa: E402
@@ -56,6 +58,33 @@ class host_names_test(tree_test):
         self.expect_one(self.check(b"\0http://updates.test/x\0"), "program: ", "updates.test")
         self.expect_one(self.check(b"\0www.pumps.test\0"), "www.pumps.test")
         self.expect_one(self.check(b"\0pumps.example.com\0"), "example.com")
+
+
+class paths_test(tree_test):
+    def check(self, code, name="src/core/a.cpp"):
+        self.write(name, code)
+        return check_paths.findings(self.root)
+
+    def test_literals_and_the_functions_of_path_text_are_allowed(self):
+        self.write("src/base/path_text.hpp", "return fs::path(p).make_preferred().u8string();\n")
+        self.assertEqual(list(self.check(
+            'f(fs::path("a") / fs::path(u8"b") / fs::path(KVT_FOLDER) / fs::path());\n'
+            "out.str(); std::string(x); // p.string()\nfs::path of(std::string name);\n"
+            "path_of_utf8(name); utf8_of_path(path);\n")), [])
+
+    def test_a_text_that_is_taken_from_a_path_otherwise_is_reported(self):
+        for call in ("string", "native", "u8string", "generic_string", "generic_u8string"):
+            self.expect_one(self.check(f"\nf((folder / name).{call}());\n"), "src/core/a.cpp:2", f"not by {call}()")
+
+    def test_a_path_that_is_made_of_a_text_otherwise_is_reported(self):
+        for code in ("fs::path(name)", "std::filesystem::path{name}", "fs::path( text.c_str())", "fs::u8path(name)"):
+            self.expect_one(self.check(code + "\n"), "src/core/a.cpp:1", "path_of_utf8")
+
+    def test_a_question_for_the_system_stands_in_platform_files_alone(self):
+        for question in ("#ifdef _WIN32", "#if defined(Q_OS_UNIX)", "# elif __linux__", "#ifndef _WIN32"):
+            self.expect_one(self.check(question + "\n", "tests/a.hpp"), "tests/a.hpp:1", "source of its name")
+            (self.root / "tests/a.hpp").unlink()
+            self.assertEqual(list(self.check(question + "\n", "src/base/windows/a.cpp")), [])
 
 
 class includes_test(tree_test):
@@ -533,7 +562,7 @@ class programs_test(tree_test):
 
     def check(self, left, right):
         programs = (self.program("left", left), self.program("right", right))
-        return compare_programs.findings(self.root, programs)[1]
+        return compare_programs.findings(compare_programs.sample_designs(self.root), programs)[1]
 
     def test_the_same_files_are_allowed(self):
         self.assertEqual(self.check(self.WRITES.format("1.5"), self.WRITES.format("1.5")), [])
@@ -546,11 +575,11 @@ class programs_test(tree_test):
         found = self.check(self.WRITES.format("1.5"), self.WRITES.format("1.5") + "rm -f b.cnc\n")
         self.assertEqual(found, ["pump/b.cnc: written by one program only"])
 
-    def nearly(self, left, right):
-        self.write("left.txt", left)
-        self.write("right.txt", right)
+    def nearly(self, left, right, ending=".txt"):
+        self.write("left" + ending, left)
+        self.write("right" + ending, right)
         same = compare_programs.near_comparison()
-        return same(self.root / "left.txt", self.root / "right.txt")
+        return same(self.root / ("left" + ending), self.root / ("right" + ending))
 
     def test_nearly_the_same_are_last_digits_and_separators(self):
         self.assertTrue(self.nearly("G1 X1.00000000000001 out\\a", "G1 X1.00000000000002 out/a"))
@@ -558,6 +587,38 @@ class programs_test(tree_test):
         self.assertFalse(self.nearly("G1 X1.0001", "G1 X1.0002"))
         self.assertFalse(self.nearly("G1 X1.0001", "G2 X1.0001"))
         self.assertFalse(self.nearly("G1 X1 Y2", "G1 X1"))
+
+    def test_how_near_is_a_matter_of_the_file(self):
+        self.assertTrue(self.nearly("0.0010000000000001", "0.0010000000000002"))
+        self.assertFalse(self.nearly("0.001000000001", "0.001000000002"))
+        self.assertTrue(self.nearly("2e-17", "1e-17"))
+        self.assertTrue(self.nearly("[1234.0]", "[1235.0]", ".json"))
+        self.assertFalse(self.nearly("[1234.0]", "[1235.0]"))
+        self.assertTrue(self.nearly("X1.234 Y5", "X1.235 Y5", ".cnc"))
+        self.assertFalse(self.nearly("X1.234 Y5", "X1.236 Y5", ".cnc"))
+        self.assertFalse(self.nearly("X1.234 Y5", "X1.235 Y5"))
+        self.assertTrue(self.nearly("(1.000000000005,2.)", "(1.00000000000,2.)", ".stp"))
+        self.assertFalse(self.nearly("(1.0000000001,2.)", "(1.0000000000,2.)", ".stp"))
+
+    def test_what_differed_is_counted_by_the_kind_of_file(self):
+        self.write("a.json", "[1, 2.00000000000001, 30.0]")
+        self.write("b.json", "[1, 2.00000000000002, 31.0]")
+        same = compare_programs.near_comparison()
+        same(self.root / "a.json", self.root / "b.json")
+        same(self.root / "a.json", self.root / "a.json")
+        self.assertIn(".json: 1 of 2 files differ: 1 numbers by at most 9.8e-15", str(same))
+        self.assertIn("1 whole numbers by one, 0 by a step.", str(same))
+
+    def test_a_sharp_corner_may_lie_one_step_apart(self):
+        for radius, is_near in (("", True), ("0", True), ("0.5", False)):
+            folder = f"pump{radius}/"
+            self.write(folder + "results.json", json.dumps({"entries": {"port_radii": radius}}))
+            self.write(folder + "left.cnc", "X7.336612")
+            self.write(folder + "right.cnc", "X7.336813")
+            self.write(folder + "far.cnc", "X7.346813")
+            same = compare_programs.near_comparison()
+            left, right, far = (self.root / folder / name for name in ("left.cnc", "right.cnc", "far.cnc"))
+            self.assertEqual((same(left, right), same(left, far)), (is_near, False))
 
     def test_programs_that_write_nothing_are_reported(self):
         self.assertEqual(self.check("#!/bin/sh\n", "#!/bin/sh\n"), ["nothing was written, so nothing was compared"])

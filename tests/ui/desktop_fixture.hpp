@@ -1,6 +1,7 @@
 // A running desktop program with a folder of its own, its dialogs answered by a robot.
 #pragma once
 
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
 #include "ui/dialog_robot.hpp"
@@ -97,7 +98,7 @@ class desktop_test : public testing::Test {
         const std::filesystem::path own = folder.path() / "projects" / (name + ".KVT");
         std::filesystem::copy_file(design_file(name), own,
                                    std::filesystem::copy_options::overwrite_existing);
-        return own.string();
+        return utf8_of_path(own);
     }
 
     /// Clicks into a box, marks what it holds, and types key by key.

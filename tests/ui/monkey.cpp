@@ -1,5 +1,6 @@
 #include "ui/monkey.hpp"
 
+#include "base/path_text.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QAbstractButton>
@@ -130,7 +131,7 @@ void monkey_answers::answer_file(QFileDialog& dialog) {
     const std::size_t chosen =
         static_cast<std::size_t>(random_.whole(0, static_cast<int>(projects_.size()) - 1));
     const std::string saved =
-        (saved_ / ("saved" + std::to_string(random_.whole(0, 2)) + ".KVT")).string();
+        utf8_of_path(saved_ / ("saved" + std::to_string(random_.whole(0, 2)) + ".KVT"));
     dialog.selectFile(qt_text(saving ? saved : projects_[chosen]));
     QMetaObject::invokeMethod(&dialog, "accept");
     // A file that isn't there keeps the dialog open behind a message of its own.

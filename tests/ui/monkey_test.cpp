@@ -3,6 +3,7 @@
 
 #include "app/desk/start_up.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "support/temporary_folder.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -50,10 +51,10 @@ class monkey_test : public testing::Test {
             const std::string file = std::string(name) + ".KVT";
             const std::filesystem::path copy = folder.path() / "projects" / file;
             write_file(copy, read_file(std::string(KVT_TEST_DATA) + "/designs/" + file));
-            projects.push_back(copy.string());
+            projects.push_back(utf8_of_path(copy));
         }
         write_file(folder.path() / "projects" / "torn.KVT", "one line\r\n");
-        projects.push_back((folder.path() / "projects" / "torn.KVT").string());
+        projects.push_back(utf8_of_path(folder.path() / "projects" / "torn.KVT"));
     }
 
     /// Starts the program, with a design or at the prompt.

@@ -5,6 +5,7 @@
 #include "app/files/project_commands.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/short_date.hpp"
 #include "base/whole_file.hpp"
@@ -62,7 +63,7 @@ void delete_all(std::vector<held_file>& files) {
 /// that holds the same entries already.
 held_file* own_recovery(unsaved_work& work, const std::string& bytes) {
     for (held_file& file : work.of_this_project) {
-        const bool is_recovery = file.path.filename().string().starts_with(RECOVERY_NAME);
+        const bool is_recovery = utf8_of_path(file.path.filename()).starts_with(RECOVERY_NAME);
         if (is_recovery && (file.was_opened || file.bytes == bytes)) {
             return &file;
         }
@@ -104,7 +105,8 @@ std::string question_about(const program& kavetta, const left_file& left) {
 void tell_unreadable(const program& kavetta, user& person, const left_file& left) {
     const std::int16_t language = kavetta.app_state.language;
     person.show_status(std::string(message_text(message::open_failed, language)) +
-                       left.file.path.string() + ": " + failure_text(*left.unreadable, language));
+                       utf8_of_path(left.file.path) + ": " +
+                       failure_text(*left.unreadable, language));
 }
 
 /// The program stands with the entries of the file, which stay unsaved.
@@ -124,7 +126,7 @@ void take_over(program& kavetta, user& person, left_file& left) {
     work.session = left.record->session.empty() ? new_session() : left.record->session;
     work.saved.clear();
     left.file.was_opened = true;
-    if (left.file.path.filename().string().starts_with(AUTOSAVE_NAME)) {
+    if (utf8_of_path(left.file.path.filename()).starts_with(AUTOSAVE_NAME)) {
         work.autosaved = present_bytes_or_none(kavetta);
         work.autosave_file = std::move(left.file);
     } else {

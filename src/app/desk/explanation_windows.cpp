@@ -1,6 +1,7 @@
 #include "app/desk/explanation_windows.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
@@ -25,10 +26,11 @@ std::filesystem::path load_explanation(program& kavetta, explanation_window wind
     closed_flag(kavetta, window) = false;
     const std::int16_t language = kavetta.app_state.language;
     kavetta.captions.set(*find_caption(form, ""), language);
-    const std::filesystem::path picture = kavetta.folder / form_text(form, "Image1", language);
+    const std::filesystem::path picture =
+        kavetta.folder / path_of_utf8(form_text(form, "Image1", language));
     std::error_code error;
     if (!std::filesystem::is_regular_file(picture, error)) {
-        throw run_time_error(failure::file_not_found, picture.string());
+        throw run_time_error(failure::file_not_found, utf8_of_path(picture));
     }
     return picture;
 }

@@ -2,6 +2,7 @@
 
 #include "app/desk/autosave.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/failure_text.hpp"
 #include "core/text_table.hpp"
@@ -23,7 +24,7 @@ std::string fatal_text(const program& kavetta, const run_time_error& error,
     std::string told = text(message::run_time_failure) + std::to_string(error.number()) + ": " +
                        std::string(failure_text(error.kind(), kavetta.app_state.language)) + ". ";
     told += recovery.empty() ? text(message::entries_not_saved)
-                             : text(message::entries_saved_to) + recovery.string();
+                             : text(message::entries_saved_to) + utf8_of_path(recovery);
     for (const hint& row : kavetta.hints) {
         told += "\r" + hint_line(row, kavetta.app_state.language);
     }

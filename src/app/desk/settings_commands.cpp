@@ -85,7 +85,7 @@ std::string existing_folder_of(const program& kavetta, const std::string& path) 
     if (!folder.empty() && std::filesystem::is_directory(path_of_utf8(folder), ignored)) {
         return folder;
     }
-    return (kavetta.folder / "projects").string();
+    return utf8_of_path(kavetta.folder / "projects");
 }
 
 std::string project_folder(const program& kavetta) {

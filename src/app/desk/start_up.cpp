@@ -26,7 +26,7 @@ void create_folder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw run_time_error(failure::path_not_found, folder.string());
+        throw run_time_error(failure::path_not_found, utf8_of_path(folder));
     }
 }
 
@@ -61,7 +61,7 @@ void fill_program_folder(const fs::path& folder, const fs::path& share) {
         }
     }
     if (error) {
-        throw run_time_error(failure::path_not_found, share.string());
+        throw run_time_error(failure::path_not_found, utf8_of_path(share));
     }
 }
 

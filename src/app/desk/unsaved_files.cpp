@@ -1,5 +1,6 @@
 #include "app/desk/unsaved_files.hpp"
 
+#include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 
 #include <algorithm>
@@ -31,8 +32,8 @@ bool is_numbered_name(std::string_view file, std::string_view name) {
                             std::ranges::all_of(file.substr(1), is_digit));
 }
 
-std::optional<file_lock> lock_of(const fs::path& file) {
-    return file_lock::take(fs::path(file).replace_extension(".lock"));
+std::optional<file_lock> lock_of(fs::path file) {
+    return file_lock::take(file.replace_extension(".lock"));
 }
 
 std::chrono::system_clock::time_point written_at(const fs::path& file) {
@@ -61,7 +62,7 @@ std::optional<held_file> hold_new_file(const fs::path& folder, std::string_view 
     std::error_code error;
     for (int number = 1; number < MOST_NUMBERED_FILES && fs::is_directory(folder, error);
          ++number) {
-        const fs::path path = folder / numbered_name(name, number);
+        const fs::path path = folder / path_of_utf8(numbered_name(name, number));
         if (fs::exists(fs::symlink_status(path, error))) {
             continue;
         }
@@ -79,7 +80,7 @@ std::vector<left_file> find_left_files(const fs::path& folder) {
     std::error_code error;
     for (fs::directory_iterator file(folder, error), end; !error && file != end;
          file.increment(error)) {
-        const std::string name = file->path().filename().string();
+        const std::string name = utf8_of_path(file->path().filename());
         if (!is_numbered_name(name, AUTOSAVE_NAME) && !is_numbered_name(name, RECOVERY_NAME)) {
             continue;
         }

@@ -4,6 +4,7 @@
 #include "app/desk/program_title.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/files/whole_load.hpp"
+#include "base/path_text.hpp"
 
 #include <algorithm>
 #include <system_error>
@@ -15,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string name_of_example(const fs::path& file) {
-    std::string name = file.stem().string();
+    std::string name = utf8_of_path(file.stem());
     std::ranges::replace(name, '_', ' ');
     return name;
 }
@@ -35,7 +36,7 @@ std::vector<delivered_example> delivered_examples(const fs::path& folder) {
     for (fs::directory_iterator file(folder, error), end; !error && file != end;
          file.increment(error)) {
         if (file->path().extension() == ".KVT") {
-            found.push_back({name_of_example(file->path()), file->path().string()});
+            found.push_back({name_of_example(file->path()), utf8_of_path(file->path())});
         }
     }
     std::ranges::sort(found, {}, &delivered_example::name);

@@ -111,7 +111,7 @@ void write_gt_step_file(const program& kavetta, const written_file& file,
     if (!is_there(file.needs, kavetta.port_params, kavetta.entries)) {
         return;
     }
-    const std::string path = (path_of_utf8(folder) / file_name(file)).string();
+    const std::string path = utf8_of_path(path_of_utf8(folder) / path_of_utf8(file_name(file)));
     const auto failed = save_text(
         path, [&](text_lines& text) { file.write(source_of(kavetta, file, path), text); });
     if (failed) {

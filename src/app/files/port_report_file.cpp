@@ -20,7 +20,7 @@ void tell_unwritten(const program& kavetta, user& person, const std::filesystem:
                     const run_time_error& error) {
     const std::int16_t language = kavetta.app_state.language;
     const std::string line = std::string(message_text(message::save_failed, language)) +
-                             path.string() + ": " + failure_text(error, language);
+                             utf8_of_path(path) + ": " + failure_text(error, language);
     person.show_status(line);
     std::cerr << line << '\n';
 }
@@ -40,7 +40,8 @@ void write_port_report(const program& kavetta, user& person) {
     text_lines text;
     const written_file& report = files_of(file_group::report).front();
     report.write(source_of(kavetta), text);
-    const std::filesystem::path path = path_of_utf8(project_folder(kavetta)) / file_name(report);
+    const std::filesystem::path path =
+        path_of_utf8(project_folder(kavetta)) / path_of_utf8(file_name(report));
     try {
         write_file(path, text.bytes());
     } catch (const run_time_error& error) {

@@ -17,7 +17,8 @@ namespace {
 print_request request_of(const program& kavetta) {
     const std::string& project = kavetta.app_state.project_name;
     const std::string name = project.empty() ? std::string(PROGRAM_NAME) : project;
-    return {name, (path_of_utf8(project_folder(kavetta)) / path_of_utf8(name + ".pdf")).string()};
+    return {name,
+            utf8_of_path(path_of_utf8(project_folder(kavetta)) / path_of_utf8(name + ".pdf"))};
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "app/gt/conversion.hpp"
 
 #include "app/gt/gt_installation.hpp"
+#include "base/path_text.hpp"
 #include "core/tool_starter.hpp"
 
 namespace kvt {
@@ -53,7 +54,7 @@ bool conversion_watch::is_over(milliseconds now, const std::optional<conversion_
 bool run_conversion(tool_starter& person, const conversion& files,
                     const conversion_limits& limits) {
     person.start_tool({find_gt_tool(gt_tool::converter),
-                       {"-v" + std::to_string(files.gt_version), files.source.string()},
+                       {"-v" + std::to_string(files.gt_version), utf8_of_path(files.source)},
                        gt_tools_folder()});
     const bool is_waited_for = wait_for_conversion(person, files, limits);
     person.end_tool();

@@ -10,7 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void throw_no_access(const fs::path& path, const std::error_code& error) {
-    throw run_time_error(failure::path_file_access, path.string(),
+    throw run_time_error(failure::path_file_access, utf8_of_path(path),
                          {file_fault::reason::system, error.value()});
 }
 
@@ -18,7 +18,7 @@ void create_folder(const fs::path& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw run_time_error(failure::path_not_found, folder.string());
+        throw run_time_error(failure::path_not_found, utf8_of_path(folder));
     }
 }
 
@@ -41,7 +41,7 @@ std::vector<fs::path> files_of_folder(const fs::path& folder) {
         }
     }
     if (error) {
-        throw run_time_error(failure::path_not_found, folder.string());
+        throw run_time_error(failure::path_not_found, utf8_of_path(folder));
     }
     return files;
 }
@@ -72,7 +72,7 @@ void empty_folder(const fs::path& folder) {
 std::vector<std::string> file_names(const fs::path& folder) {
     std::vector<std::string> names;
     for (const fs::path& file : files_of_folder(folder)) {
-        names.push_back(file.filename().string());
+        names.push_back(utf8_of_path(file.filename()));
     }
     return names;
 }

@@ -44,14 +44,15 @@ fs::path find_gt_tool(gt_tool tool) {
             return folder / name;
         }
     }
-    throw run_time_error(failure::file_not_found, "no tool in " + folder.string());
+    throw run_time_error(failure::file_not_found, "no tool in " + utf8_of_path(folder));
 }
 
 std::optional<fs::path> gt_fluids_file(int gt_version) {
     if (gt_home().empty()) {
         return std::nullopt;
     }
-    const fs::path folder = gt_home() / ("v" + std::to_string(gt_version)) / "resrc" / "gtise";
+    const fs::path folder =
+        gt_home() / path_of_utf8("v" + std::to_string(gt_version)) / "resrc" / "gtise";
     std::vector<fs::path> libraries;
     std::error_code error;
     for (fs::directory_iterator file(folder, error), end; !error && file != end;

@@ -6,6 +6,7 @@
 #include "app/gt/gt_model.hpp"
 #include "app/gt/gt_questions.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/text_table.hpp"
@@ -68,7 +69,7 @@ void convert(program& kavetta, user& person, const gt_request& request, const gt
     kavetta.gt_choices.tim_gemc_enabled = false;
     if (!run_conversion(person, files.converted, request.limits) ||
         !is_there(files.converted.profile)) {
-        throw run_time_error(failure::file_not_found, files.converted.profile.string());
+        throw run_time_error(failure::file_not_found, utf8_of_path(files.converted.profile));
     }
 }
 
@@ -87,7 +88,7 @@ gt_result change_model(const program& kavetta, const gt_request& request, const 
 
 void open_model(user& person, const gt_request& request, const fs::path& model) {
     person.start_detached({find_gt_tool(gt_tool::editor),
-                           {"-v" + std::to_string(request.gt_version), model.string()},
+                           {"-v" + std::to_string(request.gt_version), utf8_of_path(model)},
                            gt_tools_folder()});
 }
 
@@ -99,7 +100,7 @@ gt_result make_model(program& kavetta, user& person, const gt_request& request) 
     };
     const gt_files files = prepare_files(kavetta, request);
     tell(message::gt_writing_step_files, 10);
-    write_gt_step_files(kavetta, files.folders.gt_temp_dir.string());
+    write_gt_step_files(kavetta, utf8_of_path(files.folders.gt_temp_dir));
     write_template(kavetta, request, files);
     tell(message::gt_converting, 25);
     convert(kavetta, person, request, files);
@@ -135,7 +136,8 @@ bool is_chosen(bool chosen, message otherwise, const program& kavetta, teller& p
 void write_port_file(const program& kavetta, const char* name) {
     const gt_folders folders = gt_folders_of(kavetta.folder);
     make_gt_folders(folders);
-    write_gt_step_file(kavetta, *find_file(file_group::gt, name), folders.gt_temp_dir.string());
+    write_gt_step_file(kavetta, *find_file(file_group::gt, name),
+                       utf8_of_path(folders.gt_temp_dir));
 }
 
 }  // namespace
@@ -173,7 +175,7 @@ void look_for_converted_model(program& kavetta, user& person) {
     person.show_message(std::string(message_text(message::gt_opening, language)) + name +
                         std::string(message_text(message::gt_opening_end, language)));
     person.start_detached({find_gt_tool(gt_tool::editor),
-                           {named_file(folders.results, name).string()},
+                           {utf8_of_path(named_file(folders.results, name))},
                            gt_tools_folder()});
 }
 

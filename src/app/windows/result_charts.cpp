@@ -2,6 +2,7 @@
 
 #include "app/files/saved_text.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/form_shower.hpp"
@@ -68,11 +69,11 @@ void save_chart_picture(const program& kavetta, progress_shower& status, const r
     if (name.find_first_of("\\/:*?\"<>|") != std::string::npos) {
         throw run_time_error(failure::path_file_access, name);
     }
-    const std::filesystem::path file = kavetta.folder / "images" / name;
+    const std::filesystem::path file = kavetta.folder / "images" / path_of_utf8(name);
     write_file(file, picture);
     status.show_status(
         std::string(message_text(message::file_written, kavetta.app_state.language)) +
-        file.string());
+        utf8_of_path(file));
 }
 
 file_dialog chart_export_dialog(const program& kavetta, const result_chart& chart) {

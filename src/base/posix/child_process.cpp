@@ -1,5 +1,6 @@
 #include "base/child_process.hpp"
 
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 
 #include <array>
@@ -42,7 +43,7 @@ class spawn_settings {
 
 pid_t start_process(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                     const std::filesystem::path& folder, process_tie tie) {
-    std::string name = program.string();
+    std::string name = utf8_of_path(program);
     std::vector<std::string> texts = arguments;
     std::vector<char*> line = {name.data()};
     for (std::string& text : texts) {

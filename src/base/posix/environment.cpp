@@ -1,5 +1,7 @@
 #include "base/environment.hpp"
 
+#include "base/path_text.hpp"
+
 #include <cstdlib>
 #include <system_error>
 
@@ -15,7 +17,7 @@ std::optional<std::string> environment_variable(const char* name) {
 }
 
 std::filesystem::path user_data_folder() {
-    return std::filesystem::path(environment_variable("HOME").value_or("")) / ".local" / "share";
+    return path_of_utf8(environment_variable("HOME").value_or("")) / ".local" / "share";
 }
 
 std::filesystem::path running_program() {

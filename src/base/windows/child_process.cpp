@@ -1,6 +1,7 @@
 // Programs in jobs: one that is ended takes the programs with it that it has started.
 #include "base/child_process.hpp"
 
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/windows/wide_text.hpp"
 
@@ -41,7 +42,7 @@ std::wstring command_line(const std::filesystem::path& program,
 
 [[noreturn]] void fail(const std::filesystem::path& program) {
     const int error = static_cast<int>(GetLastError());
-    throw run_time_error(failure::path_file_access, program.string(),
+    throw run_time_error(failure::path_file_access, utf8_of_path(program),
                          {file_fault::reason::system,
                           std::system_category().default_error_condition(error).value()});
 }

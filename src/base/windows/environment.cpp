@@ -26,7 +26,7 @@ std::optional<std::string> environment_variable(const char* name) {
 
 std::filesystem::path user_data_folder() {
     const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
-    return folder == nullptr ? std::filesystem::path() : std::filesystem::path(folder);
+    return folder == nullptr ? L"" : folder;
 }
 
 std::filesystem::path running_program() {

@@ -113,7 +113,7 @@ void add_sheet(lxw_workbook* book, const workbook_sheet& plan) {
 class open_workbook {
   public:
     explicit open_workbook(const scratch_folder& folder)
-        : folder_(folder.path().string()), path_((folder.path() / "book.xlsx").string()) {
+        : folder_(utf8_of_path(folder.path())), path_(utf8_of_path(folder.path() / "book.xlsx")) {
         lxw_workbook_options options = {};
         options.tmpdir = folder_.data();
         book_.reset(workbook_new_opt(path_.c_str(), &options));

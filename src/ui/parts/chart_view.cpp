@@ -238,7 +238,7 @@ void chart_view::print() {
     context_.runner.act([this](const program& kavetta, user&) {
         const QDir folder(qt_text(project_folder(kavetta)));
         const QString file = qt_text(kavetta.app_state.project_name) + ".pdf";
-        ask_and_print(shown(), folder.filePath(file), this);
+        ask_and_print(shown(), QDir::toNativeSeparators(folder.filePath(file)), this);
     });
 }
 

@@ -23,6 +23,7 @@
 #include "ui/shell/loaded_form.hpp"
 #include "ui/shell/present_layout.hpp"
 #include "ui/shell/preview.hpp"
+#include "ui/shell/qt_path.hpp"
 #include "ui/shell/qt_text.hpp"
 #include "ui/shell/status_hints.hpp"
 #include "ui/shell/window_menu.hpp"
@@ -298,7 +299,7 @@ void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
 
 /// Opens the project as a path on the command line does.
 void MDIForm1::dropEvent(QDropEvent* event) {
-    const std::string path = utf8_text(dragged_project(*event->mimeData()));
+    const std::string path = native_path_text(dragged_project(*event->mimeData()));
     event->acceptProposedAction();
     context_.runner.act(
         [&path](program& kavetta, user& person) { open_project_file(kavetta, person, path); });

@@ -1,6 +1,7 @@
 #include "ui/shell/file_dialogs.hpp"
 
 #include "app/files/file_ending.hpp"
+#include "ui/shell/qt_path.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QFileDialog>
@@ -157,7 +158,7 @@ std::optional<std::string> run_file_dialog(const file_dialog& dialog, QWidget* p
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return utf8_text(box.selectedFiles().constFirst());
+    return native_path_text(box.selectedFiles().constFirst());
 }
 
 }  // namespace kvt

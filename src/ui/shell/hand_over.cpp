@@ -1,6 +1,8 @@
 #include "ui/shell/hand_over.hpp"
 
+#include "base/path_text.hpp"
 #include "ui/shell/handover_words.hpp"
+#include "ui/shell/qt_path.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QCryptographicHash>
@@ -27,7 +29,7 @@ QByteArray digest_of_place(const std::filesystem::path& folder) {
     std::error_code ignored;
     const std::filesystem::path whole = std::filesystem::weakly_canonical(folder, ignored);
     QCryptographicHash digest(QCryptographicHash::Sha256);
-    digest.addData(QByteArray::fromStdString(whole.string()));
+    digest.addData(QByteArray::fromStdString(utf8_of_path(whole)));
     for (const char* screen : {"WAYLAND_DISPLAY", "DISPLAY"}) {
         digest.addData("\n" + qgetenv(screen));
     }
@@ -108,7 +110,7 @@ QString handover_socket(const QString& place, int number) {
 
 std::optional<file_lock> wait_for_handover_turn(const QString& place) {
     const QDeadlineTimer limit(HANDOVER_ANSWER_MS);
-    const std::filesystem::path path = (place + "-turn.lock").toStdString();
+    const std::filesystem::path path = path_of_qt(place + "-turn.lock");
     std::optional<file_lock> turn;
     while (!place.isEmpty() && !turn && !limit.hasExpired()) {
         turn = file_lock::take(path);

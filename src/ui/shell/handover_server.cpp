@@ -2,6 +2,7 @@
 
 #include "ui/shell/hand_over.hpp"
 #include "ui/shell/handover_words.hpp"
+#include "ui/shell/qt_path.hpp"
 
 #include <QLocalSocket>
 
@@ -22,7 +23,7 @@ handover_server::handover_server(const QString& place, decision decide)
 
 /// Who holds the lock may take away what stands in the socket's place.
 bool handover_server::listen_at(const QString& path) {
-    number_ = file_lock::take((path + ".lock").toStdString());
+    number_ = file_lock::take(path_of_qt(path + ".lock"));
     if (!number_) {
         return false;
     }

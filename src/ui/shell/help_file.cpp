@@ -1,8 +1,10 @@
 #include "ui/shell/help_file.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
+#include "ui/shell/qt_path.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QDesktopServices>
@@ -21,10 +23,10 @@ void show_help_file(const program& kavetta, progress_shower& person) {
     const std::filesystem::path file = kavetta.folder / HELP_FILE_NAME;
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error) ||
-        !QDesktopServices::openUrl(QUrl::fromLocalFile(qt_text(file.string())))) {
+        !QDesktopServices::openUrl(QUrl::fromLocalFile(qt_path(file)))) {
         person.show_status(
             std::string(message_text(message::open_failed, kavetta.app_state.language)) +
-            file.string());
+            utf8_of_path(file));
     }
 }
 

@@ -10,7 +10,7 @@ class user;
 struct program;
 
 /// The help file in the program's folder; both languages use the same one.
-inline constexpr std::string_view HELP_FILE_NAME = "KVT_V2021_Help_EN.pdf";
+inline constexpr const char* HELP_FILE_NAME = "KVT_V2021_Help_EN.pdf";
 
 /// F1 and Display Help File: opens the help file through QDesktopServices. A file that is missing,
 /// or that nothing can open, is told in the status bar.

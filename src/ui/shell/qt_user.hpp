@@ -4,9 +4,9 @@
 
 #include "app/desk/told_messages.hpp"
 #include "app/files/examples.hpp"
+#include "base/child_process.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
-#include "ui/shell/qt_tools.hpp"
 
 #include <QPointer>
 #include <QStatusBar>
@@ -63,10 +63,14 @@ class qt_user : public user {
     void set_busy(bool busy) override;
     void show_progress(std::string_view text, int percent) override;
     void show_titled_progress(std::string_view title, int percent) override;
-    void start_tool(const started_tool& tool) override { tools_.start(tool); }
-    bool is_tool_running() override { return tools_.is_running(); }
-    void end_tool() override { tools_.end(); }
-    void start_detached(const started_tool& tool) override { start_detached_tool(tool); }
+    void start_tool(const started_tool& tool) override {
+        tool_.start(tool.program, tool.arguments, tool.folder);
+    }
+    bool is_tool_running() override { return tool_.is_running(); }
+    void end_tool() override { tool_.end(); }
+    void start_detached(const started_tool& tool) override {
+        start_process(tool.program, tool.arguments, tool.folder, process_tie::own_session);
+    }
     /// The windows are painted meanwhile; only progressfrm takes input, Esc there ends the wait.
     bool wait(std::chrono::milliseconds time) override;
 
@@ -84,7 +88,7 @@ class qt_user : public user {
     std::function<void(std::string_view)> load_;
     std::vector<delivered_example> examples_;
     QPointer<progressfrm> progress_;
-    qt_tools tools_;
+    child_process tool_;
     told_messages told_;
     bool busy_ = false;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "automation/recorder_host.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "cad/model_store.hpp"
 
@@ -75,7 +76,7 @@ class fake_model_store : public model_store {
         if (save_failure) {
             throw *save_failure;
         }
-        std::string line = "save " + file.filename().string() + " " +
+        std::string line = "save " + utf8_of_path(file.filename()) + " " +
                            std::to_string(static_cast<int>(format)) + ":";
         for (const body_number body : bodies) {
             line += " " + std::to_string(body);

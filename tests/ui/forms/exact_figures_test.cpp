@@ -2,6 +2,7 @@
 #include "ui/forms/exact_figures.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/parts/chart_painting.hpp"
 #include "ui/parts/chart_view.hpp"
@@ -223,7 +224,7 @@ TEST_F(exact_figures_test, exports_a_chart_as_numbers) {
     tabs().setCurrentIndex(1);
     settle();
     const std::filesystem::path file = folder.path() / "volume.csv";
-    robot.files.emplace_back(file.string());
+    robot.files.emplace_back(utf8_of_path(file));
     chart("volume_chart").findChild<QAction*>("popupexport")->trigger();
     settle();
     EXPECT_TRUE(read_file(file).starts_with("Inner Rotor since the Least Volume ("))
@@ -235,7 +236,7 @@ TEST_F(exact_figures_test, ctrl_p_prints_the_chart_that_has_the_focus_and_not_th
     tabs().setCurrentIndex(1);
     settle();
     const std::filesystem::path page = folder.path() / "chart.pdf";
-    robot.prints = {page.string()};
+    robot.prints = {utf8_of_path(page)};
     chart("volume_chart").setFocus();
     QTest::keySequence(&chart("volume_chart"), QKeySequence::Print);
     settle();

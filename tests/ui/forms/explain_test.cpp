@@ -1,5 +1,6 @@
 // explain and port_explain: pictures, titles, the flags that the screen layout reads.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QImage>
@@ -14,7 +15,7 @@ class explain_test : public desktop_test {
     void deliver(const char* name, QSize size, Qt::GlobalColor colour) {
         QImage picture(size, QImage::Format_RGB32);
         picture.fill(colour);
-        EXPECT_TRUE(picture.save(qt_text((folder.path() / name).string()), "JPG", 100));
+        EXPECT_TRUE(picture.save(qt_text(utf8_of_path(folder.path() / name)), "JPG", 100));
     }
     void deliver_all() {
         deliver("explain screen - small1.jpg", QSize(300, 200), Qt::red);

@@ -3,6 +3,7 @@
 
 #include "app/program.hpp"
 #include "base/number_text.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/parts/chart_painting.hpp"
 
@@ -113,7 +114,7 @@ class graphview2_test : public desktop_test {
     }
     std::filesystem::path image(const std::string& name) const { return folder / "images" / name; }
     std::string export_to(const graphview2& chart, const std::string& name) {
-        const std::string path = (folder.path() / "projects" / name).string();
+        const std::string path = utf8_of_path(folder.path() / "projects" / name);
         robot.files.emplace_back(path);
         trigger(chart, "popupexport");
         EXPECT_EQ(status(), "Written: " + path);
@@ -312,7 +313,7 @@ TEST_F(graphview2_test, copy_puts_the_picture_on_the_clipboard_and_save_writes_i
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), flow.size());
     ASSERT_TRUE(entry(flow, "popupsave").isEnabled());
     trigger(flow, "popupsave");
-    const std::string file = image("n07_engine_oil_groove. Pump Flow.bmp").string();
+    const std::string file = utf8_of_path(image("n07_engine_oil_groove. Pump Flow.bmp"));
     EXPECT_EQ(status(), "Written: " + file);
     const std::string bytes = read_file(file);
     EXPECT_EQ(bytes.substr(0, 2), "BM");
@@ -337,7 +338,7 @@ TEST_F(graphview2_test, save_takes_whatever_picture_the_clipboard_holds_but_need
     QGuiApplication::clipboard()->setImage(other);
     settle();
     trigger(flow, "popupsave");
-    EXPECT_EQ(QImage(qt_text(image("n07_engine_oil_groove. Pump Flow.bmp").string())).size(),
+    EXPECT_EQ(QImage(qt_text(utf8_of_path(image("n07_engine_oil_groove. Pump Flow.bmp")))).size(),
               QSize(20, 10));
 }
 
@@ -364,19 +365,20 @@ TEST_F(graphview2_test, save_without_its_folder_is_a_failure_that_can_be_gone_on
 
 TEST_F(graphview2_test, print_asks_for_the_printer_and_cancel_is_no_failure) {
     graphview2& flow = open_flow();
-    robot.prints = {std::nullopt, (folder / "page.pdf").string()};
+    robot.prints = {std::nullopt, utf8_of_path(folder / "page.pdf")};
     trigger(flow, "popupprint");
     EXPECT_FALSE(std::filesystem::exists(folder / "page.pdf"));
     trigger(flow, "popupprint");
     EXPECT_TRUE(read_file(folder / "page.pdf").starts_with("%PDF"));
     EXPECT_EQ(robot.messages, std::vector<std::string>());
     ASSERT_EQ(robot.proposed_prints.size(), 2U);
-    EXPECT_EQ(robot.proposed_prints[0], (folder / "projects/n07_engine_oil_groove.pdf").string());
+    EXPECT_EQ(robot.proposed_prints[0],
+              utf8_of_path(folder / "projects/n07_engine_oil_groove.pdf"));
 }
 
 TEST_F(graphview2_test, a_page_that_cannot_be_printed_is_fatal) {
     graphview2& flow = open_flow();
-    robot.prints = {(folder / "no folder/page.pdf").string()};
+    robot.prints = {utf8_of_path(folder / "no folder/page.pdf")};
     trigger(flow, "popupprint");
     ASSERT_EQ(robot.messages.size(), 1U);
     EXPECT_TRUE(robot.messages[0].starts_with("Run-time error 75")) << robot.messages[0];
@@ -406,7 +408,7 @@ TEST_F(graphview2_test, a_cancelled_export_writes_nothing) {
 
 TEST_F(graphview2_test, an_export_that_cannot_be_written_is_told_and_the_program_goes_on) {
     graphview2& flow = open_flow();
-    const std::string full = (folder / "chart.png").string();
+    const std::string full = utf8_of_path(folder / "chart.png");
     std::filesystem::create_symlink("/dev/full", full);
     robot.files.emplace_back(full);
     robot.answers.emplace_back("&Yes");  // to overwrite it

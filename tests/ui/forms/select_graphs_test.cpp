@@ -1,5 +1,6 @@
 // select_graphs: ticking the results to draw.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/recording_viewer.hpp"
 
@@ -54,7 +55,7 @@ TEST_F(select_graphs_test, export_writes_the_workbook_once_there_is_a_performanc
     press("design_ports");
     EXPECT_FALSE(find<QPushButton>("export_excel")->isEnabled());
     press("calc_perf");
-    const std::string path = (folder.path() / "pump.xlsx").string();
+    const std::string path = utf8_of_path(folder.path() / "pump.xlsx");
     robot.files.emplace_back(path);
     press("export_excel");
     EXPECT_EQ(robot.titles.back(), "Kavetta V2021 - Export to Excel");
@@ -69,7 +70,7 @@ TEST_F(select_graphs_test, export_that_fails_asks_for_the_data_files) {
     press("Calc");
     press("design_ports");
     press("calc_perf");
-    robot.files.emplace_back((folder.path() / "none" / "pump.xlsx").string());
+    robot.files.emplace_back(utf8_of_path(folder.path() / "none" / "pump.xlsx"));
     robot.answers.emplace_back("No");
     press("export_excel");
     ASSERT_EQ(robot.questions.size(), 1U);

@@ -1,6 +1,7 @@
 // viewwinfrm: the resize rule, the picture, zoom, Zoom All, rotation.
 #include "app/desk/settings_commands.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "views/sight/sight_palette.hpp"
 #include "views/sight/view_box.hpp"
@@ -696,16 +697,16 @@ TEST_F(viewwinfrm_test, copies_its_picture_from_the_menu_and_by_its_keys) {
 TEST_F(viewwinfrm_test, saves_its_picture_as_png_of_twice_the_size) {
     calculate();
     const auto path = folder.path() / "view.png";
-    robot.files = {path.string()};
+    robot.files = {utf8_of_path(path)};
     choose_in_popup("popupsave");
-    EXPECT_EQ(QImage(QString::fromStdString(path.string())).size(), 2 * picture());
+    EXPECT_EQ(QImage(QString::fromStdString(utf8_of_path(path))).size(), 2 * picture());
 }
 
 TEST_F(viewwinfrm_test, saves_what_it_shows_as_vectors) {
     calculate();
     choose_in_popup("sight_dimensions");
     const auto path = folder.path() / "view.svg";
-    robot.files = {path.string()};
+    robot.files = {utf8_of_path(path)};
     choose_in_popup("popupsave");
     const std::string file = read_file(path);
     QXmlStreamReader reader(QByteArray::fromStdString(file));

@@ -1,5 +1,6 @@
 // Leaving an entry: when its handler runs, and when it must not.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 namespace kvt {
@@ -50,7 +51,7 @@ TEST_F(entry_focus_test, enter_and_menu_entries_run_the_handler_before_their_com
     settle();
     EXPECT_EQ(shown("coarseness"), "1");
     type("coarseness", "0");
-    robot.files.emplace_back(utf8_text(qt_text((folder.path() / "saved.KVT").string())));
+    robot.files.emplace_back(utf8_text(qt_text(utf8_of_path(folder.path() / "saved.KVT"))));
     choose("mnufilesave");
     EXPECT_EQ(shown("coarseness"), "1");
     EXPECT_NE(read_file(folder.path() / "saved.KVT").find("\r\n1\r\n0\r\n"), std::string::npos);

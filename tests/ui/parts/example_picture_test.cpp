@@ -1,6 +1,7 @@
 // The small picture of a design that is not open.
 #include "ui/parts/example_picture.hpp"
 
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QSet>
@@ -20,7 +21,7 @@ QSet<QRgb> colours_of(const QPixmap& picture) {
 }
 
 TEST(example_picture, shows_rotors_and_ports_at_the_ratio_of_the_screen) {
-    const std::string path = (DELIVERED_PROJECTS / "engine_oil.KVT").string();
+    const std::string path = utf8_of_path(DELIVERED_PROJECTS / "engine_oil.KVT");
     const QPixmap picture = example_picture(path, 100, 2.0);
     EXPECT_EQ(picture.size(), QSize(200, 200));
     EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(100, 100));
@@ -32,7 +33,7 @@ TEST(example_picture, shows_rotors_and_ports_at_the_ratio_of_the_screen) {
 }
 
 TEST(example_picture, fills_the_square) {
-    const std::string path = (DELIVERED_PROJECTS / "fuel_lift.KVT").string();
+    const std::string path = utf8_of_path(DELIVERED_PROJECTS / "fuel_lift.KVT");
     const QImage image = example_picture(path, 100, 1.0).toImage();
     int darkest = 255;
     for (int x = 0; x < 10; ++x) {
@@ -44,8 +45,8 @@ TEST(example_picture, fills_the_square) {
 TEST(example_picture, is_null_for_a_file_without_a_design) {
     const temporary_folder folder;
     write_file(folder.path() / "broken.KVT", "no project");
-    EXPECT_TRUE(example_picture((folder.path() / "broken.KVT").string(), 100, 1.0).isNull());
-    EXPECT_TRUE(example_picture((folder.path() / "none.KVT").string(), 100, 1.0).isNull());
+    EXPECT_TRUE(example_picture(utf8_of_path(folder.path() / "broken.KVT"), 100, 1.0).isNull());
+    EXPECT_TRUE(example_picture(utf8_of_path(folder.path() / "none.KVT"), 100, 1.0).isNull());
 }
 
 }  // namespace

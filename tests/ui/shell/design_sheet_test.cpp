@@ -1,5 +1,6 @@
 // Tests of the Design Sheet entry in the running program, with the save dialog answered.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QProcess>
@@ -9,7 +10,7 @@ namespace {
 
 class design_sheet_desktop_test : public desktop_test {
   protected:
-    std::string file() const { return (folder / "sheet.pdf").string(); }
+    std::string file() const { return utf8_of_path(folder / "sheet.pdf"); }
 };
 
 TEST_F(design_sheet_desktop_test, writes_the_pages_of_a_calculated_design) {

@@ -1,6 +1,7 @@
 // Start and end of the desktop program.
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QDropEvent>
@@ -72,7 +73,7 @@ TEST_F(start_and_end, a_path_takes_the_place_of_the_prompt) {
 
 TEST_F(start_and_end,
        a_path_that_does_not_exist_leaves_the_empty_form_and_a_line_in_the_status_bar) {
-    start((folder.path() / "none.KVT").string());
+    start(utf8_of_path(folder.path() / "none.KVT"));
     EXPECT_EQ(status(), "The file could not be opened: File not found (No such file or directory)");
     EXPECT_EQ(shown("numlobes"), "3");
 }
@@ -115,7 +116,7 @@ TEST_F(start_and_end, escape_at_the_exit_question_means_cancel) {
 TEST_F(start_and_end, yes_at_the_exit_question_saves_under_a_chosen_name_and_ends) {
     start(design_file("n04_fuel"));
     robot.answers.emplace_back("Yes");
-    robot.files.emplace_back((folder.path() / "last.KVT").string());
+    robot.files.emplace_back(utf8_of_path(folder.path() / "last.KVT"));
     choose("mnufileexit");
     EXPECT_TRUE(desk().runner().has_ended());
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "last.KVT"));
@@ -157,7 +158,7 @@ TEST_F(start_and_end, other_files_and_several_at_once_are_not_taken) {
     start();
     EXPECT_FALSE(drop(&window(), {"/a/picture.png"}));
     EXPECT_FALSE(drop(&window(), {"/a/one.KVT", "/a/two.KVT"}));
-    EXPECT_TRUE(drop(&window(), {qt_text((folder.path() / "none.kvt").string())}));
+    EXPECT_TRUE(drop(&window(), {qt_text(utf8_of_path(folder.path() / "none.kvt"))}));
     EXPECT_EQ(status(), "The file could not be opened: File not found (No such file or directory)");
 }
 
@@ -200,7 +201,7 @@ TEST_F(start_and_end, an_orderly_end_deletes_what_was_saved_and_saves_no_more) {
 TEST_F(start_and_end, unsaved_entries_of_an_earlier_run_are_offered_in_place_of_the_prompt) {
     start();
     type("ecc", "2.75");
-    write_entries(kavetta(), autosaved().string());
+    write_entries(kavetta(), utf8_of_path(autosaved()));
     robot.answers.emplace_back("Yes");
     program_on_screen = std::make_unique<desktop>(folder.path());
     EXPECT_TRUE(desk().start());
@@ -226,7 +227,7 @@ TEST_F(start_and_end, after_a_crash_the_question_names_the_project_and_yes_stand
     EXPECT_EQ(window().windowTitle(), "Kavetta V2021 - 'n04_fuel'");
     EXPECT_EQ(shown("ecc"), "2.75");
     EXPECT_EQ(shown("numlobes"), "4");
-    robot.files.emplace_back((folder.path() / "projects" / "recovered.KVT").string());
+    robot.files.emplace_back(utf8_of_path(folder.path() / "projects" / "recovered.KVT"));
     choose("mnufilesave");
     EXPECT_FALSE(std::filesystem::exists(autosaved()));
     robot.answers.clear();

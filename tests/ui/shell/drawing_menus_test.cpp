@@ -1,6 +1,7 @@
 // The menus of the STEP and DXF files: when their entries can be used, their dialogs, the files
 // they leave.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QMenu>
@@ -17,7 +18,7 @@ class drawing_menus : public desktop_test {
     void open_menu(const char* menu) { Q_EMIT find<QMenu>(menu)->aboutToShow(); }
 
     std::string written(const char* entry, const char* name) {
-        const std::string path = (folder.path() / name).string();
+        const std::string path = utf8_of_path(folder.path() / name);
         robot.files.emplace_back(path);
         choose(entry);
         return read_file(path);
@@ -59,7 +60,7 @@ TEST_F(drawing_menus, write_their_files) {
               std::string::npos);
     EXPECT_TRUE(written("mnudxfinner", "inner.dxf").ends_with("EOF\r\n"));
     EXPECT_TRUE(written("mnudxfouter", "outer.dxf").ends_with("EOF\r\n"));
-    EXPECT_EQ(status(), "Written: " + (folder.path() / "outer.dxf").string());
+    EXPECT_EQ(status(), "Written: " + utf8_of_path(folder.path() / "outer.dxf"));
     const std::vector<std::string> titles = {
         "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Create STEP file",
         "Kavetta V2021 - Create STEP file", "Kavetta V2021 - Save Inner Rotor Profile As DXF",

@@ -2,6 +2,7 @@
 #include "ui/shell/file_dialogs.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QFileDialog>
@@ -32,10 +33,10 @@ TEST_F(file_dialogs_test, the_save_dialog_proposes_the_name_and_adds_the_extensi
         filter = dialog.selectedNameFilter();
         title = dialog.windowTitle();
         EXPECT_EQ(dialog.directory().absolutePath(),
-                  qt_text((folder.path() / "projects").string()));
+                  qt_text(utf8_of_path(folder.path() / "projects")));
         EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
     };
-    robot.files.emplace_back((folder.path() / "projects" / "mine").string());
+    robot.files.emplace_back(utf8_of_path(folder.path() / "projects" / "mine"));
     choose("mnufilesaveas");
     EXPECT_EQ(proposed, "pump");
     EXPECT_EQ(filter, "KVT (*.KVT *.kvt)");
@@ -46,7 +47,7 @@ TEST_F(file_dialogs_test, the_save_dialog_proposes_the_name_and_adds_the_extensi
 
 TEST_F(file_dialogs_test, a_point_in_the_name_is_not_its_ending) {
     start(own_design_file("n04_fuel"));
-    const std::string projects = (folder.path() / "projects").string();
+    const std::string projects = utf8_of_path(folder.path() / "projects");
     robot.files = {projects + "/Pump 2.5", projects + "/lower.kvt"};
     choose("mnufilesaveas");
     EXPECT_TRUE(std::filesystem::exists(projects + "/Pump 2.5.KVT"));
@@ -63,7 +64,7 @@ TEST_F(file_dialogs_test, a_point_in_the_name_is_not_its_ending) {
 
 TEST_F(file_dialogs_test, the_question_before_overwriting_is_about_the_name_with_its_ending) {
     start(own_design_file("n04_fuel"));
-    const std::string projects = (folder.path() / "projects").string();
+    const std::string projects = utf8_of_path(folder.path() / "projects");
     write_file(projects + "/Pump 2.5.KVT", "there");
     write_file(projects + "/Pump 3.5", "there");
     robot.files = {projects + "/Pump 2.5", std::nullopt, projects + "/Pump 3.5"};
@@ -136,7 +137,7 @@ TEST_F(file_dialogs_test, open_finds_a_project_without_its_ending_typed) {
     robot.files = {path.substr(0, path.size() - 4)};
     choose("mnufileopen");
     EXPECT_EQ(kavetta().app_state.project_path, path);
-    const std::string other = (folder.path() / "projects" / "n04_fuel.bak").string();
+    const std::string other = utf8_of_path(folder.path() / "projects" / "n04_fuel.bak");
     std::filesystem::copy_file(path, other);
     robot.files = {other};
     choose("mnufileopen");
@@ -148,7 +149,7 @@ TEST_F(file_dialogs_test, every_dialog_starts_in_the_folder_of_the_project) {
     std::filesystem::create_directories(pumps);
     start();
     std::filesystem::copy_file(design_file("n04_fuel"), pumps / "pump.KVT");
-    robot.files = {(pumps / "pump.KVT").string(), std::nullopt, std::nullopt, std::nullopt};
+    robot.files = {utf8_of_path(pumps / "pump.KVT"), std::nullopt, std::nullopt, std::nullopt};
     choose("mnufileopen");
     press("Calc");
     std::vector<std::string> folders;
@@ -158,7 +159,7 @@ TEST_F(file_dialogs_test, every_dialog_starts_in_the_folder_of_the_project) {
     choose("mnufileopen");
     choose("mnufilesaveas");
     choose("mnudxfinner");
-    EXPECT_EQ(folders, std::vector<std::string>(3, pumps.string()));
+    EXPECT_EQ(folders, std::vector<std::string>(3, utf8_of_path(pumps)));
 }
 
 TEST_F(file_dialogs_test, show_names_in_full) {

@@ -2,6 +2,7 @@
 // hang.
 #include "ui/shell/hand_over.hpp"
 
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/shell/handover_server.hpp"
 #include "ui/shell/handover_words.hpp"
@@ -40,7 +41,7 @@ class handover_test : public testing::Test {
     }
 
     temporary_folder folder;
-    QString place = qt_text((folder / "kavetta").string());
+    QString place = qt_text(utf8_of_path(folder / "kavetta"));
     std::vector<std::string> handed;
 };
 
@@ -194,7 +195,7 @@ class handed_desktop : public desktop_test {
         start(path);
         desk().take_projects(place());
     }
-    QString place() { return qt_text((folder / "kavetta").string()); }
+    QString place() { return qt_text(utf8_of_path(folder / "kavetta")); }
     bool hand(const std::string& project) {
         const bool is_taken = handed_over_meanwhile(place(), project);
         settle();

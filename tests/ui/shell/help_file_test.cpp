@@ -1,6 +1,7 @@
 // help_file: F1 and Display Help File.
 #include "ui/shell/help_file.hpp"
 
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 #include "ui/recording_viewer.hpp"
 
@@ -23,7 +24,7 @@ TEST_F(help_file_test, the_menu_opens_it_in_either_language) {
         start();
         viewer.opened.clear();
         choose("mnuhelpcontents");
-        EXPECT_EQ(viewer.opened, std::vector<std::string>{help().string()}) << language;
+        EXPECT_EQ(viewer.opened, std::vector<std::string>{utf8_of_path(help())}) << language;
     }
 }
 
@@ -45,7 +46,7 @@ TEST_F(help_file_test, a_missing_file_is_told_in_the_status_bar) {
     start();
     choose("mnuhelpcontents");
     EXPECT_EQ(viewer.opened, std::vector<std::string>());
-    EXPECT_EQ(status(), "The file could not be opened: " + help().string());
+    EXPECT_EQ(status(), "The file could not be opened: " + utf8_of_path(help()));
     EXPECT_FALSE(desk().runner().has_ended());
 }
 

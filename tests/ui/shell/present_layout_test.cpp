@@ -2,6 +2,7 @@
 #include "ui/shell/present_layout.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QImage>
@@ -56,8 +57,8 @@ class present_layout_test : public desktop_test {
     void deliver_explanation() {
         QImage picture(300, 200, QImage::Format_RGB32);
         picture.fill(Qt::white);
-        EXPECT_TRUE(
-            picture.save(qt_text((folder.path() / "explain screen - small1.jpg").string()), "JPG"));
+        EXPECT_TRUE(picture.save(
+            qt_text(utf8_of_path(folder.path() / "explain screen - small1.jpg")), "JPG"));
     }
     static std::string block(const std::string& heading, int height, int width, int top, int left) {
         std::string text = heading + "\r\n";

@@ -3,6 +3,7 @@
 #include "ui/shell/preview.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "performance/result_quantities.hpp"
 #include "support/property_runs.hpp"
 #include "ui/desktop_fixture.hpp"
@@ -255,7 +256,7 @@ std::map<std::string, std::string> files_in(const std::filesystem::path& folder)
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
         if (entry.is_regular_file()) {
-            files[entry.path().filename().string()] = read_file(entry.path());
+            files[utf8_of_path(entry.path().filename())] = read_file(entry.path());
         }
     }
     return files;
@@ -275,7 +276,7 @@ class previewed_edits_test : public preview_test {
     void begin(bool with_preview) {
         program_on_screen.reset();
         for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
-            if (entry.path().filename().string().starts_with("recovery")) {
+            if (utf8_of_path(entry.path().filename()).starts_with("recovery")) {
                 std::filesystem::remove(entry.path());
             }
         }

@@ -1,5 +1,6 @@
 // Tests of the Print entry in the running program, with the print dialog answered.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 #include <QProcess>
@@ -12,7 +13,7 @@ class print_project_desktop_test : public desktop_test {
     void print() { find<QAction>("mnufileprint")->trigger(); }
     std::string page() {
         QProcess reader;
-        reader.start("pdftotext", {"-layout", qt_text((folder / "page.pdf").string()), "-"});
+        reader.start("pdftotext", {"-layout", qt_text(utf8_of_path(folder / "page.pdf")), "-"});
         return reader.waitForFinished() ? reader.readAllStandardOutput().toStdString()
                                         : "no pdftotext";
     }
@@ -20,7 +21,7 @@ class print_project_desktop_test : public desktop_test {
 
 TEST_F(print_project_desktop_test, prints_the_project_as_it_stands) {
     start(design_file("n04_fuel"));
-    robot.prints = {(folder / "page.pdf").string()};
+    robot.prints = {utf8_of_path(folder / "page.pdf")};
     print();
     const std::string text = page();
     EXPECT_NE(text.find("Kavetta V2021"), std::string::npos) << text;
@@ -39,7 +40,7 @@ TEST_F(print_project_desktop_test, prints_nothing_when_the_dialog_is_cancelled) 
 
 TEST_F(print_project_desktop_test, ends_without_a_word_where_printing_can_not_begin) {
     start(design_file("n04_fuel"));
-    robot.prints = {(folder / "no folder/page.pdf").string()};
+    robot.prints = {utf8_of_path(folder / "no folder/page.pdf")};
     print();
     EXPECT_EQ(robot.messages, std::vector<std::string>());
     EXPECT_FALSE(desk().runner().has_ended());

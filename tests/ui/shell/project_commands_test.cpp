@@ -1,5 +1,6 @@
 // The File menu and Clear Design, as the user meets them.
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "ui/desktop_fixture.hpp"
 
 namespace kvt {
@@ -36,7 +37,7 @@ TEST_F(project_commands_ui, a_broken_file_leaves_a_line_in_the_status_bar_and_th
 TEST_F(project_commands_ui, a_recent_entry_opens_its_project_and_shows_an_ampersand) {
     const std::filesystem::path folder_with_mark = folder.path() / "oil & fuel";
     std::filesystem::create_directories(folder_with_mark);
-    const std::string path = (folder_with_mark / "pump.KVT").string();
+    const std::string path = utf8_of_path(folder_with_mark / "pump.KVT");
     std::filesystem::copy_file(design_file("n04_fuel"), path);
     start(path);
     EXPECT_EQ(find<QAction>("mnufileprev0")->text(), qt_text(path).replace("&", "&&"));
@@ -46,7 +47,7 @@ TEST_F(project_commands_ui, a_recent_entry_opens_its_project_and_shows_an_ampers
 }
 
 TEST_F(project_commands_ui, save_writes_what_stands_in_the_boxes_even_without_leaving_them) {
-    const std::string path = (folder.path() / "pump.KVT").string();
+    const std::string path = utf8_of_path(folder.path() / "pump.KVT");
     std::filesystem::copy_file(design_file("n04_fuel"), path);
     start(path);
     type("ecc", "1,75");
@@ -94,7 +95,7 @@ TEST_F(project_commands_ui, clear_design_asks_about_fluid_and_material) {
 }
 
 TEST_F(project_commands_ui, a_project_that_cannot_be_saved_stays_open_and_unsaved) {
-    const std::string path = (folder.path() / "gone" / "pump.KVT").string();
+    const std::string path = utf8_of_path(folder.path() / "gone" / "pump.KVT");
     std::filesystem::create_directories(folder.path() / "gone");
     std::filesystem::copy_file(design_file("n04_fuel"), path);
     start(path);
@@ -114,7 +115,7 @@ TEST_F(project_commands_ui, a_refused_file_is_not_overwritten_by_the_next_save) 
     const std::string path = own_design_file("n04_fuel");
     start(path);
     type("ecc", "1.99");
-    const std::string refused = (folder.path() / "projects" / "refused.KVT").string();
+    const std::string refused = utf8_of_path(folder.path() / "projects" / "refused.KVT");
     write_file(refused, "no project\r\n");
     robot.files.emplace_back(refused);
     choose("mnufileopen");
@@ -148,7 +149,7 @@ TEST_F(project_commands_ui,
     std::filesystem::create_directory(report);
     testing::internal::CaptureStderr();
     press("design_ports");
-    const std::string line = "The file could not be saved: " + report.string() +
+    const std::string line = "The file could not be saved: " + utf8_of_path(report) +
                              ": Path/File access error (Is a directory)";
     EXPECT_EQ(status(), line);
     EXPECT_NE(testing::internal::GetCapturedStderr().find(line), std::string::npos);
