@@ -4,6 +4,8 @@ if(NOT CMAKE_CROSSCOMPILING)
     find_package(CLI11 REQUIRED)
     find_package(nlohmann_json REQUIRED)
     return()
+elseif(TARGET CLI11::CLI11)
+    return()
 endif()
 
 set(header_folder "${CMAKE_BINARY_DIR}/headers")

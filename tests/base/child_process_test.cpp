@@ -1,5 +1,6 @@
 #include "base/child_process.hpp"
 
+#include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 #include "support/expect_failure.hpp"
 #include "support/temporary_folder.hpp"
@@ -24,7 +25,7 @@ TEST(child_process, runs_in_its_folder_with_its_arguments_as_they_are) {
     child.start("/bin/sh", {"-c", "printf '%s|%s' \"$(pwd)\" \"$1\" > out", "sh", "a \"b\" $c"},
                 folder.path());
     ASSERT_TRUE(ends(child));
-    EXPECT_EQ(read_file(folder / "out"), folder.path().string() + "|a \"b\" $c");
+    EXPECT_EQ(read_file(folder / "out"), utf8_of_path(folder.path()) + "|a \"b\" $c");
 }
 
 TEST(child_process, is_ended_with_its_own_children) {

@@ -1,6 +1,7 @@
 // Tests of the folder for files that are thrown away.
 #include "base/scratch_folder.hpp"
 
+#include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 #include "support/expect_failure.hpp"
 #include "support/temporary_folder.hpp"
@@ -35,7 +36,7 @@ class temporary_files_in {
 
 TEST(scratch_folder, is_empty_one_of_its_own_and_goes_with_what_it_holds) {
     const temporary_folder place;
-    const temporary_files_in there(place.path().string());
+    const temporary_files_in there(utf8_of_path(place.path()));
     {
         const scratch_folder one;
         const scratch_folder other;

@@ -2,6 +2,7 @@
 #include "base/whole_file.hpp"
 
 #include "base/file_lock.hpp"
+#include "base/path_text.hpp"
 #include "support/expect_failure.hpp"
 #include "support/temporary_folder.hpp"
 #include "support/unprivileged.hpp"
@@ -29,7 +30,7 @@ using lines = std::vector<std::string>;
 std::vector<std::string> names_in(const fs::path& folder) {
     std::vector<std::string> names;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        names.push_back(entry.path().filename().string());
+        names.push_back(utf8_of_path(entry.path().filename()));
     }
     return names;
 }

@@ -1,4 +1,5 @@
 // Tests of kvt calc: how a run ends, what stands in messages, and where the JSON goes.
+#include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 namespace kvt {
@@ -205,7 +206,7 @@ TEST(calc_command, ends_with_read_error_for_a_file_that_is_not_there) {
 
 TEST(calc_command, ends_with_read_error_for_a_folder) {
     const temporary_folder folder;
-    expect_read_error(folder.path().string(), "Run-time error 75: Path/File access error");
+    expect_read_error(utf8_of_path(folder.path()), "Run-time error 75: Path/File access error");
 }
 
 TEST(calc_command, ends_with_read_error_for_a_file_that_ends_too_early) {

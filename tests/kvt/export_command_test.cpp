@@ -1,4 +1,5 @@
 // Tests of kvt export: the project saved again with what was typed, and the files of the design.
+#include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 namespace kvt {
@@ -14,7 +15,7 @@ kvt_run export_engine_oil(const std::string& folder, const std::vector<std::stri
 
 TEST(export_command, writes_the_project_under_its_name_with_that_path_as_first_line) {
     const temporary_folder folder;
-    const kvt_run run = export_engine_oil(folder.path().string(), {"--cnc", "inner_xy"});
+    const kvt_run run = export_engine_oil(utf8_of_path(folder.path()), {"--cnc", "inner_xy"});
     const std::string written = folder.file("engine_oil.KVT");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, written + "\n" + folder.file("inner_xy.cnc") + "\n" +
@@ -28,8 +29,9 @@ TEST(export_command, writes_the_project_under_its_name_with_that_path_as_first_l
 
 TEST(export_command, writes_typed_texts_as_they_are_before_any_calculation) {
     const temporary_folder folder;
-    const kvt_run run = export_engine_oil(
-        folder.path().string(), {"--set", "thick=12,50", "--set", "ecc=0", "--capacity-unit", "4"});
+    const kvt_run run =
+        export_engine_oil(utf8_of_path(folder.path()),
+                          {"--set", "thick=12,50", "--set", "ecc=0", "--capacity-unit", "4"});
     const std::vector<std::string> lines = split_lines(read_file(folder.file("engine_oil.KVT")));
     EXPECT_EQ(lines[5], "12,50");
     EXPECT_EQ(lines[10], "0");
@@ -51,13 +53,13 @@ TEST(export_command, gives_the_extension_of_projects_to_any_input) {
     const std::string input = folder.file("pump.v2.txt");
     write_file(input, read_file(example("engine_oil")));
     const kvt_run run =
-        run_kvt({"export", input, "--out", folder.path().string(), "--cnc", "outer_gcode"});
+        run_kvt({"export", input, "--out", utf8_of_path(folder.path()), "--cnc", "outer_gcode"});
     EXPECT_TRUE(run.out.starts_with(folder.file("pump.v2.KVT") + "\n")) << run.out;
 }
 
 TEST(export_command, writes_a_project_that_calculates_to_the_same_numbers) {
     const temporary_folder folder;
-    export_engine_oil(folder.path().string(), {"--cnc", "outer_gcode"});
+    export_engine_oil(utf8_of_path(folder.path()), {"--cnc", "outer_gcode"});
     const kvt_run again = run_kvt({"calc", folder.file("engine_oil.KVT"), "--json", "-", "--full"});
     EXPECT_EQ(again.out, calc_engine_oil({"--full"}).out);
 }
@@ -81,7 +83,7 @@ TEST(export_command, ends_with_1_when_the_folder_cannot_be_made) {
 
 TEST(export_command, ends_with_1_and_writes_nothing_when_leaving_an_entry_fails) {
     const temporary_folder folder;
-    EXPECT_EQ(export_engine_oil(folder.path().string(), {"--set", "numlobes=8x"}).status, 1);
+    EXPECT_EQ(export_engine_oil(utf8_of_path(folder.path()), {"--set", "numlobes=8x"}).status, 1);
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 

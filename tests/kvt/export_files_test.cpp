@@ -1,5 +1,6 @@
 // Tests of the files of kvt export: which are written, which are left out or refused, and with
 // what.
+#include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <set>
@@ -11,7 +12,8 @@ namespace fs = std::filesystem;
 
 kvt_run export_design_of(const std::string& name, const temporary_folder& folder,
                          std::vector<std::string> options) {
-    options.insert(options.begin(), {"export", example(name), "--out", folder.path().string()});
+    options.insert(options.begin(),
+                   {"export", example(name), "--out", utf8_of_path(folder.path())});
     return run_kvt(options);
 }
 
@@ -19,7 +21,7 @@ std::set<std::string> cnc_files_in(const temporary_folder& folder) {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder.path())) {
         if (entry.path().extension() == ".cnc") {
-            names.insert(entry.path().stem().string());
+            names.insert(utf8_of_path(entry.path().stem()));
         }
     }
     return names;
@@ -164,7 +166,7 @@ TEST(export_cnc, ends_with_2_for_values_that_cannot_be_used) {
 
 kvt_run export_to(const temporary_folder& folder, std::vector<std::string> options) {
     options.insert(options.begin(),
-                   {"export", example("engine_oil"), "--out", folder.path().string()});
+                   {"export", example("engine_oil"), "--out", utf8_of_path(folder.path())});
     return run_kvt(options);
 }
 
@@ -172,7 +174,7 @@ std::set<std::string> drawings_in(const temporary_folder& folder) {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder.path())) {
         if (entry.path().extension() == ".dxf" || entry.path().extension() == ".stp") {
-            names.insert(entry.path().filename().string());
+            names.insert(utf8_of_path(entry.path().filename()));
         }
     }
     return names;

@@ -1,4 +1,5 @@
 // Tests of kvt export --data and --workbook.
+#include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <set>
@@ -12,14 +13,14 @@ const std::string NOTE = ": not written, the performance is not calculated; --fo
 
 kvt_run export_to(const temporary_folder& folder, std::vector<std::string> options) {
     options.insert(options.begin(), {"export", example("engine_oil"), "--out",
-                                     folder.path().string(), "--dxf", "inner"});
+                                     utf8_of_path(folder.path()), "--dxf", "inner"});
     return run_kvt(options);
 }
 
 std::set<std::string> performance_files_in(const temporary_folder& folder) {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder.path())) {
-        const std::string name = entry.path().filename().string();
+        const std::string name = utf8_of_path(entry.path().filename());
         if (name.starts_with("perf")) {
             names.insert(name);
         }

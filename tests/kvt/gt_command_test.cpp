@@ -1,4 +1,5 @@
 // Tests of kvt gt: the whole generation with the stand-in of the package, and the passes alone.
+#include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 #include "support/gt_stand_in.hpp"
 
@@ -31,12 +32,12 @@ class gt_command_test : public testing::Test {
     bool holds(const std::string& text) const { return written().find(text) != std::string::npos; }
 
     temporary_folder folder;
-    environment_value home{"KAVETTA_HOME", folder.path().string()};
+    environment_value home{"KAVETTA_HOME", utf8_of_path(folder.path())};
     gt_stand_in package;
 };
 
 TEST_F(gt_command_test, changes_a_given_model_without_any_package) {
-    package.home_variable().unset();
+    package.home_variable().set(std::nullopt);
     const kvt_run run = change_given({"--fluid", "oil 5"});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err, "");

@@ -1,5 +1,6 @@
 #include "kvt/model_command.hpp"
 
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "kvt/command_line.hpp"
 #include "kvt/exit_status.hpp"
@@ -31,7 +32,7 @@ ended run(const std::string& design, std::vector<std::string> arguments) {
 
 class model_command : public testing::Test {
   protected:
-    std::string log_file() const { return (folder.path() / "calls.log").string(); }
+    std::string log_file() const { return utf8_of_path(folder.path() / "calls.log"); }
     std::string log() const { return bytes_of_file(log_file()); }
     ended record(const std::string& design, const std::string& package, const std::string& what,
                  std::vector<std::string> more = {}) const {
@@ -84,13 +85,11 @@ TEST_F(model_command, calculates_no_ports_for_rotors) {
 }
 
 TEST_F(model_command, tells_the_message_of_a_package_that_is_not_installed) {
-#ifndef _WIN32
     const ended result =
         run("n04_fuel", {"--package", "invent", "--what", "inner,trochoid", "--host", "com"});
     EXPECT_EQ(result.status, EXIT_REFUSED);
     EXPECT_EQ(result.out, "inner: not built\ntrochoid: not built\n");
     EXPECT_EQ(result.err.substr(0, 29), "Error number 429 has occured.");
-#endif
 }
 
 TEST_F(model_command, names_the_models_in_the_language) {
@@ -118,7 +117,7 @@ TEST_F(model_command, stops_at_a_design_that_is_refused) {
 TEST_F(model_command, tells_a_log_that_cannot_be_written) {
     const ended result =
         run("n04_fuel", {"--package", "acad", "--what", "inner", "--host", "recorder", "--log",
-                         (folder.path() / "no" / "folder.log").string()});
+                         utf8_of_path(folder.path() / "no" / "folder.log")});
     EXPECT_EQ(result.status, EXIT_REFUSED);
     EXPECT_NE(result.err.find("folder.log: "), std::string::npos);
 }

@@ -1,5 +1,6 @@
 // Tests of the program kvt itself, started as a process: exit statuses, streams, and what it leaves
 // on the disk.
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "kvt/kvt_run.hpp"
 
@@ -37,7 +38,7 @@ class program_test : public testing::Test {
 
     /// The exit status of a shell command in which $KVT is the program and $PROJECT the example.
     int status_of(const std::string& script) const {
-        const std::string command = "cd " + quoted(folder.path().string()) +
+        const std::string command = "cd " + quoted(utf8_of_path(folder.path())) +
                                     " && KVT=" + quoted(KVT_PROGRAM) + " PROJECT=" + project +
                                     " bash -c " + quoted(script);
         const int ended = std::system(command.c_str());
@@ -95,7 +96,7 @@ TEST_F(program_test, writes_what_the_options_name_and_nothing_else) {
     EXPECT_EQ(start("export " + project + " --out files --cnc outer_gcode").status, 0);
     std::vector<std::string> left;
     for (const auto& file : fs::recursive_directory_iterator(folder.file("home"))) {
-        left.push_back(fs::relative(file.path(), folder.file("home")).string());
+        left.push_back(utf8_of_path(fs::relative(file.path(), folder.file("home"))));
     }
     std::sort(left.begin(), left.end());
     EXPECT_EQ(left,

@@ -1,6 +1,7 @@
 // The whole road: every delivered example and every test design goes from its file to all that kvt
 // reports.
 #include "base/number_text.hpp"
+#include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ std::vector<std::string> projects_in(const fs::path& folder) {
     if (fs::exists(folder)) {
         for (const auto& file : fs::directory_iterator(folder)) {
             if (file.path().extension() == ".KVT") {
-                paths.push_back(file.path().string());
+                paths.push_back(utf8_of_path(file.path()));
             }
         }
     }
@@ -88,7 +89,7 @@ TEST(examples, are_whole_files_with_a_path_of_their_own_in_the_first_line) {
     for (const std::string& project : examples()) {
         const std::string bytes = read_file(project);
         const std::vector<std::string> lines = split_lines(bytes);
-        const std::string name = fs::path(project).stem().string();
+        const std::string name = utf8_of_path(path_of_utf8(project).stem());
         ASSERT_EQ(lines.size(), 59U) << project;
         EXPECT_EQ(lines[0], "C:\\Kavetta\\projects\\" + name + ".KVT");
         EXPECT_EQ(lines[1], name);
@@ -164,7 +165,7 @@ TEST(whole_road, gives_the_same_report_in_both_languages_but_for_texts) {
 TEST(whole_road, exports_a_project_that_exports_to_the_same_lines) {
     for (const std::string& project : all_designs()) {
         const temporary_folder folder;
-        const std::string name = fs::path(project).filename().string();
+        const std::string name = utf8_of_path(path_of_utf8(project).filename());
         ASSERT_EQ(run_kvt({"export", project, "--out", folder.file("a")}).status, 0) << project;
         ASSERT_EQ(run_kvt({"export", folder.file("a/" + name), "--out", folder.file("b")}).status,
                   0)

@@ -2,6 +2,8 @@
 // checks what it gets, a model editor that notes how it was called, a library of fluids.
 #pragma once
 
+#include "base/path_text.hpp"
+#include "support/environment_value.hpp"
 #include "support/temporary_folder.hpp"
 
 #include <cstdlib>
@@ -12,28 +14,6 @@
 #include <string>
 
 namespace kvt {
-
-/// An environment variable that has its old value again when its owner goes.
-class environment_value {
-  public:
-    environment_value(const std::string& name, const std::string& value) : name_(name) {
-        if (const char* old = std::getenv(name.c_str())) {
-            old_ = old;
-            was_set_ = true;
-        }
-        set(value);
-    }
-    ~environment_value() { was_set_ ? set(old_) : unset(); }
-    environment_value(const environment_value&) = delete;
-    environment_value& operator=(const environment_value&) = delete;
-
-    void set(const std::string& value) { setenv(name_.c_str(), value.c_str(), 1); }
-    void unset() { unsetenv(name_.c_str()); }
-
-  private:
-    std::string name_, old_;
-    bool was_set_ = false;
-};
 
 class gt_stand_in {
   public:
@@ -79,9 +59,9 @@ class gt_stand_in {
     }
 
     temporary_folder home_;
-    environment_value variable_{"GTIHOME", home_.path().string()};
+    environment_value variable_{"GTIHOME", utf8_of_path(home_.path())};
     environment_value sample_{"GEMC_SAMPLE",
-                              (std::filesystem::path(KVT_TEST_DATA) / "gtsuite").string()};
+                              utf8_of_path(std::filesystem::path(KVT_TEST_DATA) / "gtsuite")};
     environment_value log_{"GEMC_LOG", home_.file("converter.log")};
     environment_value fail_{"GEMC_FAIL", ""};
     environment_value delay_{"GEMC_DELAY", ""};

@@ -13,7 +13,7 @@ namespace kvt {
 class temporary_folder {
   public:
     temporary_folder() {
-        std::string name = (std::filesystem::temp_directory_path() / "kvt_test_XXXXXX").string();
+        std::string name = utf8_of_path(std::filesystem::temp_directory_path() / "kvt_test_XXXXXX");
         if (!make_private_folder(name)) {
             throw std::runtime_error("no temporary folder " + name);
         }
@@ -31,7 +31,7 @@ class temporary_folder {
         return path_ / path_of_utf8(name);
     }
     /// The path of a file in the folder, as the text that commands take.
-    std::string file(const std::string& name) const { return (*this / name).string(); }
+    std::string file(const std::string& name) const { return utf8_of_path(*this / name); }
 
   private:
     std::filesystem::path path_;

@@ -6,6 +6,7 @@
 #include "app/desk/start_up.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/files/project_fixture.hpp"
+#include "base/path_text.hpp"
 #include "base/short_date.hpp"
 #include "core/text_table.hpp"
 
@@ -36,7 +37,7 @@ class autosave_test : public project_test {
     names left() const {
         names found;
         for (const fs::directory_entry& file : fs::directory_iterator(folder.path())) {
-            const std::string name = file.path().filename().string();
+            const std::string name = utf8_of_path(file.path().filename());
             if (name.starts_with("autosave") || name.starts_with("recovery")) {
                 found.push_back(name);
             }
@@ -79,13 +80,13 @@ TEST_F(autosave_test, writes_changed_entries_once) {
     kavetta.entries.ecc = "2,85";
     EXPECT_TRUE(has_unsaved_changes(kavetta));
     EXPECT_TRUE(autosave(kavetta));
-    EXPECT_EQ(line_of(autosaved().string(), 11), "2,85");
+    EXPECT_EQ(line_of(utf8_of_path(autosaved()), 11), "2,85");
     fs::remove(autosaved());
     EXPECT_FALSE(autosave(kavetta));
     EXPECT_FALSE(fs::exists(autosaved()));
     kavetta.app_state.capacity_unit = 4;
     EXPECT_TRUE(autosave(kavetta));
-    EXPECT_EQ(line_of(autosaved().string(), 17), " 4 ");
+    EXPECT_EQ(line_of(utf8_of_path(autosaved()), 17), " 4 ");
 }
 
 TEST_F(autosave_test, leaves_project_and_recent_list_alone) {
@@ -99,7 +100,7 @@ TEST_F(autosave_test, leaves_project_and_recent_list_alone) {
     EXPECT_EQ(kavetta.app_state.project_path, state.project_path);
     EXPECT_TRUE(kavetta.app_state.project_has_file);
     EXPECT_EQ(kavetta.app_state.mnufileprev[0], state.mnufileprev[0]);
-    EXPECT_EQ(line_of(autosaved().string(), 1), path) << "the project that the entries are of";
+    EXPECT_EQ(line_of(utf8_of_path(autosaved()), 1), path) << "the project that the entries are of";
 }
 
 TEST_F(autosave_test, tries_again_after_a_write_that_failed) {
@@ -171,7 +172,7 @@ TEST_F(autosave_test, stays_when_the_exit_was_cancelled_and_is_replaced_by_the_r
     person.files = {std::nullopt};
     exit_with(answer::yes);
     EXPECT_FALSE(fs::exists(autosaved()));
-    EXPECT_EQ(line_of(recovered().string(), 11), "3");
+    EXPECT_EQ(line_of(utf8_of_path(recovered()), 11), "3");
 }
 
 TEST_F(autosave_test, is_not_offered_when_there_is_none) {
@@ -314,7 +315,7 @@ TEST_F(autosave_test, an_unreadable_file_is_told_in_the_status_bar_and_the_next_
     leave(autosaved(), "1", 60);
     write_file(recovered(), "nothing\r\n");
     start_again({answer::yes});
-    EXPECT_EQ(person.statuses, names{"The file could not be opened: " + recovered().string() +
+    EXPECT_EQ(person.statuses, names{"The file could not be opened: " + utf8_of_path(recovered()) +
                                      ": Input past end of file"});
     EXPECT_EQ(kavetta.entries.ecc, "1");
     start_again({answer::no});
@@ -365,7 +366,7 @@ TEST_F(autosave_test, opening_another_project_leaves_a_recovered_one_for_the_nex
     save_project(kavetta, person);
     exit_with(answer::no);
     EXPECT_EQ(left(), names{"recovery.KVT"});
-    EXPECT_EQ(line_of(recovered().string(), 11), "3.25");
+    EXPECT_EQ(line_of(utf8_of_path(recovered()), 11), "3.25");
 }
 
 using recovery_test = autosave_test;
@@ -375,7 +376,7 @@ TEST_F(recovery_test, never_replaces_a_file_that_has_not_been_opened) {
     leave(folder.path() / "recovery-2.KVT", "2");
     kavetta.entries.ecc = "3";
     EXPECT_EQ(save_recovery(kavetta), folder.path() / "recovery-3.KVT");
-    EXPECT_EQ(line_of(recovered().string(), 11), "1");
+    EXPECT_EQ(line_of(utf8_of_path(recovered()), 11), "1");
     EXPECT_EQ(line_of(folder.file("recovery-2.KVT"), 11), "2");
 }
 
@@ -394,7 +395,7 @@ TEST_F(recovery_test, replaces_the_file_that_was_opened) {
     start_again({answer::yes});
     kavetta.entries.ecc = "3";
     EXPECT_EQ(save_recovery(kavetta), recovered());
-    EXPECT_EQ(line_of(recovered().string(), 11), "3");
+    EXPECT_EQ(line_of(utf8_of_path(recovered()), 11), "3");
 }
 
 TEST_F(recovery_test, takes_the_place_of_the_autosave_of_its_run) {

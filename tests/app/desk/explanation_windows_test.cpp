@@ -2,6 +2,7 @@
 #include "app/desk/explanation_windows.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/text_file.hpp"
 #include "support/scripted_user.hpp"
@@ -19,7 +20,7 @@ class explanation_windows : public testing::Test {
 
     void deliver(const std::string& picture) { write_file(folder.path() / picture, "picture"); }
     std::string loaded_picture(explanation_window window) {
-        return load_explanation(kavetta, window).filename().string();
+        return utf8_of_path(load_explanation(kavetta, window).filename());
     }
 
     temporary_folder folder;

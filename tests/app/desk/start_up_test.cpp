@@ -4,9 +4,9 @@
 #include "app/desk/settings_commands.hpp"
 #include "app/files/project_fixture.hpp"
 #include "app/stages/design_assist.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
-
-#include <cstdlib>
+#include "support/environment_value.hpp"
 
 namespace kvt {
 namespace {
@@ -14,11 +14,10 @@ namespace {
 using start_up_test = project_test;
 
 TEST_F(start_up_test, takes_the_program_folder_from_the_environment) {
-    setenv("KAVETTA_HOME", folder.path().c_str(), 1);
+    environment_value named("KAVETTA_HOME", utf8_of_path(folder.path()));
     EXPECT_EQ(program_folder(), folder.path());
-    unsetenv("KAVETTA_HOME");
-    setenv("HOME", folder.path().c_str(), 1);
-    EXPECT_EQ(program_folder(), folder.path() / ".local" / "share" / "Kavetta");
+    named.set(std::nullopt);
+    EXPECT_EQ(program_folder(), user_data_folder() / "Kavetta");
 }
 
 TEST_F(start_up_test, fills_the_folder_with_what_is_missing_and_keeps_what_is_there) {
@@ -115,7 +114,7 @@ TEST_F(start_up_test, opens_a_path_in_place_of_the_prompt_and_survives_a_wrong_o
 TEST_F(start_up_test, keeps_recent_paths_whole_that_KVT_ini_can_not_hold) {
     const std::filesystem::path cyrillic = folder.path() / "Насосы";
     std::filesystem::create_directory(cyrillic);
-    const std::string path = (cyrillic / "Насос.KVT").string();
+    const std::string path = utf8_of_path(cyrillic / "Насос.KVT");
     write_file(path, joined(project_lines()));
     start_project(kavetta, person, path);
     start_project(kavetta, person, project_file("pump.KVT", project_lines()));
@@ -124,7 +123,7 @@ TEST_F(start_up_test, keeps_recent_paths_whole_that_KVT_ini_can_not_hold) {
     load_settings(again);
     EXPECT_EQ(again.app_state.mnufileprev[1], path);
     find_projects_folder(again);
-    EXPECT_EQ(again.app_state.projects_folder, cyrillic.string());
+    EXPECT_EQ(again.app_state.projects_folder, utf8_of_path(cyrillic));
     again.app_state.mnufileprev[1] = "/a.KVT";
     save_settings(again);
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "preferences.ini")) << "nothing to keep";

@@ -1,12 +1,12 @@
 // The names and locks of the files with unsaved entries.
 #include "app/desk/unsaved_files.hpp"
 
+#include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 #include "support/temporary_folder.hpp"
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <utility>
 
 namespace kvt {
@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 std::vector<std::string> found(const temporary_folder& folder) {
     std::vector<std::string> names;
     for (const left_file& left : find_left_files(folder.path())) {
-        names.push_back(left.file.path.filename().string());
+        names.push_back(utf8_of_path(left.file.path.filename()));
     }
     std::ranges::sort(names);
     return names;
@@ -62,10 +62,9 @@ TEST(unsaved_files, are_not_found_while_somebody_holds_them) {
 TEST(unsaved_files, that_can_not_be_read_say_why_and_stay) {
     const temporary_folder folder;
     fs::create_directory(folder / "recovery.KVT");
-    ASSERT_EQ(mkfifo((folder / "autosave.KVT").c_str(), 0600), 0);
     write_file(folder / "autosave-2.KVT", std::string(LARGEST_TEXT + 1, 'x'));
     const std::vector<left_file> files = find_left_files(folder.path());
-    EXPECT_EQ(files.size(), 3U);
+    EXPECT_EQ(files.size(), 2U);
     for (const left_file& left : files) {
         EXPECT_FALSE(left.record);
         ASSERT_TRUE(left.unreadable);

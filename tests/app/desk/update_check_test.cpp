@@ -4,10 +4,10 @@
 
 #include "app/files/project_fixture.hpp"
 #include "core/internet_control.hpp"
+#include "support/environment_value.hpp"
 #include "support/expect_failure.hpp"
 #include "support/property_runs.hpp"
 
-#include <cstdlib>
 #include <map>
 
 namespace kvt {
@@ -32,12 +32,10 @@ class table_server : public internet_control {
 class update_check_test : public project_test {
   protected:
     update_check_test() {
-        unsetenv("KAVETTA_UPDATE_SERVER");
         std::filesystem::create_directories(folder / "updates");
         kavetta.app_state.update_server = "https://server.test";
         person.answers = {answer::yes};
     }
-    ~update_check_test() override { unsetenv("KAVETTA_UPDATE_SERVER"); }
 
     void serve(const std::string& name, const std::string& bytes) {
         server.files["https://server.test/gerotors/updates/" + name] = bytes;
@@ -55,6 +53,7 @@ class update_check_test : public project_test {
         return configured_update_server(folder.path());
     }
 
+    environment_value environment_server{"KAVETTA_UPDATE_SERVER", std::nullopt};
     table_server server;
 };
 
@@ -199,9 +198,9 @@ TEST_F(update_check_test, takes_the_server_from_the_first_line_of_the_file) {
 }
 
 TEST_F(update_check_test, takes_the_server_of_the_environment_first) {
-    setenv("KAVETTA_UPDATE_SERVER", "http://127.0.0.1:9", 1);
+    environment_server.set("http://127.0.0.1:9");
     EXPECT_EQ(server_of("first.test"), "http://127.0.0.1:9");
-    setenv("KAVETTA_UPDATE_SERVER", "", 1);
+    environment_server.set(" ");
     EXPECT_EQ(server_of("first.test"), "") << "switched off";
 }
 

@@ -4,6 +4,7 @@
 #include "app/desk/autosave.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/files/project_fixture.hpp"
+#include "base/path_text.hpp"
 
 namespace kvt {
 namespace {
@@ -19,7 +20,7 @@ TEST_F(examples_test, are_the_projects_of_a_folder_by_name) {
     ASSERT_EQ(found.size(), 2U);
     EXPECT_EQ(found[0].name, "fuel");
     EXPECT_EQ(found[1].name, "water pump");
-    EXPECT_EQ(found[1].path, (share.path() / "water_pump.KVT").string());
+    EXPECT_EQ(found[1].path, utf8_of_path(share.path() / "water_pump.KVT"));
 }
 
 TEST_F(examples_test, are_none_without_the_folder) {

@@ -2,6 +2,7 @@
 // leaves, the entry of the metering groove; the simulation exchange's files.
 #include "app/files/file_output.hpp"
 
+#include "base/path_text.hpp"
 #include "support/cnc_design.hpp"
 #include "support/expect_failure.hpp"
 #include "support/temporary_folder.hpp"
@@ -206,7 +207,7 @@ TEST_F(step_output, tells_a_file_that_cannot_be_written_in_the_status_bar_only) 
 }
 
 TEST_F(step_output, writes_the_files_of_the_simulation_exchange_without_a_dialog) {
-    write_gt_step_files(kavetta, folder.path().string());
+    write_gt_step_files(kavetta, utf8_of_path(folder.path()));
     const auto holds = [&](const char* name, const char* solid) {
         const std::string bytes = read_file(folder.file(name));
         EXPECT_NE(bytes.find(solid), std::string::npos) << name;

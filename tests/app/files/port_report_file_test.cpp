@@ -4,6 +4,7 @@
 #include "app/desk/settings_commands.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "support/open_design.hpp"
 #include "support/temporary_folder.hpp"
@@ -18,7 +19,7 @@ class port_report_file : public testing::Test {
     port_report_file() : kavetta(opened_design("n09_crank_oil")) {
         EXPECT_EQ(calculate_profiles(kavetta, person), run_end::ok);
         kavetta.folder = folder.path();
-        kavetta.app_state.projects_folder = folder.path().string();
+        kavetta.app_state.projects_folder = utf8_of_path(folder.path());
         kavetta.date = "03.11.21";
     }
 
@@ -65,19 +66,19 @@ TEST_F(port_report_file, is_not_written_by_a_program_without_a_folder) {
 TEST_F(port_report_file, goes_to_the_folder_of_the_project_when_no_folder_is_known) {
     std::filesystem::create_directories(folder / "pumps");
     kavetta.app_state.projects_folder.clear();
-    kavetta.app_state.project_path = (folder / "pumps/pump.KVT").string();
+    kavetta.app_state.project_path = utf8_of_path(folder / "pumps/pump.KVT");
     EXPECT_EQ(project_folder(kavetta), folder / "pumps");
     kavetta.app_state.project_path.clear();
     EXPECT_EQ(project_folder(kavetta), folder / "projects");
 }
 
 TEST_F(port_report_file, that_cannot_be_written_is_told_and_the_ports_are_designed) {
-    kavetta.app_state.projects_folder = (folder / "none").string();
+    kavetta.app_state.projects_folder = utf8_of_path(folder / "none");
     testing::internal::CaptureStderr();
     const ports_designed done = design_ports(kavetta, person);
-    const std::string line =
-        "The file could not be saved: " + (folder / "none/port_radius_coordinates.txt").string() +
-        ": Path not found";
+    const std::string line = "The file could not be saved: " +
+                             utf8_of_path(folder / "none/port_radius_coordinates.txt") +
+                             ": Path not found";
     EXPECT_EQ(testing::internal::GetCapturedStderr(), line + "\n");
     EXPECT_EQ(person.statuses, std::vector<std::string>{line});
     EXPECT_TRUE(done.inlet);

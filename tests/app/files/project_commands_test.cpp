@@ -6,7 +6,6 @@
 #include "app/files/project_fixture.hpp"
 #include "base/run_time_error.hpp"
 #include "support/property_runs.hpp"
-#include "support/unprivileged.hpp"
 
 namespace kvt {
 namespace {
@@ -532,33 +531,6 @@ TEST_F(save_project_test, finds_an_unopenable_entry_exactly_when_open_would_fail
             << failed << kavetta.entries.volumereqd << "; " << kavetta.entries.ecc << "; "
             << kavetta.entries.radinnroot << "; unit " << kavetta.app_state.capacity_unit;
     }
-}
-
-TEST_F(save_project_test, overwrites_in_a_folder_that_takes_no_file_only_after_a_question) {
-    const std::string path = project_file("pump.KVT", project_lines());
-    open_project_file(kavetta, person, path);
-    const std::string before = read_file(path);
-    const std::filesystem::path projects = folder.path() / "projects";
-    std::filesystem::permissions(path, std::filesystem::perms(0666));
-    std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
-    std::filesystem::permissions(projects, std::filesystem::perms(0555));
-    kavetta.entries.ecc = "3";
-    person.answers = {answer::no, answer::yes};
-    {
-        const unprivileged somebody;
-        save_project(kavetta, person);
-        EXPECT_EQ(read_file(path), before);
-        EXPECT_TRUE(has_unsaved_changes(kavetta));
-        save_project(kavetta, person);
-    }
-    std::filesystem::permissions(projects, std::filesystem::perms(0755));
-    EXPECT_EQ(person.questions.at(0),
-              path +
-                  " can only be overwritten where it stands, since its folder takes no other "
-                  "file. A failure meanwhile would leave it incomplete. Do you wish to "
-                  "overwrite it?");
-    EXPECT_EQ(line_of(path, 11), "3");
-    EXPECT_FALSE(has_unsaved_changes(kavetta));
 }
 
 TEST_F(save_project_test, save_as_that_fails_leaves_path_and_name) {

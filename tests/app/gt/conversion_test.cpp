@@ -70,7 +70,7 @@ TEST(run_conversion, without_the_converter_is_a_failure) {
     gt_person person;
     std::filesystem::remove(package.home() / "bin/gemc");
     EXPECT_FAILURE(run_conversion(person, {}, LIMITS), failure::file_not_found);
-    package.home_variable().unset();
+    package.home_variable().set(std::nullopt);
     EXPECT_FAILURE(run_conversion(person, {}, LIMITS), failure::path_not_found);
     EXPECT_TRUE(person.log.empty());
 }

@@ -51,7 +51,7 @@ TEST_F(gt_fluids_test, tells_a_version_without_a_library_and_empties_the_list) {
 }
 
 TEST_F(gt_fluids_test, tells_a_missing_installation_in_english_in_either_language) {
-    package.home_variable().unset();
+    package.home_variable().set(std::nullopt);
     kavetta.app_state.language = GERMAN;
     select_gt_version(kavetta, person, "GT 2021");
     EXPECT_EQ(person.messages, texts{NOT_INSTALLED});

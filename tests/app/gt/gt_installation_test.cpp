@@ -33,7 +33,7 @@ TEST(gt_fluids_file, is_the_first_library_by_name) {
 TEST(gt_fluids_file, is_nothing_without_its_folder_or_the_variable) {
     gt_stand_in package;
     EXPECT_EQ(gt_fluids_file(2020), std::nullopt);
-    package.home_variable().unset();
+    package.home_variable().set(std::nullopt);
     EXPECT_EQ(gt_fluids_file(2021), std::nullopt);
     EXPECT_FAILURE(gt_tools_folder(), failure::path_not_found);
 }

@@ -4,6 +4,7 @@
 #include "app/gt/gt_folders.hpp"
 #include "app/gt/gt_person.hpp"
 #include "app/stages/performance_fixture.hpp"
+#include "base/path_text.hpp"
 #include "support/expect_failure.hpp"
 #include "support/gt_stand_in.hpp"
 
@@ -63,7 +64,7 @@ class gt_simulation_test : public performance_test {
 TEST_F(gt_simulation_test, makes_the_model_and_opens_it) {
     const auto made = simulate();
     ASSERT_TRUE(made);
-    const std::string bin = (package.home() / "bin").string();
+    const std::string bin = utf8_of_path(package.home() / "bin");
     const std::string model = folder.file("GT_files/Pump.gtm");
     EXPECT_EQ(made->model, model);
     EXPECT_EQ(made->passes.size(), 14U);
@@ -155,7 +156,7 @@ TEST_F(gt_simulation_test, waits_for_a_slow_converter) {
 }
 
 TEST_F(gt_simulation_test, asks_why_without_an_installation) {
-    package.home_variable().unset();
+    package.home_variable().set(std::nullopt);
     expect_failure();
 }
 
@@ -210,7 +211,7 @@ TEST_F(gt_simulation_test, a_tick_of_the_timer_opens_a_model_that_has_come) {
     look_for_converted_model(kavetta, tester);
     EXPECT_FALSE(kavetta.gt_choices.tim_gemc_enabled);
     EXPECT_EQ(tester.log, (texts{"message Opening Pump-1.gtm in GT-SUITE",
-                                 "detached " + (package.home() / "bin/gtise").string() + " " +
+                                 "detached " + utf8_of_path(package.home() / "bin/gtise") + " " +
                                      folder.file("GT_files/Pump-1.gtm")}));
 }
 

@@ -6,9 +6,11 @@
 #include "app/program.hpp"
 #include "automation/automation_error.hpp"
 #include "automation/recorder_host.hpp"
+#include "base/whole_file.hpp"
 #include "support/cad/fake_model_store.hpp"
 #include "support/cad/model_designs.hpp"
 #include "support/scripted_user.hpp"
+#include "support/temporary_folder.hpp"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -44,7 +46,7 @@ struct modelled {
 };
 
 TEST(built_in_modeller, that_is_missing_drives_nothing) {
-    built_in_modeller modeller(std::filesystem::path("no_such_module.so"));
+    built_in_modeller modeller("no_such_module.so");
     EXPECT_FALSE(modeller.is_there());
     EXPECT_EQ(modeller.running("autocad.application"), nullptr);
     EXPECT_EQ(error_of_create(modeller), automation::NOT_CREATED);
@@ -52,7 +54,9 @@ TEST(built_in_modeller, that_is_missing_drives_nothing) {
 }
 
 TEST(built_in_modeller, that_is_no_module_drives_nothing) {
-    built_in_modeller modeller(std::filesystem::path("/dev/null"));
+    const temporary_folder folder;
+    write_file(folder / "empty.so", "");
+    built_in_modeller modeller(folder / "empty.so");
     EXPECT_TRUE(modeller.is_there());
     EXPECT_EQ(error_of_create(modeller), automation::NOT_CREATED);
     EXPECT_EQ(modeller.loaded_store(), nullptr);
@@ -118,8 +122,7 @@ TEST(draw_model_here, gives_way_to_a_package_that_can_be_driven) {
 TEST(draw_model_here, without_the_module_tells_what_a_system_without_packages_tells) {
     program kavetta = double_sided_design();
     kavetta.app_state.modelling_package = "invent";
-    kavetta.modeller =
-        std::make_shared<built_in_modeller>(std::filesystem::path("no_such_module.so"));
+    kavetta.modeller = std::make_shared<built_in_modeller>("no_such_module.so");
     EXPECT_FALSE(models_are_built_here(kavetta));
     scripted_user person;
     draw_model(kavetta, person, model_kind::outer);

@@ -6,6 +6,7 @@
 #include "app/stages/calculate_performance.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "base/path_text.hpp"
 #include "core/text_table.hpp"
 #include "support/open_design.hpp"
 #include "support/temporary_folder.hpp"
@@ -17,7 +18,7 @@ namespace {
 
 class stale_results_test : public testing::Test {
   protected:
-    stale_results_test() { kavetta.app_state.projects_folder = folder.path().string(); }
+    stale_results_test() { kavetta.app_state.projects_folder = utf8_of_path(folder.path()); }
 
     void run_all() {
         ASSERT_EQ(calculate_profiles(kavetta, person), run_end::ok);

@@ -5,6 +5,7 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_profiles.hpp"
 #include "app/stages/design_ports.hpp"
+#include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 #include "support/sample_design.hpp"
 #include "support/scripted_user.hpp"
@@ -91,7 +92,7 @@ TEST_F(view_commands_test, zoom_all_keeps_results_and_enablings) {
 TEST_F(view_commands_test, zoom_redraws_designed_ports_with_their_counts) {
     calculate();
     const temporary_folder folder;
-    kavetta.app_state.projects_folder = folder.path().string();
+    kavetta.app_state.projects_folder = utf8_of_path(folder.path());
     kavetta.entries.port_radii = "0.5";
     design_ports(kavetta, person);
     const std::size_t inlet = kavetta.design_view.inlet_portline.elements.size();

@@ -46,7 +46,7 @@ class registered_server {
   private:
     std::filesystem::path log_file() const { return folder_ / "calls.log"; }
     void start(const std::string& action, child_process& process) const {
-        std::vector<std::string> arguments = {action, class_name_, log_file().string()};
+        std::vector<std::string> arguments = {action, class_name_, utf8_of_path(log_file())};
         arguments.insert(arguments.end(), options_.begin(), options_.end());
         process.start(std::filesystem::absolute(KVT_RECORDING_SERVER), arguments, folder_.path());
     }
