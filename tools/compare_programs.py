@@ -4,10 +4,15 @@
 Both calculate and export every design of examples and tests/data/designs and log the calls of its models, each in a
 folder of its own with the same name. A difference in one digit is reported with its file. A program whose name ends in
 .exe is started with Wine, which the environment variable WINE may name.
-With --nearly the C library may decide about the last digits: numbers differ by at most RELATIVE of their size or by
-ABSOLUTE, whole ones by one, paths in their separator; all points of the profiles are compared too, and what differed is summed up.
+With --nearly the C library may decide about the last digits, and paths differ in their separator. Numbers differ by at
+most RELATIVE of their size, whole ones by one; in CNC and DXF files by one in the last place, in STEP files by LARGEST_MM.
+All points of the profiles are compared too, and what differed is summed up. The search for a sharp corner of a port ends
+at a step; one program may end a step earlier, and numbers of such designs then differ by ONE_STEP.
 """
+import collections
 import filecmp
+import functools
+import json
 import os
 import pathlib
 import re
@@ -25,9 +30,16 @@ COMMANDS = {
               "calls.log", "--full-log"),
 }
 # Of the comparison that knows last digits.
-ALL_POINTS = {"calc": ("--full",)}
+ALL_POINTS = {**COMMANDS, "calc": (*COMMANDS["calc"], "--full")}
 RELATIVE = 1e-10
-ABSOLUTE = 1e-11
+SMALLEST = 1e-6  # what is smaller is compared as if it were as large
+LARGEST_MM = 1e-11
+ROUNDED = {".cnc", ".dxf"}
+# Of random designs: the chambers between their rotors are cut out where these nearly touch.
+RANDOM_RELATIVE = 1e-8
+# Of the search for a corner: degrees, and millimetres at the radius of a port; and what results of it differ by.
+ONE_STEP = 0.0021
+STEP_RELATIVE = 1e-6
 # Places of chart marks in twips, which a last digit rounds to one side or the other.
 WHOLE = re.compile(r"-?\d+\.0")
 NUMBER = re.compile(r"[-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?")
@@ -40,15 +52,15 @@ def started(program):
     return [os.environ.get("WINE", "wine"), str(program)] if program.suffix == ".exe" else [str(program)]
 
 
-def results(program, designs, folder, further):
+def results(program, designs, folder, commands):
     """Runs the program over the designs; the folder is then moved away, so that both write to the same paths."""
     work = folder / "work"
     for design in designs:
         out = work / design.stem
         out.mkdir(parents=True)
         shutil.copy(design, out)
-        for command, options in COMMANDS.items():
-            line = [*started(program), command, design.name, *options, *further.get(command, ())]
+        for command, options in commands.items():
+            line = [*started(program), command, design.name, *options]
             done = subprocess.run(line, cwd=out, capture_output=True, check=False)
             ended = f"{done.returncode}\n".encode() + done.stdout + done.stderr
             (out / f"{command}.txt").write_bytes(ended)
@@ -59,46 +71,87 @@ def files_below(folder):
     return {path.relative_to(folder) for path in folder.rglob("*") if path.is_file()}
 
 
-class near_comparison:
-    """Compares texts number by number and keeps the largest differences."""
+class counts_of_kind:
+    """What differed in the files of one kind."""
 
     def __init__(self):
-        self.numbers = self.changed_numbers = self.changed_files = self.whole = 0
+        self.files = self.changed_files = self.numbers = self.whole = self.far = self.early = self.steps = 0
         self.relative = self.absolute = 0.0
+
+    def note(self, size, difference):
+        self.numbers += 1
+        self.absolute = max(self.absolute, difference)
+        self.relative = max(self.relative, difference / max(size, SMALLEST))
+        self.far += difference > RELATIVE * max(size, SMALLEST)
+        self.early += difference > 1e-13 * max(size, 1.0)
+
+    def __str__(self):
+        if self.changed_files == 0:
+            return f"{self.files} files are the same"
+        return (f"{self.changed_files} of {self.files} files differ: {self.numbers} numbers by at most "
+                f"{self.absolute:.2g} or {self.relative:.2g} of their size, {self.early} of them before the 14th digit, "
+                f"{self.far} by more than {RELATIVE:g}; {self.whole} whole numbers by one, {self.steps} by a step")
+
+
+def last_place(number):
+    """The value of one in the last place of a written number."""
+    return 10.0 ** -len(number.partition(".")[2])
+
+
+@functools.lru_cache(maxsize=None)
+def has_sharp_corners(folder):
+    """Whether the ports of the design that was calculated there have no fillets."""
+    results = folder / "results.json"
+    if not results.is_file():
+        return False
+    return json.loads(results.read_bytes()).get("entries", {}).get("port_radii") in ("", "0")
+
+
+class near_comparison:
+    """Compares texts number by number and keeps what differed, by the ending of the file."""
+
+    def __init__(self, relative=RELATIVE):
+        self.relative = relative
+        self.kinds = collections.defaultdict(counts_of_kind)
 
     def text(self, path):
         text = path.read_bytes().decode("latin-1")
         return DATE_TEXT.sub("", text.replace("\\\\", "/").replace("\\", "/"))
 
-    def same_number(self, left, right):
-        self.numbers += 1
-        if left == right:
-            return True
-        self.changed_numbers += 1
-        if WHOLE.fullmatch(left) and WHOLE.fullmatch(right):
-            self.whole += 1
-            return abs(float(left) - float(right)) <= 1.0
-        size = max(abs(float(left)), abs(float(right)))
+    def largest(self, ending, left, right, size):
+        """How far two numbers may be apart."""
+        if ending in ROUNDED:
+            return 1.5 * min(last_place(left), last_place(right))
+        return LARGEST_MM if ending == ".stp" else self.relative * max(size, SMALLEST)
+
+    def same_number(self, ending, is_sharp, left, right):
+        kind = self.kinds[ending]
         difference = abs(float(left) - float(right))
-        self.absolute = max(self.absolute, difference)
-        if difference > ABSOLUTE:
-            self.relative = max(self.relative, difference / size)
-        return difference <= max(ABSOLUTE, RELATIVE * size)
+        if ending == ".json" and WHOLE.fullmatch(left) and WHOLE.fullmatch(right):
+            kind.whole += 1
+            return difference <= 1.0
+        size = max(abs(float(left)), abs(float(right)))
+        if difference <= self.largest(ending, left, right, size):
+            kind.note(size, difference)
+            return True
+        kind.steps += 1
+        return is_sharp and difference <= max(ONE_STEP, STEP_RELATIVE * size)
 
     def __call__(self, left, right):
         """Whether two files say the same but for last digits."""
+        ending, is_sharp = left.suffix, has_sharp_corners(left.parent)
+        self.kinds[ending].files += 1
         left, right = self.text(left), self.text(right)
         if left == right:
             return True
-        self.changed_files += 1
+        self.kinds[ending].changed_files += 1
         if NUMBER.split(left) != NUMBER.split(right):
             return False
-        return all([self.same_number(*pair) for pair in zip(NUMBER.findall(left), NUMBER.findall(right))])
+        pairs = zip(NUMBER.findall(left), NUMBER.findall(right))
+        return all([self.same_number(ending, is_sharp, *pair) for pair in pairs if pair[0] != pair[1]])
 
     def __str__(self):
-        return (f"{self.changed_files} files differ in last digits: {self.changed_numbers} of {self.numbers} numbers "
-                f"in them, by at most {self.absolute:.2g}, above {ABSOLUTE:g} by at most {self.relative:.2g} of their "
-                f"size; {self.whole} whole numbers by one.")
+        return "\n".join(f"{ending}: {kind}." for ending, kind in sorted(self.kinds.items()))
 
 
 def same_bytes(left, right):
@@ -113,18 +166,23 @@ def differences(left, right, same=same_bytes):
             yield f"{name}: not the same"
 
 
-def findings(root, programs, same=same_bytes, further=None):
-    designs = sorted(path for folder in FOLDERS for path in (root / folder).glob("*.KVT"))
+def sample_designs(root):
+    return sorted(path for folder in FOLDERS for path in (root / folder).glob("*.KVT"))
+
+
+def findings(designs, programs, same=same_bytes, commands=None):
+    """The number of files, and what was found in them. Each design has a name of its own."""
+    commands = commands or COMMANDS
     with tempfile.TemporaryDirectory() as temporary:
         folder = pathlib.Path(temporary)
         kept = []
         for number, program in enumerate(programs):
-            work = results(pathlib.Path(program).resolve(), designs, folder, further or {})
+            work = results(pathlib.Path(program).resolve(), designs, folder, commands)
             kept.append(work.rename(folder / str(number)))
         count = len(files_below(kept[0]))
         found = list(differences(*kept, same))
         # The project and what each command said are there without a single file written.
-        if count <= (1 + len(COMMANDS)) * len(designs):
+        if count <= (1 + len(commands)) * len(designs):
             found.append("nothing was written, so nothing was compared")
         return count, found
 
@@ -135,8 +193,9 @@ def main(arguments):
     if len(programs) != 2:
         sys.exit("usage: compare_programs.py [--nearly] KVT KVT")
     same = near_comparison() if nearly else same_bytes
-    compared, found = findings(pathlib.Path.cwd(), programs, same, ALL_POINTS if nearly else {})
-    end = f"{compared} files say the same. {same}" if nearly else f"{compared} files are the same to the byte."
+    designs = sample_designs(pathlib.Path.cwd())
+    compared, found = findings(designs, programs, same, ALL_POINTS if nearly else COMMANDS)
+    end = f"{compared} files say the same.\n{same}" if nearly else f"{compared} files are the same to the byte."
     print("\n".join(found) or end)
     return 1 if found else 0
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""kvt.exe under Wine. Usage: kvt_test.py KVT.EXE RECORDING_SERVER.EXE [UNITTEST OPTION]...
+"""kvt.exe under Wine. Usage: kvt_test.py KVT.EXE RECORDING_SERVER.EXE RANDOM_DESIGNS.EXE [UNITTEST OPTION]...
 
 The environment variable KVT_NATIVE names the kvt of this system: numbers, texts and calls are compared with its own.
 WINE names Wine.
+KVT_PROPERTY_SCALE is a factor of the number of random designs, KVT_PROPERTY_SEED another beginning of them.
 The recording server stands for the CAD packages and for the spreadsheet program, under their class names.
 """
 import contextlib
@@ -30,6 +31,8 @@ PACKAGES = {
 # Packages that make an object of each point take half a minute a rotor under Wine: the ports have fewer.
 ALL_MODELS = ("trochoid", "inner", "outer", "porting", "assembly")
 MODELS = {"acad": ALL_MODELS, "SW": ALL_MODELS, "invent": ("porting",), "SE": ("porting",), "CAT": ("porting",)}
+RANDOM_DESIGNS = 100
+RANDOM_SEED = 20211103
 LONGEST_WAIT = 150.0  # longer than the server rests when it has lost its client
 WINE = os.environ.get("WINE", "wine")
 NATIVE = os.environ.get("KVT_NATIVE", "")
@@ -48,12 +51,28 @@ class program_test(unittest.TestCase):
         return subprocess.run([NATIVE, *map(str, arguments)], cwd=self.folder, capture_output=True, check=False)
 
 
+    def expect_same_files(self, designs, commands, relative=compare_programs.RELATIVE):
+        same = compare_programs.near_comparison(relative)
+        count, found = compare_programs.findings(designs, (NATIVE, KVT), same, commands)
+        print(f"\n{count} files of {len(designs)} designs\n{same}", flush=True)
+        self.assertEqual(found, [])
+
+
+class random_test(program_test):
+    def test_numbers_and_files_of_random_designs_are_those_of_this_system(self):
+        count = max(1, round(RANDOM_DESIGNS * float(os.environ.get("KVT_PROPERTY_SCALE", "1"))))
+        seed = os.environ.get("KVT_PROPERTY_SEED", str(RANDOM_SEED))
+        print(f"KVT_PROPERTY_SEED={seed}")
+        subprocess.run([WINE, DESIGNS, self.folder, str(count), seed], check=True)
+        designs = sorted(self.folder.glob("*.KVT"))
+        self.assertEqual(len(designs), count)
+        commands = {name: compare_programs.COMMANDS[name] for name in ("calc", "export")}
+        self.expect_same_files(designs, commands, compare_programs.RANDOM_RELATIVE)
+
+
 class alone_test(program_test):
     def test_numbers_and_files_are_those_of_this_system(self):
-        same = compare_programs.near_comparison()
-        count, found = compare_programs.findings(ROOT, (NATIVE, KVT), same, compare_programs.ALL_POINTS)
-        print(f"\n{count} files. {same}")
-        self.assertEqual(found, [])
+        self.expect_same_files(compare_programs.sample_designs(ROOT), compare_programs.ALL_POINTS)
 
     def test_what_is_printed_is_utf_8_with_the_line_ends_of_this_system(self):
         arguments = ("calc", DESIGN, "--language", "2")
@@ -79,6 +98,20 @@ class alone_test(program_test):
                 self.assertEqual(done.returncode, 0, done.stderr.decode())
                 self.assertTrue((folder / name).is_file(), sorted(folder.rglob("*")))
 
+    def test_names_that_no_code_page_has_arrive_and_are_told(self):
+        shutil.copy(DESIGN, self.folder / "Насос 1.KVT")
+        done = self.start("export", "Насос 1.KVT", "--out", "папка/sub", "--dxf", "inner")
+        self.assertEqual(done.returncode, 0, done.stderr.decode())
+        self.assertEqual(done.stdout.decode().splitlines(), ["папка\\sub\\Насос 1.KVT", "папка\\sub\\inner.dxf"])
+        self.assertTrue((self.folder / "папка/sub/inner.dxf").is_file())
+        missing = self.start("calc", "нет.KVT")
+        self.assertEqual((missing.returncode, "нет.KVT" in missing.stderr.decode()), (3, True))
+
+    def test_paths_are_kept_with_the_separators_of_windows(self):
+        self.start("export", DESIGN, "--out", "a/b", "--dxf", "inner")
+        first_line = (self.folder / f"a/b/{DESIGN.name}").read_bytes().split(b"\r\n")[0].decode()
+        self.assertEqual(first_line, f"a\\b\\{DESIGN.name}")
+
     def test_exit_statuses_are_those_of_this_system(self):
         for arguments in (("calc", "none.KVT"), ("calc",), ("calc", DESIGN, "--set", "numlobes=0"), ("--version",)):
             with self.subTest(arguments):
@@ -86,6 +119,9 @@ class alone_test(program_test):
 
     def test_a_path_that_begins_with_a_slash_is_no_option(self):
         self.assertEqual(self.start("calc", DESIGN).returncode, 0)
+        none = self.start("calc", "/full")
+        self.assertEqual(none.returncode, self.native("calc", "/full").returncode)
+        self.assertIn("full", none.stderr.decode())
 
     def test_the_workbook_file_is_left_out_and_named(self):
         done = self.start("export", DESIGN, "--out", "out", "--workbook")
@@ -165,7 +201,7 @@ class late_binding_test(program_test):
 
 
 if __name__ == "__main__":
-    KVT, SERVER = (str(pathlib.Path(name).resolve()) for name in sys.argv[1:3])
+    KVT, SERVER, DESIGNS = (str(pathlib.Path(name).resolve()) for name in sys.argv[1:4])
     if not NATIVE:
         sys.exit("KVT_NATIVE must name the kvt of this system")
-    unittest.main(argv=[sys.argv[0], *sys.argv[3:]])
+    unittest.main(argv=[sys.argv[0], *sys.argv[4:]])
