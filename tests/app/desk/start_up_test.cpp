@@ -115,7 +115,7 @@ TEST_F(start_up_test, keeps_recent_paths_whole_that_KVT_ini_can_not_hold) {
     const std::filesystem::path cyrillic = folder.path() / "Насосы";
     std::filesystem::create_directory(cyrillic);
     const std::string path = utf8_of_path(cyrillic / "Насос.KVT");
-    write_file(path, joined(project_lines()));
+    write_file(path_of_utf8(path), joined(project_lines()));
     start_project(kavetta, person, path);
     start_project(kavetta, person, project_file("pump.KVT", project_lines()));
     program again;

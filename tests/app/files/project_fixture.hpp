@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/text_file.hpp"
 #include "support/scripted_user.hpp"
 #include "support/temporary_folder.hpp"
@@ -98,13 +99,13 @@ class project_test : public testing::Test {
 
     std::string project_file(const std::string& name, const std::vector<std::string>& lines) const {
         const std::string path = folder.file("projects/" + name);
-        write_file(path, joined(lines));
+        write_file(path_of_utf8(path), joined(lines));
         return path;
     }
 
     /// Line n (1-based) of a file, without its end; "(none)" behind the last line.
     static std::string line_of(const std::string& path, std::size_t n) {
-        const std::vector<std::string> lines = split_lines(read_file(path));
+        const std::vector<std::string> lines = split_lines(read_file(path_of_utf8(path)));
         return n <= lines.size() ? lines[n - 1] : "(none)";
     }
 
