@@ -145,6 +145,8 @@ class near_comparison:
         if left == right:
             return True
         self.kinds[ending].changed_files += 1
+        if is_sharp:  # a number of another length moves its neighbours in a table
+            left, right = (re.sub(" +", " ", text) for text in (left, right))
         if NUMBER.split(left) != NUMBER.split(right):
             return False
         pairs = zip(NUMBER.findall(left), NUMBER.findall(right))
