@@ -39,7 +39,7 @@ ROUNDED = {".cnc", ".dxf"}
 RANDOM_RELATIVE = 1e-8
 # Of the search for a corner: degrees, and millimetres at the radius of a port; and what results of it differ by.
 ONE_STEP = 0.0021
-STEP_RELATIVE = 1e-6
+STEP_RELATIVE = 1e-4
 # Places of chart marks in twips, which a last digit rounds to one side or the other.
 WHOLE = re.compile(r"-?\d+\.0")
 NUMBER = re.compile(r"[-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?")
