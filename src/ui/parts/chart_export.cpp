@@ -1,6 +1,7 @@
 #include "ui/parts/chart_export.hpp"
 
 #include "base/run_time_error.hpp"
+#include "ui/parts/svg_page.hpp"
 #include "ui/shell/qt_text.hpp"
 #include "views/charts/chart_csv.hpp"
 
@@ -9,7 +10,6 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 
 #include <algorithm>
 #include <array>
@@ -90,22 +90,6 @@ std::string exported_chart(const shown_chart& shown, chart_format format, double
             break;
     }
     return picture_file(chart_picture(shown, EXPORT_DENSITY * screen_density), "PNG");
-}
-
-std::string svg_of(const QSize& size, const QString& title,
-                   const std::function<void(QPainter&)>& paint_all) {
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    QSvgGenerator drawing;
-    drawing.setOutputDevice(&file);
-    drawing.setResolution(DOTS_PER_INCH);
-    drawing.setSize(size);
-    drawing.setViewBox(QRect(QPoint(0, 0), size));
-    drawing.setTitle(title);
-    QPainter painter(&drawing);
-    paint_all(painter);
-    painter.end();
-    return bytes_of(file);
 }
 
 std::string picture_file(const QImage& picture, const char* format) {

@@ -5,9 +5,7 @@
 
 #include <QImage>
 #include <QSize>
-#include <QString>
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -36,10 +34,6 @@ QImage chart_picture(const shown_chart& shown, double density);
 /// and texts, or the numbers of the curves. Curves that are hidden are in none of them.
 std::string exported_chart(const shown_chart& shown, chart_format format, double screen_density,
                            char decimal_mark);
-
-/// A drawing of a size in pixels as the bytes of an SVG file.
-std::string svg_of(const QSize& size, const QString& title,
-                   const std::function<void(QPainter&)>& paint_all);
 
 /// A picture as the file of a format that the painting library knows. Throws run_time_error
 /// (invalid property value) when it is none.

@@ -1,6 +1,7 @@
 #include "ui/parts/design_export.hpp"
 
 #include "ui/parts/chart_export.hpp"
+#include "ui/parts/svg_page.hpp"
 
 #include <QPainter>
 
