@@ -1,6 +1,7 @@
 #include "ui/parts/chart_painting.hpp"
 
 #include "core/form_table.hpp"
+#include "ui/parts/text_font.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QFontMetricsF>
@@ -114,8 +115,7 @@ void paint_legend_row(QPainter& painter, const legend_row& row, bool hidden) {
 }  // namespace
 
 QFont chart_font() {
-    QFont font("Liberation Sans");
-    font.setStyleHint(QFont::SansSerif);
+    QFont font = text_font();
     font.setPixelSize(FONT_PIXELS);
     return font;
 }

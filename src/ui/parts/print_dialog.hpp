@@ -14,9 +14,12 @@ enum class print_offers {
     whole_document,  ///< no pages and no selection; a file only where the system has no printer
 };
 
-/// Asks how to print; false when that is cancelled. Where the system has no printer the dialog
-/// proposes the file of the request: without a name it would be accepted and nothing printed.
+/// Asks how to print; false when that is cancelled. Where the system has no printer it is printed
+/// into a file, and that of the request is proposed.
 bool ask_how_to_print(QPrinter& printer, const print_request& request, print_offers offers,
                       QWidget* parent);
+
+/// The system's dialog for its printers, or for a file with them.
+bool show_print_dialog(QPrinter& printer, print_offers offers, bool offers_file, QWidget* parent);
 
 }  // namespace kvt

@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.hpp"
 #include "ui/parts/ink.hpp"
+#include "ui/parts/text_font.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QBuffer>
@@ -28,8 +29,7 @@ constexpr std::array LETTER_COUNTRIES = {
     QLocale::Philippines,  QLocale::PuertoRico};
 
 QFont qt_font(const sheet_font& font, double dots_per_mm) {
-    QFont shown("Liberation Sans");
-    shown.setStyleHint(QFont::SansSerif);
+    QFont shown = text_font();
     shown.setPixelSize(
         std::max(1, static_cast<int>(std::lround(font.points * MM_PER_POINT * dots_per_mm))));
     shown.setBold(font.is_bold);

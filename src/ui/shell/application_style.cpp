@@ -2,6 +2,7 @@
 
 #include "app/desk/program_title.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/text_font.hpp"
 #include "ui/shell/qt_text.hpp"
 
 #include <QApplication>
@@ -18,8 +19,8 @@ constexpr int FONT_SIZE_POINTS = 9;
 
 void set_application_style(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    QFont font("Liberation Sans", FONT_SIZE_POINTS);
-    font.setStyleHint(QFont::SansSerif);
+    QFont font = text_font();
+    font.setPointSize(FONT_SIZE_POINTS);
     QApplication::setFont(font);
     QApplication::setApplicationName(qt_text(PROGRAM_NAME));
     QApplication::setApplicationDisplayName(QString());

@@ -4,12 +4,11 @@
 #include "ui/shell/handover_words.hpp"
 #include "ui/shell/qt_path.hpp"
 #include "ui/shell/qt_text.hpp"
+#include "ui/shell/session.hpp"
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
-#include <QFileInfo>
 #include <QLocalSocket>
-#include <QStandardPaths>
 #include <QThread>
 
 #include <memory>
@@ -44,12 +43,9 @@ int remaining_ms(const QDeadlineTimer& limit) {
 using talk = std::unique_ptr<QLocalSocket>;
 
 /// Null when no program listens there.
-talk talk_with(const QString& socket, const QDeadlineTimer& limit) {
-    if (!QFileInfo::exists(socket)) {
-        return nullptr;
-    }
+talk talk_with(const QString& path, const QDeadlineTimer& limit) {
     auto other = std::make_unique<QLocalSocket>();
-    other->connectToServer(socket);
+    other->connectToServer(session_socket(path));
     return other->waitForConnected(remaining_ms(limit)) ? std::move(other) : nullptr;
 }
 
@@ -100,7 +96,7 @@ talk choose_program(std::vector<talk> asked, const QDeadlineTimer& limit) {
 }  // namespace
 
 QString handover_place(const std::filesystem::path& folder) {
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString own = session_folder();
     return own.isEmpty() ? QString() : own + "/kavetta-" + digest_of_place(folder);
 }
 
@@ -131,6 +127,7 @@ bool hand_over(const QString& place, const std::string& project) {
     if (chosen == nullptr) {
         return false;
     }
+    let_others_come_to_front();
     say(*chosen, {HANDED, path, qgetenv("XDG_ACTIVATION_TOKEN")});
     const auto answer = heard_answer(*chosen, QDeadlineTimer(HANDOVER_ANSWER_MS));
     return answer && *answer != handover_answer::declines;

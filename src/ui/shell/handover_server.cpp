@@ -3,6 +3,7 @@
 #include "ui/shell/hand_over.hpp"
 #include "ui/shell/handover_words.hpp"
 #include "ui/shell/qt_path.hpp"
+#include "ui/shell/session.hpp"
 
 #include <QLocalSocket>
 
@@ -27,8 +28,9 @@ bool handover_server::listen_at(const QString& path) {
     if (!number_) {
         return false;
     }
-    QLocalServer::removeServer(path);
-    return server_.listen(path);
+    const QString socket = session_socket(path);
+    QLocalServer::removeServer(socket);
+    return server_.listen(socket);
 }
 
 void handover_server::serve_next() {
