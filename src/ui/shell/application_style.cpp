@@ -7,7 +7,9 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace kvt {
 
@@ -15,10 +17,29 @@ namespace {
 
 constexpr int FONT_SIZE_POINTS = 9;
 
+/// Fusion, whose boxes have the ground of all entries. Windows has a palette of their own for its
+/// dark mode, made for another style: there a box without a tick would be filled like one with it.
+class fusion_style : public QProxyStyle {
+  public:
+    fusion_style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (box == nullptr ||
+            (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)) {
+            return QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+        QStyleOptionButton plain = *box;
+        plain.palette.setBrush(QPalette::Base, QGuiApplication::palette().base());
+        QProxyStyle::drawPrimitive(element, &plain, painter, widget);
+    }
+};
+
 }  // namespace
 
 void set_application_style(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new fusion_style);
     QFont font = text_font();
     font.setPointSize(FONT_SIZE_POINTS);
     QApplication::setFont(font);
