@@ -1,30 +1,32 @@
-// zeroed_array: a list of numbers, all 0 at first, that takes memory only once one of them is set.
+// zeroed_array: a list of numbers, all 0 at first, that takes memory only once one of them is set,
+// and shares it with its copies until one of those is written to.
 #pragma once
 
 #include <algorithm>
+#include <atomic>
 #include <cstddef>
-#include <cstdlib>
-#include <memory>
 #include <utility>
 
 namespace kvt {
 
 /// Elements 0 .. size - 1. An array that nobody wrote to is a size and nothing else; one that was
 /// written to lies in memory that the system zeroes page by page, so a large array of which the
-/// first part is used costs that part. A copy likewise takes what is not 0. Elements are not
-/// checked: go through checked_at.
+/// first part is used costs that part. A copy is a reference; the first access to either that may
+/// write parts them, which likewise takes what is not 0. So a reference to an element that may be
+/// written to holds until the array is copied. Copies may belong to different threads. Elements are
+/// not checked: go through checked_at.
 class zeroed_array {
   public:
     zeroed_array() = default;
     explicit zeroed_array(std::size_t size);
 
-    zeroed_array(const zeroed_array& other);
+    zeroed_array(const zeroed_array& other) noexcept;
     zeroed_array(zeroed_array&& other) noexcept { swap(other); }
     zeroed_array& operator=(zeroed_array other) noexcept {
         swap(other);
         return *this;
     }
-    ~zeroed_array() = default;
+    ~zeroed_array() { let_go(); }
 
     /// A new size, and every element this value.
     void assign(std::size_t size, double value);
@@ -35,8 +37,8 @@ class zeroed_array {
     double& operator[](std::size_t i) { return data()[i]; }
     const double& operator[](std::size_t i) const { return data()[i]; }
 
-    double* data() { return numbers_ ? numbers_.get() : make(); }
-    const double* data() const { return numbers_ ? numbers_.get() : shared_zeros(); }
+    double* data() { return is_own() ? memory_->numbers() : make_own(); }
+    const double* data() const { return memory_ != nullptr ? memory_->numbers() : shared_zeros(); }
     double* begin() { return data(); }
     double* end() { return data() + size_; }
     const double* begin() const { return data(); }
@@ -49,19 +51,30 @@ class zeroed_array {
   private:
     void swap(zeroed_array& other) noexcept {
         std::swap(size_, other.size_);
-        std::swap(numbers_, other.numbers_);
+        std::swap(memory_, other.memory_);
     }
 
-    struct freed {
-        void operator()(double* numbers) const { std::free(numbers); }
+    /// The numbers stand behind it.
+    struct alignas(16) shared_memory {
+        std::atomic<std::size_t> owners;
+
+        double* numbers() { return reinterpret_cast<double*>(this + 1); }
     };
 
-    double* make();
+    /// Whether nobody else sees what is written. What another thread that was an owner has read
+    /// comes before.
+    bool is_own() const {
+        return memory_ != nullptr && memory_->owners.load(std::memory_order_acquire) == 1;
+    }
+    double* make_own();
+    void make();
+    void take(const zeroed_array& other);
+    void let_go() noexcept;
     void size_as(std::size_t size);
     static const double* shared_zeros();
 
     std::size_t size_ = 0;
-    std::unique_ptr<double[], freed> numbers_;  // none: all elements are 0
+    shared_memory* memory_ = nullptr;  // none: all elements are 0
 };
 
 }  // namespace kvt

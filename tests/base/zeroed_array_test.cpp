@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <thread>
 #include <utility>
 
 namespace kvt {
@@ -50,6 +51,41 @@ TEST(zeroed_array, copies_every_number_and_stays_apart_from_its_copy) {
     EXPECT_FALSE(copy == numbers);
     numbers = copy;
     EXPECT_EQ(numbers[100], 7.0);
+}
+
+TEST(zeroed_array, shares_its_memory_with_a_copy_until_one_is_written_to) {
+    zeroed_array numbers(36001);
+    numbers[5] = 1.0;
+    const double* const memory = numbers.data();
+    zeroed_array copy = numbers;
+    EXPECT_EQ(std::as_const(copy).data(), memory);
+    numbers[6] = 2.0;
+    EXPECT_NE(std::as_const(numbers).data(), memory);
+    EXPECT_EQ(std::as_const(numbers)[5], 1.0);
+    EXPECT_EQ(std::as_const(copy)[6], 0.0);
+    copy[7] = 3.0;
+    EXPECT_EQ(std::as_const(copy).data(), memory) << "it is the only one that has it";
+}
+
+TEST(zeroed_array, parts_from_copies_in_other_threads) {
+    zeroed_array numbers(3601);
+    numbers[0] = 1.0;
+    for (int round = 0; round < 200; ++round) {
+        std::jthread reader([copy = numbers, round] {
+            ASSERT_EQ(copy[0], round + 1.0);
+            ASSERT_EQ(copy[3600], 0.0);
+        });
+        numbers[0] += 1.0;
+    }
+    EXPECT_EQ(numbers[0], 201.0);
+}
+
+TEST(zeroed_array, assigns_itself) {
+    zeroed_array numbers(3);
+    numbers[1] = 4.0;
+    const zeroed_array& same = numbers;
+    numbers = same;
+    EXPECT_EQ(numbers[1], 4.0);
 }
 
 TEST(zeroed_array, moves_its_numbers_and_leaves_nothing) {
