@@ -32,6 +32,8 @@ struct perf_inputs {
     bool outlet_double_sided = false;
     bool shadow_ports = false;
     bool metering_groove = false;
+
+    friend bool operator==(const perf_inputs&, const perf_inputs&) = default;
 };
 
 /// Double sided or shadow outlet: the rotors are balanced, their faces float in the middle of the

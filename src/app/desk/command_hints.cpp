@@ -28,10 +28,10 @@ bool run_with_hints(program& kavetta, user& person, const std::function<bool()>&
     return ends;
 }
 
-std::vector<hint> hints_on_display(const program& kavetta) {
+std::vector<hint> hints_on_display(const program& kavetta, performance_hint_memory& known) {
     std::vector<hint> hints = kavetta.hints;
     if (kavetta.enabling.calc_perf) {
-        add_performance_hint(kavetta, hints);
+        add_performance_hint(kavetta, known, hints);
     }
     return hints;
 }

@@ -12,6 +12,7 @@
 
 namespace kvt {
 
+class performance_hint_memory;
 struct program;
 
 /// Runs a command that begins without hints. Those that say that a written part would be scrap come
@@ -19,8 +20,9 @@ struct program;
 bool run_with_hints(program& kavetta, user& person, const std::function<bool()>& command);
 
 /// The hints that stand in the status bar now: those of the last command, and, while Calculate
-/// Performance can be pressed, what would make it fail.
-std::vector<hint> hints_on_display(const program& kavetta);
+/// Performance can be pressed, what would make it fail; `known` keeps that while the records stay
+/// the same.
+std::vector<hint> hints_on_display(const program& kavetta, performance_hint_memory& known);
 
 /// The one line of the status bar: the first hint, and how many stand behind it: "Hint: ... (+2)";
 /// empty without hints.

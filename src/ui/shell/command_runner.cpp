@@ -88,17 +88,26 @@ void command_runner::go_to_step(std::size_t step) {
     }
     emit starting();
     left_entry_.clear();
-    run_with({}, [&](program& kavetta, user& person) {
+    run_between({}, [&](program& kavetta, user& person) {
         restore_edited_state(kavetta, person, history_.step(step).state);
         history_.move_to(step);
         return false;
     });
+    finish(false);
 }
 
 bool command_runner::run_with(const std::string& entry, const command& action) {
     if (running_ || ended_) {
         return false;
     }
+    const bool is_done = run_between(entry, action);
+    emit recorded();
+    finish(action == nullptr);
+    return is_done;
+}
+
+/// The handler and the action, between which and after which nothing else runs.
+bool command_runner::run_between(const std::string& entry, const command& action) {
     running_ = true;
     bool is_done = false;
     ended_ = run_command(program_, person_, [&] {
@@ -108,12 +117,15 @@ bool command_runner::run_with(const std::string& entry, const command& action) {
         return ends;
     });
     running_ = false;
-    note_command(action == nullptr);
+    return is_done;
+}
+
+void command_runner::finish(bool is_left_entry) {
+    note_command(is_left_entry);
     emit finished();
     if (ended_) {
         emit ended();
     }
-    return is_done;
 }
 
 bool command_runner::step(const std::function<void(program&)>& action) {

@@ -65,6 +65,8 @@ class command_runner : public QObject {
     void stepped();
     /// A step has failed: what makes steps stops.
     void stopped();
+    /// A command has run, which may have changed the records; not for a step of the history.
+    void recorded();
     /// Forms show the program's state anew.
     void finished();
     /// The program ends; nothing is asked any more.
@@ -75,6 +77,8 @@ class command_runner : public QObject {
     bool run_left_entry();
     /// No action: the handler of the entry alone.
     bool run_with(const std::string& entry, const command& action);
+    bool run_between(const std::string& entry, const command& action);
+    void finish(bool is_left_entry);
     edited_state present_state() const;
     void note_command(bool is_left_entry);
 

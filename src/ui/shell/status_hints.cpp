@@ -34,7 +34,7 @@ status_hints::status_hints(const program& kavetta, QStatusBar& bar)
 }
 
 void status_hints::refresh() {
-    const std::vector<hint> hints = hints_on_display(kavetta_);
+    const std::vector<hint> hints = hints_on_display(kavetta_, performance_hint_);
     QStringList texts;
     for (const hint& row : hints) {
         texts.append(qt_text(row.text));

@@ -3,6 +3,8 @@
 // any more, and whether there is something to save.
 #pragma once
 
+#include "app/stages/performance_hint.hpp"
+
 #include <QObject>
 #include <QStringList>
 
@@ -25,6 +27,8 @@ class status_hints : public QObject {
     /// bar. F6 opens the list of the hints.
     status_hints(const program& kavetta, QStatusBar& bar);
 
+    /// The records may have changed since.
+    void forget_records() { performance_hint_.forget(); }
     /// Looks which hints stand, which results are stale and whether the entries are saved.
     void refresh();
     void show_cursor(const QString& place);
@@ -40,6 +44,7 @@ class status_hints : public QObject {
     void tell_new(const QStringList& lines);
 
     const program& kavetta_;
+    performance_hint_memory performance_hint_;
     hint_button* hints_;
     QLabel* trial_message_;
     QLabel* cursor_position_;

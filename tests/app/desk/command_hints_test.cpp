@@ -3,6 +3,7 @@
 
 #include "app/desk/run_command.hpp"
 #include "app/program.hpp"
+#include "app/stages/performance_hint.hpp"
 #include "base/checked_math.hpp"
 #include "support/scripted_user.hpp"
 
@@ -15,6 +16,7 @@ class command_hints_test : public testing::Test {
   protected:
     program kavetta;
     scripted_user person;
+    performance_hint_memory known;
 };
 
 TEST_F(command_hints_test, forgets_the_hints_of_the_command_before) {
@@ -23,9 +25,9 @@ TEST_F(command_hints_test, forgets_the_hints_of_the_command_before) {
         add_hint(kavetta.hints, "a new one");
         return false;
     }));
-    EXPECT_EQ(hints_on_display(kavetta), std::vector<hint>{{"a new one"}});
+    EXPECT_EQ(hints_on_display(kavetta, known), std::vector<hint>{{"a new one"}});
     EXPECT_TRUE(run_with_hints(kavetta, person, [] { return true; }));
-    EXPECT_TRUE(hints_on_display(kavetta).empty());
+    EXPECT_TRUE(hints_on_display(kavetta, known).empty());
     EXPECT_TRUE(person.messages.empty()) << "a line is no box";
 }
 

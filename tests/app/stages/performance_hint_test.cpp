@@ -143,6 +143,10 @@ class performance_hint_test : public performance_test {
         person.messages.clear();
         prepare(sample);
     }
+    std::vector<hint> hints_now() {
+        performance_hint_memory none;
+        return hints_on_display(kavetta, none);
+    }
     void end_outlet_at_180() {
         kavetta.entries.outlet_end_inner = kavetta.entries.outlet_end_outer = "180";
         ASSERT_TRUE(design_ports(kavetta, person).outlet);
@@ -199,16 +203,48 @@ TEST_F(performance_hint_test, changes_nothing) {
 
 TEST_F(performance_hint_test, stands_on_the_desk_before_the_press_in_both_languages) {
     prepare("n09_crank_oil");
-    EXPECT_TRUE(hints_on_display(kavetta).empty());
+    EXPECT_TRUE(hints_now().empty());
     end_outlet_at_180();
     EXPECT_TRUE(kavetta.hints.empty());
-    EXPECT_EQ(hints_on_display(kavetta),
-              std::vector<hint>{{"Outlet end angles of 180 leave no delivery"}});
+    EXPECT_EQ(hints_now(), std::vector<hint>{{"Outlet end angles of 180 leave no delivery"}});
     kavetta.app_state.language = GERMAN;
-    EXPECT_EQ(hints_on_display(kavetta),
+    EXPECT_EQ(hints_now(),
               std::vector<hint>{{"Endwinkel des Auslasses von 180 lassen keine Förderung"}});
     kavetta.enabling.calc_perf = false;
-    EXPECT_TRUE(hints_on_display(kavetta).empty()) << "nothing to press";
+    EXPECT_TRUE(hints_now().empty()) << "nothing to press";
+}
+
+TEST_F(performance_hint_test, is_worked_out_anew_for_other_entries_or_forgotten_records) {
+    prepare("n09_crank_oil");
+    performance_hint_memory known;
+    EXPECT_EQ(known.hint_for(kavetta), std::nullopt);
+    kavetta.entries.vap_press = "761";
+    EXPECT_EQ(known.hint_for(kavetta), performance_hint(kavetta));
+    EXPECT_NE(known.hint_for(kavetta), std::nullopt);
+    kavetta.entries.vap_press = "0.5";
+    EXPECT_EQ(known.hint_for(kavetta), std::nullopt);
+    end_outlet_at_180();
+    known.forget();
+    EXPECT_EQ(known.hint_for(kavetta), message::hint_outlet_ends_at_180);
+}
+
+TEST_F(performance_hint_test, is_known_while_the_records_stay) {
+    prepare("n09_crank_oil");
+    performance_hint_memory known;
+    known.hint_for(kavetta);
+    kavetta.port_params = port_params();  // behind its back
+    EXPECT_EQ(known.hint_for(kavetta), std::nullopt);
+    known.forget();
+    EXPECT_NE(known.hint_for(kavetta), std::nullopt);
+}
+
+TEST_F(performance_hint_test, of_a_number_that_is_too_large_is_not_kept) {
+    prepare("n09_crank_oil");
+    performance_hint_memory known;
+    kavetta.entries.vap_press = "1e999";
+    EXPECT_EQ(known.hint_for(kavetta), performance_hint(kavetta));
+    kavetta.entries.vap_press = "0.5";
+    EXPECT_EQ(known.hint_for(kavetta), std::nullopt);
 }
 
 TEST_F(performance_hint_test, stands_in_the_message_of_the_failure) {
