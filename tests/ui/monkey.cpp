@@ -261,7 +261,8 @@ void monkey::resize() {
 void monkey::choose_menu() {
     std::vector<QAction*> entries;
     for (QAction* entry : desktop_.window().findChildren<QAction*>()) {
-        const bool is_ours = entry->objectName().startsWith("mnu");
+        const bool is_ours = entry->objectName().startsWith("mnu") ||
+                             entry->parent()->objectName() == "viewpopupmenu";
         // Exit is left to the test: it would end most runs.
         if (is_ours && entry->isEnabled() && entry->isVisible() && entry->menu() == nullptr &&
             entry->objectName() != "mnufileexit") {
