@@ -32,6 +32,7 @@
 namespace kvt {
 
 class built_in_modeller;
+struct pinned_design;
 struct text_row;
 
 struct program {
@@ -55,6 +56,9 @@ struct program {
 
     kvt::stage_entries stage_entries;
     kvt::exact_record exact_record;
+
+    /// What the present design is compared with, through every project; null for nothing.
+    std::shared_ptr<const kvt::pinned_design> pinned;
 
     /// Calculate Performance ran to its end for this project: perf_results says something.
     bool performance_valid = false;

@@ -51,6 +51,7 @@ consteval auto form_rows() {
 #include "core/texts/model_view.inc"
 #include "core/texts/newprojectname.inc"
 #include "core/texts/perf_res.inc"
+#include "core/texts/pinned.inc"
 #include "core/texts/portdes.inc"
 #include "core/texts/progressfrm.inc"
 #include "core/texts/report.inc"

@@ -25,16 +25,6 @@ namespace kvt {
 
 namespace {
 
-file_dialog project_dialog(const program& kavetta, message title_end) {
-    const std::int16_t language = kavetta.app_state.language;
-    file_dialog dialog;
-    dialog.title = program_title() + std::string(message_text(title_end, language));
-    dialog.filter = message_text(message::project_filter, language);
-    dialog.filter_index = 2;
-    dialog.default_extension = "KVT";
-    return dialog;
-}
-
 void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {
     person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
                        std::string(path));
@@ -141,6 +131,15 @@ bool write_project_as(program& kavetta, user& person, const std::string& path) {
 
 }  // namespace
 
+file_dialog project_dialog(const program& kavetta, std::string_view title_end) {
+    file_dialog dialog;
+    dialog.title = program_title() + std::string(title_end);
+    dialog.filter = message_text(message::project_filter, kavetta.app_state.language);
+    dialog.filter_index = 2;
+    dialog.default_extension = "KVT";
+    return dialog;
+}
+
 void load_entries(program& kavetta, user& person, const std::string& path) {
     app_state& state = kavetta.app_state;
     const project_record record =
@@ -176,7 +175,8 @@ void open_project_file(program& kavetta, user& person, std::string_view path) {
 void open_project(program& kavetta, user& person) {
     try {
         find_projects_folder(kavetta);
-        file_dialog dialog = project_dialog(kavetta, message::open_project_title);
+        file_dialog dialog = project_dialog(
+            kavetta, message_text(message::open_project_title, kavetta.app_state.language));
         dialog.folder = kavetta.app_state.projects_folder;
         dialog.flags = HIDE_READ_ONLY;
         const std::optional<std::string> path = person.choose_file(dialog);
@@ -223,7 +223,8 @@ bool save_project_as(program& kavetta, user& person) {
     }
     try {
         find_projects_folder(kavetta);
-        file_dialog dialog = project_dialog(kavetta, message::save_project_title);
+        file_dialog dialog = project_dialog(
+            kavetta, message_text(message::save_project_title, kavetta.app_state.language));
         dialog.saving = true;
         dialog.folder = kavetta.app_state.projects_folder;
         dialog.flags = OVERWRITE_PROMPT;

@@ -61,6 +61,10 @@ const figure* find_figure(std::string_view form, std::string_view control) {
     return found == FIGURES.end() ? nullptr : found;
 }
 
+std::string figure_text(const figure& row, const labels& texts, char decimal_mark) {
+    return with_decimal_mark(number_in(texts.*row.text), decimal_mark);
+}
+
 std::string changed_figure_text(const figure& row, const labels& present, const labels& other,
                                 char decimal_mark) {
     const std::string shown = number_in(other.*row.text);

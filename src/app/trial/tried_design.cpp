@@ -3,7 +3,6 @@
 #include "app/program.hpp"
 #include "app/stages/entry_handlers.hpp"
 #include "app/stages/silent_user.hpp"
-#include "app/trial/design_trial.hpp"
 #include "base/run_time_error.hpp"
 #include "geometry/entry_checks.hpp"
 #include "views/port_lines.hpp"
@@ -47,17 +46,8 @@ tried_stages stages_on_display(const program& kavetta, std::string entry_in_use)
             std::move(entry_in_use)};
 }
 
-tried_design try_typed_entries(program copy, const tried_stages& stages) {
+tried_design tried_design_of(design_trial trial) {
     tried_design tried;
-    tried.messages = told_of_entries(copy, stages.entry_in_use);
-    const bool is_typed_out = tried.messages.empty();
-    if (!stages.has_rotors && (!is_typed_out || first_refused_entry(copy.entries))) {
-        return {};
-    }
-    if (!is_typed_out) {
-        return tried;
-    }
-    design_trial trial = try_design(copy, std::nullopt, stages.last);
     tried.messages = std::move(trial.messages);
     if (trial.result.end != batch_end::ok && !trial.result.ports_reached) {
         return tried;
@@ -68,6 +58,19 @@ tried_design try_typed_entries(program copy, const tried_stages& stages) {
     }
     tried.design = std::make_shared<const kept_design>(kept_design_of(std::move(trial.tried)));
     return tried;
+}
+
+tried_design try_typed_entries(program copy, const tried_stages& stages) {
+    tried_design tried;
+    tried.messages = told_of_entries(copy, stages.entry_in_use);
+    const bool is_typed_out = tried.messages.empty();
+    if (!stages.has_rotors && (!is_typed_out || first_refused_entry(copy.entries))) {
+        return {};
+    }
+    if (!is_typed_out) {
+        return tried;
+    }
+    return tried_design_of(try_design(copy, std::nullopt, stages.last));
 }
 
 }  // namespace kvt

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/stages/batch_run.hpp"
+#include "app/trial/design_trial.hpp"
 #include "app/trial/kept_design.hpp"
 
 #include <memory>
@@ -28,9 +29,12 @@ struct tried_design {
     std::vector<std::string> messages;  ///< what the boxes would have said
 };
 
+/// What a trial has brought: rotors alone where the ports are refused. A run-time failure refuses
+/// its stage.
+tried_design tried_design_of(design_trial trial);
+
 /// Runs the stages on a copy that nobody else holds (trial_copy). An entry that its leave handler
 /// or the clean-up of Calculate Profiles would replace counts as refused: it is just being typed.
-/// A run-time failure refuses its stage.
 tried_design try_typed_entries(program copy, const tried_stages& stages);
 
 }  // namespace kvt

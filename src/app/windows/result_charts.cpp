@@ -2,12 +2,14 @@
 
 #include "app/files/saved_text.hpp"
 #include "app/program.hpp"
+#include "app/trial/pinned_design.hpp"
 #include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/form_shower.hpp"
 #include "core/progress_shower.hpp"
 #include "core/text_table.hpp"
+#include "views/charts/pinned_curves.hpp"
 
 #include <array>
 #include <cstddef>
@@ -45,6 +47,17 @@ result_chart load_chart(program& kavetta, chart_kind kind) {
     const app_state& state = kavetta.app_state;
     kavetta.app_state.*flag_of(kind) = true;
     return make_chart(kind, kavetta.perf_results, state.language, length_unit_of(state).system);
+}
+
+result_chart beside_pinned(const program& kavetta, const result_chart& loaded,
+                           std::int16_t language, unit_system system) {
+    const pinned_design* pinned = kavetta.pinned.get();
+    if (pinned == nullptr || !pinned->design.has_performance) {
+        return loaded;
+    }
+    return with_pinned_curves(
+        loaded, make_chart(loaded.kind, pinned->design.perf_results, language, system),
+        std::string(form_text("pinned", "dashed", language)) + pinned->name);
 }
 
 void unload_chart(program& kavetta, chart_kind kind) {

@@ -23,6 +23,11 @@ void create_charts(const program& kavetta, form_shower& forms);
 /// language and units in force.
 result_chart load_chart(program& kavetta, chart_kind kind);
 
+/// A chart that was loaded in a language and units, with the curves of the pinned design, as far as
+/// there are any.
+result_chart beside_pinned(const program& kavetta, const result_chart& loaded,
+                           std::int16_t language, unit_system system);
+
 /// The unload of a chart: clears its flag.
 void unload_chart(program& kavetta, chart_kind kind);
 

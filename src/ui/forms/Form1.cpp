@@ -11,6 +11,7 @@
 #include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/language_flag.hpp"
+#include "ui/parts/pinned_label.hpp"
 #include "ui/parts/trial_label.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -172,6 +173,7 @@ void Form1::add_results(QVBoxLayout& layout) {
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(ROW_SPACING);
     grid->setColumnStretch(0, 1);
+    grid->addWidget(new pinned_heading, 0, 0, 1, 5);
     const auto add = [&](const char* label, const char* output) {
         const int row = grid->rowCount();
         QLabel* caption = named_label(label);
@@ -180,6 +182,7 @@ void Form1::add_results(QVBoxLayout& layout) {
         grid->addWidget(caption, row, 0);
         grid->addWidget(result, row, 1);
         grid->addWidget(new trial_label("Form1", output), row, 2);
+        grid->addWidget(new pinned_label("Form1", output), row, 4);
         if (has_exact_value("Form1", output)) {
             grid->addWidget(new differing_sign("Form1", output, context_), row, 3);
         }

@@ -20,14 +20,26 @@ double twips(double pixels) {
 }  // namespace
 
 graphview2::graphview2(const chart_row& row, form_context context)
-    : chart_view(load_chart(context.kavetta, row.kind), context, Qt::WindowShortcut) {
+    : chart_view(load_chart(context.kavetta, row.kind), context, Qt::WindowShortcut),
+      loaded_(chart()),
+      language_(context.kavetta.app_state.language),
+      system_(length_unit_of(context.kavetta.app_state).system) {
     setObjectName(qt_text(row.form));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(qt_text(chart().window_caption));
     setWindowIcon(program_icon());
     connect(this, &chart_view::close_asked, this, &QWidget::close);
+    connect(&context_.runner, &command_runner::finished, this, &graphview2::show_pinned);
     put_in_place();
+    show_pinned();
     draw();
+}
+
+void graphview2::show_pinned() {
+    if (pinned_ != context_.kavetta.pinned) {
+        pinned_ = context_.kavetta.pinned;
+        show_chart(beside_pinned(context_.kavetta, loaded_, language_, system_));
+    }
 }
 
 void graphview2::put_in_place() {

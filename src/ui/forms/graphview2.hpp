@@ -1,5 +1,5 @@
 // graphview2: a chart window, one class for the seven forms of the performance results. It shows
-// the results of the moment it was loaded.
+// the results of the moment it was loaded, and those of the pinned design as long as there is one.
 #pragma once
 
 #include "app/windows/result_charts.hpp"
@@ -8,7 +8,12 @@
 
 #include <QPointF>
 
+#include <cstdint>
+#include <memory>
+
 namespace kvt {
+
+struct pinned_design;
 
 class graphview2 : public chart_view {
     Q_OBJECT
@@ -29,8 +34,13 @@ class graphview2 : public chart_view {
 
   private:
     void put_in_place();
+    void show_pinned();
     void drag_window(const QPointF& step);
 
+    result_chart loaded_;  ///< without the pinned design, which comes and goes
+    std::int16_t language_;
+    unit_system system_;
+    std::shared_ptr<const pinned_design> pinned_;
     creeping_drag window_drag_;
     QPointF dragged_corner_;  ///< of the window while it is dragged, twips
 };

@@ -2,6 +2,7 @@
 
 #include "ui/parts/differing_sign.hpp"
 #include "ui/parts/form_parts.hpp"
+#include "ui/parts/pinned_label.hpp"
 #include "ui/parts/trial_label.hpp"
 
 #include <QGridLayout>
@@ -18,6 +19,9 @@ constexpr int WIDTH = 3540;
 /// Room between the results, pixels.
 constexpr int MARGIN = 8;
 constexpr int ROW_SPACING = 3;
+/// A caption, its result, the pinned one.
+constexpr int COLUMNS = 3;
+constexpr int PINNED_COLUMN = 2;
 
 class result_grid {
   public:
@@ -27,20 +31,23 @@ class result_grid {
         grid_->setHorizontalSpacing(MARGIN);
         grid_->setVerticalSpacing(ROW_SPACING);
         grid_->setColumnStretch(0, 1);
+        grid_->addWidget(new pinned_heading, 0, 0, 1, COLUMNS);
     }
 
-    /// A result in the row of its caption; its trial below it.
+    /// A result in the row of its caption, the pinned one beside it, its trial below it.
     void add(const char* caption, const char* result) {
         const int row = grid_->rowCount();
         QLabel* shown = compact_result(result);
         grid_->addWidget(caption_of_result(caption, *shown), row, 0);
         grid_->addWidget(shown, row, 1);
+        add_pinned(result, row);
         add_trial(result);
     }
     /// A result below its caption, which is long.
     void add_below(const char* caption, const char* result) {
         QLabel* shown = compact_result(result);
-        grid_->addWidget(wrapped(caption_of_result(caption, *shown)), grid_->rowCount(), 0, 1, 2);
+        grid_->addWidget(wrapped(caption_of_result(caption, *shown)), grid_->rowCount(), 0, 1,
+                         COLUMNS);
         const int row = grid_->rowCount();
         if (has_exact_value("perf_res", result)) {
             grid_->addWidget(shown, row, 1);
@@ -49,6 +56,7 @@ class result_grid {
         } else {
             grid_->addWidget(shown, row, 0, 1, 2);
         }
+        add_pinned(result, row);
         add_trial(result);
     }
     /// A result that is a whole sentence.
@@ -56,14 +64,18 @@ class result_grid {
         QLabel* sentence = wrapped(named_label(result));
         sentence->setTextInteractionFlags(Qt::TextSelectableByMouse);
         sentence->setFocusPolicy(Qt::NoFocus);
-        grid_->addWidget(sentence, grid_->rowCount(), 0, 1, 2);
+        grid_->addWidget(sentence, grid_->rowCount(), 0, 1, COLUMNS);
     }
     void add_trial(const char* result) {
         auto* trial = new trial_label("perf_res", result);
         trial->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        grid_->addWidget(trial, grid_->rowCount(), 0, 1, 2);
+        grid_->addWidget(trial, grid_->rowCount(), 0, 1, COLUMNS);
     }
-    void add_line() { grid_->addWidget(hairline(), grid_->rowCount(), 0, 1, 2); }
+    void add_pinned(const char* result, int row) {
+        grid_->addWidget(new pinned_label("perf_res", result), row, PINNED_COLUMN);
+    }
+    void add_pinned(const char* result) { add_pinned(result, grid_->rowCount()); }
+    void add_line() { grid_->addWidget(hairline(), grid_->rowCount(), 0, 1, COLUMNS); }
     void finish() { grid_->setRowStretch(grid_->rowCount(), 1); }
 
   private:
@@ -104,6 +116,7 @@ perf_res::perf_res(form_context context) : loaded_form("perf_res", context) {
     results.add_line();
     results.add_sentence("Label1");
     results.add_trial("Label1");
+    results.add_pinned("Label1");
     results.finish();
     bind(content, true);
 }

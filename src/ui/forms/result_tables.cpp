@@ -1,6 +1,7 @@
 #include "ui/forms/result_tables.hpp"
 
 #include "app/program.hpp"
+#include "app/trial/pinned_design.hpp"
 #include "core/text_table.hpp"
 #include "ui/parts/result_table_model.hpp"
 #include "ui/shell/qt_text.hpp"
@@ -13,6 +14,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -74,7 +76,22 @@ result_tables::result_tables(form_context context)
 
 result_tables::tab result_tables::add_tab(const char* name, QWidget* above) {
     auto* page = new QWidget;
-    const tab added{new QLabel, new QTableView, new result_table_model(page)};
+    auto* parts = new QSplitter(Qt::Vertical);
+    parts->setChildrenCollapsible(false);
+    const tab added{add_part(name, *parts), add_part(QString(name) + "_pinned", *parts)};
+    added.pinned.whole->hide();
+    auto* layout = new QVBoxLayout(page);
+    if (above != nullptr) {
+        layout->addWidget(above);
+    }
+    layout->addWidget(parts);
+    tabs_->addTab(page, QString());
+    return added;
+}
+
+result_tables::table_part result_tables::add_part(const QString& name, QSplitter& parts) {
+    auto* whole = new QWidget;
+    const table_part added{whole, new QLabel, new QTableView, new result_table_model(whole)};
     added.view->setObjectName(name);
     added.view->setModel(added.model);
     added.view->setSelectionMode(QAbstractItemView::ContiguousSelection);
@@ -87,13 +104,11 @@ result_tables::tab result_tables::add_tab(const char* name, QWidget* above) {
     copy_cells->setShortcutContext(Qt::WidgetShortcut);
     connect(copy_cells, &QAction::triggered, this, [this, added] { copy(added); });
     added.view->addAction(copy_cells);
-    auto* layout = new QVBoxLayout(page);
-    if (above != nullptr) {
-        layout->addWidget(above);
-    }
+    auto* layout = new QVBoxLayout(whole);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(added.axes);
     layout->addWidget(added.view);
-    tabs_->addTab(page, QString());
+    parts.addWidget(whole);
     return added;
 }
 
@@ -129,40 +144,99 @@ void result_tables::refresh() {
     const unit_system system = length_unit_of(kavetta.app_state).system;
     const std::vector<result_table> grids = grid_tables(kavetta.perf_results, language, system);
     for (std::size_t i = 0; i < grids.size(); ++i) {
-        show_in(i, grids[i]);
+        show_present(i, grids[i]);
     }
     show_choices(*speed_, grids.front().row_heads);
     show_choices(*pressure_, grids.front().column_heads);
     speed_label_->setText("&" + qt_text(grids.front().row_caption) + ":");
     pressure_label_->setText("&" + qt_text(grids.front().column_caption) + ":");
-    for (const tab& table : tables_) {
-        table.view->actions().front()->setText(
-            qt_text(form_text("result_tables", "copy_cells", language)));
+    for (QAction* copy_cells : findChildren<QAction*>("copy_cells")) {
+        copy_cells->setText(qt_text(form_text("result_tables", "copy_cells", language)));
     }
+    show_pinned_grids();
     show_angle_table();
+}
+
+std::size_t result_tables::chosen_speed() const {
+    return static_cast<std::size_t>(speed_->currentIndex());
+}
+
+std::size_t result_tables::chosen_pressure() const {
+    return static_cast<std::size_t>(pressure_->currentIndex());
 }
 
 void result_tables::show_angle_table() {
     const program& kavetta = context_.kavetta;
-    show_in(tables_.size() - 1,
-            angle_table(kavetta.perf_results, static_cast<std::size_t>(speed_->currentIndex()),
-                        static_cast<std::size_t>(pressure_->currentIndex()),
-                        kavetta.app_state.language, length_unit_of(kavetta.app_state).system));
+    show_present(tables_.size() - 1,
+                 angle_table(kavetta.perf_results, chosen_speed(), chosen_pressure(),
+                             kavetta.app_state.language, length_unit_of(kavetta.app_state).system));
+    show_pinned_angle_table();
 }
 
-void result_tables::show_in(std::size_t index, result_table table) {
-    const program& kavetta = context_.kavetta;
-    const tab& shown = tables_[index];
+void result_tables::show_present(std::size_t index, result_table table) {
+    const table_part& part = tables_[index].present;
     tabs_->setTabText(static_cast<int>(index), qt_text(table.name));
-    shown.axes->setText(axes_text(table));
-    shown.view->setAccessibleName(qt_text(table.name));
-    shown.view->setToolTip(tooltip_of(kavetta, "result_tables", TABS[index]));
-    const bool is_valid = kavetta.enabling.create_charts;
-    shown.model->show_table(is_valid ? std::move(table) : without_numbers(std::move(table)),
-                            kavetta.decimal_mark);
+    part.axes->setText(axes_text(table));
+    part.view->setAccessibleName(qt_text(table.name));
+    const bool is_valid = context_.kavetta.enabling.create_charts;
+    show_in(part, index, is_valid ? std::move(table) : without_numbers(std::move(table)));
 }
 
-void result_tables::copy(const tab& shown) const {
+/// The pinned design as far as it has numbers; null without.
+const kept_design* result_tables::pinned_performance() const {
+    const pinned_design* pinned = context_.kavetta.pinned.get();
+    return pinned == nullptr || !pinned->design.has_performance ? nullptr : &pinned->design;
+}
+
+void result_tables::show_pinned_grids() {
+    const program& kavetta = context_.kavetta;
+    const kept_design* pinned = pinned_performance();
+    for (const tab& table : tables_) {
+        table.pinned.whole->setVisible(pinned != nullptr);
+    }
+    if (pinned == nullptr) {
+        return;
+    }
+    const std::vector<result_table> grids = grid_tables(
+        pinned->perf_results, kavetta.app_state.language, length_unit_of(kavetta.app_state).system);
+    for (std::size_t i = 0; i < grids.size(); ++i) {
+        show_pinned(i, grids[i], axes_text(grids[i]));
+    }
+}
+
+/// At the speed and the pressure of the same number as those of the present design, which may be
+/// others, so they are named.
+void result_tables::show_pinned_angle_table() {
+    const kept_design* pinned = pinned_performance();
+    if (pinned == nullptr) {
+        return;
+    }
+    const std::int16_t language = context_.kavetta.app_state.language;
+    const unit_system system = length_unit_of(context_.kavetta.app_state).system;
+    const perf_results& results = pinned->perf_results;
+    const result_table grid = grid_tables(results, language, system).front();
+    result_table table = angle_table(results, chosen_speed(), chosen_pressure(), language, system);
+    const QString axes = axes_text(table) + "   " + qt_text(grid.row_caption) + ": " +
+                         qt_text(grid.row_heads[chosen_speed()]) + "   " +
+                         qt_text(grid.column_caption) + ": " +
+                         qt_text(grid.column_heads[chosen_pressure()]);
+    show_pinned(tables_.size() - 1, std::move(table), axes);
+}
+
+void result_tables::show_pinned(std::size_t index, result_table table, const QString& axes) {
+    const table_part& part = tables_[index].pinned;
+    const QString heading = qt_text(pinned_text(context_.kavetta));
+    part.axes->setText(heading + "   " + axes);
+    part.view->setAccessibleName(heading + ": " + qt_text(table.name));
+    show_in(part, index, std::move(table));
+}
+
+void result_tables::show_in(const table_part& part, std::size_t index, result_table table) {
+    part.view->setToolTip(tooltip_of(context_.kavetta, "result_tables", TABS[index]));
+    part.model->show_table(std::move(table), context_.kavetta.decimal_mark);
+}
+
+void result_tables::copy(const table_part& shown) const {
     const QItemSelection selection = shown.view->selectionModel()->selection();
     if (!selection.isEmpty()) {
         QGuiApplication::clipboard()->setText(qt_text(copied_cells(

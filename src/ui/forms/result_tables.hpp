@@ -1,4 +1,5 @@
-// result_tables: the Result Tables window, where the figures of the last run are read and copied.
+// result_tables: the Result Tables window, where the figures of the last run are read and copied,
+// with those of the pinned design below them.
 #pragma once
 
 #include "ui/shell/loaded_form.hpp"
@@ -8,12 +9,14 @@
 
 class QComboBox;
 class QLabel;
+class QSplitter;
 class QTableView;
 class QTabWidget;
 
 namespace kvt {
 
 class result_table_model;
+struct kept_design;
 
 class result_tables : public loaded_form {
     Q_OBJECT
@@ -26,18 +29,31 @@ class result_tables : public loaded_form {
     void refresh() override;
 
   private:
-    /// One tab: what rows and columns stand for above the numbers.
-    struct tab {
+    /// A table: what rows and columns stand for above the numbers.
+    struct table_part {
+        QWidget* whole;
         QLabel* axes;
         QTableView* view;
         result_table_model* model;
     };
+    struct tab {
+        table_part present, pinned;
+    };
 
     tab add_tab(const char* name, QWidget* above);
+    table_part add_part(const QString& name, QSplitter& parts);
     QWidget* choice_of_angle_table();
     void show_angle_table();
-    void show_in(std::size_t index, result_table table);
-    void copy(const tab& shown) const;
+    void show_present(std::size_t index, result_table table);
+    /// Shows the pinned tables, or none.
+    void show_pinned_grids();
+    void show_pinned_angle_table();
+    void show_pinned(std::size_t index, result_table table, const QString& axes);
+    void show_in(const table_part& part, std::size_t index, result_table table);
+    const kept_design* pinned_performance() const;
+    std::size_t chosen_speed() const;
+    std::size_t chosen_pressure() const;
+    void copy(const table_part& shown) const;
 
     QTabWidget* tabs_;
     std::vector<tab> tables_;  ///< the grids, then the table over the angle

@@ -1,9 +1,11 @@
 #include "ui/forms/viewwinfrm.hpp"
 
 #include "app/program.hpp"
+#include "app/trial/pinned_design.hpp"
 #include "app/windows/cursor_text.hpp"
 #include "app/windows/view_commands.hpp"
 #include "core/length_unit.hpp"
+#include "core/text_table.hpp"
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/design_picture.hpp"
 #include "ui/parts/design_popup.hpp"
@@ -219,6 +221,7 @@ void viewwinfrm::show_drawing() {
     const program& kavetta = context_.kavetta;
     picture_->show_view(kavetta.design_view, view_box(kavetta.view_state));
     show_sight();
+    show_pinned();
     show_overlays();
 }
 
@@ -317,6 +320,18 @@ void viewwinfrm::show_preview(const preview_state& trial) {
     show_overlays();
 }
 
+void viewwinfrm::show_pinned() {
+    const program& kavetta = context_.kavetta;
+    if (kavetta.pinned == nullptr) {
+        picture_->show_pinned(design_painting());
+        return;
+    }
+    const kept_design& pinned = kavetta.pinned->design;
+    const view_state place = overlay_place(kavetta, pinned);
+    picture_->show_pinned(
+        design_painting(overlay_of(pinned, pinned.outlines, place), view_box(place)));
+}
+
 /// They are drawn anew where the view stands, which a turn, a zoom or another size changes.
 void viewwinfrm::show_overlays() {
     std::vector<view_overlay> overlays;
@@ -349,6 +364,7 @@ void viewwinfrm::turn(turning direction) {
 void viewwinfrm::show_turned() {
     angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
     picture_->show_rotors(context_.kavetta.design_view);
+    show_pinned();
     show_overlays();
     tell_sight();
 }
@@ -364,8 +380,13 @@ void viewwinfrm::describe_picture() {
         qt_text(design_view_text(kavetta.design_params, kavetta.view_state, kavetta.design_view,
                                  length_unit_of(kavetta.app_state), kavetta.app_state.language));
     const QString more = qt_text(sight_words(source()));
-    set_accessible_description(
-        *picture_, (more.isEmpty() ? shown : shown + " " + more) + "\n" + picture_->toolTip());
+    QStringList sentences = {shown, more};
+    if (kavetta.pinned != nullptr) {
+        sentences.append(qt_text(form_text("pinned", "drawn", kavetta.app_state.language)) +
+                         qt_text(kavetta.pinned->name) + ".");
+    }
+    sentences.removeAll(QString());
+    set_accessible_description(*picture_, sentences.join(" ") + "\n" + picture_->toolTip());
 }
 
 void viewwinfrm::stop_turning() {

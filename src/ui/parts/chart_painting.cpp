@@ -13,6 +13,9 @@ namespace {
 
 constexpr int FONT_PIXELS = 12;
 constexpr double CURVE_WIDTH = 2.0;  ///< pixels
+/// Of the dashed curves, pixels, and their dashes in widths.
+constexpr double PINNED_WIDTH = 1.5;
+constexpr qreal DASH = 4.0, GAP = 3.0;
 constexpr double RING_RADIUS = 5.0;
 
 constexpr QColor GROUND(240, 240, 240);
@@ -83,16 +86,20 @@ void paint_axes(QPainter& painter, const chart_drawing& drawing) {
     }
 }
 
+QPen pinned_pen(int series) {
+    QPen pen(colour_of(series), PINNED_WIDTH, Qt::CustomDashLine, Qt::FlatCap, Qt::BevelJoin);
+    pen.setDashPattern({DASH, GAP});
+    return pen;
+}
+
 /// Round corners, 3600 of them in the ripple, would take most of the time of a repaint.
-void paint_curve(QPainter& painter, int series, const QPolygonF& curve) {
-    painter.setPen(
-        QPen(colour_of(series), CURVE_WIDTH, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
-    painter.drawPolyline(curve);
+QPen curve_pen(int series) {
+    return {colour_of(series), CURVE_WIDTH, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin};
 }
 
 /// The segments of a curve follow each other end to end, so each curve is one line.
-void paint_curves(QPainter& painter, const chart_drawing& drawing, const hidden_curves& hidden) {
-    const std::vector<chart_segment>& segments = drawing.graph_line;
+void paint_curves(QPainter& painter, const std::vector<chart_segment>& segments,
+                  const hidden_curves& hidden, QPen (*pen)(int series)) {
     for (std::size_t first = 0, next = 0; first < segments.size(); first = next) {
         const int series = segments[first].series;
         QPolygonF curve{in_pixels(point2{segments[first].x1, segments[first].y1})};
@@ -100,9 +107,16 @@ void paint_curves(QPainter& painter, const chart_drawing& drawing, const hidden_
             curve.append(in_pixels(point2{segments[next].x2, segments[next].y2}));
         }
         if (!is_series_hidden(series, hidden)) {
-            paint_curve(painter, series, curve);
+            painter.setPen(pen(series));
+            painter.drawPolyline(curve);
         }
     }
+}
+
+void paint_pinned_note(QPainter& painter, const chart_label& note) {
+    painter.setPen(LEGEND_INK);
+    painter.setFont(chart_font());
+    paint_label(painter, note);
 }
 
 void paint_legend_row(QPainter& painter, const legend_row& row, bool hidden) {
@@ -145,9 +159,12 @@ void paint_chart(QPainter& painter, const chart_drawing& drawing, const hidden_c
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(QRectF(QPointF(0.0, 0.0), area));
-    paint_curves(painter, drawing, hidden);
+    paint_curves(painter, drawing.graph_line, hidden, curve_pen);
+    painter.setClipRect(in_pixels(drawing.Picture1));
+    paint_curves(painter, drawing.pinned_line, hidden, pinned_pen);
     painter.restore();
     paint_texts(painter, drawing);
+    paint_pinned_note(painter, drawing.pinned_note);
 }
 
 void paint_legend(QPainter& painter, const chart_legend& legend, const hidden_curves& hidden) {

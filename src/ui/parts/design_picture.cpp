@@ -26,6 +26,9 @@ constexpr double LARGEST_TWIPS = 32767.0;
 constexpr int CROSS_STEP = 10;
 constexpr int CROSS_ARM = 12;
 
+/// Outlines of the pinned design, pixels: wide enough to be seen below a line of the same place.
+constexpr double PINNED_WIDTH = 2.4;
+
 /// What one notch of a wheel tells.
 constexpr double WHEEL_STEP = 120.0;
 
@@ -74,6 +77,11 @@ void design_picture::show_overlays(std::vector<view_overlay> overlays) {
     update();
 }
 
+void design_picture::show_pinned(design_painting pinned) {
+    pinned_ = std::move(pinned);
+    update();
+}
+
 void design_picture::show_sight(rotor_fill fill, sight_drawing sight) {
     fill_ = std::move(fill);
     sight_ = std::move(sight);
@@ -88,6 +96,7 @@ void design_picture::paint(QPainter& painter, const sight_palette& palette) cons
     painter.fillRect(rect(), qt_colour(palette.paper));
     painter.setRenderHint(QPainter::Antialiasing);
     paint_sight_ground(painter, fill_, sight_, palette);
+    pinned_.paint_outlines(painter, qt_colour(palette.pinned), PINNED_WIDTH);
     painting_.paint(painter, palette);
     paint_overlays(overlays_, painter);
     paint_sight(painter, sight_, palette);

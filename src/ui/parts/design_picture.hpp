@@ -26,6 +26,8 @@ class design_picture : public QWidget {
     void show_rotors(const design_view& view);
     void show_band(const rubber_band& band);
     void show_overlays(std::vector<view_overlay> overlays);
+    /// The outlines of the pinned design, below those of the present one.
+    void show_pinned(design_painting pinned);
     /// Takes over what lies below and beside the drawing.
     void show_sight(rotor_fill fill, sight_drawing sight);
 
@@ -88,6 +90,7 @@ class design_picture : public QWidget {
     bool is_measuring_ = false;
     view_box box_;
     design_painting painting_;
+    design_painting pinned_;
     std::vector<view_overlay> overlays_;
     rotor_fill fill_;
     sight_drawing sight_;

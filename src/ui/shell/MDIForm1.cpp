@@ -4,6 +4,7 @@
 #include "app/files/project_commands.hpp"
 #include "app/files/written_results.hpp"
 #include "app/program.hpp"
+#include "app/trial/pinned_design.hpp"
 #include "app/windows/close_forms.hpp"
 #include "core/user.hpp"
 #include "ui/forms/Aboutform.hpp"
@@ -16,6 +17,7 @@
 #include "ui/parts/drawn_icons.hpp"
 #include "ui/parts/entry_nudge.hpp"
 #include "ui/parts/ink.hpp"
+#include "ui/parts/pinned_label.hpp"
 #include "ui/parts/trial_label.hpp"
 #include "ui/shell/edit_menu.hpp"
 #include "ui/shell/form_factory.hpp"
@@ -36,6 +38,8 @@
 #include <QMimeData>
 #include <QStatusBar>
 #include <QUrl>
+
+#include <utility>
 
 namespace kvt {
 
@@ -98,6 +102,7 @@ void MDIForm1::connect_commands() {
         is_first_layout_ = false;
         statusBar()->clearMessage();  // it belongs to the command before
     });
+    connect(&context_.runner, &command_runner::recorded, hints_, &status_hints::forget_records);
     connect(&context_.runner, &command_runner::finished, this, &MDIForm1::refresh);
     connect(&context_.runner, &command_runner::edited, hints_, &status_hints::refresh);
     connect(&context_.runner, &command_runner::edited, edits_, &edit_menu::refresh);
@@ -148,6 +153,7 @@ void MDIForm1::refresh() {
         form->name_controls();
     }
     show_preview();
+    show_pinned();
 }
 
 /// The trial of the entries as they are being typed; a screen reader hears nothing of it.
@@ -165,6 +171,21 @@ void MDIForm1::show_preview() {
         }
     }
     hints_->show_trial_message(trial.messages());
+}
+
+void MDIForm1::show_pinned() {
+    const program& kavetta = context_.kavetta;
+    const bool showed_pinned = std::exchange(shows_pinned_, kavetta.pinned != nullptr);
+    if (!showed_pinned && !shows_pinned_) {
+        return;
+    }
+    std::optional<pinned_figures> pinned;
+    if (shows_pinned_) {
+        pinned = {labels_of(kavetta.pinned->design, kavetta.app_state), pinned_text(kavetta)};
+    }
+    for (const QPointer<mdi_form>& form : forms_) {
+        form->show_pinned(pinned ? &*pinned : nullptr);
+    }
 }
 
 void MDIForm1::show_start(const start_layout& start) {

@@ -52,6 +52,7 @@ class MDIForm1 : public QMainWindow {
     void connect_commands();
     void connect_announcements();
     void show_preview();
+    void show_pinned();
     void place_child(const form_row& form);
     void place_children();
     void place_fixed_windows();
@@ -74,6 +75,7 @@ class MDIForm1 : public QMainWindow {
     window_menu* windows_;
     status_hints* hints_;
     preview* preview_;
+    bool shows_pinned_ = false;
     limits_line* limits_ = nullptr;
     announcer* announcer_;
     result_news news_;

@@ -3,6 +3,7 @@
 #include "app/files/file_output.hpp"
 #include "app/files/project_commands.hpp"
 #include "app/program.hpp"
+#include "app/trial/pinned_design.hpp"
 #include "ui/shell/access_keys.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -129,7 +130,15 @@ void main_menu::refresh() {
     refresh_titles();
     refresh_recent_entries();
     refresh_updates();
-    actions_["mnuwindowpreview"]->setChecked(context_.kavetta.app_state.preview_on);
+    refresh_comparison();
+}
+
+/// Preview and the pinned design, which follow the state of the program and no record of it.
+void main_menu::refresh_comparison() {
+    const program& kavetta = context_.kavetta;
+    actions_["mnuwindowpreview"]->setChecked(kavetta.app_state.preview_on);
+    actions_["mnuwindowpin"]->setEnabled(can_pin_design(kavetta));
+    actions_["mnuwindowunpin"]->setEnabled(kavetta.pinned != nullptr);
 }
 
 /// The titles in the bar have access keys all the time.

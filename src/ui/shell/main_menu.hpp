@@ -36,6 +36,7 @@ class main_menu : public QObject {
     void refresh_titles();
     void refresh_recent_entries();
     void refresh_updates();
+    void refresh_comparison();
 
     form_context context_;
     QMainWindow& window_;

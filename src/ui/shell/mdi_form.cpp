@@ -4,6 +4,7 @@
 #include "core/window_rectangles.hpp"
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/pinned_label.hpp"
 #include "ui/parts/trial_label.hpp"
 #include "ui/shell/qt_text.hpp"
 
@@ -58,6 +59,10 @@ void mdi_form::name_controls() {
 
 void mdi_form::show_trial(const trial_figures* trial) {
     show_trial_figures(*this, context_.kavetta.labels, trial, context_.kavetta.decimal_mark);
+}
+
+void mdi_form::show_pinned(const pinned_figures* pinned) {
+    show_pinned_figures(*this, pinned, context_.kavetta.decimal_mark);
 }
 
 void mdi_form::place(const window_rectangle& rectangle) {

@@ -12,6 +12,7 @@ class QPushButton;
 
 namespace kvt {
 
+struct pinned_figures;
 struct trial_figures;
 
 /// A child window named as its form. A derived class builds its controls below a content widget,
@@ -31,6 +32,9 @@ class mdi_form : public QMdiSubWindow {
 
     /// Shows what a trial would change the results to; null: there is none.
     virtual void show_trial(const trial_figures* trial);
+
+    /// Shows the results of the pinned design; null: nothing is pinned.
+    void show_pinned(const pinned_figures* pinned);
 
     /// Places the window, frame included; twips, 15 to a logical pixel.
     void place(const window_rectangle& rectangle);

@@ -11,6 +11,7 @@
 #include "app/files/project_commands.hpp"
 #include "app/gt/gt_simulation.hpp"
 #include "app/models/solid_models.hpp"
+#include "app/trial/pinned_design.hpp"
 #include "ui/parts/internet_transfer.hpp"
 #include "ui/parts/sheet_pdf.hpp"
 #include "ui/shell/help_file.hpp"
@@ -115,6 +116,9 @@ const std::array MENU_ROWS = {
     // Below these stand the titles of the child windows.
     menu_row{"mnuwindow", "", MENU},
     menu_row{"mnuwindowpreview", "mnuwindow", ENTRY, false, NO_KEY, going_on<toggle_preview>, true},
+    menu_row{"mnuwindowpin", "mnuwindow", ENTRY, false, NO_KEY, going_on<pin_design>},
+    menu_row{"mnuwindowpinfile", "mnuwindow", ENTRY, false, NO_KEY, going_on<pin_project_file>},
+    menu_row{"mnuwindowunpin", "mnuwindow", ENTRY, false, NO_KEY, going_on<unpin_design>},
     menu_row{"sep_windows", "mnuwindow", menu_kind::separator},
 
     menu_row{"mnuhelp", "", MENU},

@@ -33,6 +33,7 @@ constexpr double Y_MARKER_RISE = 110.0;
 constexpr double X_MARKER_BEFORE = 140.0;
 constexpr double X_MARKER_BELOW = 80.0;
 constexpr double X_MARKER_WIDTH = 600.0;
+constexpr double NOTE_INSIDE = 60.0;
 constexpr double LEGEND_BEFORE_END = 1620.0;
 constexpr double LEGEND_BELOW_TOP = 100.0;
 constexpr double LEGEND_WIDTH = 1500.0;
@@ -260,10 +261,39 @@ void add_segments(const result_chart& chart, const chart_axes& axes, const chart
     }
 }
 
+// The pinned design.
+
+void add_pinned_segments(const chart_axes& axes, int steps, const pinned_curve& curve,
+                         chart_drawing& drawing) {
+    const auto place = [&](std::size_t k) {
+        return point2{axes.x(curve.steps[k], steps), axes.y(curve.values[k])};
+    };
+    for (std::size_t k = 1; k < curve.values.size(); ++k) {
+        const point2 from = place(k - 1), to = place(k);
+        drawing.pinned_line.push_back({curve.series, from.x, from.y, to.x, to.y});
+    }
+}
+
+/// In the lower left corner of the plot.
+void add_pinned_note(const result_chart& chart, const chart_axes& axes, chart_drawing& drawing) {
+    drawing.pinned_note = {{axes.X1 + NOTE_INSIDE, axes.y1 - NOTE_INSIDE - LABEL_HEIGHT,
+                            axes.X2 - axes.X1 - 2.0 * NOTE_INSIDE, LABEL_HEIGHT},
+                           chart.pinned_note,
+                           {}};
+}
+
+void add_pinned(const result_chart& chart, const chart_axes& axes, chart_drawing& drawing) {
+    for (const pinned_curve& curve : chart.pinned) {
+        add_pinned_segments(axes, chart.steps, curve, drawing);
+    }
+    add_pinned_note(chart, axes, drawing);
+}
+
 void fit_texts(const chart_size& size, const text_metrics& metrics, chart_drawing& drawing) {
     fit_y_markers(metrics, drawing);
     fit_x_markers(size, metrics, drawing);
     fit_titles(metrics, drawing);
+    fit_in_box(drawing.pinned_note, metrics);
     if (drawing.legend_frame) {
         fit_legend(metrics, *drawing.legend_frame);
     }
@@ -291,6 +321,7 @@ chart_drawing draw_chart(const result_chart& chart, const chart_size& size,
     for (const chart_curve& curve : chart.curves) {
         add_segments(chart, axes, curve, drawing);
     }
+    add_pinned(chart, axes, drawing);
     if (!chart.legend_caption.empty()) {
         drawing.legend_frame = legend_of(chart, axes);
     }

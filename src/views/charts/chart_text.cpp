@@ -37,7 +37,7 @@ std::string chart_text(const result_chart& chart, const hidden_curves& hidden,
     }
     return axis_text(chart.x_title, chart.x_marks) + "; " + axis_text(chart.title, chart.y_marks) +
            "; " + std::string(form_text("spoken", "curves", language)) + std::to_string(count) +
-           curves;
+           curves + (chart.pinned_note.empty() ? "" : "; " + chart.pinned_note);
 }
 
 }  // namespace kvt

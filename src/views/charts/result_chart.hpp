@@ -40,6 +40,13 @@ struct chart_curve {
     std::vector<double> values;  ///< in the units shown, one a point
 };
 
+/// A curve of the pinned design, dashed in the colour of its series.
+struct pinned_curve {
+    int series = 1;
+    std::vector<double> steps;   ///< where its points stand on the x axis, as first_step + k
+    std::vector<double> values;  ///< in the units shown
+};
+
 /// A number beside an axis. Those of the x axis stand at equal distances from its left end to its
 /// right.
 struct chart_mark {
@@ -69,6 +76,9 @@ struct result_chart {
     double minimum = 0.0, maximum = 1.0;  ///< values at the ends of the y axis, maximum > minimum
     std::vector<chart_mark> y_marks;      ///< from the bottom up
     std::vector<chart_mark> x_marks;
+
+    std::vector<pinned_curve> pinned;  ///< with_pinned_curves
+    std::string pinned_note;           ///< whose they are; empty without them
 };
 
 /// A chart of the results as they stand; a copy, which later runs and changes of language or units

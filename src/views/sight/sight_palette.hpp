@@ -12,6 +12,7 @@ struct sight_palette {
     rgb_colour inlet, outlet, groove, groove_end;
     rgb_colour marked_chamber, marked_contact;
     rgb_colour cross;
+    rgb_colour pinned;   ///< the outlines of the pinned design
     rgb_colour chamber;  ///< the surface of a chamber whose area is told
     rgb_colour grid, grid_axis, scale_bar, dimension, extension, area, contact, measure;
 };

@@ -3,6 +3,7 @@
 
 #include "core/form_table.hpp"
 #include "ui/sample_chart.hpp"
+#include "views/charts/pinned_curves.hpp"
 
 #include <QApplication>
 #include <QImage>
@@ -67,6 +68,19 @@ TEST(chart_painting, a_hidden_curve_is_not_painted_and_its_square_is_empty) {
     window.hidden[2] = true;
     EXPECT_EQ(count_of(picture_of(window), colour_of(3)), 0);
     EXPECT_GT(count_of(picture_of(window), colour_of(2)), 400);
+}
+
+TEST(chart_painting, the_pinned_curves_are_dashed_and_hidden_with_their_series) {
+    sample_window window;
+    const int solid = count_of(picture_of(window), colour_of(3));
+    window.chart.curves.clear();
+    window.chart = with_pinned_curves(window.chart, sample_chart(), "Dashed: other");
+    window.drawing = draw_chart(window.chart, chart_size(), std::nullopt, chart_metrics());
+    const int dashed = count_of(picture_of(window), colour_of(3));
+    EXPECT_GT(dashed, 50);
+    EXPECT_LT(dashed, solid * 3 / 4);
+    window.hidden[2] = true;
+    EXPECT_EQ(count_of(picture_of(window), colour_of(3)), 0);
 }
 
 TEST(chart_painting, texts_have_the_room_that_was_measured) {

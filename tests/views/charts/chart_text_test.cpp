@@ -44,5 +44,12 @@ TEST(chart_text, says_the_one_curve_of_the_ripple) {
     EXPECT_NE(text.find("; Curves: 1; "), std::string::npos) << text;
 }
 
+TEST(chart_text, says_whose_curves_are_dashed) {
+    result_chart chart =
+        make_chart(chart_kind::flow, chart_results(), ENGLISH, unit_system::metric);
+    chart.pinned_note = "Dashed: engine_oil";
+    EXPECT_TRUE(chart_text(chart, {}, ENGLISH).ends_with("; Dashed: engine_oil"));
+}
+
 }  // namespace
 }  // namespace kvt
