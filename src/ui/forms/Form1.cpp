@@ -61,6 +61,8 @@ const std::vector<std::vector<entry_row>>& entry_groups() {
 /// layout.
 constexpr int ROW_SPACING = 1;
 constexpr int GROUP_SPACING = 4;
+/// Between a result, its trial and the pinned one.
+constexpr int RESULT_SPACING = 3;
 constexpr int MARGIN = 6;
 constexpr int ENTRY_WIDTH = 92;
 
@@ -170,13 +172,13 @@ void Form1::add_results(QVBoxLayout& layout) {
     card->setAutoFillBackground(true);
     auto* grid = new QGridLayout(card);
     grid->setContentsMargins(MARGIN, 3, MARGIN, 3);
-    grid->setHorizontalSpacing(6);
+    grid->setHorizontalSpacing(RESULT_SPACING);
     grid->setVerticalSpacing(ROW_SPACING);
     grid->setColumnStretch(0, 1);
-    grid->addWidget(new pinned_heading, 0, 0, 1, 5);
     const auto add = [&](const char* label, const char* output) {
         const int row = grid->rowCount();
         QLabel* caption = named_label(label);
+        caption->setFont(compact_font());
         QLabel* result = result_label(output);
         caption->setBuddy(result);
         grid->addWidget(caption, row, 0);

@@ -7,7 +7,9 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QVBoxLayout>
+#include <QScrollArea>
+
+#include <algorithm>
 
 namespace kvt {
 
@@ -124,6 +126,33 @@ perf_res::perf_res(form_context context) : loaded_form("perf_res", context) {
 void perf_res::refresh() {
     loaded_form::refresh();
     refresh_signs(*this);
+}
+
+void perf_res::show_trial(const trial_figures* trial) {
+    loaded_form::show_trial(trial);
+    grow_to_content();
+}
+
+void perf_res::show_pinned(const pinned_figures* pinned) {
+    loaded_form::show_pinned(pinned);
+    grow_to_content();
+}
+
+/// Where its rows become more, the window becomes higher rather than scrolls, as far as the main
+/// window has room below it.
+void perf_res::grow_to_content() {
+    auto* area = qobject_cast<QScrollArea*>(widget());
+    if (area == nullptr || isMaximized() || isMinimized() || isShaded()) {
+        return;
+    }
+    QLayout* rows = area->widget()->layout();
+    rows->activate();
+    const int width = std::max(area->viewport()->width(), rows->minimumSize().width());
+    const int missing = rows->totalHeightForWidth(width) - area->viewport()->height();
+    const int room = parentWidget()->height() - geometry().bottom();
+    if (const int more = std::min(missing, room); more > 0) {
+        resize(this->width(), height() + more);
+    }
 }
 
 QSize perf_res::start_size() const {

@@ -13,6 +13,11 @@ class perf_res : public loaded_form {
 
     QSize start_size() const override;
     void refresh() override;
+    void show_trial(const trial_figures* trial) override;
+    void show_pinned(const pinned_figures* pinned) override;
+
+  private:
+    void grow_to_content();
 };
 
 }  // namespace kvt

@@ -200,7 +200,7 @@ void result_tables::show_pinned_grids() {
     const std::vector<result_table> grids = grid_tables(
         pinned->perf_results, kavetta.app_state.language, length_unit_of(kavetta.app_state).system);
     for (std::size_t i = 0; i < grids.size(); ++i) {
-        show_pinned(i, grids[i], axes_text(grids[i]));
+        show_pinned_table(i, grids[i], axes_text(grids[i]));
     }
 }
 
@@ -220,10 +220,10 @@ void result_tables::show_pinned_angle_table() {
                          qt_text(grid.row_heads[chosen_speed()]) + "   " +
                          qt_text(grid.column_caption) + ": " +
                          qt_text(grid.column_heads[chosen_pressure()]);
-    show_pinned(tables_.size() - 1, std::move(table), axes);
+    show_pinned_table(tables_.size() - 1, std::move(table), axes);
 }
 
-void result_tables::show_pinned(std::size_t index, result_table table, const QString& axes) {
+void result_tables::show_pinned_table(std::size_t index, result_table table, const QString& axes) {
     const table_part& part = tables_[index].pinned;
     const QString heading = qt_text(pinned_text(context_.kavetta));
     part.axes->setText(heading + "   " + axes);

@@ -48,7 +48,7 @@ class result_tables : public loaded_form {
     /// Shows the pinned tables, or none.
     void show_pinned_grids();
     void show_pinned_angle_table();
-    void show_pinned(std::size_t index, result_table table, const QString& axes);
+    void show_pinned_table(std::size_t index, result_table table, const QString& axes);
     void show_in(const table_part& part, std::size_t index, result_table table);
     const kept_design* pinned_performance() const;
     std::size_t chosen_speed() const;

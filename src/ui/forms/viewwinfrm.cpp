@@ -221,7 +221,7 @@ void viewwinfrm::show_drawing() {
     const program& kavetta = context_.kavetta;
     picture_->show_view(kavetta.design_view, view_box(kavetta.view_state));
     show_sight();
-    show_pinned();
+    draw_pinned();
     show_overlays();
 }
 
@@ -320,7 +320,7 @@ void viewwinfrm::show_preview(const preview_state& trial) {
     show_overlays();
 }
 
-void viewwinfrm::show_pinned() {
+void viewwinfrm::draw_pinned() {
     const program& kavetta = context_.kavetta;
     if (kavetta.pinned == nullptr) {
         picture_->show_pinned(design_painting());
@@ -364,7 +364,7 @@ void viewwinfrm::turn(turning direction) {
 void viewwinfrm::show_turned() {
     angle_->setText(qt_text(context_.kavetta.entries.rotated_angle));
     picture_->show_rotors(context_.kavetta.design_view);
-    show_pinned();
+    draw_pinned();
     show_overlays();
     tell_sight();
 }

@@ -100,7 +100,7 @@ class viewwinfrm : public mdi_form {
     void turn(turning direction);
     void stop_turning();
     void describe_picture();
-    void show_pinned();
+    void draw_pinned();
     void show_overlays();
     void add_overlay(const shown_trial& trial, const overlaid_outlines& which,
                      std::vector<view_overlay>& overlays) const;

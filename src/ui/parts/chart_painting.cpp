@@ -160,7 +160,6 @@ void paint_chart(QPainter& painter, const chart_drawing& drawing, const hidden_c
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(QRectF(QPointF(0.0, 0.0), area));
     paint_curves(painter, drawing.graph_line, hidden, curve_pen);
-    painter.setClipRect(in_pixels(drawing.Picture1));
     paint_curves(painter, drawing.pinned_line, hidden, pinned_pen);
     painter.restore();
     paint_texts(painter, drawing);

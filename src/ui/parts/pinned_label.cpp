@@ -10,6 +10,13 @@
 
 namespace kvt {
 
+namespace {
+
+/// Between the width of a text and that of its label, pixels.
+constexpr int ROOM_FOR_ROUNDING = 2;
+
+}  // namespace
+
 pinned_label::pinned_label(const char* form, const char* control)
     : figure_(find_figure(form, control)) {
     setObjectName(QString(control) + "_pinned");
@@ -40,7 +47,6 @@ pinned_heading::pinned_heading() {
     setObjectName("pinned_heading");
     setFont(compact_font());
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     hide();
 }
 
@@ -48,7 +54,16 @@ void pinned_heading::show_heading(const pinned_figures* pinned) {
     heading_ = pinned == nullptr ? QString() : qt_text(pinned->heading);
     setToolTip(heading_);
     setVisible(!heading_.isEmpty());
+    updateGeometry();
     elide();
+}
+
+QSize pinned_heading::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(heading_) + ROOM_FOR_ROUNDING, fontMetrics().height()};
+}
+
+QSize pinned_heading::minimumSizeHint() const {
+    return {1, fontMetrics().height()};
 }
 
 void pinned_heading::resizeEvent(QResizeEvent* event) {

@@ -35,7 +35,7 @@ class pinned_label : public QLabel {
     const figure* figure_;
 };
 
-/// The head of the column, cut where the form is narrower; whole in its tooltip.
+/// The head of the column, cut where there is less room; whole in its tooltip.
 class pinned_heading : public QLabel {
     Q_OBJECT
 
@@ -43,6 +43,9 @@ class pinned_heading : public QLabel {
     pinned_heading();
 
     void show_heading(const pinned_figures* pinned);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -69,6 +69,8 @@ MDIForm1::MDIForm1(form_context context) : context_(context), area_(new QMdiArea
     windows_ = new window_menu(context, *this);
     statusBar()->setObjectName("status_bar");
     hints_ = new status_hints(context.kavetta, *statusBar());
+    pinned_heading_ = new pinned_heading;
+    statusBar()->addPermanentWidget(pinned_heading_);
     announcer_ = new announcer(statusBar());
     // The first form of the table comes last, on top of the others.
     const auto rows = fixed_child_rows();
@@ -183,6 +185,7 @@ void MDIForm1::show_pinned() {
     if (shows_pinned_) {
         pinned = {labels_of(kavetta.pinned->design, kavetta.app_state), pinned_text(kavetta)};
     }
+    pinned_heading_->show_heading(pinned ? &*pinned : nullptr);
     for (const QPointer<mdi_form>& form : forms_) {
         form->show_pinned(pinned ? &*pinned : nullptr);
     }

@@ -18,6 +18,7 @@ struct form_row;
 class edit_menu;
 class limits_line;
 class mdi_form;
+class pinned_heading;
 class preview;
 class status_hints;
 class window_menu;
@@ -75,6 +76,7 @@ class MDIForm1 : public QMainWindow {
     window_menu* windows_;
     status_hints* hints_;
     preview* preview_;
+    pinned_heading* pinned_heading_;
     bool shows_pinned_ = false;
     limits_line* limits_ = nullptr;
     announcer* announcer_;

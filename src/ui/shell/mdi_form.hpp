@@ -34,7 +34,7 @@ class mdi_form : public QMdiSubWindow {
     virtual void show_trial(const trial_figures* trial);
 
     /// Shows the results of the pinned design; null: nothing is pinned.
-    void show_pinned(const pinned_figures* pinned);
+    virtual void show_pinned(const pinned_figures* pinned);
 
     /// Places the window, frame included; twips, 15 to a logical pixel.
     void place(const window_rectangle& rectangle);

@@ -263,14 +263,42 @@ void add_segments(const result_chart& chart, const chart_axes& axes, const chart
 
 // The pinned design.
 
-void add_pinned_segments(const chart_axes& axes, int steps, const pinned_curve& curve,
+/// Part of a curve between two of its points, in steps of the x axis.
+struct curve_part {
+    double step1, value1, step2, value2;
+
+    double value_at(double step) const {
+        return value1 + (value2 - value1) * (step - step1) / (step2 - step1);
+    }
+};
+
+/// What of it lies over the axis; nothing when none does.
+std::optional<curve_part> cut_to_axis(const curve_part& part, double steps) {
+    if (!(part.step1 < part.step2) || part.step2 <= 0.0 || part.step1 >= steps) {
+        return std::nullopt;
+    }
+    curve_part cut = part;
+    if (part.step1 < 0.0) {
+        cut.step1 = 0.0;
+        cut.value1 = part.value_at(0.0);
+    }
+    if (part.step2 > steps) {
+        cut.step2 = steps;
+        cut.value2 = part.value_at(steps);
+    }
+    return cut;
+}
+
+void add_pinned_segments(const chart_axes& axes, double steps, const pinned_curve& curve,
                          chart_drawing& drawing) {
-    const auto place = [&](std::size_t k) {
-        return point2{axes.x(curve.steps[k], steps), axes.y(curve.values[k])};
-    };
     for (std::size_t k = 1; k < curve.values.size(); ++k) {
-        const point2 from = place(k - 1), to = place(k);
-        drawing.pinned_line.push_back({curve.series, from.x, from.y, to.x, to.y});
+        const auto part = cut_to_axis(
+            {curve.steps[k - 1], curve.values[k - 1], curve.steps[k], curve.values[k]}, steps);
+        if (part) {
+            drawing.pinned_line.push_back({curve.series, axes.x(part->step1, steps),
+                                           axes.y(part->value1), axes.x(part->step2, steps),
+                                           axes.y(part->value2)});
+        }
     }
 }
 

@@ -64,7 +64,7 @@ struct chart_drawing {
     std::vector<chart_label> yaxis_marker, xaxis_marker;
     chart_label xaxis_title, graph_title;
     std::vector<chart_segment> graph_line;     ///< in the order of the curves
-    std::vector<chart_segment> pinned_line;    ///< dashed, cut at the edge of Picture1
+    std::vector<chart_segment> pinned_line;    ///< dashed, cut at the ends of X_axis
     chart_label pinned_note;                   ///< inside Picture1; empty without pinned curves
     std::optional<chart_legend> legend_frame;  ///< none in the ripple chart
 };

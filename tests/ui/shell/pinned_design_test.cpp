@@ -7,6 +7,8 @@
 #include "ui/forms/graphview2.hpp"
 
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTableView>
 
 namespace kvt {
@@ -15,6 +17,7 @@ namespace {
 
 constexpr const char* DESIGN = "n07_engine_oil_groove";
 constexpr const char* OTHER = "n09_crank_oil";
+constexpr int PATIENCE_MS = 20000;
 
 class pinned_design_test : public desktop_test {
   protected:
@@ -38,10 +41,11 @@ class pinned_design_test : public desktop_test {
         const QLabel* shown = find<QLabel>((QString(result) + "_pinned").toUtf8().constData());
         return shown->isHidden() ? std::string() : utf8_text(shown->text());
     }
-    std::string heading_on(const char* form) {
-        const QLabel* heading = find_on<QLabel>(form, "pinned_heading");
+    static std::string heading_below(const QWidget& parent) {
+        const auto* heading = parent.findChild<QLabel*>("pinned_heading");
         return heading->isHidden() ? std::string() : utf8_text(heading->toolTip());
     }
+    std::string heading() { return heading_below(*window().statusBar()); }
     /// Pixels of the sheet in the grey of the pinned outlines.
     int grey_pixels() {
         settle();
@@ -104,20 +108,34 @@ TEST_F(pinned_design_test, lies_in_grey_below_the_present_pair) {
 
 TEST_F(pinned_design_test, stands_in_a_column_beside_the_results) {
     calculate_everything();
-    EXPECT_EQ(heading_on("Form1"), "");
+    EXPECT_EQ(heading(), "");
     const std::string capacity = label("capacity");
     const std::string speed = label("max_speed");
     choose("mnuwindowpin");
     EXPECT_EQ(pinned_text_of("capacity"), capacity);
-    EXPECT_EQ(heading_on("Form1"), "Pinned: " + kavetta().app_state.project_name);
+    EXPECT_EQ(heading(), "Pinned: " + kavetta().app_state.project_name);
     calculate_with("ecc", "2.7");
     EXPECT_NE(label("capacity"), capacity);
     EXPECT_EQ(pinned_text_of("capacity"), capacity);
     EXPECT_EQ(speed, " " + pinned_text_of("max_speed") + " RPM");
-    EXPECT_EQ(heading_on("perf_res"), "Pinned: " + kavetta().app_state.project_name);
+    EXPECT_EQ(heading_below(*loaded("perf_res")), "Pinned: " + kavetta().app_state.project_name);
     choose("mnuwindowunpin");
     EXPECT_EQ(pinned_text_of("capacity"), "");
-    EXPECT_EQ(heading_on("perf_res"), "");
+    EXPECT_EQ(heading_below(*loaded("perf_res")), "");
+}
+
+TEST_F(pinned_design_test, leaves_no_result_below_a_scroll_bar) {
+    calculate_everything();
+    choose("mnuwindowpin");
+    type("ecc", "2.7");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return !find<QLabel>("max_speed_trial")->isHidden(); }, PATIENCE_MS));
+    settle();
+    for (const char* form : {"Form1", "perf_res"}) {
+        const auto* area = window().findChild<QMdiSubWindow*>(form)->findChild<QScrollArea*>();
+        EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << form;
+        EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << form;
+    }
 }
 
 TEST_F(pinned_design_test, stays_through_another_project_in_its_units) {
@@ -195,7 +213,7 @@ TEST_F(pinned_design_test, is_named_in_the_language_in_force) {
     choose("mnuwindowpin");
     QTest::mouseClick(find<QWidget>("Image2"), Qt::LeftButton);
     settle();
-    EXPECT_EQ(heading_on("Form1"), "Angeheftet: " + kavetta().app_state.project_name);
+    EXPECT_EQ(heading(), "Angeheftet: " + kavetta().app_state.project_name);
 }
 
 }  // namespace kvt

@@ -104,5 +104,22 @@ TEST(with_pinned_curves, are_drawn_as_the_curves_of_the_chart_are) {
     EXPECT_TRUE(draw_chart(chart_of(chart_kind::flow, chart_results()), {}).pinned_line.empty());
 }
 
+// Pressures 0, 3, 6, 9 .. bar beside those from 1 to 6: from -1 to 2, to 5, and beyond it.
+TEST(with_pinned_curves, are_cut_at_the_ends_of_the_axis) {
+    const chart_drawing drawing =
+        draw_chart(beside(chart_kind::flow, results_at_pressures(0.0, 3.0)), {});
+    ASSERT_EQ(drawing.pinned_line.size(), 2U * 5U);
+    const chart_segment& first = drawing.pinned_line[0];
+    const chart_segment& last = drawing.pinned_line[1];
+    EXPECT_EQ(first.x1, drawing.X_axis.x1);
+    EXPECT_NEAR(last.x2, drawing.X_axis.x2, 1e-9);
+    // Curve 1 rises from 10 by one a point: 10 1/3 where it meets the axis.
+    const double a_litre = (drawing.Y_axis.y2 - drawing.Y_axis.y1) / 55.0;
+    EXPECT_NEAR(first.y1, drawing.Y_axis.y2 - (10.0 + 1.0 / 3.0) * a_litre, 1e-9);
+    EXPECT_NEAR(first.y2, drawing.Y_axis.y2 - 11.0 * a_litre, 1e-9);
+    const auto far = draw_chart(beside(chart_kind::flow, results_at_pressures(20.0, 1.0)), {});
+    EXPECT_TRUE(far.pinned_line.empty());
+}
+
 }  // namespace
 }  // namespace kvt
