@@ -190,7 +190,9 @@ void Form1::add_results(QVBoxLayout& layout) {
         }
     };
     add("Label11", "capacity");
-    grid->addWidget(named_label("units_label"), grid->rowCount() - 1, 2);
+    QLabel* unit = named_label("units_label");
+    unit->setIndent(RESULT_SPACING);
+    grid->addWidget(unit, grid->rowCount() - 1, 2);
     add("Label17", "area_ratio");
     add("Label18", "max_chamb_vol");
     add("Label19", "min_chamb_vol");
