@@ -26,6 +26,7 @@ namespace kvt {
 namespace {
 
 constexpr QSize START_SIZE(800, 340);
+constexpr QSize ROOM_FOR_PINNED(0, 250);
 constexpr int MARGIN = 8;
 
 /// The tabs in the order of grid_tables, then the angle.
@@ -134,7 +135,7 @@ QWidget* result_tables::choice_of_angle_table() {
 }
 
 QSize result_tables::start_size() const {
-    return START_SIZE;
+    return pinned_performance() == nullptr ? START_SIZE : START_SIZE + ROOM_FOR_PINNED;
 }
 
 void result_tables::refresh() {
