@@ -34,7 +34,7 @@ PERFORMANCE_FILES = {"Save Flow vs Pressure Data": "flow", "Save Torque & Power 
                      "Save Lobe Contact & Stress Data": "contact", "Save Efficiency Data": "efficiency",
                      "Save Volumetric Data": "volumetric"}
 SAVED_LINES = 60
-LANGUAGE_LINE, GERMAN = 5, "2"  # of KVT.ini
+RECENT_PROJECTS, LANGUAGE_LINE, GERMAN = 3, 5, "2"  # of KVT.ini
 AUTOMATIC_FILES = ("autosave.KVT", "recovery.KVT")
 
 
@@ -215,8 +215,9 @@ class tour:
         expect(f"the program's folder still has {automatic}", not automatic)
         settings = project_lines(self.local / "Kavetta/KVT.ini")
         expect(f"the language is {settings[LANGUAGE_LINE - 1]}", settings[LANGUAGE_LINE - 1] == GERMAN)
-        recent = settings[0]
-        expect(f"the last project is {recent}", recent.endswith(r"\Prüfung Öl\Zahnräder groß.KVT"))
+        recent = settings[:RECENT_PROJECTS]
+        expect(f"the recent projects are {recent}",
+               any(each.endswith(r"\Prüfung Öl\Zahnräder groß.KVT") for each in recent))
 
     def uninstall(self):
         settings = (self.local / "Kavetta/KVT.ini").read_bytes()
