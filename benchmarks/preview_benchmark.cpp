@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include <atomic>
 #include <benchmark/benchmark.h>
 #include <utility>
 
@@ -33,7 +34,7 @@ kvt::tried_design try_beside(kvt::latest_task& task, const kvt::program& kavetta
     auto copy = std::make_shared<kvt::program>(kvt::trial_copy(kavetta));
     const kvt::tried_stages stages = kvt::stages_on_display(kavetta, "ecc");
     std::optional<kvt::tried_design> found;
-    task.start([copy, stages, &found]() -> kvt::latest_task::ending {
+    task.start([copy, stages, &found](const std::atomic<bool>&) -> kvt::latest_task::ending {
         auto tried =
             std::make_shared<kvt::tried_design>(kvt::try_typed_entries(std::move(*copy), stages));
         return [tried, &found] { found = std::move(*tried); };
