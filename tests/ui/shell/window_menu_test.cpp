@@ -27,12 +27,12 @@ class window_menu_test : public desktop_test {
 
 TEST_F(window_menu_test, has_the_titles_of_the_five_windows_the_results_and_the_models) {
     start();
-    const std::vector<std::string> expected = {"Preview",       "",  // a line
-                                               "Design",        "Port Design",
-                                               "Design View",   "Performance",
-                                               "Charts",        "Performance Results",
-                                               "Result Tables", "Exact Figures",
-                                               "Model View"};
+    const std::vector<std::string> expected = {
+        "Preview",   "Pin Design",          "Pin Project File...", "Unpin Design",
+        "",  // a line
+        "Design",    "Port Design",         "Design View",         "Performance",
+        "Charts",    "Performance Results", "Result Tables",       "Exact Figures",
+        "Model View"};
     EXPECT_EQ(titles(), expected);
 }
 
@@ -57,8 +57,8 @@ TEST_F(window_menu_test, shows_the_titles_in_german) {
     write_settings('2');
     start();
     EXPECT_EQ(utf8_text(find<QMenu>("mnuwindow")->title()), "&Fenster") << "with its access key";
-    EXPECT_EQ(titles()[2], utf8_text(form("Form1")->windowTitle()));
-    EXPECT_EQ(titles()[4], "Entwerfen Sie Blick");
+    EXPECT_EQ(titles()[5], utf8_text(form("Form1")->windowTitle()));
+    EXPECT_EQ(titles()[7], "Entwerfen Sie Blick");
 }
 
 TEST_F(window_menu_test, shows_a_closed_window_again_in_front_with_its_entries) {
