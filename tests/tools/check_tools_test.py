@@ -461,7 +461,7 @@ class test_script_test(tree_test):
 
     def test_the_programs_of_windows_are_compared_with_those_of_preset_ci(self):
         self.run_it("--all")
-        self.assertIn("scripts/windows/test build/ci/apps/kvt/kvt", self.started.read_text())
+        self.assertIn("scripts/windows/test --batch build/ci/apps/kvt/kvt", self.started.read_text())
         self.started.unlink()
         lines = self.run_it("--all", KVT_WITHOUT_WINDOWS="1")[1]
         self.assertIn("./test: left out: the programs of Windows", lines)
