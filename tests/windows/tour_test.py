@@ -217,7 +217,7 @@ class tour:
         expect(f"the language is {settings[LANGUAGE_LINE - 1]}", settings[LANGUAGE_LINE - 1] == GERMAN)
         recent = settings[:RECENT_PROJECTS]
         expect(f"the recent projects are {recent}",
-               any(each.endswith(r"\Prüfung Öl\Zahnräder groß.KVT") for each in recent))
+               any(each.endswith(r"\Prüfung Öl\Pumpe ä.KVT") for each in recent))
 
     def uninstall(self):
         settings = (self.local / "Kavetta/KVT.ini").read_bytes()
