@@ -1,6 +1,7 @@
 #include "ui/forms/GT_form.hpp"
 
 #include "app/program.hpp"
+#include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
 #include "core/text_table.hpp"
 #include "ui/parts/form_parts.hpp"
@@ -49,7 +50,7 @@ void GT_form::run() {
 
 void GT_form::show_screen() {
     const std::string name = "GT_screen_" + std::to_string(gt_guide_screen_) + ".jpg";
-    const QPixmap picture = picture_of_file(kavetta_.folder / name);
+    const QPixmap picture = picture_of_file(kavetta_.folder / path_of_utf8(name));
     picture_->setPixmap(picture.scaledToWidth(WIDTH, Qt::SmoothTransformation));
     picture_->setAccessibleName(
         qt_text(form_text("spoken", "gt_guide", kavetta_.app_state.language)) +
