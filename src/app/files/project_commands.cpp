@@ -25,6 +25,15 @@ namespace kvt {
 
 namespace {
 
+file_dialog project_dialog(const program& kavetta, std::string_view title_end) {
+    file_dialog dialog;
+    dialog.title = program_title() + std::string(title_end);
+    dialog.filter = message_text(message::project_filter, kavetta.app_state.language);
+    dialog.filter_index = 2;
+    dialog.default_extension = "KVT";
+    return dialog;
+}
+
 void show_done_status(const program& kavetta, user& person, message id, std::string_view path) {
     person.show_status(std::string(message_text(id, kavetta.app_state.language)) +
                        std::string(path));
@@ -131,13 +140,13 @@ bool write_project_as(program& kavetta, user& person, const std::string& path) {
 
 }  // namespace
 
-file_dialog project_dialog(const program& kavetta, std::string_view title_end) {
-    file_dialog dialog;
-    dialog.title = program_title() + std::string(title_end);
-    dialog.filter = message_text(message::project_filter, kavetta.app_state.language);
-    dialog.filter_index = 2;
-    dialog.default_extension = "KVT";
-    return dialog;
+std::optional<std::string> choose_project(const program& kavetta, user& person,
+                                          std::string_view title_end, const std::string& folder) {
+    file_dialog dialog = project_dialog(kavetta, title_end);
+    dialog.folder = folder;
+    dialog.flags = HIDE_READ_ONLY;
+    std::optional<std::string> path = person.choose_file(dialog);
+    return path && path->empty() ? std::nullopt : path;
 }
 
 void load_entries(program& kavetta, user& person, const std::string& path) {
@@ -175,12 +184,10 @@ void open_project_file(program& kavetta, user& person, std::string_view path) {
 void open_project(program& kavetta, user& person) {
     try {
         find_projects_folder(kavetta);
-        file_dialog dialog = project_dialog(
-            kavetta, message_text(message::open_project_title, kavetta.app_state.language));
-        dialog.folder = kavetta.app_state.projects_folder;
-        dialog.flags = HIDE_READ_ONLY;
-        const std::optional<std::string> path = person.choose_file(dialog);
-        if (path && !path->empty()) {
+        const std::optional<std::string> path = choose_project(
+            kavetta, person, message_text(message::open_project_title, kavetta.app_state.language),
+            kavetta.app_state.projects_folder);
+        if (path) {
             load_and_remember(kavetta, person, *path);
         }
     } catch (const run_time_error& error) {

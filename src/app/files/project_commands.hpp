@@ -1,8 +1,7 @@
 // The commands of the File menu that deal with projects, and Clear Design.
 #pragma once
 
-#include "core/file_chooser.hpp"
-
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -39,8 +38,10 @@ void load_entries(program& kavetta, user& person, const std::string& path);
 /// The end of every load: the labels of the unit, the project reset, the assist switched off.
 void reset_results(program& kavetta, user& person);
 
-/// A dialog for project files, with the program's title and this behind it.
-file_dialog project_dialog(const program& kavetta, std::string_view title_end);
+/// Asks for a project file to open, in a dialog with the program's title and this behind it that
+/// starts in a folder. Nothing when none is chosen.
+std::optional<std::string> choose_project(const program& kavetta, user& person,
+                                          std::string_view title_end, const std::string& folder);
 
 /// Save: to project_path when the project has a file, else Save As. Asks first when the file
 /// could not be opened again (see find_unopenable_entry), and when it can only be overwritten where

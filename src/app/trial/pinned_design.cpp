@@ -62,6 +62,12 @@ std::string pinned_text(const program& kavetta) {
     return kavetta.pinned == nullptr ? "" : text_of(kavetta, "name") + kavetta.pinned->name;
 }
 
+const perf_results* pinned_performance(const program& kavetta) {
+    const pinned_design* pinned = kavetta.pinned.get();
+    return pinned == nullptr || !pinned->design.has_performance ? nullptr
+                                                                : &pinned->design.perf_results;
+}
+
 bool can_pin_design(const program& kavetta) {
     return has_rotors(kavetta.design_view);
 }
@@ -74,11 +80,9 @@ void pin_design(program& kavetta, user& person) {
 
 void pin_project_file(program& kavetta, user& person) {
     try {
-        file_dialog dialog = project_dialog(kavetta, text_of(kavetta, "title"));
-        dialog.folder = project_folder(kavetta);
-        dialog.flags = HIDE_READ_ONLY;
-        const std::optional<std::string> path = person.choose_file(dialog);
-        if (path && !path->empty()) {
+        const std::optional<std::string> path =
+            choose_project(kavetta, person, text_of(kavetta, "title"), project_folder(kavetta));
+        if (path) {
             pin_project(kavetta, person, *path);
         }
     } catch (const run_time_error& error) {

@@ -19,6 +19,9 @@ struct pinned_design {
 /// "Pinned: engine_oil", in the language in force; empty without a pinned design.
 std::string pinned_text(const program& kavetta);
 
+/// The results of the pinned design; null without one that has any.
+const perf_results* pinned_performance(const program& kavetta);
+
 /// Whether there are rotors to be pinned.
 bool can_pin_design(const program& kavetta);
 

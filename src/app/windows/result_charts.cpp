@@ -51,13 +51,13 @@ result_chart load_chart(program& kavetta, chart_kind kind) {
 
 result_chart beside_pinned(const program& kavetta, const result_chart& loaded,
                            std::int16_t language, unit_system system) {
-    const pinned_design* pinned = kavetta.pinned.get();
-    if (pinned == nullptr || !pinned->design.has_performance) {
+    const perf_results* pinned = pinned_performance(kavetta);
+    if (pinned == nullptr) {
         return loaded;
     }
     return with_pinned_curves(
-        loaded, make_chart(loaded.kind, pinned->design.perf_results, language, system),
-        std::string(form_text("pinned", "dashed", language)) + pinned->name);
+        loaded, make_chart(loaded.kind, *pinned, language, system),
+        std::string(form_text("pinned", "dashed", language)) + kavetta.pinned->name);
 }
 
 void unload_chart(program& kavetta, chart_kind kind) {

@@ -135,7 +135,8 @@ QWidget* result_tables::choice_of_angle_table() {
 }
 
 QSize result_tables::start_size() const {
-    return pinned_performance() == nullptr ? START_SIZE : START_SIZE + ROOM_FOR_PINNED;
+    return pinned_performance(context_.kavetta) == nullptr ? START_SIZE
+                                                           : START_SIZE + ROOM_FOR_PINNED;
 }
 
 void result_tables::refresh() {
@@ -183,23 +184,17 @@ void result_tables::show_present(std::size_t index, result_table table) {
     show_in(part, index, is_valid ? std::move(table) : without_numbers(std::move(table)));
 }
 
-/// The pinned design as far as it has numbers; null without.
-const kept_design* result_tables::pinned_performance() const {
-    const pinned_design* pinned = context_.kavetta.pinned.get();
-    return pinned == nullptr || !pinned->design.has_performance ? nullptr : &pinned->design;
-}
-
 void result_tables::show_pinned_grids() {
     const program& kavetta = context_.kavetta;
-    const kept_design* pinned = pinned_performance();
+    const perf_results* pinned = pinned_performance(kavetta);
     for (const tab& table : tables_) {
         table.pinned.whole->setVisible(pinned != nullptr);
     }
     if (pinned == nullptr) {
         return;
     }
-    const std::vector<result_table> grids = grid_tables(
-        pinned->perf_results, kavetta.app_state.language, length_unit_of(kavetta.app_state).system);
+    const std::vector<result_table> grids =
+        grid_tables(*pinned, kavetta.app_state.language, length_unit_of(kavetta.app_state).system);
     for (std::size_t i = 0; i < grids.size(); ++i) {
         show_pinned_table(i, grids[i], axes_text(grids[i]));
     }
@@ -208,15 +203,15 @@ void result_tables::show_pinned_grids() {
 /// At the speed and the pressure of the same number as those of the present design, which may be
 /// others, so they are named.
 void result_tables::show_pinned_angle_table() {
-    const kept_design* pinned = pinned_performance();
+    const program& kavetta = context_.kavetta;
+    const perf_results* pinned = pinned_performance(kavetta);
     if (pinned == nullptr) {
         return;
     }
-    const std::int16_t language = context_.kavetta.app_state.language;
-    const unit_system system = length_unit_of(context_.kavetta.app_state).system;
-    const perf_results& results = pinned->perf_results;
-    const result_table grid = grid_tables(results, language, system).front();
-    result_table table = angle_table(results, chosen_speed(), chosen_pressure(), language, system);
+    const result_table& grid = tables_.front().pinned.model->table();
+    result_table table =
+        angle_table(*pinned, chosen_speed(), chosen_pressure(), kavetta.app_state.language,
+                    length_unit_of(kavetta.app_state).system);
     const QString axes = axes_text(table) + "   " + qt_text(grid.row_caption) + ": " +
                          qt_text(grid.row_heads[chosen_speed()]) + "   " +
                          qt_text(grid.column_caption) + ": " +

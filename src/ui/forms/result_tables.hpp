@@ -16,7 +16,6 @@ class QTabWidget;
 namespace kvt {
 
 class result_table_model;
-struct kept_design;
 
 class result_tables : public loaded_form {
     Q_OBJECT
@@ -50,7 +49,6 @@ class result_tables : public loaded_form {
     void show_pinned_angle_table();
     void show_pinned_table(std::size_t index, result_table table, const QString& axes);
     void show_in(const table_part& part, std::size_t index, result_table table);
-    const kept_design* pinned_performance() const;
     std::size_t chosen_speed() const;
     std::size_t chosen_pressure() const;
     void copy(const table_part& shown) const;

@@ -320,16 +320,17 @@ void viewwinfrm::show_preview(const preview_state& trial) {
     show_overlays();
 }
 
+/// Outlines of a design where the view stands.
+design_painting viewwinfrm::painting_of(const kept_design& kept,
+                                        const overlaid_outlines& which) const {
+    const view_state place = overlay_place(context_.kavetta, kept);
+    return design_painting(overlay_of(kept, which, place), view_box(place));
+}
+
 void viewwinfrm::draw_pinned() {
-    const program& kavetta = context_.kavetta;
-    if (kavetta.pinned == nullptr) {
-        picture_->show_pinned(design_painting());
-        return;
-    }
-    const kept_design& pinned = kavetta.pinned->design;
-    const view_state place = overlay_place(kavetta, pinned);
-    picture_->show_pinned(
-        design_painting(overlay_of(pinned, pinned.outlines, place), view_box(place)));
+    const pinned_design* pinned = context_.kavetta.pinned.get();
+    picture_->show_pinned(pinned == nullptr ? design_painting()
+                                            : painting_of(pinned->design, pinned->design.outlines));
 }
 
 /// They are drawn anew where the view stands, which a turn, a zoom or another size changes.
@@ -349,8 +350,7 @@ void viewwinfrm::add_overlay(const shown_trial& trial, const overlaid_outlines& 
     if (trial.design == nullptr) {
         return;
     }
-    const view_state place = overlay_place(context_.kavetta, *trial.design);
-    overlays.push_back({design_painting(overlay_of(*trial.design, which, place), view_box(place)),
+    overlays.push_back({painting_of(*trial.design, which),
                         trial.is_pale ? PALE_TRIAL_COLOUR : TRIAL_COLOUR, TRIAL_WIDTH});
 }
 

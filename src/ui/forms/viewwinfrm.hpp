@@ -4,6 +4,7 @@
 #include "app/trial/preview_state.hpp"
 #include "core/sight_ticks.hpp"
 #include "ui/parts/design_export.hpp"
+#include "ui/parts/design_painting.hpp"
 #include "ui/shell/mdi_form.hpp"
 #include "views/rotation.hpp"
 #include "views/sight/sight.hpp"
@@ -100,6 +101,7 @@ class viewwinfrm : public mdi_form {
     void turn(turning direction);
     void stop_turning();
     void describe_picture();
+    design_painting painting_of(const kept_design& kept, const overlaid_outlines& which) const;
     void draw_pinned();
     void show_overlays();
     void add_overlay(const shown_trial& trial, const overlaid_outlines& which,

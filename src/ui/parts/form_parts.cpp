@@ -35,9 +35,7 @@ class box_unit : public QLabel {
 
   protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setPen(faint_ink(palette().color(QPalette::Base), palette().color(QPalette::Text)));
-        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text());
+        paint_faint_text(*this, QPalette::Base, QPalette::Text);
     }
 };
 
@@ -58,6 +56,12 @@ QLabel* result_label(const char* name) {
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setFocusPolicy(Qt::NoFocus);
     return label;
+}
+
+void paint_faint_text(QLabel& label, QPalette::ColorRole ground, QPalette::ColorRole ink) {
+    QPainter painter(&label);
+    painter.setPen(faint_ink(label.palette().color(ground), label.palette().color(ink)));
+    painter.drawText(label.rect(), static_cast<int>(label.alignment()), label.text());
 }
 
 void accent(QPushButton& button) {

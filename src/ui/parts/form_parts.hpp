@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QList>
+#include <QPalette>
 
 class QCheckBox;
 class QFrame;
@@ -19,6 +20,11 @@ QLabel* named_label(const char* name);
 
 /// A result: right-aligned, set off by its weight, its text can be selected and copied.
 QLabel* result_label(const char* name);
+
+/// Paints the text of a label in the faint ink of what accompanies another text, by the ground and
+/// the ink of its palette at that time.
+void paint_faint_text(QLabel& label, QPalette::ColorRole ground = QPalette::Window,
+                      QPalette::ColorRole ink = QPalette::WindowText);
 
 /// Gives the main button of a form the colour that stands out; again after a change of the palette.
 void accent(QPushButton& button);

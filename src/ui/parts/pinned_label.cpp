@@ -3,10 +3,7 @@
 #include "app/trial/figures.hpp"
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/form_parts.hpp"
-#include "ui/parts/ink.hpp"
 #include "ui/shell/qt_text.hpp"
-
-#include <QPainter>
 
 namespace kvt {
 
@@ -35,12 +32,8 @@ void pinned_label::show_figure(const pinned_figures* pinned, char decimal_mark) 
     setVisible(!text.empty());
 }
 
-/// In the faint ink of what accompanies the present results; it follows the palette.
 void pinned_label::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setPen(
-        faint_ink(palette().color(QPalette::Window), palette().color(QPalette::WindowText)));
-    painter.drawText(rect(), static_cast<int>(alignment()), text());
+    paint_faint_text(*this);
 }
 
 pinned_heading::pinned_heading() {

@@ -2,10 +2,7 @@
 
 #include "app/trial/figures.hpp"
 #include "ui/parts/form_parts.hpp"
-#include "ui/parts/ink.hpp"
 #include "ui/shell/qt_text.hpp"
-
-#include <QPainter>
 
 namespace kvt {
 
@@ -33,10 +30,7 @@ void trial_label::paintEvent(QPaintEvent* event) {
         QLabel::paintEvent(event);
         return;
     }
-    QPainter painter(this);
-    painter.setPen(
-        faint_ink(palette().color(QPalette::Window), palette().color(QPalette::WindowText)));
-    painter.drawText(rect(), static_cast<int>(alignment()), text());
+    paint_faint_text(*this);
 }
 
 void show_trial_figures(const QWidget& below, const labels& present, const trial_figures* trial,
