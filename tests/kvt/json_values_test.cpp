@@ -1,6 +1,7 @@
-// Tests of the JSON of the performance results: the shape of tables and arrays.
-#include "kvt/json_performance.hpp"
+// Tests of the JSON of result sections: the shape of tables and arrays.
+#include "kvt/json_values.hpp"
 
+#include "app/results/result_sections.hpp"
 #include "kvt/kvt_run.hpp"
 
 namespace kvt {
@@ -10,16 +11,16 @@ json performance_of_engine_oil(const std::vector<std::string>& options) {
     return calc_engine_oil(options).report()["perf_results"];
 }
 
-TEST(json_performance, gives_tables_as_speed_by_pressure) {
+TEST(json_values, gives_tables_as_speed_by_pressure) {
     perf_results results;
     results.flow_m3s[2][5] = 0.125;
-    const json object = json_performance(results, false);
+    const json object = json_of_values(performance_values(results), false);
     EXPECT_EQ(object["flow_m3s"].size(), GRID_SIZE);
     EXPECT_EQ(object["flow_m3s"][2].size(), GRID_SIZE);
     EXPECT_EQ(object["flow_m3s"][2][5], 0.125);
 }
 
-TEST(json_performance, gives_the_axes_in_any_case_and_other_lists_in_the_full_form) {
+TEST(json_values, gives_the_axes_in_any_case_and_other_lists_in_the_full_form) {
     const json brief = performance_of_engine_oil({});
     EXPECT_EQ(brief["press_pa"].size(), GRID_SIZE);
     EXPECT_EQ(brief["speed_rpm"].size(), GRID_SIZE);
@@ -29,7 +30,7 @@ TEST(json_performance, gives_the_axes_in_any_case_and_other_lists_in_the_full_fo
     EXPECT_EQ(performance_of_engine_oil({"--full"})["leak_tip"].size(), GRID_SIZE);
 }
 
-TEST(json_performance, cuts_the_arrays_over_the_angle_to_what_is_computed) {
+TEST(json_values, cuts_the_arrays_over_the_angle_to_what_is_computed) {
     const json full = performance_of_engine_oil({"--full"});
     EXPECT_EQ(full["sliding_velocity"][5].size(), 361U);
     EXPECT_EQ(full["contact_force"][5][5].size(), 180U);
@@ -39,7 +40,7 @@ TEST(json_performance, cuts_the_arrays_over_the_angle_to_what_is_computed) {
     EXPECT_GT(full["contact_force"][5][5][90], 0.0);
 }
 
-TEST(json_performance, gives_extremes_that_agree_with_the_tables) {
+TEST(json_values, gives_extremes_that_agree_with_the_tables) {
     const json results = performance_of_engine_oil({});
     double largest = 0.0;
     for (const json& speed : results["flow_m3s"]) {
