@@ -26,6 +26,14 @@ ALLOWED = {
     ": a project file can't hold a character of this text": "to the caller of a batch run",
     " can only be switched on, with 1": "to the caller of a batch run",
     " is a check box, 0 or 1": "to the caller of a batch run",
+    # What is wrong with a value that is given to an export or a report, likewise.
+    "' is no diameter": "to the caller of an export",
+    "' is not 0.01, 0.001, 0.0001, 0.00001 or 0.000001": "to the caller of an export",
+    "' is not 0.00001 .. 1": "to the caller of an export",
+    "' is no length": "to the caller of an export",
+    "' is no date YYYY-MM-DD": "to the caller of an export",
+    "' is no date YYYY-MM-DD or YYYY-MM-DDTHH:MM:SS": "to the caller of an export",
+    "' is no FILE.txt or FILE.pdf": "to the caller of a report",
 }
 
 

@@ -1,5 +1,7 @@
 #include "kvt/command_line.hpp"
 
+#include "app/export/given_date.hpp"
+#include "app/export/report_file.hpp"
 #include "base/number_text.hpp"
 #include "core/capacity_unit.hpp"
 #include "kvt/assist_command.hpp"
@@ -9,7 +11,6 @@
 #include "kvt/exit_status.hpp"
 #include "kvt/export_command.hpp"
 #include "kvt/export_options.hpp"
-#include "kvt/given_date.hpp"
 #include "kvt/gt_command.hpp"
 #include "kvt/limits_command.hpp"
 #include "kvt/model_command.hpp"

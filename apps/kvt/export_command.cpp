@@ -1,12 +1,12 @@
 #include "kvt/export_command.hpp"
 
+#include "app/export/export_files.hpp"
+#include "app/export/export_performance.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
 #include "base/path_text.hpp"
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
-#include "kvt/export_files.hpp"
-#include "kvt/export_performance.hpp"
 
 #include <ostream>
 #include <system_error>

@@ -1,7 +1,7 @@
 // export_command: the files that a design turns into, written to one folder.
 #pragma once
 
-#include "kvt/export_request.hpp"
+#include "app/export/export_request.hpp"
 
 #include <iosfwd>
 

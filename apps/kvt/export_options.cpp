@@ -1,9 +1,8 @@
 #include "kvt/export_options.hpp"
 
-#include "app/files/cnc_output.hpp"
+#include "app/export/given_date.hpp"
 #include "base/number_text.hpp"
 #include "base/path_text.hpp"
-#include "kvt/given_date.hpp"
 #include "kvt/option_check.hpp"
 #include "output/written_files.hpp"
 
@@ -12,22 +11,6 @@
 namespace kvt {
 
 namespace {
-
-// Each check answers what is wrong with a text, or nothing.
-
-std::string diameter_problem(const std::string& text) {
-    try {
-        return number_of_text(commas_to_points(text)) > 0.0 ? "" : "'" + text + "' is no diameter";
-    } catch (const run_time_error&) {
-        return "'" + text + "' is no diameter";
-    }
-}
-
-std::string resolution_problem(const std::string& text) {
-    return resolution_digits(text, 0) != 0
-               ? ""
-               : "'" + text + "' is not 0.01, 0.001, 0.0001, 0.00001 or 0.000001";
-}
 
 void add_cnc_options(CLI::App& command, export_request& files) {
     command
@@ -110,17 +93,6 @@ void add_file_options(CLI::App& command, export_request& files) {
         } else if (group.choice == file_choice::by_flag) {
             add_flag(command, group, files);
         }
-    }
-}
-
-std::string chord_error_problem(const std::string& text) {
-    constexpr double SMALLEST_MM = 1e-5;
-    constexpr double LARGEST_MM = 1.0;
-    try {
-        const double mm = number_of_text(text);
-        return mm >= SMALLEST_MM && mm <= LARGEST_MM ? "" : "'" + text + "' is not 0.00001 .. 1";
-    } catch (const run_time_error&) {
-        return "'" + text + "' is no length";
     }
 }
 

@@ -1,7 +1,7 @@
 // The options of `kvt export`.
 #pragma once
 
-#include "kvt/export_request.hpp"
+#include "app/export/export_request.hpp"
 
 namespace CLI {
 class App;

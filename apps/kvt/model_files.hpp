@@ -1,8 +1,8 @@
 // model_files: what the built-in modeller made, as files and as lines of a summary.
 #pragma once
 
+#include "app/export/export_folder.hpp"
 #include "cad/model_store.hpp"
-#include "kvt/export_folder.hpp"
 
 #include <cstdint>
 #include <string>

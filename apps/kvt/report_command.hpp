@@ -15,9 +15,6 @@ struct report_request {
     std::string date;  ///< "YYYY-MM-DD" or "YYYY-MM-DDTHH:MM:SS"; empty: now
 };
 
-/// What is wrong with the name of the report's file, or nothing: it ends in .txt or .pdf.
-std::string report_file_problem(const std::string& file);
-
 /// Runs the design and writes its report, however far the run came; nothing for a project that
 /// can't be read. Text is UTF-8 with LF on standard output, in the code page with CR LF in a file.
 /// Messages go to `err`. Answers the exit status; a file that can't be written is a refusal.

@@ -60,8 +60,9 @@ TEST(result_sections, show_the_outline_of_a_rotor_where_it_lies) {
 }
 
 TEST(result_sections, have_no_outline_of_a_port_that_was_never_built) {
-    const named_values ports = values_of(result_section::port_params, program());
-    EXPECT_EQ(block_of(ports, "inlet_x").shape, std::vector<std::size_t>{0});
+    const program kavetta;
+    const named_values ports = values_of(result_section::port_params, kavetta);
+    EXPECT_EQ(block_of(ports, "inlet_port_x").shape, std::vector<std::size_t>{0});
 }
 
 TEST(result_sections, hold_the_boxes_as_they_were_typed) {

@@ -1,5 +1,5 @@
-// Tests of the option --date.
-#include "kvt/given_date.hpp"
+// Tests of dates that stand in for today.
+#include "app/export/given_date.hpp"
 
 #include <ctime>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-// The files of `kvt export`.
+// export_files: the files of a design that other programs read, without a dialog.
 #pragma once
 
-#include "kvt/batch_user.hpp"
-#include "kvt/export_folder.hpp"
-#include "kvt/export_request.hpp"
+#include "app/export/export_folder.hpp"
+#include "app/export/export_request.hpp"
+#include "core/user.hpp"
 
 namespace kvt {
 
@@ -13,7 +13,7 @@ namespace kvt {
 /// by one: a failed check refuses its file only. Without a tool the files that need one are left
 /// out with a note, without a groove tool the groove's pocket. The port report comes with a
 /// finished outlet. What the performance gives is left to export_performance.
-void export_files(program& kavetta, batch_user& person, const export_request& request,
+void export_files(program& kavetta, user& person, const export_request& request,
                   export_folder& folder);
 
 }  // namespace kvt

@@ -1,4 +1,4 @@
-#include "kvt/export_performance.hpp"
+#include "app/export/export_performance.hpp"
 
 #include "app/files/file_output.hpp"
 #include "app/program.hpp"

@@ -1,4 +1,4 @@
-#include "kvt/given_date.hpp"
+#include "app/export/given_date.hpp"
 
 #include <charconv>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "kvt/export_files.hpp"
+#include "app/export/export_files.hpp"
 
 #include "app/files/cnc_output.hpp"
 #include "app/files/file_hints.hpp"
@@ -13,7 +13,7 @@ namespace {
 /// The run over the files of one design.
 class files_export {
   public:
-    files_export(program& kavetta, batch_user& person, const export_request& request,
+    files_export(program& kavetta, user& person, const export_request& request,
                  export_folder& folder)
         : kavetta_(kavetta), person_(person), request_(request), folder_(folder) {}
 
@@ -101,14 +101,14 @@ class files_export {
     }
 
     program& kavetta_;
-    batch_user& person_;
+    user& person_;
     const export_request& request_;
     export_folder& folder_;
 };
 
 }  // namespace
 
-void export_files(program& kavetta, batch_user& person, const export_request& request,
+void export_files(program& kavetta, user& person, const export_request& request,
                   export_folder& folder) {
     files_export(kavetta, person, request, folder).run();
 }

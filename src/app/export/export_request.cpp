@@ -1,4 +1,7 @@
-#include "kvt/export_request.hpp"
+#include "app/export/export_request.hpp"
+
+#include "app/files/cnc_output.hpp"
+#include "base/number_text.hpp"
 
 #include <algorithm>
 
@@ -44,6 +47,31 @@ bool export_request::wants(const written_file& file) const {
 
 bool export_request::wants_performance() const {
     return workbook || flagged.contains(file_group::data);
+}
+
+std::string diameter_problem(const std::string& text) {
+    try {
+        return number_of_text(commas_to_points(text)) > 0.0 ? "" : "'" + text + "' is no diameter";
+    } catch (const run_time_error&) {
+        return "'" + text + "' is no diameter";
+    }
+}
+
+std::string resolution_problem(const std::string& text) {
+    return resolution_digits(text, 0) != 0
+               ? ""
+               : "'" + text + "' is not 0.01, 0.001, 0.0001, 0.00001 or 0.000001";
+}
+
+std::string chord_error_problem(const std::string& text) {
+    constexpr double SMALLEST_MM = 1e-5;
+    constexpr double LARGEST_MM = 1.0;
+    try {
+        const double mm = number_of_text(text);
+        return mm >= SMALLEST_MM && mm <= LARGEST_MM ? "" : "'" + text + "' is not 0.00001 .. 1";
+    } catch (const run_time_error&) {
+        return "'" + text + "' is no length";
+    }
 }
 
 }  // namespace kvt

@@ -1,4 +1,4 @@
-// What `kvt export` was asked for.
+// export_request: which files of a design are wanted, and what they are written with.
 #pragma once
 
 #include "app/stages/batch_run.hpp"
@@ -33,5 +33,13 @@ struct export_request {
     /// Whether something is written that Calculate Performance works out.
     bool wants_performance() const;
 };
+
+// Each check answers what is wrong with a text, or nothing.
+
+std::string diameter_problem(const std::string& text);
+/// 0.01 to 0.000001, the resolutions of the CNC output dialog.
+std::string resolution_problem(const std::string& text);
+/// 0.00001 to 1 mm.
+std::string chord_error_problem(const std::string& text);
 
 }  // namespace kvt

@@ -10,6 +10,7 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kvt {
 
@@ -33,15 +34,20 @@ class export_folder {
     void write_by(std::string_view name, const std::function<void(const std::string&)>& writer);
     /// "NAME: TEXT" on standard error.
     void note(std::string_view name, std::string_view text);
+    /// The paths of the files that were written.
+    const std::vector<std::string>& written() const { return written_; }
     /// A file that was asked for is not there, or not whole.
     void refuse() { complete_ = false; }
     bool complete() const { return complete_; }
 
   private:
+    void tell_written(const std::string& path);
+
     std::filesystem::path path_;
     std::int16_t language_;
     std::ostream& out_;
     std::ostream& err_;
+    std::vector<std::string> written_;
     bool complete_ = true;
 };
 

@@ -1,8 +1,8 @@
-// What `kvt export` writes of the performance: the data files and the workbook.
+// export_performance: what is written of the performance: the data files and the workbook.
 #pragma once
 
-#include "kvt/export_folder.hpp"
-#include "kvt/export_request.hpp"
+#include "app/export/export_folder.hpp"
+#include "app/export/export_request.hpp"
 
 namespace kvt {
 

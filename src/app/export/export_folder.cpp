@@ -1,4 +1,4 @@
-#include "kvt/export_folder.hpp"
+#include "app/export/export_folder.hpp"
 
 #include "app/stages/batch_run.hpp"
 #include "base/path_text.hpp"
@@ -19,7 +19,7 @@ void export_folder::write(std::string_view name, const text_writer& writer) {
         refuse();
         return;
     }
-    out_ << path << '\n';
+    tell_written(path);
 }
 
 void export_folder::write_whole(std::string_view name, const std::function<std::string()>& bytes) {
@@ -38,11 +38,16 @@ void export_folder::write_by(std::string_view name,
         refuse();
         return;
     }
-    out_ << path << '\n';
+    tell_written(path);
 }
 
 void export_folder::note(std::string_view name, std::string_view text) {
     err_ << name << ": " << text << '\n';
+}
+
+void export_folder::tell_written(const std::string& path) {
+    written_.push_back(path);
+    out_ << path << '\n';
 }
 
 }  // namespace kvt

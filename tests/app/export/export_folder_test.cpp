@@ -1,5 +1,5 @@
 // Tests of what is told about the files of a folder.
-#include "kvt/export_folder.hpp"
+#include "app/export/export_folder.hpp"
 
 #include "core/app_state.hpp"
 #include "support/temporary_folder.hpp"
@@ -30,6 +30,14 @@ TEST_F(export_folder_test, calls_a_file_incomplete_that_ends_where_its_writer_fa
     EXPECT_EQ(read_file(place.file("pump.dxf")), "one\r\n");
     EXPECT_EQ(out.str(), "");
     EXPECT_FALSE(folder.complete());
+}
+
+TEST_F(export_folder_test, tells_and_keeps_the_paths_of_written_files) {
+    export_folder folder(place.path(), ENGLISH, out, err);
+    folder.write("pump.dxf", [](text_lines& text) { text.line("one"); });
+    write(folder, "rest.dxf");
+    EXPECT_EQ(folder.written(), std::vector<std::string>{place.file("pump.dxf")});
+    EXPECT_EQ(out.str(), place.file("pump.dxf") + "\n");
 }
 
 TEST_F(export_folder_test, calls_it_so_in_german) {

@@ -1,4 +1,4 @@
-// given_date: the option --date, which stands in for today.
+// given_date: a date that stands in for today.
 #pragma once
 
 #include "base/short_date.hpp"
