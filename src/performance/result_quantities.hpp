@@ -90,6 +90,7 @@ enum class json_part { brief, full, none };
 struct result_quantity {
     std::string_view name;  ///< of the field of perf_results; of the control where it is worked out
     result_source source;
+    std::string_view unit;  ///< of the record; empty for a ratio
     json_part json;
     std::span<const result_use> uses = {};
 };
