@@ -8,4 +8,7 @@ namespace kvt {
 /// that goes away ends no process, printing fails. Bytes are printed as they are, in UTF-8.
 void guard_standard_streams();
 
+/// Somebody reads standard error while it is written, at a terminal.
+bool is_error_a_terminal();
+
 }  // namespace kvt

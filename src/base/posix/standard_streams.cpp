@@ -17,4 +17,8 @@ void guard_standard_streams() {
     }
 }
 
+bool is_error_a_terminal() {
+    return ::isatty(STDERR_FILENO) != 0;
+}
+
 }  // namespace kvt

@@ -14,4 +14,8 @@ void guard_standard_streams() {
     }
 }
 
+bool is_error_a_terminal() {
+    return _isatty(2) != 0;
+}
+
 }  // namespace kvt
