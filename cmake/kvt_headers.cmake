@@ -1,8 +1,9 @@
-# Libraries that are headers alone: CLI11 and nlohmann-json. A cross compiler must not see the other headers of the folder
-# in which this system keeps them, so it gets a folder that holds nothing but links to these two.
+# Libraries that are headers alone: CLI11, nlohmann-json and Boost. A cross compiler must not see the other headers of the
+# folder in which this system keeps them, so it gets a folder that holds nothing but links to these.
 if(NOT CMAKE_CROSSCOMPILING)
     find_package(CLI11 REQUIRED)
     find_package(nlohmann_json REQUIRED)
+    find_package(Boost REQUIRED)
     return()
 elseif(TARGET CLI11::CLI11)
     return()
@@ -18,3 +19,4 @@ function(kvt_header_library target folder)
 endfunction()
 kvt_header_library(CLI11::CLI11 CLI CLI/CLI.hpp)
 kvt_header_library(nlohmann_json::nlohmann_json nlohmann nlohmann/json.hpp)
+kvt_header_library(Boost::headers boost boost/random/sobol.hpp)

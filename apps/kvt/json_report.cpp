@@ -33,11 +33,8 @@ void add_behind(json& report, result_section section, const program& kavetta, bo
     }
 }
 
-}  // namespace
-
-std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
-                        const batch_result& result, bool full, bool exact) {
-    json report = json::object();
+void add_report(json& report, const program& kavetta, const std::vector<std::string>& messages,
+                const batch_result& result, bool full, bool exact) {
     report["ended"] = batch_end_name(result.end);
     report["messages"] = messages;
     report["hints"] = json_hints(kavetta.hints);
@@ -50,7 +47,23 @@ std::string json_report(const program& kavetta, const std::vector<std::string>& 
     if (exact) {
         report["exact"] = json_exact(kavetta, result);
     }
+}
+
+}  // namespace
+
+std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
+                        const batch_result& result, bool full, bool exact) {
+    json report = json::object();
+    add_report(report, kavetta, messages, result, full, exact);
     return json_text(report, full);
+}
+
+std::string json_report_line(const std::string& project, const program& kavetta,
+                             const std::vector<std::string>& messages, const batch_result& result,
+                             bool full, bool exact) {
+    json report = {{"project", project}};
+    add_report(report, kavetta, messages, result, full, exact);
+    return json_text(report, true);
 }
 
 }  // namespace kvt

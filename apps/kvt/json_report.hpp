@@ -19,4 +19,9 @@ struct program;
 std::string json_report(const program& kavetta, const std::vector<std::string>& messages,
                         const batch_result& result, bool full, bool exact = false);
 
+/// The same in one line, with "project", the path, before everything else.
+std::string json_report_line(const std::string& project, const program& kavetta,
+                             const std::vector<std::string>& messages, const batch_result& result,
+                             bool full, bool exact);
+
 }  // namespace kvt

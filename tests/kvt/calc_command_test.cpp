@@ -244,5 +244,54 @@ TEST(calc_command, leaves_the_project_file_as_it_is) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
 }
 
+/// The lines of "calc PROJECTS... --jsonl OPTIONS...".
+std::vector<json> lines_of_projects(texts arguments, int expected_status) {
+    arguments.insert(arguments.begin(), "calc");
+    arguments.emplace_back("--jsonl");
+    const kvt_run run = run_kvt(arguments);
+    EXPECT_EQ(run.status, expected_status) << run.err;
+    std::vector<json> lines;
+    for (const std::string& line : split_lines(run.out)) {
+        lines.push_back(json::parse(line));
+    }
+    return lines;
+}
+
+TEST(calc_command, calculates_many_projects_in_their_order) {
+    const texts projects = {example("engine_oil"), example("coolant"), example("engine_oil"),
+                            example("inch_hydraulic")};
+    const std::vector<json> lines = lines_of_projects(projects, 0);
+    ASSERT_EQ(lines.size(), 4U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        json line = lines[i];
+        EXPECT_EQ(line["project"], projects[i]);
+        line.erase("project");
+        const json report = run_kvt({"calc", projects[i], "--json", "-"}).report();
+        EXPECT_TRUE(line == report) << projects[i];
+    }
+}
+
+TEST(calc_command, gives_each_of_many_projects_its_end) {
+    const temporary_folder folder;
+    const std::vector<json> lines =
+        lines_of_projects({example("engine_oil"), "no_such.KVT",
+                           changed_project(folder, {{5, "0"}}), "--set", "thick=11"},
+                          3);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0]["ended"], "ok");
+    EXPECT_EQ(lines[0]["entries"]["thick"], "11");
+    EXPECT_EQ(lines[1]["ended"], "read_error");
+    EXPECT_EQ(lines[1]["messages"], texts{"no_such.KVT: Run-time error 53: File not found"});
+}
+
+TEST(calc_command, takes_one_project_without_jsonl) {
+    const kvt_run run = run_kvt({"calc", example("engine_oil"), example("coolant")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("several projects need --jsonl"), std::string::npos);
+    const kvt_run both = calc_engine_oil({"--jsonl"});
+    EXPECT_EQ(both.status, 2);
+    EXPECT_NE(both.err.find("--json is of one project, --jsonl of many"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace kvt

@@ -171,5 +171,27 @@ TEST_F(program_test, ends_with_3_and_a_message_without_memory) {
     EXPECT_EQ(told(), "Run-time error 7: Out of memory\n");
 }
 
+/// $STUDY goes on where it was killed, or interrupted: its table is that of one that was not.
+constexpr const char* KILLED_STUDY =
+    "STUDY=\"$KVT study $PROJECT --vary ecc=2.5:3 --vary thick=8:14 --sample sobol:150 "
+    "--seed 4 $MORE\"; "
+    "$STUDY --out whole.csv 2>/dev/null && "
+    "{ $STUDY --out study.csv 2>/dev/null & } && "
+    "until [ $(wc -l < study.csv) -ge 20 ]; do sleep 0.01; done 2>/dev/null; "
+    "kill -$SIGNAL $!; wait $!; echo $? > status; "
+    "[ -e study.csv.unfinished ] && ! cmp -s study.csv whole.csv && "
+    "$STUDY --out study.csv --resume 2>/dev/null && "
+    "cmp study.csv whole.csv && [ ! -e study.csv.unfinished ]";
+
+TEST_F(program_test, goes_on_with_a_study_that_was_killed) {
+    EXPECT_EQ(status_of("SIGNAL=KILL; MORE=--jobs=2; " + std::string(KILLED_STUDY)), 0);
+}
+
+TEST_F(program_test, goes_on_with_a_study_that_was_interrupted) {
+    // Without set -m the shell has its background programs ignore Ctrl+C.
+    EXPECT_EQ(status_of("set -m; SIGNAL=INT; MORE=--jobs=1; " + std::string(KILLED_STUDY)), 0);
+    EXPECT_EQ(read_file(folder.file("status")), "1\n");
+}
+
 }  // namespace
 }  // namespace kvt

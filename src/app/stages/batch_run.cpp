@@ -149,6 +149,21 @@ batch_result calculate_design(program& kavetta, user& person, const design_sourc
     return calculate_open_design(kavetta, person, last);
 }
 
+batch_result type_and_calculate(program& kavetta, user& person,
+                                const std::vector<typed_entry>& typed, calc_stage last) {
+    try {
+        for (const typed_entry& entry : typed) {
+            type_entry(kavetta, person, entry);
+        }
+    } catch (const run_time_error& error) {
+        person.show_message(run_time_error_line(error, kavetta.app_state.language));
+        batch_result result;
+        result.end = batch_end::fatal;
+        return result;
+    }
+    return calculate_open_design(kavetta, person, last);
+}
+
 batch_result calculate_open_design(program& kavetta, user& person, calc_stage last) {
     batch_result result;
     try {

@@ -63,6 +63,9 @@ batch_end find_design(program& kavetta, user& person, const design_source& sourc
 /// ended ok. A refused port does not keep Calculate Performance from running, as on the screen.
 batch_result calculate_design(program& kavetta, user& person, const design_source& source,
                               calc_stage last);
+/// Types further entries into a design that is open, then the stages.
+batch_result type_and_calculate(program& kavetta, user& person,
+                                const std::vector<typed_entry>& typed, calc_stage last);
 /// The stages alone, for a design that is open.
 batch_result calculate_open_design(program& kavetta, user& person, calc_stage last);
 

@@ -2,7 +2,6 @@
 
 #include "app/stages/silent_user.hpp"
 #include "base/number_text.hpp"
-#include "base/run_time_error.hpp"
 #include "views/port_lines.hpp"
 
 #include <algorithm>
@@ -39,21 +38,6 @@ entries typed_entries(const program& kavetta, const std::optional<typed_entry>& 
     return boxes;
 }
 
-batch_result run_trial(program& tried, user& person, const std::optional<typed_entry>& typed,
-                       calc_stage last) {
-    try {
-        if (typed) {
-            type_entry(tried, person, *typed);
-        }
-    } catch (const run_time_error& error) {
-        person.show_message(run_time_error_line(error, tried.app_state.language));
-        batch_result result;
-        result.end = batch_end::fatal;
-        return result;
-    }
-    return calculate_open_design(tried, person, last);
-}
-
 bool is_accepted(const batch_result& result) {
     return result.end == batch_end::ok && !result.ports_refused && !result.performance_refused;
 }
@@ -87,7 +71,8 @@ design_trial try_design(const program& kavetta, const std::optional<typed_entry>
     trial.tried = trial_copy(kavetta);
     silent_user person;
     const entries before = typed_entries(trial.tried, typed);
-    trial.result = run_trial(trial.tried, person, typed, last);
+    trial.result = type_and_calculate(
+        trial.tried, person, typed ? std::vector{*typed} : std::vector<typed_entry>(), last);
     trial.messages = person.messages();
     trial.accepted = is_accepted(trial.result) && !has_replaced_number(before, trial.tried.entries);
     return trial;

@@ -1,0 +1,139 @@
+#include "app/study/study.hpp"
+
+#include "app/program.hpp"
+#include "app/stages/silent_user.hpp"
+#include "app/stages/typed_entry.hpp"
+#include "app/study/study_problem.hpp"
+#include "core/entry_numbers.hpp"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace kvt {
+
+namespace {
+
+void check_variables(const std::vector<study_variable>& variables) {
+    std::set<std::string> controls;
+    for (const study_variable& variable : variables) {
+        if (!controls.insert(variable.control).second) {
+            throw study_problem("varied_twice", {variable.control});
+        }
+    }
+}
+
+exact_source source_after(const program& tried, const batch_result& result) {
+    exact_source source = exact_source_of(tried);
+    source.has_ports = source.has_ports && result.ports_reached;
+    source.has_performance = source.has_performance && result.performance_reached;
+    return source;
+}
+
+}  // namespace
+
+study::study(const program& base, study_plan plan)
+    : base_(std::make_shared<const program>(base)),
+      plan_(std::move(plan)),
+      size_(design_count(plan_.variables, plan_.sample)) {
+    check_variables(plan_.variables);
+    choose(study_quantities(base));
+}
+
+void study::choose(const std::vector<study_quantity>& quantities) {
+    const auto chosen = [&](const std::string& name) {
+        const chosen_quantity quantity = chosen_quantity_of(quantities, name);
+        if (quantity.quantity.part) {
+            parts_.insert(*quantity.quantity.part);
+        }
+        return quantity;
+    };
+    for (const std::string& name : plan_.recorded) {
+        recorded_.push_back(chosen(name));
+    }
+    for (const study_condition& condition : plan_.conditions) {
+        conditions_.push_back(chosen(condition.quantity));
+    }
+    for (const study_aim& aim : plan_.aims) {
+        const auto found = std::ranges::find(recorded_, aim.quantity, &chosen_quantity::name);
+        aim_columns_.push_back(static_cast<std::size_t>(found - recorded_.begin()));
+        if (found == recorded_.end()) {
+            recorded_.push_back(chosen(aim.quantity));
+        }
+    }
+}
+
+std::string study::heading_of_variable(std::size_t variable) const {
+    const std::string& control = plan_.variables[variable].control;
+    const entry_field* field = find_entry(control);
+    const std::string unit =
+        field == nullptr ? "" : entry_unit(*field, base_->captions, base_->app_state);
+    return unit.empty() ? control : control + " [" + unit + "]";
+}
+
+exact_results study::exact_of(const program& tried, const batch_result& result) const {
+    exact_results exact;
+    if (parts_.empty() || result.end != batch_end::ok) {
+        return exact;
+    }
+    const exact_source source = source_after(tried, result);
+    for (const exact_part part : EXACT_PARTS) {
+        if (parts_.contains(part)) {
+            work_out(part, source, exact);
+        }
+    }
+    return exact;
+}
+
+study_row study::calculate(std::vector<std::string> texts, program& tried) const {
+    tried = *base_;
+    silent_user person;
+    std::vector<typed_entry> typed;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        typed.push_back({plan_.variables[i].control, texts[i]});
+    }
+    study_row row;
+    row.texts = std::move(texts);
+    row.result = type_and_calculate(tried, person, typed, plan_.last);
+    row.messages = person.messages();
+    for (const hint& noticed : tried.hints) {
+        row.hints.push_back(noticed.text);
+    }
+
+    const exact_results exact = exact_of(tried, row.result);
+    const finished_design design{tried, row.result, exact};
+    for (const chosen_quantity& quantity : recorded_) {
+        row.values.push_back(quantity.value_of(design));
+    }
+    row.meets_conditions = true;
+    for (std::size_t i = 0; i < conditions_.size(); ++i) {
+        row.meets_conditions =
+            row.meets_conditions && plan_.conditions[i].is_met(conditions_[i].value_of(design));
+    }
+    return row;
+}
+
+work_range part_of_study(std::uint64_t size, std::uint64_t shard, std::uint64_t shards) {
+    const std::uint64_t least = size / shards;
+    const std::uint64_t longer = size % shards;  // so many parts, the first ones, have one more
+    const auto start = [&](std::uint64_t part) { return part * least + std::min(part, longer); };
+    return {start(shard - 1), start(shard)};
+}
+
+bool run_study(const study& designs, work_range range, unsigned jobs,
+               const std::function<bool(study_row&&)>& take, const std::atomic<bool>* is_given_up) {
+    using work = ordered_work<study_row>;
+    const auto make_worker = [&]() -> work::worker {
+        return [&designs, tried = std::make_shared<program>()](std::uint64_t number) {
+            study_row row = designs.calculate(designs.texts_of(number), *tried);
+            row.number = number;
+            return row;
+        };
+    };
+    return work(range, jobs)
+        .run(
+            make_worker, [&](std::uint64_t, study_row&& row) { return take(std::move(row)); },
+            is_given_up);
+}
+
+}  // namespace kvt
