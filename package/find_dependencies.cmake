@@ -1,10 +1,14 @@
 # Run by cpack when the package's files lie ready: asks dpkg-shlibdeps for the packages of the libraries. What the programs
-# link is needed; what only the module of solid models links is recommended, since it is loaded when a model is asked for.
+# link is needed; what only the modules of solid models and of the search link is recommended, since they are loaded when
+# something is asked of them.
 set(root "${CPACK_TEMPORARY_INSTALL_DIRECTORY}${CPACK_PACKAGING_INSTALL_PREFIX}")
-set(module "${root}/${KVT_PACKAGE_MODULE}")
+file(GLOB modules "${root}/${KVT_PACKAGE_MODULES}/*.so")
 set(recommended "")
-if(EXISTS "${module}")
-    set(recommended -dRecommends -e "${module}")
+foreach(module IN LISTS modules)
+    list(APPEND recommended -e "${module}")
+endforeach()
+if(recommended)
+    list(PREPEND recommended -dRecommends)
 endif()
 
 # It wants to stand in a source package.

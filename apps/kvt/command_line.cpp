@@ -18,7 +18,7 @@
 #include "kvt/printed_status.hpp"
 #include "kvt/report_command.hpp"
 #include "kvt/stage_words.hpp"
-#include "kvt/study_command.hpp"
+#include "kvt/study_options.hpp"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -49,7 +49,9 @@ constexpr const char* EXAMPLES =
     "  kvt gt engine_oil.KVT --year 2021 --fluid oil --open\n"
     "  kvt excel engine_oil.KVT\n"
     "  kvt model engine_oil.KVT --package acad --what assembly --host builtin --out models\n"
-    "  kvt study engine_oil.KVT --vary ecc=2.7:3:0.05 --vary numlobes=5,6,7 --out study.csv";
+    "  kvt study engine_oil.KVT --vary ecc=2.7:3:0.05 --vary numlobes=5,6,7 --out study.csv\n"
+    "  kvt search engine_oil.KVT --vary ecc=2:3 --vary thick=8:16 --target capacity=7.5 --minimize "
+    "ripple";
 
 constexpr const char* EXIT_STATUSES =
     "0 ended ok, 1 the design was refused or failed or a file or standard\n"
@@ -69,6 +71,7 @@ struct command_line {
     model_command_request model;  ///< its source is that of calc
     excel_request excel;          ///< its source is that of calc
     study_request study;          ///< its source and last stage are those of calc
+    search_request search;        ///< its source and last stage are those of calc
 };
 
 std::vector<std::string> stage_words() {
@@ -140,13 +143,6 @@ void add_stage_option(CLI::App& command, command_line& line) {
     command.add_option("--stage", line.stage, "Stop after a stage; default: as far as it goes")
         ->type_name(word_list(stage_words()))
         ->check(one_of(stage_words()));
-}
-
-void add_jobs_option(CLI::App& command, unsigned& jobs) {
-    constexpr int MOST_JOBS = 1024;
-    command.add_option("--jobs", jobs, "Threads that calculate; default: one a processor")
-        ->type_name("N")
-        ->check(plain(CLI::Range(1, MOST_JOBS)));
 }
 
 CLI::App* add_calc(CLI::App& app, command_line& line) {
@@ -244,77 +240,22 @@ CLI::App* add_excel(CLI::App& app, command_line& line) {
     return excel;
 }
 
-/// The designs of a study and what is recorded of them.
-void add_study_plan(CLI::App& command, study_request& study) {
-    command
-        .add_option(
-            "--vary", study.varied,
-            "Type other texts into a control from design to design: a list, ecc=2,2.1,2.5,\n"
-            "numbers in steps, ecc=2:3:0.05, or any number of a range, ecc=2:3.\n"
-            "May be given many times")
-        ->type_name("CONTROL=LIST|RANGE")
-        ->allow_extra_args(false);
-    command
-        .add_option("--sample", study.sample,
-                    "Every combination of the lists and steps, or N designs spread over the\n"
-                    "ranges: Latin hypercube or Sobol sequence; default: grid")
-        ->type_name("grid|latin:N|sobol:N");
-    command.add_option("--seed", study.seed, "Another Latin hypercube, another Sobol sequence")
-        ->type_name("NUMBER");
-    command
-        .add_option("--record", study.recorded,
-                    "Quantities of the table; default: those that the forms show")
-        ->type_name("NAME,..")
-        ->delimiter(',')
-        ->allow_extra_args(false);
-    command.add_flag("--quantities", study.lists_quantities,
-                     "List the names and units of all quantities, and calculate nothing");
-    command
-        .add_option(
-            "--where", study.conditions,
-            "Keep designs alone that meet a condition: 'outer_diameter<=58', with <, <=, =,\n"
-            ">=, > or !=. May be given many times")
-        ->type_name("CONDITION")
-        ->allow_extra_args(false);
-}
-
-/// Where the rows of a study go, and how it is run.
-void add_study_output(CLI::App& command, study_request& study) {
-    command
-        .add_option(
-            "--out", study.out,
-            "Table to write, as comma-separated values or as JSON lines; default: standard\n"
-            "output")
-        ->type_name("FILE.csv|FILE.jsonl");
-    command.add_flag("--jsonl", study.json_lines, "A line of JSON a design");
-    add_jobs_option(command, study.jobs);
-    command
-        .add_option("--shard", study.shard,
-                    "Part I of N of the study: the parts, put together, are the whole")
-        ->type_name("I/N")
-        ->check(check_of(shard_problem));
-    command.add_flag("--resume", study.resumes, "Go on behind the last row of a table");
-    command
-        .add_option("--pareto", study.aims,
-                    "Keep the designs alone that no other one beats in all of these quantities")
-        ->type_name("NAME:max|min,..")
-        ->delimiter(',')
-        ->allow_extra_args(false);
-    command
-        .add_option(
-            "--save-best", study.saved_count,
-            "Save so many designs of these, spread evenly, as projects; --out is the folder")
-        ->type_name("K");
-}
-
 CLI::App* add_study(CLI::App& app, command_line& line) {
     CLI::App* study =
         app.add_subcommand("study", "Calculate many designs of a project on all processors");
     add_design_options(*study, line);
-    add_study_plan(*study, line.study);
-    add_study_output(*study, line.study);
+    add_study_options(*study, line.study);
     add_stage_option(*study, line);
     return study;
+}
+
+CLI::App* add_search(CLI::App& app, command_line& line) {
+    CLI::App* search =
+        app.add_subcommand("search", "Find the designs of a project that no other one beats");
+    add_design_options(*search, line);
+    add_search_options(*search, line.search);
+    add_stage_option(*search, line);
+    return search;
 }
 
 /// Throws CLI::ValidationError for options that don't go together.
@@ -336,6 +277,10 @@ void check_together(const command_line& line) {
     const std::string of_study = study_options_problem(line.study);
     if (!of_study.empty()) {
         throw CLI::ValidationError("study", of_study);
+    }
+    const std::string of_search = search_options_problem(line.search);
+    if (!of_search.empty()) {
+        throw CLI::ValidationError("search", of_search);
     }
 }
 
@@ -396,6 +341,12 @@ int run_study(command_line& line, std::ostream& out, std::ostream& err) {
     return run_study_command(line.study, out, err);
 }
 
+int run_search(command_line& line, std::ostream& out, std::ostream& err) {
+    line.search.source = line.calc.source;
+    line.search.last = line.calc.last;
+    return run_search_command(line.search, out, err);
+}
+
 /// Every sub-command in the order of the help text.
 std::vector<sub_command> add_sub_commands(CLI::App& app, command_line& line) {
     app.require_subcommand(1);
@@ -403,7 +354,7 @@ std::vector<sub_command> add_sub_commands(CLI::App& app, command_line& line) {
             {add_report(app, line), run_report}, {add_assist(app, line), run_assist},
             {add_limits(app, line), run_limits}, {add_gt(app, line), run_gt},
             {add_model(app, line), run_model},   {add_excel(app, line), run_excel},
-            {add_study(app, line), run_study}};
+            {add_study(app, line), run_study},   {add_search(app, line), run_search}};
 }
 
 void set_up(CLI::App& app) {

@@ -1,6 +1,5 @@
 #include "kvt/study_command.hpp"
 
-#include "app/files/project_entries.hpp"
 #include "app/program.hpp"
 #include "app/study/pareto_front.hpp"
 #include "app/study/study_file.hpp"
@@ -14,21 +13,13 @@
 
 #include <charconv>
 #include <chrono>
-#include <filesystem>
 #include <optional>
 #include <ostream>
-#include <system_error>
 #include <utility>
 
 namespace kvt {
 
 namespace {
-
-/// What stands in the table when nothing is named: what the engineer sees of a design.
-constexpr std::array USUALLY_RECORDED = {
-    "capacity",  "area_ratio",     "max_chamb_vol",       "min_chamb_vol",   "outer_diameter",
-    "max_speed", "flow_m3s_max",   "vol_eff_max",         "overall_eff_max", "power_max",
-    "hertz_max", "ripple_percent", "max_shaft_side_load", "max_cutter_inner"};
 
 /// How often a front is written while it changes.
 constexpr std::chrono::seconds BETWEEN_FRONTS = std::chrono::seconds(10);
@@ -59,10 +50,7 @@ study_plan plan_of(const study_request& request) {
     }
     plan.sample = study_sample_of(request.sample);
     plan.sample.seed = request.seed;
-    plan.recorded = request.recorded;
-    if (plan.recorded.empty()) {
-        plan.recorded.assign(USUALLY_RECORDED.begin(), USUALLY_RECORDED.end());
-    }
+    plan.recorded = recorded_or_usual(request.recorded);
     for (const std::string& text : request.conditions) {
         plan.conditions.push_back(study_condition_of(text));
     }
@@ -73,24 +61,10 @@ study_plan plan_of(const study_request& request) {
     return plan;
 }
 
-bool has_ending(std::string_view path, std::string_view ending) {
-    return path.ends_with(ending);
-}
-
-study_format format_of(const study_request& request) {
-    return request.json_lines || has_ending(request.out, ".jsonl") ? study_format::json_lines
-                                                                   : study_format::csv;
-}
-
-/// With projects to be saved, --out is the folder of both.
 study_place place_of(const study_request& request, const study& designs) {
     const shard part = *shard_of(request.shard);
-    const study_format format = format_of(request);
-    std::filesystem::path path = path_of_utf8(request.out);
-    if (request.saved_count > 0) {
-        path /= format == study_format::csv ? "study.csv" : "study.jsonl";
-    }
-    return {path, format, part_of_study(designs.size(), part.number, part.count)};
+    return {request.out.table(), request.out.format(),
+            part_of_study(designs.size(), part.number, part.count)};
 }
 
 /// One run of the command behind its options.
@@ -107,7 +81,7 @@ class study_run {
     int run() {
         const std::optional<std::uint64_t> next = first_design();
         if (next && *next == place_.part.end && place_.part.size() > 0) {
-            err_ << request_.out << ": the study is finished\n";
+            err_ << request_.out.out << ": the study is finished\n";
             return EXIT_OK;
         }
         const work_range range = {next.value_or(place_.part.begin), place_.part.end};
@@ -127,7 +101,7 @@ class study_run {
     }
 
     bool run_rows(const work_range& range, bool goes_on) {
-        if (request_.out.empty()) {
+        if (request_.out.out.empty()) {
             out_ << head_line(designs_, place_.format);
             return run_designs(range, [&](study_row&& row) {
                 out_ << row_line(designs_, row, place_.format);
@@ -166,43 +140,26 @@ class study_run {
         });
         save(front, is_whole ? range.end : next);
         print(front);
-        if (is_whole) {
-            save_projects(front);
+        if (is_whole && request_.out.saved_count > 0) {
+            save_projects(designs_, front.spread_rows(request_.out.saved_count), request_.out,
+                          out_);
         }
         return is_whole;
     }
 
     void save(const pareto_front& front, std::uint64_t next) const {
-        if (!request_.out.empty()) {
+        if (!request_.out.out.empty()) {
             write_study_rows(designs_, place_, front.rows(), next);
         }
     }
 
     void print(const pareto_front& front) const {
-        if (!request_.out.empty()) {
+        if (!request_.out.out.empty()) {
             return;
         }
         out_ << head_line(designs_, place_.format);
         for (const study_row& row : front.rows()) {
             out_ << row_line(designs_, row, place_.format);
-        }
-    }
-
-    /// best_1.KVT, best_2.KVT ... from the best of the first aim on.
-    void save_projects(const pareto_front& front) const {
-        std::size_t number = 0;
-        for (const study_row& row : front.spread_rows(request_.saved_count)) {
-            ++number;
-            program typed = designs_.base();
-            silent_user person;
-            for (std::size_t i = 0; i < row.texts.size(); ++i) {
-                type_entry(typed, person, {designs_.plan().variables[i].control, row.texts[i]});
-            }
-            const std::filesystem::path path =
-                path_of_utf8(request_.out) /
-                path_of_utf8("best_" + std::to_string(number) + ".KVT");
-            write_entries(typed, utf8_of_path(path));
-            out_ << utf8_of_path(path) << '\n';
         }
     }
 
@@ -225,7 +182,8 @@ class study_run {
 
     void tell_broken_off() const {
         err_ << "broken off"
-             << (request_.out.empty() ? "" : "; the same command with --resume goes on") << '\n';
+             << (request_.out.out.empty() ? "" : "; the same command with --resume goes on")
+             << '\n';
     }
 
     const study& designs_;
@@ -242,18 +200,6 @@ void print_quantities(const program& base, std::ostream& out) {
     }
 }
 
-/// The folder that projects are saved to.
-void make_folder(const study_request& request) {
-    std::error_code error;
-    if (request.saved_count > 0) {
-        std::filesystem::create_directories(path_of_utf8(request.out), error);
-    }
-    if (error) {
-        throw run_time_error(failure::path_file_access, request.out,
-                             {file_fault::reason::system, error.value()});
-    }
-}
-
 }  // namespace
 
 std::string shard_problem(const std::string& text) {
@@ -261,10 +207,10 @@ std::string shard_problem(const std::string& text) {
 }
 
 std::string study_options_problem(const study_request& request) {
-    if (request.saved_count > 0 && (request.aims.empty() || request.out.empty())) {
+    if (request.out.saved_count > 0 && (request.aims.empty() || request.out.out.empty())) {
         return "--save-best needs --pareto, which says what is best, and --out, a folder";
     }
-    if (request.resumes && request.out.empty()) {
+    if (request.resumes && request.out.out.empty()) {
         return "--resume needs --out";
     }
     return {};
@@ -282,13 +228,14 @@ int run_study_command(const study_request& request, std::ostream& out, std::ostr
     }
     try {
         const study designs(base, plan_of(request));
-        make_folder(request);
+        request.out.make_folder();
         return study_run(designs, request, out, err).run();
     } catch (const study_problem& problem) {
         err << problem.text(request.source.language) << '\n';
         return EXIT_USAGE;
     } catch (const run_time_error& error) {
-        err << request.out << ": " << run_time_error_line(error, request.source.language) << '\n';
+        err << request.out.out << ": " << run_time_error_line(error, request.source.language)
+            << '\n';
         return EXIT_REFUSED;
     }
 }

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "app/stages/batch_run.hpp"
-#include "app/study/study.hpp"
+#include "kvt/study_output.hpp"
 
-#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <string>
@@ -18,12 +17,10 @@ struct study_request {
     std::string sample = "grid";
     std::uint64_t seed = 0;
     calc_stage last = calc_stage::performance;
-    std::string out;  ///< file, or folder beside projects to be saved; empty: standard output
-    bool json_lines = false;
+    study_out out;
     unsigned jobs = 0;  ///< 0: a thread a processor
     std::string shard = "1/1";
     bool resumes = false;
-    std::size_t saved_count = 0;  ///< best designs to be saved as projects
     bool lists_quantities = false;
 };
 

@@ -140,6 +140,8 @@ def libraries_of_solid_models_are_recommended_only(made, _):
     expect(f"needed are {needed}", any(name.startswith("libqt6widgets") for name in needed))
     expect(f"needed are {needed}", not any("occt" in name for name in needed))
     expect(f"recommended are {recommended}", any("occt-modeling" in name for name in recommended))
+    expect(f"needed are {needed}", not any("pagmo" in name for name in needed))
+    expect(f"recommended are {recommended}", any("pagmo" in name for name in recommended))
 
 
 def manual_pages_and_completions_are_there(made, _):

@@ -1,7 +1,7 @@
 #include "app/models/built_in_modeller.hpp"
 
+#include "app/desk/delivered_module.hpp"
 #include "automation/no_host.hpp"
-#include "base/environment.hpp"
 #include "base/loaded_function.hpp"
 
 #include <utility>
@@ -14,15 +14,6 @@ namespace {
 constexpr const char* NEW_STORE = "kvt_new_model_store";
 using new_store_function = model_store*();
 
-/// Beside the installed program, else that of the build.
-std::filesystem::path delivered_module() {
-    const std::filesystem::path module = "kvt_models.so";
-    const std::filesystem::path beside =
-        running_program().parent_path() / KVT_INSTALLED_MODULE_FOLDER / module;
-    std::error_code ignored;
-    return std::filesystem::exists(beside, ignored) ? beside : KVT_MODULE_FOLDER / module;
-}
-
 std::unique_ptr<model_store> store_of(const std::filesystem::path& module) {
     const auto new_store =
         reinterpret_cast<new_store_function*>(loaded_function(module, NEW_STORE));
@@ -31,7 +22,7 @@ std::unique_ptr<model_store> store_of(const std::filesystem::path& module) {
 
 }  // namespace
 
-built_in_modeller::built_in_modeller() : built_in_modeller(delivered_module()) {}
+built_in_modeller::built_in_modeller() : built_in_modeller(delivered_module("kvt_models.so")) {}
 
 built_in_modeller::built_in_modeller(std::filesystem::path module) : module_(std::move(module)) {}
 

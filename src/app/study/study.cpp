@@ -7,7 +7,7 @@
 #include "core/entry_numbers.hpp"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 #include <utility>
 
 namespace kvt {
@@ -28,6 +28,12 @@ exact_source source_after(const program& tried, const batch_result& result) {
     source.has_ports = source.has_ports && result.ports_reached;
     source.has_performance = source.has_performance && result.performance_reached;
     return source;
+}
+
+void compare(const study_condition& condition, std::optional<double> value, study_row& row) {
+    row.meets_conditions = row.meets_conditions && condition.is_met(value);
+    const double scale = condition.limit == 0.0 ? 1.0 : std::abs(condition.limit);
+    row.missed_by += value ? condition.missed_by(*value) / scale : HUGE_VAL;
 }
 
 }  // namespace
@@ -107,8 +113,7 @@ study_row study::calculate(std::vector<std::string> texts, program& tried) const
     }
     row.meets_conditions = true;
     for (std::size_t i = 0; i < conditions_.size(); ++i) {
-        row.meets_conditions =
-            row.meets_conditions && plan_.conditions[i].is_met(conditions_[i].value_of(design));
+        compare(plan_.conditions[i], conditions_[i].value_of(design), row);
     }
     return row;
 }

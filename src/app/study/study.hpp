@@ -40,6 +40,8 @@ struct study_row {
     std::vector<std::optional<double>> values;  ///< of the recorded quantities, in their order
     std::vector<std::string> messages, hints;
     bool meets_conditions = false;
+    /// By how much it misses them, each relative to its limit; infinite where a value is missing.
+    double missed_by = 0.0;
 
     /// Nothing of the design was refused.
     bool is_accepted() const {

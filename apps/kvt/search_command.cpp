@@ -1,0 +1,113 @@
+#include "kvt/search_command.hpp"
+
+#include "app/desk/delivered_module.hpp"
+#include "app/program.hpp"
+#include "app/study/design_search.hpp"
+#include "app/study/study_problem.hpp"
+#include "base/path_text.hpp"
+#include "base/run_time_error.hpp"
+#include "base/standard_streams.hpp"
+#include "base/whole_file.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
+#include "kvt/study_progress.hpp"
+
+#include <ostream>
+
+namespace kvt {
+
+namespace {
+
+search_plan plan_of(const search_request& request) {
+    search_plan plan;
+    for (const std::string& text : request.varied) {
+        plan.variables.push_back(study_variable_of(text));
+    }
+    for (const std::string& text : request.targets) {
+        plan.targets.push_back(search_target_of(text));
+    }
+    for (const std::string& text : request.limits) {
+        plan.limits.push_back(study_condition_of(text));
+    }
+    for (const std::string& name : request.minimized) {
+        plan.aims.push_back({name, false});
+    }
+    for (const std::string& name : request.maximized) {
+        plan.aims.push_back({name, true});
+    }
+    plan.recorded = recorded_or_usual(request.recorded);
+    plan.step = request.step;
+    plan.budget = request.budget;
+    plan.seed = request.seed;
+    plan.last = request.last;
+    return plan;
+}
+
+std::string table_of(const design_search& search, study_format format) {
+    std::string text = head_line(search.designs(), format);
+    for (const study_row& row : search.front().rows()) {
+        text += row_line(search.designs(), row, format);
+    }
+    return text;
+}
+
+void write_front(const design_search& search, const study_out& where, std::ostream& out) {
+    const std::string text = table_of(search, where.format());
+    if (where.out.empty()) {
+        out << text;
+        return;
+    }
+    write_file(where.table(), text);
+    if (where.saved_count > 0) {
+        save_projects(search.designs(), search.front().spread_rows(where.saved_count), where, out);
+    }
+}
+
+/// Answers whether it came to its end.
+bool run_to_its_end(design_search& search, const search_request& request, std::ostream& err) {
+    const interruption by_user;
+    study_progress progress(err, request.budget, is_error_a_terminal());
+    const unsigned jobs = request.jobs == 0 ? processor_count() : request.jobs;
+    const bool is_whole = search.run(
+        jobs, delivered_module("kvt_search.so"), [&](const study_row&) { progress.step(); },
+        &by_user.flag());
+    progress.finish();
+    return is_whole;
+}
+
+}  // namespace
+
+std::string search_options_problem(const search_request& request) {
+    return request.out.saved_count > 0 && request.out.out.empty()
+               ? "--save-best needs --out, a folder"
+               : "";
+}
+
+int run_search_command(const search_request& request, std::ostream& out, std::ostream& err) {
+    batch_user person(err);
+    program base;
+    if (const auto early = open_design(base, person, request.source)) {
+        return exit_status(*early);
+    }
+    try {
+        design_search search(base, plan_of(request));
+        request.out.make_folder();
+        const bool is_whole = run_to_its_end(search, request, err);
+        write_front(search, request.out, out);
+        if (!is_whole) {
+            err << "broken off\n";
+        } else if (search.front().rows().empty()) {
+            err << "no design meets the targets and the limits\n";
+        }
+        return is_whole && !search.front().rows().empty() ? EXIT_OK : EXIT_REFUSED;
+    } catch (const study_problem& problem) {
+        err << problem.text(request.source.language) << '\n';
+        return EXIT_USAGE;
+    } catch (const run_time_error& error) {
+        err << request.out.out << ": " << run_time_error_line(error, request.source.language)
+            << '\n';
+        return EXIT_REFUSED;
+    }
+}
+
+}  // namespace kvt

@@ -1,0 +1,75 @@
+#include "kvt/study_output.hpp"
+
+#include "app/files/project_entries.hpp"
+#include "app/program.hpp"
+#include "app/stages/silent_user.hpp"
+#include "base/path_text.hpp"
+#include "base/run_time_error.hpp"
+
+#include <array>
+#include <ostream>
+#include <system_error>
+
+namespace kvt {
+
+namespace {
+
+constexpr std::array USUALLY_RECORDED = {
+    "capacity",  "area_ratio",     "max_chamb_vol",       "min_chamb_vol",   "outer_diameter",
+    "max_speed", "flow_m3s_max",   "vol_eff_max",         "overall_eff_max", "power_max",
+    "hertz_max", "ripple_percent", "max_shaft_side_load", "max_cutter_inner"};
+
+program with_texts(const study& designs, const std::vector<std::string>& texts) {
+    program typed = designs.base();
+    silent_user person;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        type_entry(typed, person, {designs.plan().variables[i].control, texts[i]});
+    }
+    return typed;
+}
+
+}  // namespace
+
+study_format study_out::format() const {
+    return json_lines || std::string_view(out).ends_with(".jsonl") ? study_format::json_lines
+                                                                   : study_format::csv;
+}
+
+std::filesystem::path study_out::table() const {
+    const std::filesystem::path path = path_of_utf8(out);
+    if (saved_count == 0) {
+        return path;
+    }
+    return path / (format() == study_format::csv ? "study.csv" : "study.jsonl");
+}
+
+void study_out::make_folder() const {
+    std::error_code error;
+    if (saved_count > 0) {
+        std::filesystem::create_directories(path_of_utf8(out), error);
+    }
+    if (error) {
+        throw run_time_error(failure::path_file_access, out,
+                             {file_fault::reason::system, error.value()});
+    }
+}
+
+std::vector<std::string> recorded_or_usual(const std::vector<std::string>& named) {
+    return named.empty()
+               ? std::vector<std::string>(USUALLY_RECORDED.begin(), USUALLY_RECORDED.end())
+               : named;
+}
+
+void save_projects(const study& designs, const std::vector<study_row>& best, const study_out& where,
+                   std::ostream& out) {
+    std::size_t number = 0;
+    for (const study_row& row : best) {
+        ++number;
+        const std::string name = "best_" + std::to_string(number) + ".KVT";
+        const std::string path = utf8_of_path(path_of_utf8(where.out) / path_of_utf8(name));
+        write_entries(with_texts(designs, row.texts), path);
+        out << path << '\n';
+    }
+}
+
+}  // namespace kvt
