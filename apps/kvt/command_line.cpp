@@ -258,30 +258,20 @@ CLI::App* add_search(CLI::App& app, command_line& line) {
     return search;
 }
 
+void refuse(const char* option, const std::string& problem) {
+    if (!problem.empty()) {
+        throw CLI::ValidationError(option, problem);
+    }
+}
+
 /// Throws CLI::ValidationError for options that don't go together.
 void check_together(const command_line& line) {
-    for (const host_request* request : {&line.model.host, &line.excel.host}) {
-        const std::string problem = host_options_problem(*request);
-        if (!problem.empty()) {
-            throw CLI::ValidationError("--log", problem);
-        }
-    }
-    const std::string problem = model_options_problem(line.model);
-    if (!problem.empty()) {
-        throw CLI::ValidationError("--out", problem);
-    }
-    const std::string of_calc = calc_options_problem(line.calc);
-    if (!of_calc.empty()) {
-        throw CLI::ValidationError("calc", of_calc);
-    }
-    const std::string of_study = study_options_problem(line.study);
-    if (!of_study.empty()) {
-        throw CLI::ValidationError("study", of_study);
-    }
-    const std::string of_search = search_options_problem(line.search);
-    if (!of_search.empty()) {
-        throw CLI::ValidationError("search", of_search);
-    }
+    refuse("--log", host_options_problem(line.model.host));
+    refuse("--log", host_options_problem(line.excel.host));
+    refuse("--out", model_options_problem(line.model));
+    refuse("calc", calc_options_problem(line.calc));
+    refuse("study", study_options_problem(line.study));
+    refuse("search", search_options_problem(line.search));
 }
 
 /// A sub-command and what runs it.

@@ -3,12 +3,8 @@
 #include "app/desk/delivered_module.hpp"
 #include "app/program.hpp"
 #include "app/study/design_search.hpp"
-#include "app/study/study_problem.hpp"
-#include "base/path_text.hpp"
-#include "base/run_time_error.hpp"
 #include "base/standard_streams.hpp"
 #include "base/whole_file.hpp"
-#include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
 #include "kvt/study_progress.hpp"
 
@@ -75,6 +71,18 @@ bool run_to_its_end(design_search& search, const search_request& request, std::o
     return is_whole;
 }
 
+int told_status(const design_search& search, bool is_whole, std::ostream& err) {
+    if (!is_whole) {
+        err << "broken off\n";
+        return EXIT_REFUSED;
+    }
+    if (search.front().rows().empty()) {
+        err << "no design meets the targets and the limits\n";
+        return EXIT_REFUSED;
+    }
+    return EXIT_OK;
+}
+
 }  // namespace
 
 std::string search_options_problem(const search_request& request) {
@@ -84,30 +92,13 @@ std::string search_options_problem(const search_request& request) {
 }
 
 int run_search_command(const search_request& request, std::ostream& out, std::ostream& err) {
-    batch_user person(err);
-    program base;
-    if (const auto early = open_design(base, person, request.source)) {
-        return exit_status(*early);
-    }
-    try {
+    return run_on_project(request.source, request.out, err, [&](const program& base) {
         design_search search(base, plan_of(request));
         request.out.make_folder();
         const bool is_whole = run_to_its_end(search, request, err);
         write_front(search, request.out, out);
-        if (!is_whole) {
-            err << "broken off\n";
-        } else if (search.front().rows().empty()) {
-            err << "no design meets the targets and the limits\n";
-        }
-        return is_whole && !search.front().rows().empty() ? EXIT_OK : EXIT_REFUSED;
-    } catch (const study_problem& problem) {
-        err << problem.text(request.source.language) << '\n';
-        return EXIT_USAGE;
-    } catch (const run_time_error& error) {
-        err << request.out.out << ": " << run_time_error_line(error, request.source.language)
-            << '\n';
-        return EXIT_REFUSED;
-    }
+        return told_status(search, is_whole, err);
+    });
 }
 
 }  // namespace kvt

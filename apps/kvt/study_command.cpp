@@ -3,11 +3,9 @@
 #include "app/program.hpp"
 #include "app/study/pareto_front.hpp"
 #include "app/study/study_file.hpp"
-#include "app/study/study_problem.hpp"
 #include "app/study/study_text.hpp"
 #include "base/path_text.hpp"
 #include "base/standard_streams.hpp"
-#include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
 #include "kvt/study_progress.hpp"
 
@@ -217,27 +215,15 @@ std::string study_options_problem(const study_request& request) {
 }
 
 int run_study_command(const study_request& request, std::ostream& out, std::ostream& err) {
-    batch_user person(err);
-    program base;
-    if (const auto early = open_design(base, person, request.source)) {
-        return exit_status(*early);
-    }
-    if (request.lists_quantities) {
-        print_quantities(base, out);
-        return EXIT_OK;
-    }
-    try {
+    return run_on_project(request.source, request.out, err, [&](const program& base) {
+        if (request.lists_quantities) {
+            print_quantities(base, out);
+            return EXIT_OK;
+        }
         const study designs(base, plan_of(request));
         request.out.make_folder();
         return study_run(designs, request, out, err).run();
-    } catch (const study_problem& problem) {
-        err << problem.text(request.source.language) << '\n';
-        return EXIT_USAGE;
-    } catch (const run_time_error& error) {
-        err << request.out.out << ": " << run_time_error_line(error, request.source.language)
-            << '\n';
-        return EXIT_REFUSED;
-    }
+    });
 }
 
 }  // namespace kvt

@@ -3,8 +3,11 @@
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
 #include "app/stages/silent_user.hpp"
+#include "app/study/study_problem.hpp"
 #include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
+#include "kvt/batch_user.hpp"
+#include "kvt/exit_status.hpp"
 
 #include <array>
 #include <ostream>
@@ -51,6 +54,24 @@ void study_out::make_folder() const {
     if (error) {
         throw run_time_error(failure::path_file_access, out,
                              {file_fault::reason::system, error.value()});
+    }
+}
+
+int run_on_project(const design_source& source, const study_out& where, std::ostream& err,
+                   const std::function<int(const program& base)>& run) {
+    batch_user person(err);
+    program base;
+    if (const auto early = open_design(base, person, source)) {
+        return exit_status(*early);
+    }
+    try {
+        return run(base);
+    } catch (const study_problem& problem) {
+        err << problem.text(source.language) << '\n';
+        return EXIT_USAGE;
+    } catch (const run_time_error& error) {
+        err << where.out << ": " << run_time_error_line(error, source.language) << '\n';
+        return EXIT_REFUSED;
     }
 }
 

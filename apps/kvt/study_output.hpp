@@ -1,11 +1,13 @@
 // study_output: what kvt study and kvt search write beside their rows, and where.
 #pragma once
 
+#include "app/stages/batch_run.hpp"
 #include "app/study/study.hpp"
 #include "app/study/study_text.hpp"
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -24,6 +26,12 @@ struct study_out {
     /// Makes the folder of saved projects, where there are any. Throws run_time_error.
     void make_folder() const;
 };
+
+/// Opens the project of a study and runs something on it. Answers its exit status, that of a
+/// project that can't be opened, usage for a study that can't be, and refused when a file can't be
+/// written.
+int run_on_project(const design_source& source, const study_out& where, std::ostream& err,
+                   const std::function<int(const program& base)>& run);
 
 /// What was named, or what an engineer sees of a design.
 std::vector<std::string> recorded_or_usual(const std::vector<std::string>& named);
