@@ -10,7 +10,17 @@ function(kvt_room room)
     add_library(kvt_${room} STATIC ${arg_SOURCES})
     target_include_directories(kvt_${room} PUBLIC "${include_folder}")
     target_link_libraries(kvt_${room} PUBLIC kvt_options)
+    # The Python module holds every room but that of the windows.
+    if(KVT_BUILD_PYTHON AND NOT room STREQUAL "ui")
+        kvt_position_independent(kvt_${room})
+    endif()
     foreach(used IN LISTS arg_USES)
         target_link_libraries(kvt_${room} PUBLIC kvt_${used})
     endforeach()
+endfunction()
+
+# A module holds code that can lie anywhere; that of its own functions may still be put in one another, as in a program.
+function(kvt_position_independent library)
+    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(${library} PRIVATE -fno-semantic-interposition)
 endfunction()

@@ -12,6 +12,7 @@ LEVELS = [["base"], ["automation", "core"], ["geometry"], ["ports"], ["performan
 LEVEL_OF = {room: level for level, rooms in enumerate(LEVELS) for room in rooms}
 # Rooms whose folders know nothing of each other.
 SEPARATE_FOLDERS = {"output"}
+WITHOUT_QT = {"apps/kvt": "the batch program", "apps/python": "the Python module"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
@@ -60,10 +61,11 @@ def findings(root):
     for folder in sorted((root / "src").iterdir()):
         if folder.is_dir() and any(folder.rglob("*.[ch]pp")):
             yield from findings_of_room(root, folder)
-    for path in sorted((root / "apps" / "kvt").rglob("*.[ch]pp")):
-        for number, kind, name in includes(path):
-            if (kind == "<" and re.match(r"Q[A-Z]|Qt", name)) or name.startswith("ui/"):
-                yield f"{path.relative_to(root)}:{number}: the batch program does without Qt: {name}"
+    for folder, who in WITHOUT_QT.items():
+        for path in sorted((root / folder).rglob("*.[ch]pp")):
+            for number, kind, name in includes(path):
+                if (kind == "<" and re.match(r"Q[A-Z]|Qt", name)) or name.startswith("ui/"):
+                    yield f"{path.relative_to(root)}:{number}: {who} does without Qt: {name}"
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Reports sources of src and of the batch program without a test file. Usage: check_sources_have_tests.py [ROOT].
+"""Reports sources of src, of the batch program and of the Python module without a test file. Usage: check_sources_have_tests.py [ROOT].
 
 src/geometry/trochoid.cpp is tested by tests/geometry/trochoid_test.cpp, apps/kvt/json_report.cpp by
 tests/kvt/json_report_test.cpp. What a system does in its own way stands in folders named after the systems and may be
@@ -9,7 +9,7 @@ sources COVERED_BY names it; what needs no test stands in WITHOUT_TEST with the 
 import pathlib
 import sys
 
-FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt"}
+FOLDERS = {"src": "tests", "apps/kvt": "tests/kvt", "apps/python": "tests/python"}
 SYSTEMS = {"posix", "windows"}
 
 COVERED_BY = {
@@ -23,6 +23,10 @@ COVERED_BY = {
     "src/base/windows/system_file.cpp": "tests/base/windows/whole_file_test.cpp",
     "src/output/data/no_workbook_file.cpp": "tests/windows/kvt_test.py",
     "src/output/cnc/contour_gap.cpp": "tests/output/cnc/port_cnc_test.cpp",
+    "apps/python/held_design.cpp": "tests/python/test_design.py",
+    "apps/python/module.cpp": "tests/python/test_stub.py",
+    "apps/python/numpy_values.cpp": "tests/python/test_results.py",
+    "apps/python/script_study.cpp": "tests/python/test_study.py",
     "apps/kvt/exit_status.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/batch_user.cpp": "tests/kvt/calc_command_test.cpp",
     "apps/kvt/driven_host.cpp": "tests/kvt/excel_command_test.cpp",

@@ -1,6 +1,7 @@
 #include "kvt/export_command.hpp"
 
 #include "app/export/export_files.hpp"
+#include "app/export/export_folder.hpp"
 #include "app/export/export_performance.hpp"
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
@@ -9,7 +10,6 @@
 #include "kvt/exit_status.hpp"
 
 #include <ostream>
-#include <system_error>
 
 namespace kvt {
 
@@ -20,14 +20,6 @@ std::filesystem::path exported_project_name(const design_source& source) {
     std::filesystem::path name = path_of_utf8(source.project).filename();
     name.replace_extension(".KVT");
     return name;
-}
-
-void create_folder(const std::filesystem::path& folder) {
-    std::error_code failed;
-    std::filesystem::create_directories(folder, failed);
-    if (failed) {
-        throw run_time_error(failure::path_not_found, utf8_of_path(folder));
-    }
 }
 
 /// The project as it stands, before anything is calculated. False when it could not be written.

@@ -4,8 +4,17 @@
 #include "base/path_text.hpp"
 
 #include <ostream>
+#include <system_error>
 
 namespace kvt {
+
+void create_folder(const std::filesystem::path& folder) {
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
+    if (failed) {
+        throw run_time_error(failure::path_not_found, utf8_of_path(folder));
+    }
+}
 
 void export_folder::write(std::string_view name, const text_writer& writer) {
     const std::string path = path_of(name);

@@ -14,6 +14,9 @@
 
 namespace kvt {
 
+/// Creates a folder with those above it. Throws path_not_found.
+void create_folder(const std::filesystem::path& folder);
+
 /// Paths of written files go to `out`, one a line; notes and failures to `err`.
 class export_folder {
   public:

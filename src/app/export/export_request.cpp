@@ -33,7 +33,7 @@ bool export_request::names(const written_file& file) const {
 bool export_request::wants(const written_file& file) const {
     switch (row_of(file.group).choice) {
         case file_choice::by_name:
-            return chooses_nothing(*this) || names(file) ||
+            return (chooses_nothing(*this) && !only_chosen) || names(file) ||
                    holds(chosen_of(*this, file.group), "all");
         case file_choice::only_by_name:
             return names(file) || holds(chosen_of(*this, file.group), "all");
@@ -42,7 +42,7 @@ bool export_request::wants(const written_file& file) const {
         case file_choice::always:
             break;
     }
-    return true;
+    return !only_chosen || names(file);
 }
 
 bool export_request::wants_performance() const {

@@ -24,6 +24,7 @@ struct export_request {
     bool workbook = false;          ///< perf.xlsx
     char decimal_mark = '.';        ///< of the performance data files
     double chord_error_mm = DEFAULT_CHORD_ERROR_MM;  ///< of the STL files
+    bool only_chosen = false;                        ///< nothing but what was asked for
     bool force = false;  ///< zeros of a performance that was not calculated are written
 
     /// Whether a file was asked for by its name, or by the flag of its group.
