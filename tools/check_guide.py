@@ -9,7 +9,7 @@ import re
 import sys
 
 FORMS = ["Form1", "portdes", "Perffrm", "select_graphs", "perf_res", "result_tables", "exact_figures", "model_view",
-         "history", "viewwinfrm", "MDIForm1",
+         "history", "study_form", "viewwinfrm", "MDIForm1",
          "Form2", "Form3", "Form4", "graphpopupmenu", "viewpopupmenu"]
 ROW = re.compile(r'^\{(\w*caption\w*), "(\w+)", "(\w*)",\s*"((?:[^"\\]|\\.)*)"', re.MULTILINE)
 PICTURE = re.compile(r"!\[[^\]]*\]\((screen|share):([^)]+)\)")
@@ -32,6 +32,18 @@ WITHOUT_PAGE = {
     ("history", "empty_text"): "a word of a step's name",
     ("history", "and_more"): "a word of a step's name",
     ("history", "more_entries"): "a word of a step's name",
+    ("study_form", "open_title"): "the title of a file dialog",
+    ("study_form", "save_title"): "the title of a file dialog",
+    ("study_form", "table_title"): "the title of a file dialog",
+    ("study_form", "projects_title"): "the title of a file dialog",
+    ("study_form", "study_files"): "the types of a file dialog",
+    ("study_form", "table_files"): "the types of a file dialog",
+    ("study_form", "ports_refused"): "the end of a result",
+    ("study_form", "performance_refused"): "the end of a result",
+    ("study_form", "progress"): "a line with numbers",
+    ("study_form", "time_left"): "a line with numbers",
+    ("study_form", "shown"): "a line with numbers",
+    ("study_form", "in_front"): "a tooltip",
     ("graphpopupmenu", "title"): "the title of a file dialog",
     ("graphpopupmenu", "filter"): "the types of a file dialog",
     ("viewpopupmenu", "title"): "the title of a file dialog",

@@ -2,7 +2,7 @@
 
 #include "app/files/project_entries.hpp"
 #include "app/program.hpp"
-#include "app/stages/silent_user.hpp"
+#include "app/study/study_files.hpp"
 #include "app/study/study_problem.hpp"
 #include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
@@ -21,15 +21,6 @@ constexpr std::array USUALLY_RECORDED = {
     "capacity",  "area_ratio",     "max_chamb_vol",       "min_chamb_vol",   "outer_diameter",
     "max_speed", "flow_m3s_max",   "vol_eff_max",         "overall_eff_max", "power_max",
     "hertz_max", "ripple_percent", "max_shaft_side_load", "max_cutter_inner"};
-
-program with_texts(const study& designs, const std::vector<std::string>& texts) {
-    program typed = designs.base();
-    silent_user person;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        type_entry(typed, person, {designs.plan().variables[i].control, texts[i]});
-    }
-    return typed;
-}
 
 }  // namespace
 
@@ -88,7 +79,7 @@ void save_projects(const study& designs, const std::vector<study_row>& best, con
         ++number;
         const std::string name = "best_" + std::to_string(number) + ".KVT";
         const std::string path = utf8_of_path(path_of_utf8(where.out) / path_of_utf8(name));
-        write_entries(with_texts(designs, row.texts), path);
+        write_entries(with_typed_texts(designs, row.texts), path);
         out << path << '\n';
     }
 }

@@ -57,6 +57,8 @@ constexpr std::array FORM_ROWS = {
     loaded_child("exact_figures", "Exact Figures", "mnuwindow", NEW_OR_OPEN),
     loaded_child("model_view", "Model View", "Solid Model", closer::nothing),
     loaded_child("history", "History", "mnuedithistory", closer::nothing),
+    // Closing hides it: what was typed and calculated is there the next time.
+    loaded_child("study_form", "Study", "mnuwindow", closer::nothing),
     form_row{"MDIForm1", "main window", main_window, whole_run, "start", closer::nothing,
              "Main Screen", window_rectangle{}, false},
     chart("FLOW_graphview2", "Pump Flow", "flow_checkbox", "Flow Chart", 300),

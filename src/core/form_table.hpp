@@ -67,7 +67,7 @@ struct form_row {
 /// All forms. Those with a block in the layout file stand in the order of the file.
 std::span<const form_row> form_rows();
 
-inline constexpr std::size_t FORM_COUNT = 29;
+inline constexpr std::size_t FORM_COUNT = 30;
 
 /// The child windows that stand from the start to the end: the first rows.
 std::span<const form_row> fixed_child_rows();

@@ -61,6 +61,7 @@ consteval auto form_rows() {
 #include "core/texts/spoken.inc"
 #include "core/texts/step.inc"
 #include "core/texts/study.inc"
+#include "core/texts/study_form.inc"
 #include "core/texts/viewpopupmenu.inc"
 #include "core/texts/viewwinfrm.inc"
     });

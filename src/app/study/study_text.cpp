@@ -1,55 +1,16 @@
 #include "app/study/study_text.hpp"
 
+#include "app/study/run_words.hpp"
+#include "app/study/study_json.hpp"
 #include "app/study/study_problem.hpp"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
-#include <nlohmann/json.hpp>
 #include <optional>
 
 namespace kvt {
 
 namespace {
-
-using json = nlohmann::ordered_json;
-
-constexpr std::array ENDS = {batch_end::ok,        batch_end::validation, batch_end::failure,
-                             batch_end::closing,   batch_end::error,      batch_end::fatal,
-                             batch_end::read_error};
-
-batch_end end_of(std::string_view name) {
-    const auto found = std::ranges::find(ENDS, name, batch_end_name);
-    if (found == ENDS.end()) {
-        throw study_problem("no_row", {std::string(name)});
-    }
-    return *found;
-}
-
-// Whether a stage refused something: "ok", "refused", or nothing where it did not run.
-
-std::string stage_text(bool has_run, bool is_refused) {
-    return is_refused ? "refused" : has_run ? "ok" : "";
-}
-
-std::string ports_text(const batch_result& result) {
-    return stage_text(result.ports_reached, result.ports_refused);
-}
-
-std::string performance_text(const batch_result& result) {
-    return stage_text(result.performance_reached, result.performance_refused);
-}
-
-batch_result result_of(std::string_view end, std::string_view ports, std::string_view performance) {
-    batch_result result;
-    result.end = end_of(end);
-    result.profiles_reached = result.end != batch_end::validation;
-    result.ports_reached = !ports.empty();
-    result.ports_refused = ports == "refused";
-    result.performance_reached = performance == "ok";
-    result.performance_refused = performance == "refused";
-    return result;
-}
 
 std::uint64_t number_of(std::string_view text) {
     std::uint64_t number = 0;
@@ -126,8 +87,8 @@ std::string csv_row(const study_row& row) {
     std::vector<std::string> cells = {std::to_string(row.number)};
     cells.insert(cells.end(), row.texts.begin(), row.texts.end());
     cells.emplace_back(batch_end_name(row.result.end));
-    cells.push_back(ports_text(row.result));
-    cells.push_back(performance_text(row.result));
+    cells.push_back(ports_word(row.result));
+    cells.push_back(performance_word(row.result));
     for (const std::optional<double>& value : row.values) {
         cells.push_back(value_text(value));
     }
@@ -173,7 +134,7 @@ study_row csv_row_of(const study& designs, std::string_view line) {
     row.number = number_of(cells[0]);
     const auto run = cells.begin() + 1 + static_cast<std::ptrdiff_t>(variables);
     row.texts.assign(cells.begin() + 1, run);
-    row.result = result_of(run[0], run[1], run[2]);
+    row.result = result_of_words(run[0], run[1], run[2]);
     for (std::size_t i = 0; i < values; ++i) {
         row.values.push_back(value_of_text(run[static_cast<std::ptrdiff_t>(CELLS_OF_RUN + i)]));
     }
@@ -195,50 +156,6 @@ std::string csv_head(const study& designs) {
     return csv_line(cells);
 }
 
-// JSON lines.
-
-std::string json_row(const study& designs, const study_row& row) {
-    json object = {{"design", row.number}};
-    json& typed = object["typed"] = json::object();
-    for (std::size_t i = 0; i < row.texts.size(); ++i) {
-        typed[designs.plan().variables[i].control] = row.texts[i];
-    }
-    object["end"] = batch_end_name(row.result.end);
-    object["ports"] = ports_text(row.result);
-    object["performance"] = performance_text(row.result);
-    json& values = object["values"] = json::object();
-    for (std::size_t i = 0; i < row.values.size(); ++i) {
-        values[designs.recorded()[i].name] = row.values[i] ? json(*row.values[i]) : json(nullptr);
-    }
-    object["messages"] = row.messages;
-    object["hints"] = row.hints;
-    return object.dump(-1, ' ', false, json::error_handler_t::replace) + "\n";
-}
-
-study_row json_row_of(const study& designs, std::string_view line) {
-    try {
-        const json object = json::parse(line);
-        study_row row;
-        row.number = object.at("design");
-        for (const study_variable& variable : designs.plan().variables) {
-            row.texts.push_back(object.at("typed").at(variable.control));
-        }
-        row.result =
-            result_of(object.at("end").get<std::string>(), object.at("ports").get<std::string>(),
-                      object.at("performance").get<std::string>());
-        for (const chosen_quantity& quantity : designs.recorded()) {
-            const json& value = object.at("values").at(quantity.name);
-            row.values.push_back(value.is_null() ? std::nullopt
-                                                 : std::optional(value.get<double>()));
-        }
-        row.messages = object.at("messages").get<std::vector<std::string>>();
-        row.hints = object.at("hints").get<std::vector<std::string>>();
-        return row;
-    } catch (const json::exception&) {
-        throw study_problem("no_row", {std::string(line)});
-    }
-}
-
 }  // namespace
 
 std::string head_line(const study& designs, study_format format) {
@@ -246,12 +163,13 @@ std::string head_line(const study& designs, study_format format) {
 }
 
 std::string row_line(const study& designs, const study_row& row, study_format format) {
-    return format == study_format::csv ? csv_row(row) : json_row(designs, row);
+    return format == study_format::csv ? csv_row(row)
+                                       : text_of_json(json_of_row(designs, row)) + "\n";
 }
 
 study_row row_of_line(const study& designs, std::string_view line, study_format format) {
-    study_row row =
-        format == study_format::csv ? csv_row_of(designs, line) : json_row_of(designs, line);
+    study_row row = format == study_format::csv ? csv_row_of(designs, line)
+                                                : row_of_json(designs, json_of_text(line));
     row.meets_conditions = true;
     return row;
 }

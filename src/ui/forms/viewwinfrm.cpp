@@ -41,6 +41,8 @@ constexpr int ANGLE_WIDTH = 56;
 constexpr QColor TRIAL_COLOUR(170, 70, 235);
 constexpr QColor PALE_TRIAL_COLOUR(170, 70, 235, 90);
 constexpr double TRIAL_WIDTH = 1.2;  ///< pixels
+/// Of a design of a study: told apart from trials in light and dark.
+constexpr QColor POINTED_COLOUR(0, 140, 120);
 
 /// How much larger one notch of the wheel draws.
 constexpr double ZOOM_OF_STEP = 1.25;
@@ -320,6 +322,11 @@ void viewwinfrm::show_preview(const preview_state& trial) {
     show_overlays();
 }
 
+void viewwinfrm::show_pointed(std::shared_ptr<const kept_design> design) {
+    pointed_ = std::move(design);
+    show_overlays();
+}
+
 /// Outlines of a design where the view stands.
 design_painting viewwinfrm::painting_of(const kept_design& kept,
                                         const overlaid_outlines& which) const {
@@ -341,6 +348,10 @@ void viewwinfrm::show_overlays() {
         overlaid_outlines ports = ports_.design->outlines;
         ports.rotors = false;
         add_overlay(ports_, ports, overlays);
+    }
+    if (pointed_ != nullptr) {
+        overlays.push_back(
+            {painting_of(*pointed_, pointed_->outlines), POINTED_COLOUR, TRIAL_WIDTH});
     }
     picture_->show_overlays(std::move(overlays));
 }

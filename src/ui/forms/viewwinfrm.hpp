@@ -65,6 +65,8 @@ class viewwinfrm : public mdi_form {
 
     /// What lies over the calculated design: the trial of the entries that are being typed.
     void show_preview(const preview_state& trial);
+    /// Draws the design that is pointed at in a study over the pair; null: none is.
+    void show_pointed(std::shared_ptr<const kept_design> design);
 
     void name_controls() override;
 
@@ -113,7 +115,8 @@ class viewwinfrm : public mdi_form {
     QWidget* bottom_row_;
     QLineEdit* angle_ = nullptr;
     QList<QTimer*> timers_;
-    shown_trial rotors_, ports_;  ///< drawn over the pair
+    shown_trial rotors_, ports_;                  ///< drawn over the pair
+    std::shared_ptr<const kept_design> pointed_;  ///< of a study, drawn over it, too
     design_popup* popup_ = nullptr;
     std::int16_t popup_language_ = 0;
     measurement measured_;

@@ -11,6 +11,7 @@
 #include "ui/forms/Form1.hpp"
 #include "ui/forms/Form3.hpp"
 #include "ui/forms/exact_figures.hpp"
+#include "ui/forms/study_form.hpp"
 #include "ui/forms/viewwinfrm.hpp"
 #include "ui/parts/accessible_names.hpp"
 #include "ui/parts/announcer.hpp"
@@ -135,6 +136,10 @@ void MDIForm1::load_child(std::string_view form) {
     if (const auto* exact = qobject_cast<exact_figures*>(made)) {
         connect(exact, &exact_figures::chamber_shown, findChild<viewwinfrm*>(),
                 &viewwinfrm::show_turned);
+    }
+    if (const auto* study = qobject_cast<study_form*>(made)) {
+        connect(study, &study_form::design_pointed, findChild<viewwinfrm*>(),
+                &viewwinfrm::show_pointed);
     }
     made->refresh();
     made->name_controls();

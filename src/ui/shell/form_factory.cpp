@@ -10,6 +10,7 @@
 #include "ui/forms/portdes.hpp"
 #include "ui/forms/result_tables.hpp"
 #include "ui/forms/select_graphs.hpp"
+#include "ui/forms/study_form.hpp"
 #include "ui/forms/viewwinfrm.hpp"
 
 #include <algorithm>
@@ -42,6 +43,7 @@ constexpr std::array FORM_MAKERS = {
     form_maker{"exact_figures", made<exact_figures>},
     form_maker{"model_view", made<model_view>},
     form_maker{"history", made<history>},
+    form_maker{"study_form", made<study_form>},
 };
 
 }  // namespace

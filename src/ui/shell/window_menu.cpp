@@ -24,6 +24,8 @@ constexpr const char* OF_MODELS = "model_view";
 /// What it shows stands once there are rotors.
 constexpr const char* EXACT_FIGURES = "exact_figures";
 
+constexpr const char* STUDY = "study_form";
+
 bool can_be_shown(const program& kavetta, const QString& form) {
     if (form == EXACT_FIGURES) {
         return kavetta.exact_record.source->has_rotors;
@@ -48,6 +50,7 @@ window_menu::window_menu(form_context context, QMainWindow& window)
     }
     add_entry(*menu, EXACT_FIGURES);
     add_entry(*menu, OF_MODELS);
+    add_entry(*menu, STUDY);
 }
 
 void window_menu::add_entry(QMenu& menu, const QString& form) {

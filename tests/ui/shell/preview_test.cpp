@@ -276,7 +276,8 @@ class previewed_edits_test : public preview_test {
     void begin(bool with_preview) {
         program_on_screen.reset();
         for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
-            if (utf8_of_path(entry.path().filename()).starts_with("recovery")) {
+            const std::string name = utf8_of_path(entry.path().filename());
+            if (name.starts_with("recovery") || name.starts_with("autosave")) {
                 std::filesystem::remove(entry.path());
             }
         }

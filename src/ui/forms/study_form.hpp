@@ -1,0 +1,118 @@
+// study_form: the Study window, where many designs of the project are calculated at once, read as a
+// table, compared and taken over.
+#pragma once
+
+#include "app/study/study_document.hpp"
+#include "app/trial/kept_design.hpp"
+#include "ui/parts/latest_task.hpp"
+#include "ui/shell/loaded_form.hpp"
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+class QBoxLayout;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QProgressBar;
+class QPushButton;
+class QSpinBox;
+class QTableView;
+class QTableWidget;
+
+namespace kvt {
+
+class study_table_model;
+class study_worker;
+
+class study_form : public loaded_form {
+    Q_OBJECT
+
+  public:
+    explicit study_form(form_context context);
+    ~study_form() override;
+
+    QSize start_size() const override;
+    /// At the bottom, so that the Design view can be seen above it.
+    QRect start_place(const QRect& area) const override;
+    void refresh() override;
+
+  signals:
+    /// A row was pointed at: its design is to be drawn over the present one; null: none is.
+    void design_pointed(const std::shared_ptr<const kvt::kept_design>& design);
+
+  protected:
+    /// It keeps what was typed and calculated for the next time.
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    QWidget* plan_side();
+    void add_variables(QBoxLayout& side);
+    void add_kind(QGridLayout& grid);
+    void add_quantities(QBoxLayout& side);
+    void add_texts(QGridLayout& grid);
+    void add_commands(QBoxLayout& side);
+    QWidget* result_side();
+
+    void fill_entries();
+    void fill_kinds();
+    void fill_quantities();
+    void show_units();
+    void show_kind();
+    void show_running();
+    void show_counts();
+    void show_progress(quint64 done, quint64 count, double seconds_left);
+    QString text_named(const char* name) const;
+
+    void add_variable();
+    void add_variable_row(const QString& control, const QString& values);
+    void remove_variable();
+    void filter_quantities(const QString& text);
+
+    study_document document() const;
+    void show_document(const study_document& shown);
+    void run();
+    void take_rows(const std::vector<study_row>& rows);
+    void end_run(const QString& problem);
+    void mark_front();
+
+    std::vector<study_row> chosen_rows() const;
+    void point_at_row();
+    void take_over();
+    void open();
+    void save();
+    void save_table();
+    void save_projects();
+
+    QTableWidget* variables_;
+    QComboBox* entry_;
+    QComboBox* kind_;
+    QSpinBox* count_;
+    QSpinBox* seed_;
+    QLineEdit* step_;
+    QLineEdit* quantity_filter_;
+    QListWidget* quantities_;
+    QLineEdit* conditions_;
+    QLineEdit* targets_;
+    QLineEdit* aims_;
+    QPushButton* run_;
+    QPushButton* stop_;
+    QProgressBar* progress_;
+    QLabel* progress_text_;
+    QLineEdit* filter_;
+    QLabel* shown_text_;
+    QTableView* table_;
+    study_table_model* model_;
+    study_worker* worker_;
+    std::shared_ptr<const study> designs_;  ///< whose rows the table holds
+    study_document calculated_;             ///< the same as it was asked for, without its rows
+    std::int16_t language_ = 0;
+    std::pair<std::int16_t, std::int16_t> shown_units_;
+    latest_task pointing_;  ///< waits, when it goes, for a design that is at work
+};
+
+}  // namespace kvt
