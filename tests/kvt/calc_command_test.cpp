@@ -123,11 +123,10 @@ TEST(calc_command, writes_the_json_to_a_file_beside_the_summary) {
 
 TEST(calc_command, ends_with_1_when_the_json_cannot_be_written) {
     const temporary_folder folder;
-    const kvt_run run =
-        run_kvt({"calc", example("engine_oil"), "--json", folder.file("missing/report.json")});
+    const std::string file = folder.file("missing/report.json");
+    const kvt_run run = run_kvt({"calc", example("engine_oil"), "--json", file});
     EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.err.find("missing/report.json: Run-time error 76: Path not found"),
-              std::string::npos)
+    EXPECT_NE(run.err.find(file + ": Run-time error 76: Path not found"), std::string::npos)
         << run.err;
 }
 

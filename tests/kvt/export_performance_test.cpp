@@ -1,4 +1,4 @@
-// Tests of kvt export --data and --workbook.
+// Tests of kvt export --data, and of what --workbook says without a performance.
 #include "base/path_text.hpp"
 #include "kvt/kvt_run.hpp"
 
@@ -45,14 +45,6 @@ TEST(export_performance, writes_the_data_files_in_the_order_of_the_menu) {
     EXPECT_TRUE(fs::exists(folder.file("inner.dxf"))) << "beside the files of the design";
 }
 
-TEST(export_performance, writes_the_workbook_alone) {
-    const temporary_folder folder;
-    const kvt_run run = export_to(folder, {"--workbook"});
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(performance_files_in(folder), std::set<std::string>{"perf.xlsx"});
-    EXPECT_TRUE(run.out.ends_with(folder.file("perf.xlsx") + "\n"));
-}
-
 TEST(export_performance, is_left_out_when_nobody_asks) {
     const temporary_folder folder;
     const kvt_run run = export_to(folder, {"--set", "speed_hi="});
@@ -85,10 +77,9 @@ TEST(export_performance, that_is_refused_is_said_for_each_file) {
 
 TEST(export_performance, that_is_refused_is_written_as_zeros_by_force) {
     const temporary_folder folder;
-    const kvt_run run =
-        export_to(folder, {"--data", "--workbook", "--force", "--set", "speed_hi="});
+    const kvt_run run = export_to(folder, {"--data", "--force", "--set", "speed_hi="});
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(performance_files_in(folder).size(), 6U);
+    EXPECT_EQ(performance_files_in(folder), DATA_FILES);
     const std::vector<std::string> lines = split_lines(read_file(folder.file("perf_torque.txt")));
     ASSERT_EQ(lines.size(), 3U + 36U + 2U);
     for (std::size_t row = 0; row < 36; ++row) {
@@ -114,15 +105,6 @@ TEST(export_performance, by_force_has_no_results_of_a_run_that_failed) {
     EXPECT_EQ(export_to(folder, {"--data", "--force", "--set", without_inlet}).status, 1);
     EXPECT_EQ(split_lines(read_file(folder.file("perf_flow.txt"))).at(3), "0;0;0")
         << "the grid stood already when the run failed";
-}
-
-TEST(export_performance, that_can_not_be_saved_is_told) {
-    const temporary_folder folder;
-    fs::create_directory(folder.file("perf.xlsx"));
-    const kvt_run run = export_to(folder, {"--workbook"});
-    EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.err.find(folder.file("perf.xlsx") + ": Run-time error 75: "), std::string::npos)
-        << run.err;
 }
 
 }  // namespace

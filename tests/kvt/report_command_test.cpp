@@ -1,12 +1,14 @@
 // Tests of kvt report.
+#include "kvt/given_date.hpp"
 #include "kvt/kvt_run.hpp"
 
 namespace kvt {
 namespace {
 
+const std::string AFTERNOON = "2021-11-03T14:32:07";
+
 kvt_run report_engine_oil(const std::vector<std::string>& options) {
-    std::vector<std::string> arguments = {"report", example("engine_oil"), "--date",
-                                          "2021-11-03T14:32:07"};
+    std::vector<std::string> arguments = {"report", example("engine_oil"), "--date", AFTERNOON};
     arguments.insert(arguments.end(), options.begin(), options.end());
     return run_kvt(arguments);
 }
@@ -19,7 +21,8 @@ TEST(report_command, prints_the_report_on_standard_output) {
     const kvt_run run = report_engine_oil({});
     EXPECT_EQ(run.status, 0);
     EXPECT_TRUE(run.out.starts_with("    Kavetta V2021\n    ")) << run.out;
-    EXPECT_TRUE(holds(run.out, " 14:32:07\n\n\n\n\n    Gerotor Design Parameters\n\n"));
+    EXPECT_TRUE(holds(run.out, " " + time_of_day(given_clock(AFTERNOON)) +
+                                   "\n\n\n\n\n    Gerotor Design Parameters\n\n"));
     EXPECT_TRUE(holds(run.out, "\n    Max Volumetric Efficiency           "));
     EXPECT_EQ(run.err, "");
 }

@@ -1,5 +1,6 @@
 #include "app/desk/unsaved_files.hpp"
 
+#include "base/file_time.hpp"
 #include "base/path_text.hpp"
 #include "base/whole_file.hpp"
 
@@ -34,14 +35,6 @@ bool is_numbered_name(std::string_view file, std::string_view name) {
 
 std::optional<file_lock> lock_of(fs::path file) {
     return file_lock::take(file.replace_extension(".lock"));
-}
-
-std::chrono::system_clock::time_point written_at(const fs::path& file) {
-    std::error_code error;
-    const fs::file_time_type time = fs::last_write_time(file, error);
-    return error ? std::chrono::system_clock::time_point()
-                 : std::chrono::time_point_cast<std::chrono::system_clock::duration>(
-                       std::chrono::file_clock::to_sys(time));
 }
 
 left_file read_left_file(held_file file) {

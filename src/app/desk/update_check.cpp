@@ -2,6 +2,7 @@
 
 #include "app/desk/program_title.hpp"
 #include "app/program.hpp"
+#include "base/code_page.hpp"
 #include "base/environment.hpp"
 #include "base/path_text.hpp"
 #include "base/run_time_error.hpp"
@@ -35,10 +36,10 @@ std::string named_server(const std::filesystem::path& folder) {
     }
 }
 
-/// A name from outside must stay in the folder that it is written to.
+/// A name from outside must stay in the folder that it is written to, and be a text.
 void require_plain_name(const std::string& name) {
     if (name.empty() || name == "." || name.find_first_of("/\\:") != std::string::npos ||
-        name.find("..") != std::string::npos) {
+        name.find("..") != std::string::npos || !fits_code_page(name)) {
         throw run_time_error(failure::bad_file_name, "'" + name + "'");
     }
 }

@@ -120,7 +120,7 @@ TEST_F(update_check_test, fails_past_the_end_of_an_empty_list) {
 }
 
 TEST_F(update_check_test, fetches_nothing_under_a_name_that_leaves_the_folder) {
-    for (const char* name : {"..", "../a.bin", "a/b", "a\\b", "C:a", "", ".", "a..b"}) {
+    for (const char* name : {"..", "../a.bin", "a/b", "a\\b", "C:a", "", ".", "a..b", "a\xff"}) {
         serve_list("2022.1.0\r\n" + std::string(name) + "\r\nx\r\n");
         server.log.clear();
         EXPECT_FAILURE(check(), failure::bad_file_name);

@@ -221,7 +221,7 @@ TEST_F(open_project_test, finds_a_name_that_the_code_page_cannot_hold_in_that_of
     EXPECT_EQ(kavetta.labels.title, "Kavetta V2021 - 'насос 2'");
     // A file that was renamed keeps the name that stands in it.
     const std::string renamed = folder.file("projects/фильтр.KVT");
-    std::filesystem::copy_file(path, renamed);
+    std::filesystem::copy_file(path_of_utf8(path), path_of_utf8(renamed));
     open_project_file(kavetta, person, renamed);
     EXPECT_EQ(kavetta.app_state.project_name, "????? 2");
 }

@@ -41,30 +41,6 @@ TEST(conversion_watch, is_over_after_ten_minutes) {
     EXPECT_TRUE(watch.is_over(milliseconds(600000), std::nullopt, true));
 }
 
-TEST(run_conversion, ends_a_converter_whose_time_is_over) {
-    gt_stand_in package;
-    package.delay("30");
-    gt_person person;
-    conversion_limits limits;
-    limits.whole = milliseconds(300);
-    const conversion files = {"none.gem", package.home() / "a.gtm", package.home() / "a.txt", 2021};
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_TRUE(run_conversion(person, files, limits)) << "nobody ended it";
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
-    EXPECT_FALSE(person.is_tool_running());
-}
-
-TEST(run_conversion, ends_when_the_person_wants_no_more_of_it) {
-    gt_stand_in package;
-    package.delay("30");
-    gt_person person;
-    person.patience = 2;
-    const conversion files = {"none.gem", package.home() / "a.gtm", package.home() / "a.txt", 2021};
-    EXPECT_FALSE(run_conversion(person, files, LIMITS));
-    EXPECT_EQ(person.waits, 2);
-    EXPECT_FALSE(person.is_tool_running());
-}
-
 TEST(run_conversion, without_the_converter_is_a_failure) {
     gt_stand_in package;
     gt_person person;

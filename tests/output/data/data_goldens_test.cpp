@@ -10,7 +10,8 @@ namespace {
 void expect_goldens(const program& kavetta, const std::string& folder) {
     for (const written_file& file : files_of(file_group::data)) {
         expect_shortened_golden(folder + file_name(file),
-                                file_bytes(kavetta, file_group::data, file.name));
+                                file_bytes(kavetta, file_group::data, file.name),
+                                kavetta.decimal_mark);
     }
 }
 

@@ -87,11 +87,25 @@ struct drawn_path {
     std::string id, classes, data;
 };
 
+/// What stands between the two texts behind `at`, which goes on behind the second one.
+std::string between(const std::string& bytes, std::size_t& at, std::string_view before,
+                    std::string_view behind) {
+    const std::size_t from = bytes.find(before, at) + before.size();
+    const std::size_t to = bytes.find(behind, from);
+    at = to + behind.size();
+    return bytes.substr(from, to - from);
+}
+
+/// A regular expression would call itself for each character of a path.
 std::vector<drawn_path> paths_of(const std::string& bytes) {
-    const std::regex path(R"x(<path id="([^"]+)" class="([^"]+)" d="([^"]+)"/>)x");
     std::vector<drawn_path> paths;
-    for (std::sregex_iterator at(bytes.begin(), bytes.end(), path), end; at != end; ++at) {
-        paths.push_back({(*at)[1], (*at)[2], (*at)[3]});
+    for (std::size_t at = bytes.find("<path "); at != std::string::npos;
+         at = bytes.find("<path ", at)) {
+        drawn_path path;
+        path.id = between(bytes, at, "<path id=\"", "\"");
+        path.classes = between(bytes, at, " class=\"", "\"");
+        path.data = between(bytes, at, " d=\"", "\"/>");
+        paths.push_back(path);
     }
     return paths;
 }
