@@ -18,6 +18,7 @@ ROOMS = ("app", "views", "ui")
 ALLOWED = {
     "Liberation Sans": "the name of a font",
     "DejaVu Sans": "the name of a font",
+    "%1 already exists.\\nDo you want to replace it?": "Qt's own question, in its own translations",
     # What typed_entry_problem answers to the caller of a batch run; English, as are its options.
     "there is no control '": "to the caller of a batch run",
     "; near names: ": "to the caller of a batch run",

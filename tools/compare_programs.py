@@ -7,7 +7,7 @@ folder of its own with the same name. A difference in one digit is reported with
 With --nearly the C library may decide about the last digits, and paths differ in their separator. Numbers differ by at
 most RELATIVE of their size, whole ones by one; in CNC and DXF files by one in the last place, in STEP files by LARGEST_MM.
 All points of the profiles are compared too, and what differed is summed up. The search for a sharp corner of a port ends
-at a step; one program may end a step earlier, and numbers of such designs then differ by ONE_STEP.
+at a step; one program may end a step earlier, and what depends on the ports of such a design then differs by ONE_STEP.
 """
 import collections
 import filecmp
@@ -35,11 +35,17 @@ RELATIVE = 1e-10
 SMALLEST = 1e-6  # what is smaller is compared as if it were as large
 LARGEST_MM = 1e-11
 ROUNDED = {".cnc", ".dxf"}
-# Of random designs: the chambers between their rotors are cut out where these nearly touch.
-RANDOM_RELATIVE = 1e-8
+# Of random designs: differences of nearly equal numbers, which lose digits. A chamber is what the outer rotor's lobe holds
+# less what the inner rotor takes of it; the area ratio is that of a ring whose radii nearly agree.
+CANCELLED = {"min_chamb_vol": 1e-8, "max_chamb_vol": 1e-9, "area_ratio": 1e-9}
 # Of the search for a corner: degrees, and millimetres at the radius of a port; and what results of it differ by.
 ONE_STEP = 0.0021
 STEP_RELATIVE = 1e-4
+# Files by the beginnings of their names. The corners of a groove stand in files of the ports alone.
+FILES_OF_PORTS = ("inlet", "outlet", "groove", "ports", "in_port", "out_port", "port_radius")
+FILES_OF_ROTORS = ("inner", "outer", "assembly")
+# Keys of the results that know nothing of the ports.
+RESULTS_OF_ROTORS = {"design_params", "rotor_profiles", "capacity", "max_cutter_inner", *CANCELLED}
 # Places of chart marks in twips, which a last digit rounds to one side or the other.
 WHOLE = re.compile(r"-?\d+\.0")
 NUMBER = re.compile(r"[-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?")
@@ -75,22 +81,24 @@ class counts_of_kind:
     """What differed in the files of one kind."""
 
     def __init__(self):
-        self.files = self.changed_files = self.numbers = self.whole = self.far = self.early = self.steps = 0
+        self.files = self.changed_files = self.numbers = self.whole = self.early = self.steps = 0
         self.relative = self.absolute = 0.0
+        self.far = collections.Counter()
 
-    def note(self, size, difference):
+    def note(self, name, size, difference):
         self.numbers += 1
         self.absolute = max(self.absolute, difference)
         self.relative = max(self.relative, difference / max(size, SMALLEST))
-        self.far += difference > RELATIVE * max(size, SMALLEST)
+        self.far[name] += difference > RELATIVE * max(size, SMALLEST)
         self.early += difference > 1e-13 * max(size, 1.0)
 
     def __str__(self):
         if self.changed_files == 0:
             return f"{self.files} files are the same"
+        far = ", ".join(f"{count} of {name}" for name, count in sorted(self.far.items()) if count)
         return (f"{self.changed_files} of {self.files} files differ: {self.numbers} numbers by at most "
                 f"{self.absolute:.2g} or {self.relative:.2g} of their size, {self.early} of them before the 14th digit, "
-                f"{self.far} by more than {RELATIVE:g}; {self.whole} whole numbers by one, {self.steps} by a step")
+                f"{far or 'none'} by more than {RELATIVE:g}; {self.whole} whole numbers by one, {self.steps} by a step")
 
 
 def last_place(number):
@@ -99,58 +107,99 @@ def last_place(number):
 
 
 @functools.lru_cache(maxsize=None)
-def has_sharp_corners(folder):
-    """Whether the ports of the design that was calculated there have no fillets."""
+def sharp_corners(folder):
+    """The angles of the ports of the design that was calculated there, none of ports with fillets."""
     results = folder / "results.json"
-    if not results.is_file():
-        return False
-    return json.loads(results.read_bytes()).get("entries", {}).get("port_radii") in ("", "0")
+    report = json.loads(results.read_bytes()) if results.is_file() else {}
+    if report.get("entries", {}).get("port_radii") not in ("", "0"):
+        return []
+    return [angle for name, angle in report.get("port_params", {}).items() if name.endswith("_deg")]
+
+
+def may_step(left, right):
+    """Whether two files may tell of a search for a corner that ended a step earlier in one of their folders."""
+    corners, others = sharp_corners(left.parent), sharp_corners(right.parent)
+    if left.name.startswith(FILES_OF_PORTS):
+        return bool(corners)
+    has_stepped = any(abs(angle - other) > SMALLEST for angle, other in zip(corners, others))
+    return has_stepped and not left.name.startswith(FILES_OF_ROTORS)
+
+
+def differing_places(left, right, place=()):
+    """Where two values of JSON say something else: their place by keys and what each says there."""
+    if left == right:
+        return
+    if isinstance(left, dict) and isinstance(right, dict) and left.keys() == right.keys():
+        for key in left:
+            yield from differing_places(left[key], right[key], (*place, key))
+    elif isinstance(left, list) and isinstance(right, list) and len(left) == len(right):
+        for pair in zip(left, right):
+            yield from differing_places(*pair, place)
+    else:
+        yield place, str(left), str(right)
 
 
 class near_comparison:
-    """Compares texts number by number and keeps what differed, by the ending of the file."""
+    """Compares texts number by number and keeps what differed, by the ending of the file. Cancelled are numbers of the
+    results that may differ by more than others, by their names."""
 
-    def __init__(self, relative=RELATIVE):
-        self.relative = relative
+    def __init__(self, cancelled=None):
+        self.cancelled = cancelled or {}
         self.kinds = collections.defaultdict(counts_of_kind)
 
     def text(self, path):
-        text = path.read_bytes().decode("latin-1")
-        return DATE_TEXT.sub("", text.replace("\\\\", "/").replace("\\", "/"))
+        return DATE_TEXT.sub('""', path.read_bytes().decode("latin-1"))
 
-    def largest(self, ending, left, right, size):
+    def with_one_separator(self, text):
+        return text.replace("\\\\", "/").replace("\\", "/")
+
+    def places(self, ending, left, right):
+        """What differs: in results by the keys of each value, else the whole text."""
+        if ending == ".json":
+            return differing_places(*(json.loads(text, parse_float=str, parse_int=str) for text in (left, right)))
+        return [((), left, right)]
+
+    def largest(self, ending, name, left, right, size):
         """How far two numbers may be apart."""
         if ending in ROUNDED:
             return 1.5 * min(last_place(left), last_place(right))
-        return LARGEST_MM if ending == ".stp" else self.relative * max(size, SMALLEST)
+        return LARGEST_MM if ending == ".stp" else self.cancelled.get(name, RELATIVE) * max(size, SMALLEST)
 
-    def same_number(self, ending, is_sharp, left, right):
+    def same_number(self, ending, name, steps, left, right):
         kind = self.kinds[ending]
         difference = abs(float(left) - float(right))
         if ending == ".json" and WHOLE.fullmatch(left) and WHOLE.fullmatch(right):
             kind.whole += 1
             return difference <= 1.0
         size = max(abs(float(left)), abs(float(right)))
-        if difference <= self.largest(ending, left, right, size):
-            kind.note(size, difference)
+        if difference <= self.largest(ending, name, left, right, size):
+            kind.note(name, size, difference)
             return True
         kind.steps += 1
-        return is_sharp and difference <= max(ONE_STEP, STEP_RELATIVE * size)
+        return steps and difference <= max(ONE_STEP, STEP_RELATIVE * size)
+
+    def same_text(self, ending, place, steps, left, right):
+        steps = steps and RESULTS_OF_ROTORS.isdisjoint(place)
+        left, right = self.with_one_separator(left), self.with_one_separator(right)
+        if steps:  # a number of another length moves its neighbours in a table
+            left, right = (re.sub(" +", " ", text) for text in (left, right))
+        if NUMBER.split(left) != NUMBER.split(right):
+            return False
+        name = place[-1] if place else "others"
+        pairs = zip(NUMBER.findall(left), NUMBER.findall(right))
+        return all([self.same_number(ending, name, steps, *pair) for pair in pairs if pair[0] != pair[1]])
 
     def __call__(self, left, right):
         """Whether two files say the same but for last digits."""
-        ending, is_sharp = left.suffix, has_sharp_corners(left.parent)
+        ending = left.suffix
+        steps = may_step(left, right)
         self.kinds[ending].files += 1
         left, right = self.text(left), self.text(right)
         if left == right:
             return True
         self.kinds[ending].changed_files += 1
-        if is_sharp:  # a number of another length moves its neighbours in a table
-            left, right = (re.sub(" +", " ", text) for text in (left, right))
-        if NUMBER.split(left) != NUMBER.split(right):
-            return False
-        pairs = zip(NUMBER.findall(left), NUMBER.findall(right))
-        return all([self.same_number(ending, is_sharp, *pair) for pair in pairs if pair[0] != pair[1]])
+        return all([self.same_text(ending, place, steps, *texts)
+                    for place, *texts in self.places(ending, left, right)])
 
     def __str__(self):
         return "\n".join(f"{ending}: {kind}." for ending, kind in sorted(self.kinds.items()))

@@ -609,16 +609,39 @@ class programs_test(tree_test):
         self.assertIn(".json: 1 of 2 files differ: 1 numbers by at most 9.8e-15", str(same))
         self.assertIn("1 whole numbers by one, 0 by a step.", str(same))
 
+    def stepped(self, radius, degrees, name="inlet.cnc", values=("X7.336612", "X7.336813")):
+        """Whether files of two designs are near whose ports begin so many degrees apart."""
+        for folder, angle, value in zip(("left", "right"), (36.3284, 36.3284 + degrees), values):
+            report = {"entries": {"port_radii": radius}, "port_params": {"inlet_t4_deg": angle}}
+            self.write(f"{folder}{radius}{degrees}/results.json", json.dumps(report))
+            self.write(f"{folder}{radius}{degrees}/{name}", value)
+        same = compare_programs.near_comparison()
+        return same(*(self.root / f"{folder}{radius}{degrees}" / name for folder in ("left", "right")))
+
     def test_a_sharp_corner_may_lie_one_step_apart(self):
-        for radius, is_near in (("", True), ("0", True), ("0.5", False)):
-            folder = f"pump{radius}/"
-            self.write(folder + "results.json", json.dumps({"entries": {"port_radii": radius}}))
-            self.write(folder + "left.cnc", "X7.336612")
-            self.write(folder + "right.cnc", "X7.336813")
-            self.write(folder + "far.cnc", "X7.346813")
-            same = compare_programs.near_comparison()
-            left, right, far = (self.root / folder / name for name in ("left.cnc", "right.cnc", "far.cnc"))
-            self.assertEqual((same(left, right), same(left, far)), (is_near, False))
+        self.assertTrue(self.stepped("", 0.002))
+        self.assertTrue(self.stepped("0", 0.001))
+        self.assertFalse(self.stepped("0.5", 0.002), "corners with a fillet are found exactly")
+        self.assertFalse(self.stepped("0", 0.0, "perf_flow.txt"), "no corner lies elsewhere")
+        self.assertTrue(self.stepped("0", 0.0, "groove.dxf"), "its corners are told nowhere else")
+        self.assertFalse(self.stepped("", 0.002, values=("X7.336612", "X7.346813")))
+
+    def test_rotors_know_nothing_of_a_corner(self):
+        self.assertFalse(self.stepped("", 0.002, "outer_xy.cnc"))
+        near = ('{"numbers": {"capacity": 7.336612}}', '{"numbers": {"capacity": 7.336813}}')
+        self.assertFalse(self.stepped("", 0.002, "more.json", near))
+        self.assertTrue(self.stepped("", 0.002, "more.json", [text.replace("capacity", "side_load") for text in near]))
+
+    def test_named_numbers_alone_may_lose_digits(self):
+        self.write("a.json", '{"path": "a\\\\b", "numbers": {"min_chamb_vol": [9.593464626822694], "side": 1.0}}')
+        self.write("b.json", '{"path": "a/b", "numbers": {"min_chamb_vol": [9.59346463516816], "side": 1.0}}')
+        same = compare_programs.near_comparison(compare_programs.CANCELLED)
+        self.assertTrue(same(self.root / "a.json", self.root / "b.json"))
+        self.assertIn("1 of min_chamb_vol by more than 1e-10", str(same))
+        strict = compare_programs.near_comparison()
+        self.assertFalse(strict(self.root / "a.json", self.root / "b.json"))
+        other = compare_programs.near_comparison({"side": 1e-8})
+        self.assertFalse(other(self.root / "a.json", self.root / "b.json"))
 
     def test_programs_that_write_nothing_are_reported(self):
         self.assertEqual(self.check("#!/bin/sh\n", "#!/bin/sh\n"), ["nothing was written, so nothing was compared"])
