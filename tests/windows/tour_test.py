@@ -137,6 +137,24 @@ class tour:
         self.person.press("Return")
         self.main = self.person.window(f"{TITLE} - 'Zahnräder groß'")
 
+    def keep_what_is_there(self):
+        """The question before overwriting is about the name with its ending, for a name with a point too."""
+        other = self.folder / "Pumpe 2.5.KVT"
+        other.write_bytes(b"there")
+        for path in (self.folder / "Pumpe ä.KVT", other):
+            before = path.read_bytes()
+            self.person.press("ctrl+shift+s")
+            dialog = self.person.window(f"{TITLE} - Save Project")
+            self.enter(path.stem)
+            self.person.other_window(dialog)
+            self.picture(f"a question about {path.name}")
+            self.person.press("alt+n")
+            self.person.same_window(dialog)
+            self.person.press("Escape")
+            self.main = self.person.window(self.main.title)
+            expect(f"{path.name} was overwritten", path.read_bytes() == before)
+        other.unlink()
+
     def write_cnc_files(self):
         self.person.click(self.main, *self.place("mnudata"))
         self.person.menu()
@@ -164,6 +182,11 @@ class tour:
 
     def save_next(self, title, name):
         self.person.window(f"{TITLE} - {title}")
+        self.enter(name)
+
+    def enter(self, name):
+        """A name in place of the proposed one, in a file dialog."""
+        self.person.press("ctrl+a")
         self.person.type(name)
         self.person.press("Return")
 
@@ -240,7 +263,7 @@ class tour:
         self.refuse_old_windows(setup)
         self.install(setup)
         self.copy_the_file_type(*self.look_at_the_registry())
-        for step in (self.open_by_file_type, self.settle, self.calculate, self.save_as, self.write_cnc_files,
+        for step in (self.open_by_file_type, self.settle, self.calculate, self.save_as, self.keep_what_is_there, self.write_cnc_files,
                      self.write_performance_files, self.change_to_german, self.leave, self.look_at_the_project,
                      self.look_at_the_written_files, self.look_at_the_folders, self.uninstall):
             print(step.__name__, flush=True)

@@ -142,6 +142,16 @@ class user_of_windows:
         except road_fault as fault:
             raise road_fault(f"{fault}; there are {self.desktop.windows()}") from None
 
+    def other_window(self, one):
+        """Waits until another window has the keys, in front of the one."""
+        wait_for(f"a window in front of '{one.title}'", lambda: not self.has_keys(one), SLOW_SECONDS)
+
+    def same_window(self, one):
+        wait_for(f"the window '{one.title}' to have the keys again", lambda: self.has_keys(one), SLOW_SECONDS)
+
+    def has_keys(self, one):
+        return one in self.desktop.windows()
+
     def click(self, inside, x, y):
         """A place in pixels from the corner of a window's inside."""
         ground = self.desktop.desktop_window()

@@ -3,15 +3,12 @@
 
 #include "core/file_chooser.hpp"
 
-#include <QStringList>
+#include <optional>
+#include <string>
 
 class QWidget;
 
 namespace kvt {
-
-/// "All files|*.*|KVT|*.KVT" becomes "All files (*)", "KVT (*.KVT *.kvt)": both ways to write an
-/// extension match.
-QStringList name_filters(std::string_view filter);
 
 /// Shows the dialog. A name that doesn't end in the dialog's extension gets it (see with_ending),
 /// but for a folder, and in an Open dialog for a file that is there; without an extension of the
