@@ -1,5 +1,5 @@
 // Tests of kvt report.
-#include "kvt/given_date.hpp"
+#include "app/export/given_date.hpp"
 #include "kvt/kvt_run.hpp"
 
 namespace kvt {
