@@ -38,6 +38,7 @@ WITHOUT_PAGE = {
     ("study_form", "projects_title"): "the title of a file dialog",
     ("study_form", "study_files"): "the types of a file dialog",
     ("study_form", "table_files"): "the types of a file dialog",
+    ("study_form", "best"): "the end of a result",
     ("study_form", "ports_refused"): "the end of a result",
     ("study_form", "performance_refused"): "the end of a result",
     ("study_form", "progress"): "a line with numbers",

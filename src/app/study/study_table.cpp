@@ -87,7 +87,11 @@ std::string study_table::text_of(const study_row& row, std::size_t column) const
         return number ? cell_text(number, designs_->base().decimal_mark) : typed;
     }
     if (column == result_column()) {
-        return result_text(row.result, designs_->base().app_state.language);
+        const std::int16_t language = designs_->base().app_state.language;
+        const std::string best = front_.contains(row.number)
+                                     ? std::string(form_text("study_form", "best", language))
+                                     : "";
+        return result_text(row.result, language) + best;
     }
     if (column == message_column()) {
         return joined(row.messages);

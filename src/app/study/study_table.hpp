@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -38,10 +39,14 @@ class study_table {
     std::size_t shown_count() const { return order_.size(); }
     const study_row& shown(std::size_t place) const { return rows_[order_[place]]; }
     /// A number with six digits, any other text of a variable as it is typed; of the result "ok",
-    /// "ok, ports refused", "closing".
+    /// "ok, ports refused", "closing", "ok, best".
     std::string text(std::size_t place, std::size_t column) const;
     /// Nothing where the column holds a text, or the design has no value.
     std::optional<double> number(std::size_t place, std::size_t column) const;
+
+    /// The front, by the numbers of its designs; its rows say so in their result.
+    void mark(std::set<std::uint64_t> front) { front_ = std::move(front); }
+    bool is_in_front(std::size_t place) const { return front_.contains(shown(place).number); }
 
     /// Rows without a value come last in either direction; equal ones in the order of their
     /// numbers.
@@ -60,6 +65,7 @@ class study_table {
     std::shared_ptr<const study> designs_;
     std::vector<study_row> rows_;
     std::vector<std::uint32_t> order_;
+    std::set<std::uint64_t> front_;
     std::size_t sorted_column_ = 0;
     bool rises_ = true;
     std::string filter_;  ///< in small letters

@@ -52,6 +52,8 @@ constexpr std::array<const char*, 4> KINDS = {"kind_grid", "kind_latin", "kind_s
                                               "kind_search"};
 constexpr std::array<const char*, 3> SAMPLES = {"grid", "latin:", "sobol:"};
 
+constexpr const char* FIRST_ENTRY = "ecc";
+
 /// What a new study records.
 constexpr std::array<const char*, 5> FIRST_QUANTITIES = {"capacity", "outer_diameter",
                                                          "overall_eff_max", "ripple", "hertz_max"};
@@ -357,7 +359,7 @@ void study_form::fill_entries() {
                             qt_text(field.name));
         }
     }
-    entry_->setCurrentIndex(std::max(0, entry_->findData(chosen)));
+    entry_->setCurrentIndex(entry_->findData(chosen.isValid() ? chosen : FIRST_ENTRY));
 }
 
 void study_form::fill_kinds() {

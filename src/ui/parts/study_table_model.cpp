@@ -24,7 +24,6 @@ std::size_t place_of(int section) {
 void study_table_model::show_table(study_table table) {
     beginResetModel();
     table_ = std::move(table);
-    front_.clear();
     endResetModel();
 }
 
@@ -35,7 +34,7 @@ void study_table_model::add(std::vector<study_row> rows) {
 }
 
 void study_table_model::mark(std::set<std::uint64_t> front) {
-    front_ = std::move(front);
+    table_.mark(std::move(front));
     if (rowCount() > 0) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
@@ -65,10 +64,6 @@ int study_table_model::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(table_.column_count());
 }
 
-bool study_table_model::is_in_front(int row) const {
-    return front_.contains(table_.shown(place_of(row)).number);
-}
-
 QVariant study_table_model::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) {
         return {};
@@ -79,7 +74,7 @@ QVariant study_table_model::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return qt_text(table_.text(row, column));
         case Qt::ToolTipRole:
-            return is_in_front(index.row())            ? text_named("in_front", language_)
+            return table_.is_in_front(row)             ? text_named("in_front", language_)
                    : column == table_.message_column() ? qt_text(table_.text(row, column))
                                                        : QString();
         case Qt::TextAlignmentRole:
@@ -87,7 +82,7 @@ QVariant study_table_model::data(const QModelIndex& index, int role) const {
                             Qt::AlignVCenter);
         case Qt::FontRole: {
             QFont font;
-            font.setBold(is_in_front(index.row()));
+            font.setBold(table_.is_in_front(row));
             return font;
         }
         default:

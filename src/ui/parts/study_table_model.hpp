@@ -32,10 +32,7 @@ class study_table_model : public QAbstractTableModel {
     void sort(int column, Qt::SortOrder order) override;
 
   private:
-    bool is_in_front(int row) const;
-
     study_table table_;
-    std::set<std::uint64_t> front_;
     std::int16_t language_ = 1;
 };
 

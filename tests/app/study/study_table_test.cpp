@@ -87,6 +87,16 @@ TEST(study_table, says_which_stage_refused) {
     EXPECT_EQ(table.text(0, 3), "ok, ports refused, performance refused");
 }
 
+TEST(study_table, says_what_no_other_beats) {
+    study_table table = four_rows();
+    table.mark({2, 3});
+    EXPECT_EQ(table.text(2, 3), "ok, best");
+    EXPECT_TRUE(table.is_in_front(2));
+    EXPECT_FALSE(table.is_in_front(0));
+    table.filter("best");
+    EXPECT_EQ(numbers_of(table), (numbers{2, 3}));
+}
+
 TEST(study_table, sorts_numbers_as_numbers_and_leaves_missing_ones_last) {
     study_table table = four_rows();
     table.sort(1, true);
