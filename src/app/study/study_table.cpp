@@ -77,6 +77,11 @@ void study_table::add(std::vector<study_row> rows) {
     }
 }
 
+std::size_t study_table::passing_count(const std::vector<study_row>& rows) const {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(rows, [this](const study_row& row) { return passes(row); }));
+}
+
 std::string study_table::text_of(const study_row& row, std::size_t column) const {
     if (column == 0) {
         return number_text(static_cast<double>(row.number));

@@ -28,6 +28,8 @@ class study_table {
     /// Behind the others; those that pass the filter are shown where the sorting puts them after
     /// the next sort.
     void add(std::vector<study_row> rows);
+    /// How many of some rows pass the filter.
+    std::size_t passing_count(const std::vector<study_row>& rows) const;
 
     std::size_t column_count() const;
     /// "ecc [mm]"; empty for what the window names itself: number, result, messages.

@@ -28,9 +28,14 @@ void study_table_model::show_table(study_table table) {
 }
 
 void study_table_model::add(std::vector<study_row> rows) {
-    beginResetModel();
+    const int count = static_cast<int>(table_.passing_count(rows));
+    if (count > 0) {
+        beginInsertRows({}, rowCount(), rowCount() + count - 1);
+    }
     table_.add(std::move(rows));
-    endResetModel();
+    if (count > 0) {
+        endInsertRows();
+    }
 }
 
 void study_table_model::mark(std::set<std::uint64_t> front) {

@@ -18,6 +18,7 @@ class study_table_model : public QAbstractTableModel {
     const study_table& table() const { return table_; }
     /// Shows the rows of another study, or none.
     void show_table(study_table table);
+    /// Behind the others; what is selected stays so.
     void add(std::vector<study_row> rows);
     /// The front, by the numbers of its designs; it is set off.
     void mark(std::set<std::uint64_t> front);

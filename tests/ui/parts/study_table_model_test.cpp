@@ -73,6 +73,17 @@ TEST_F(study_table_model_test, filters) {
     EXPECT_EQ(model.rowCount(), 3);
 }
 
+TEST_F(study_table_model_test, keeps_places_while_rows_come) {
+    const QPersistentModelIndex chosen = model.index(1, 3);
+    model.add({row_of(3, 5.0)});
+    ASSERT_TRUE(chosen.isValid());
+    EXPECT_EQ(chosen.data(), "9");
+    EXPECT_EQ(model.rowCount(), 4);
+    model.filter("capacity>6");
+    model.add({row_of(4, 1.0)});
+    EXPECT_EQ(model.rowCount(), 3);
+}
+
 TEST_F(study_table_model_test, sets_the_front_off) {
     model.mark({1});
     EXPECT_FALSE(is_bold(0));
