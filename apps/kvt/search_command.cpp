@@ -3,6 +3,7 @@
 #include "app/desk/delivered_module.hpp"
 #include "app/program.hpp"
 #include "app/study/design_search.hpp"
+#include "app/study/study_words.hpp"
 #include "base/standard_streams.hpp"
 #include "base/whole_file.hpp"
 #include "kvt/exit_status.hpp"

@@ -41,24 +41,6 @@ std::optional<shard> shard_of(const std::string& text) {
                                                                        : std::nullopt;
 }
 
-study_plan plan_of(const study_request& request) {
-    study_plan plan;
-    for (const std::string& text : request.varied) {
-        plan.variables.push_back(study_variable_of(text));
-    }
-    plan.sample = study_sample_of(request.sample);
-    plan.sample.seed = request.seed;
-    plan.recorded = recorded_or_usual(request.recorded);
-    for (const std::string& text : request.conditions) {
-        plan.conditions.push_back(study_condition_of(text));
-    }
-    for (const std::string& text : request.aims) {
-        plan.aims.push_back(study_aim_of(text));
-    }
-    plan.last = request.last;
-    return plan;
-}
-
 study_place place_of(const study_request& request, const study& designs) {
     const shard part = *shard_of(request.shard);
     return {request.out.table(), request.out.format(),
@@ -220,7 +202,7 @@ int run_study_command(const study_request& request, std::ostream& out, std::ostr
             print_quantities(base, out);
             return EXIT_OK;
         }
-        const study designs(base, plan_of(request));
+        const study designs(base, study_plan_of(request));
         request.out.make_folder();
         return study_run(designs, request, out, err).run();
     });

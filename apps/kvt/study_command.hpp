@@ -2,21 +2,16 @@
 #pragma once
 
 #include "app/stages/batch_run.hpp"
+#include "app/study/study_words.hpp"
 #include "kvt/study_output.hpp"
 
-#include <cstdint>
 #include <iosfwd>
 #include <string>
-#include <vector>
 
 namespace kvt {
 
-struct study_request {
+struct study_request : study_words {
     design_source source;
-    std::vector<std::string> varied, recorded, conditions, aims;  ///< as given
-    std::string sample = "grid";
-    std::uint64_t seed = 0;
-    calc_stage last = calc_stage::performance;
     study_out out;
     unsigned jobs = 0;  ///< 0: a thread a processor
     std::string shard = "1/1";

@@ -9,20 +9,10 @@
 #include "kvt/batch_user.hpp"
 #include "kvt/exit_status.hpp"
 
-#include <array>
 #include <ostream>
 #include <system_error>
 
 namespace kvt {
-
-namespace {
-
-constexpr std::array USUALLY_RECORDED = {
-    "capacity",  "area_ratio",     "max_chamb_vol",       "min_chamb_vol",   "outer_diameter",
-    "max_speed", "flow_m3s_max",   "vol_eff_max",         "overall_eff_max", "power_max",
-    "hertz_max", "ripple_percent", "max_shaft_side_load", "max_cutter_inner"};
-
-}  // namespace
 
 study_format study_out::format() const {
     return json_lines || std::string_view(out).ends_with(".jsonl") ? study_format::json_lines
@@ -64,12 +54,6 @@ int run_on_project(const design_source& source, const study_out& where, std::ost
         err << where.out << ": " << run_time_error_line(error, source.language) << '\n';
         return EXIT_REFUSED;
     }
-}
-
-std::vector<std::string> recorded_or_usual(const std::vector<std::string>& named) {
-    return named.empty()
-               ? std::vector<std::string>(USUALLY_RECORDED.begin(), USUALLY_RECORDED.end())
-               : named;
 }
 
 void save_projects(const study& designs, const std::vector<study_row>& best, const study_out& where,

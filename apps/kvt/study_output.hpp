@@ -33,9 +33,6 @@ struct study_out {
 int run_on_project(const design_source& source, const study_out& where, std::ostream& err,
                    const std::function<int(const program& base)>& run);
 
-/// What was named, or what an engineer sees of a design.
-std::vector<std::string> recorded_or_usual(const std::vector<std::string>& named);
-
 /// best_1.KVT, best_2.KVT ... in the folder, from the best of the first aim on; their paths go to
 /// `out`. Throws run_time_error.
 void save_projects(const study& designs, const std::vector<study_row>& best, const study_out& where,

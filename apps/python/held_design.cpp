@@ -80,8 +80,10 @@ void check_run(const batch_result& run, const std::vector<std::string>& messages
         return;
     }
     const bool failed = run.end == batch_end::fatal;
+    const std::string told =
+        messages.empty() ? std::string(batch_end_name(run.end)) : joined_lines(messages);
     throw script_failure(failed ? script_error::run_time_failure : script_error::design_refused,
-                         joined_lines(messages), messages);
+                         told, messages);
 }
 
 /// The state of what is chosen by a click and has no box.

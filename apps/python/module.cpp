@@ -5,7 +5,6 @@
 #include "app/export/report_file.hpp"
 #include "app/files/port_report_file.hpp"
 #include "app/results/result_sections.hpp"
-#include "app/study/study_problem.hpp"
 #include "base/number_text.hpp"
 #include "base/path_text.hpp"
 #include "python/held_design.hpp"
@@ -229,8 +228,6 @@ void translate(std::exception_ptr thrown) {
         }
     } catch (const script_failure& failure) {
         raise_in_python(failure);
-    } catch (const study_problem& problem) {
-        raise_in_python(script_failure(script_error::study_refused, problem.what()));
     }
 }
 

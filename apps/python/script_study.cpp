@@ -1,6 +1,8 @@
 #include "python/script_study.hpp"
 
 #include "app/study/pareto_front.hpp"
+#include "app/study/study_problem.hpp"
+#include "python/script_failure.hpp"
 
 #include <chrono>
 #include <limits>
@@ -11,24 +13,6 @@ namespace {
 
 /// How often it is asked whether the study goes on.
 constexpr std::chrono::milliseconds BETWEEN_QUESTIONS(100);
-
-study_plan plan_of(const script_study& asked) {
-    study_plan plan;
-    for (const std::string& text : asked.varied) {
-        plan.variables.push_back(study_variable_of(text));
-    }
-    plan.sample = study_sample_of(asked.sample);
-    plan.sample.seed = asked.seed;
-    plan.recorded = asked.recorded;
-    for (const std::string& text : asked.conditions) {
-        plan.conditions.push_back(study_condition_of(text));
-    }
-    for (const std::string& text : asked.aims) {
-        plan.aims.push_back(study_aim_of(text));
-    }
-    plan.last = asked.last;
-    return plan;
-}
 
 study_columns empty_columns(const study& designs) {
     study_columns columns;
@@ -75,29 +59,39 @@ class repeated_question {
     std::chrono::steady_clock::time_point asked_ = std::chrono::steady_clock::now();
 };
 
-}  // namespace
-
-study_columns run_script_study(const held_design& design, const script_study& asked,
-                               const std::function<bool()>& goes_on) {
-    const study designs(design.opened(), plan_of(asked));
+study_columns columns_of(const study& designs, const script_study& asked,
+                         const std::function<bool()>& goes_on) {
     const work_range range = part_of_study(designs.size(), asked.part, asked.parts);
     const bool keeps_front = !asked.aims.empty();
     study_columns columns = empty_columns(designs);
     pareto_front front(designs);
     repeated_question question(goes_on);
-    columns.is_whole = run_study(designs, range, asked.jobs == 0 ? processor_count() : asked.jobs,
-                                 [&](study_row&& row) {
-                                     if (keeps_front) {
-                                         front.add(std::move(row));
-                                     } else if (row.meets_conditions) {
-                                         add_row(columns, std::move(row));
-                                     }
-                                     return question.goes_on();
-                                 });
+    const auto take = [&](study_row&& row) {
+        if (keeps_front) {
+            front.add(std::move(row));
+        } else if (row.meets_conditions) {
+            add_row(columns, std::move(row));
+        }
+        return question.goes_on();
+    };
+    const unsigned jobs = asked.jobs == 0 ? processor_count() : asked.jobs;
+    columns.is_whole = run_study(designs, range, jobs, take);
     for (study_row& row : front.rows()) {
         add_row(columns, std::move(row));
     }
     return columns;
+}
+
+}  // namespace
+
+study_columns run_script_study(const held_design& design, const script_study& asked,
+                               const std::function<bool()>& goes_on) {
+    const program base = design.opened();
+    try {
+        return columns_of(study(base, study_plan_of(asked)), asked, goes_on);
+    } catch (const study_problem& problem) {
+        throw script_failure(script_error::study_refused, problem.text(base.app_state.language));
+    }
 }
 
 std::vector<std::pair<std::string, std::string>> quantity_units(const held_design& design) {

@@ -1,7 +1,7 @@
 // script_study: a study of a held design, as a script asks for it, and its rows as columns.
 #pragma once
 
-#include "app/study/study.hpp"
+#include "app/study/study_words.hpp"
 #include "python/held_design.hpp"
 
 #include <cstdint>
@@ -12,12 +12,8 @@
 
 namespace kvt {
 
-/// What a script asks for, written as the options of `kvt study`.
-struct script_study {
-    std::vector<std::string> varied, recorded, conditions, aims;
-    std::string sample = "grid";
-    std::uint64_t seed = 0;
-    calc_stage last = calc_stage::performance;
+/// What a script asks for.
+struct script_study : study_words {
     std::uint64_t part = 1, parts = 1;
     unsigned jobs = 0;  ///< 0: a thread a processor
 };
@@ -35,7 +31,7 @@ struct study_columns {
 };
 
 /// Runs the study. `goes_on` is asked in the calling thread now and then, and ends it by false.
-/// Throws study_problem for what can't be asked.
+/// Throws study_refused for what can't be asked.
 study_columns run_script_study(const held_design& design, const script_study& asked,
                                const std::function<bool()>& goes_on);
 

@@ -71,6 +71,7 @@ def test_the_port_report_is_a_kind_of_its_own(calculated, tmp_path):
 
 def test_chosen_names_alone_are_written(calculated, tmp_path):
     assert [path.name for path in calculated.write("step", tmp_path, ["outer"])] == ["outer.stp"]
+    assert [path.name for path in calculated.write("step", tmp_path, "inner")] == ["inner.stp"]
     with pytest.raises(ValueError, match="nothing"):
         calculated.write("step", tmp_path, ["nothing"])
 
@@ -122,7 +123,7 @@ def test_what_can_not_be_written_is_an_os_error(calculated, tmp_path):
 
 def test_other_kinds_and_values_are_value_errors(calculated, tmp_path):
     for kind, options in [("jpeg", {}), ("cnc", {"tool": "x"}), ("cnc", {"resolution": 0.5}), ("dxf", {"date": "today"}),
-                          ("stl", {"chord_error": 9})]:
+                          ("stl", {"chord_error": 9}), ("data", {"decimal_mark": ";"})]:
         with pytest.raises(ValueError):
             calculated.write(kind, tmp_path / "mine", **options)
     assert not (tmp_path / "mine").exists()

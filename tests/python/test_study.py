@@ -128,3 +128,19 @@ def test_ctrl_c_ends_a_study(engine_oil):
         study(engine_oil, {"ecc": (2.0, 3.0)}, "sobol:1000000")
     assert time.monotonic() - started < 60
     assert engine_oil.calculate().ended == "ok"
+
+
+def test_a_text_alone_is_one_name(engine_oil):
+    columns = study(engine_oil, {"ecc": [2.5, 2.6]}, record="capacity", where="capacity>7.5")
+    assert columns["ecc"].tolist() == [2.6]
+
+
+def test_the_reason_comes_in_the_language_of_the_design(engine_oil):
+    def reason():
+        with pytest.raises(kavetta.StudyRefused) as raised:
+            study(engine_oil, {"ecc": [1]}, sample="dice:5")
+        return str(raised.value)
+
+    english = reason()
+    engine_oil.language = "de"
+    assert reason() != english

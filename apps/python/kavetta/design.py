@@ -40,6 +40,11 @@ def _language_number(language: str) -> int:
         raise ValueError(f"{language!r} is no language: {', '.join(_LANGUAGES)}") from None
 
 
+def _list_of(names: str | Sequence[str]) -> list[str]:
+    """A text alone is one name."""
+    return [names] if isinstance(names, str) else list(names)
+
+
 def _stage_of(name: str) -> _core.Stage:
     try:
         return _core.Stage.__members__[name]
@@ -175,7 +180,7 @@ class Design:
         self,
         kind: str,
         path: Path,
-        names: Sequence[str] = (),
+        names: str | Sequence[str] = (),
         *,
         tool: Value = "",
         groove_tool: Value = "",
@@ -204,13 +209,16 @@ class Design:
         group = _GROUP_OF_KIND.get(kind)
         if group is None:
             raise ValueError(f"{kind!r} is no kind of file: {', '.join(file_kinds())}")
-        unknown = sorted(set(names) - set(_core.file_kinds()[group]))
+        chosen = _list_of(names)
+        unknown = sorted(set(chosen) - set(_core.file_kinds()[group]))
         if unknown:
             raise ValueError(f"{', '.join(unknown)}: no file of kind {kind!r}")
+        if decimal_mark not in (".", ","):
+            raise ValueError(f"{decimal_mark!r} is no decimal mark")
         options = _core.FileOptions(
             _text_of(tool), _text_of(groove_tool), _text_of(resolution), clockwise, date, chord_error, decimal_mark
         )
-        written = self._held.write_files(group, os.fspath(path), list(names), options)
+        written = self._held.write_files(group, os.fspath(path), chosen, options)
         return [pathlib.Path(file) for file in written.paths]
 
     def _write_one(self, kind: str, path: str, date: str) -> pathlib.Path:

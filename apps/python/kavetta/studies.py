@@ -7,7 +7,7 @@ from typing import Any, Union
 import numpy as np
 
 from kavetta import _core
-from kavetta.design import Design, Value, _stage_of, _text_of
+from kavetta.design import Design, Value, _list_of, _stage_of, _text_of
 
 __all__ = ["quantities", "study"]
 
@@ -50,9 +50,9 @@ def study(
     vary: Mapping[str, Variation],
     sample: str = "grid",
     *,
-    record: Sequence[str] = ("capacity", "overall_eff_max", "ripple_percent"),
-    where: Sequence[str] = (),
-    pareto: Sequence[str] = (),
+    record: str | Sequence[str] = (),
+    where: str | Sequence[str] = (),
+    pareto: str | Sequence[str] = (),
     seed: int = 0,
     stage: str = "performance",
     part: tuple[int, int] = (1, 1),
@@ -62,7 +62,8 @@ def study(
 
     vary: what is typed into which entry: a list [2.4, 2.5], a range (lowest, highest, step), any number of a range
     (lowest, highest), or a text as `kvt study --vary` takes it. sample: "grid", "latin:N" or "sobol:N"; seed: another
-    sample of the same kind. record: names of quantities, see `quantities`. where: conditions such as
+    sample of the same kind. record: names of quantities, see `quantities`; without
+    any those that `kvt study` records. where: conditions such as
     "outer_diameter<=58"; only designs that meet all of them are rows. pareto: aims such as "capacity:max", "ripple:min";
     only designs that none of the others beats in all of them are rows. stage: the last one that is calculated.
     part: (I, N) calculates the part I = 1 .. N of the study; all parts in their order make up the whole.
@@ -77,7 +78,7 @@ def study(
     """
     asked = _core.Study()
     asked.varied = [_variation_text(name, values) for name, values in vary.items()]
-    asked.recorded, asked.conditions, asked.aims = list(record), list(where), list(pareto)
+    asked.recorded, asked.conditions, asked.aims = _list_of(record), _list_of(where), _list_of(pareto)
     asked.sample, asked.seed, asked.last, asked.jobs = sample, seed, _stage_of(stage), jobs
     asked.part, asked.parts = part
     if not 1 <= asked.part <= asked.parts:
