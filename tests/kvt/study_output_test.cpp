@@ -36,10 +36,5 @@ TEST(study_output, makes_the_folder_of_saved_projects_alone) {
                    failure::path_file_access);
 }
 
-TEST(study_output, records_what_the_forms_show_when_nothing_is_named) {
-    EXPECT_EQ(recorded_or_usual({"ripple"}), std::vector<std::string>{"ripple"});
-    EXPECT_EQ(recorded_or_usual({}).front(), "capacity");
-}
-
 }  // namespace
 }  // namespace kvt

@@ -30,6 +30,7 @@ TEST(study_words, record_what_is_seen_of_a_design_unless_something_is_named) {
     const std::vector<std::string> usual = study_plan_of({.varied = {"ecc=2,3"}}).recorded;
     EXPECT_EQ(usual.size(), 14U);
     EXPECT_EQ(usual.front(), "capacity");
+    EXPECT_EQ(recorded_or_usual({"ripple"}), std::vector<std::string>{"ripple"});
 }
 
 TEST(study_words, that_say_nothing_are_a_problem) {
