@@ -8,8 +8,10 @@
 #include "app/trial/entry_limits.hpp"
 #include "base/number_text.hpp"
 #include "core/entry_names.hpp"
+#include "core/entry_numbers.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
+#include "ui/parts/chart_view.hpp"
 #include "ui/parts/form_parts.hpp"
 #include "ui/parts/study_table_model.hpp"
 #include "ui/parts/study_worker.hpp"
@@ -26,8 +28,10 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <array>
@@ -45,6 +49,9 @@ constexpr int PLAN_WIDTH = 360;
 constexpr int FIRST_COUNT = 200;
 constexpr int MOST_DESIGNS = 10000000;
 constexpr int MOST_SEED = 1000000000;
+/// So often the chart is drawn anew while rows come.
+constexpr int REDRAW_MS = 300;
+constexpr int CHART_PAGE = 1;
 
 /// The kinds of a study in the order of their list.
 enum study_kind { grid_kind, latin_kind, sobol_kind, search_kind };
@@ -70,6 +77,13 @@ QSpinBox* count_box(const char* name, int least, int most, int value) {
     box->setObjectName(name);
     box->setRange(least, most);
     box->setValue(value);
+    return box;
+}
+
+QComboBox* choice_box(const char* name) {
+    auto* box = new QComboBox;
+    box->setObjectName(name);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     return box;
 }
 
@@ -139,7 +153,9 @@ std::string first_values(const program& kavetta, const entry_field& entry) {
     };
     const std::string lowest = end(limits->lowest, number / 2.0);
     const std::string highest = end(limits->highest, number * 2.0);
-    return lowest + ":" + highest + ":" + number_text(round_step(val(highest) - val(lowest)));
+    const bool is_whole = number_kind_of(entry.name) == number_kind::whole;
+    const double step = is_whole ? 1.0 : round_step(val(highest) - val(lowest));
+    return lowest + ":" + highest + ":" + number_text(step);
 }
 
 }  // namespace
@@ -163,7 +179,14 @@ study_form::study_form(form_context context)
       progress_text_(new QLabel),
       filter_(text_box("study_filter")),
       shown_text_(new QLabel),
+      tabs_(new QTabWidget),
       table_(new QTableView),
+      chart_x_(choice_box("chart_x")),
+      chart_y_(choice_box("chart_y")),
+      chart_colour_(choice_box("chart_colour")),
+      chart_along_(choice_box("chart_along")),
+      no_chart_(new QLabel),
+      redraw_(new QTimer(this)),
       model_(new study_table_model(this)),
       worker_(new study_worker(this)) {
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -286,14 +309,7 @@ QWidget* study_form::result_side() {
     auto* side = new QWidget;
     auto* layout = new QVBoxLayout(side);
     layout->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
-    auto* above = new QHBoxLayout;
-    auto* label = named_label("filter_label");
-    label->setBuddy(filter_);
-    shown_text_->setObjectName("study_shown");
-    above->addWidget(label);
-    above->addWidget(filter_, 1);
-    above->addWidget(shown_text_);
-    layout->addLayout(above);
+    layout->addWidget(filter_line());
 
     table_->setObjectName("study_table");
     table_->setModel(model_);
@@ -302,7 +318,10 @@ QWidget* study_form::result_side() {
     table_->setTabKeyNavigation(false);
     table_->verticalHeader()->hide();
     table_->setWordWrap(false);
-    layout->addWidget(table_);
+    tabs_->setObjectName("study_tabs");
+    tabs_->addTab(table_, QString());
+    tabs_->addTab(chart_page(), QString());
+    layout->addWidget(tabs_, 1);
 
     auto* below = new QHBoxLayout;
     QPushButton* take = plain_button("take_over");
@@ -314,16 +333,57 @@ QWidget* study_form::result_side() {
     below->addWidget(projects);
     layout->addLayout(below);
 
-    connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        model_->filter(utf8_text(text));
-        show_counts();
-    });
+    connect(tabs_, &QTabWidget::currentChanged, this, &study_form::show_chart);
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &study_form::point_at_row);
     connect(take, &QPushButton::clicked, this, &study_form::take_over);
     connect(table, &QPushButton::clicked, this, &study_form::save_table);
     connect(projects, &QPushButton::clicked, this, &study_form::save_projects);
     return side;
+}
+
+QWidget* study_form::filter_line() {
+    auto* line = new QWidget;
+    auto* layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* label = named_label("filter_label");
+    label->setBuddy(filter_);
+    shown_text_->setObjectName("study_shown");
+    layout->addWidget(label);
+    layout->addWidget(filter_, 1);
+    layout->addWidget(shown_text_);
+    connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        model_->filter(utf8_text(text));
+        show_counts();
+        redraw_->start();
+    });
+    return line;
+}
+
+QWidget* study_form::chart_page() {
+    auto* page = new QWidget;
+    chart_place_ = new QVBoxLayout(page);
+    auto* choices = new QHBoxLayout;
+    const std::array<std::pair<const char*, QComboBox*>, 4> axes = {
+        {{"x_label", chart_x_},
+         {"y_label", chart_y_},
+         {"colour_label", chart_colour_},
+         {"along_label", chart_along_}}};
+    for (const auto& [label, list] : axes) {
+        auto* text = named_label(label);
+        text->setBuddy(list);
+        choices->addWidget(text);
+        choices->addWidget(list, 1);
+        connect(list, &QComboBox::activated, this, &study_form::show_chart);
+    }
+    chart_place_->addLayout(choices);
+    no_chart_->setObjectName("study_no_chart");
+    no_chart_->setAlignment(Qt::AlignCenter);
+    chart_place_->addWidget(no_chart_, 1);
+    redraw_->setSingleShot(true);
+    redraw_->setInterval(REDRAW_MS);
+    connect(redraw_, &QTimer::timeout, this, &study_form::show_chart);
+    return page;
 }
 
 // What is shown.
@@ -341,7 +401,14 @@ void study_form::refresh() {
             {text_named("entry_head"), text_named("values_head")});
         fill_entries();
         fill_kinds();
+        fill_axes();
+        tabs_->setTabText(0, text_named("table_tab"));
+        tabs_->setTabText(CHART_PAGE, text_named("chart_tab"));
+        no_chart_->setText(text_named("no_dots"));
         model_->set_language(language);
+        if (chart_ != nullptr) {
+            chart_->translate();
+        }
     }
     show_units();
     show_kind();
@@ -521,6 +588,7 @@ void study_form::run() {
             calculated_ = std::move(asked);
             model_->show_table(study_table(designs_));
             model_->filter(utf8_text(filter_->text()));
+            fill_axes();
         } catch (const study_problem& problem) {
             person.show_message(problem.text(kavetta.app_state.language));
         }
@@ -534,11 +602,15 @@ void study_form::take_rows(const std::vector<study_row>& rows) {
     if (are_first) {
         table_->resizeColumnsToContents();
     }
+    if (!redraw_->isActive()) {
+        redraw_->start();
+    }
 }
 
 void study_form::end_run(const QString& problem) {
     show_running();
     mark_front();
+    show_chart();
     if (!problem.isEmpty()) {
         context_.person.show_message(utf8_text(problem));
     }
@@ -557,6 +629,73 @@ void study_form::mark_front() {
         numbers.insert(row.number);
     }
     model_->mark(std::move(numbers));
+}
+
+// The chart.
+
+/// The columns of the table; what was chosen stays chosen where there is such a column.
+void study_form::fill_axes() {
+    const study_table& table = model_->table();
+    for (QComboBox* list : {chart_x_, chart_y_, chart_colour_, chart_along_}) {
+        const QString chosen = list->currentText();
+        list->clear();
+        if (list == chart_colour_ || list == chart_along_) {
+            list->addItem(text_named("nothing"));
+        }
+        for (const std::size_t column : number_columns(table)) {
+            if (list != chart_along_ || column < table.result_column()) {
+                list->addItem(qt_text(table.heading(column)), static_cast<int>(column));
+            }
+        }
+        list->setCurrentIndex(std::max(0, list->findText(chosen)));
+    }
+    if (chart_y_->currentText() == chart_x_->currentText()) {
+        chart_y_->setCurrentIndex(chart_y_->count() - 1);
+    }
+}
+
+void study_form::show_chart() {
+    if (tabs_->currentIndex() != CHART_PAGE) {
+        return;
+    }
+    const auto chosen = [](const QComboBox& list) {
+        const QVariant column = list.currentData();
+        return column.isValid() ? std::optional(static_cast<std::size_t>(column.toInt()))
+                                : std::nullopt;
+    };
+    const auto x = chosen(*chart_x_);
+    const auto y = chosen(*chart_y_);
+    drawn_ = x && y ? make_study_chart(model_->table(),
+                                       {*x, *y, chosen(*chart_colour_), chosen(*chart_along_)},
+                                       language_)
+                    : std::nullopt;
+    no_chart_->setVisible(!drawn_);
+    if (chart_ != nullptr) {
+        chart_->setVisible(drawn_.has_value());
+    }
+    if (!drawn_) {
+        return;
+    }
+    if (chart_ != nullptr) {
+        chart_->show_chart(drawn_->chart);
+        return;
+    }
+    chart_ = new chart_view(drawn_->chart, context_, Qt::WidgetWithChildrenShortcut);
+    chart_->setObjectName("study_chart");
+    chart_place_->addWidget(chart_, 1);
+    connect(chart_, &chart_view::point_clicked, this, [this](const chart_reading& reading) {
+        choose_design(drawn_->designs[reading.curve][reading.point]);
+    });
+}
+
+/// As if its row were clicked.
+void study_form::choose_design(std::uint64_t number) {
+    for (std::size_t place = 0; place < model_->table().shown_count(); ++place) {
+        if (model_->table().shown(place).number == number) {
+            table_->selectRow(static_cast<int>(place));
+            return;
+        }
+    }
 }
 
 // What is done with a design.
@@ -617,7 +756,9 @@ void study_form::open() {
         }
         model_->show_table(std::move(table));
         table_->resizeColumnsToContents();
+        fill_axes();
         mark_front();
+        show_chart();
     });
 }
 

@@ -2,12 +2,15 @@
 // table, compared and taken over.
 #pragma once
 
+#include "app/study/study_chart.hpp"
 #include "app/study/study_document.hpp"
 #include "app/trial/kept_design.hpp"
 #include "ui/parts/latest_task.hpp"
 #include "ui/shell/loaded_form.hpp"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,9 +26,13 @@ class QPushButton;
 class QSpinBox;
 class QTableView;
 class QTableWidget;
+class QTabWidget;
+class QTimer;
+class QVBoxLayout;
 
 namespace kvt {
 
+class chart_view;
 class study_table_model;
 class study_worker;
 
@@ -57,6 +64,8 @@ class study_form : public loaded_form {
     void add_texts(QGridLayout& grid);
     void add_commands(QBoxLayout& side);
     QWidget* result_side();
+    QWidget* filter_line();
+    QWidget* chart_page();
 
     void fill_entries();
     void fill_kinds();
@@ -79,6 +88,10 @@ class study_form : public loaded_form {
     void take_rows(const std::vector<study_row>& rows);
     void end_run(const QString& problem);
     void mark_front();
+
+    void fill_axes();
+    void show_chart();
+    void choose_design(std::uint64_t number);
 
     std::vector<study_row> chosen_rows() const;
     void point_at_row();
@@ -105,7 +118,14 @@ class study_form : public loaded_form {
     QLabel* progress_text_;
     QLineEdit* filter_;
     QLabel* shown_text_;
+    QTabWidget* tabs_;
     QTableView* table_;
+    QComboBox *chart_x_, *chart_y_, *chart_colour_, *chart_along_;
+    QVBoxLayout* chart_place_;
+    QLabel* no_chart_;
+    chart_view* chart_ = nullptr;
+    std::optional<study_chart> drawn_;  ///< what the chart shows
+    QTimer* redraw_;
     study_table_model* model_;
     study_worker* worker_;
     std::shared_ptr<const study> designs_;  ///< whose rows the table holds

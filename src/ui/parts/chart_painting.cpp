@@ -17,6 +17,7 @@ constexpr double CURVE_WIDTH = 2.0;  ///< pixels
 constexpr double PINNED_WIDTH = 1.5;
 constexpr qreal DASH = 4.0, GAP = 3.0;
 constexpr double RING_RADIUS = 5.0;
+constexpr double DOT_WIDTH = 4.5;
 
 constexpr QColor GROUND(240, 240, 240);
 constexpr QColor PLOT_GROUND(48, 48, 48);
@@ -97,18 +98,51 @@ QPen curve_pen(int series) {
     return {colour_of(series), CURVE_WIDTH, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin};
 }
 
-/// The segments of a curve follow each other end to end, so each curve is one line.
+bool goes_on(const chart_segment& before, const chart_segment& segment) {
+    return before.x2 == segment.x1 && before.y2 == segment.y1;
+}
+
+/// The segments of a curve follow each other end to end, so each curve is one line; lines between
+/// dots may begin anew.
 void paint_curves(QPainter& painter, const std::vector<chart_segment>& segments,
                   const hidden_curves& hidden, QPen (*pen)(int series)) {
     for (std::size_t first = 0, next = 0; first < segments.size(); first = next) {
         const int series = segments[first].series;
         QPolygonF curve{in_pixels(point2{segments[first].x1, segments[first].y1})};
-        for (; next < segments.size() && segments[next].series == series; ++next) {
+        for (; next < segments.size() && segments[next].series == series &&
+               (next == first || goes_on(segments[next - 1], segments[next]));
+             ++next) {
             curve.append(in_pixels(point2{segments[next].x2, segments[next].y2}));
         }
         if (!is_series_hidden(series, hidden)) {
             painter.setPen(pen(series));
             painter.drawPolyline(curve);
+        }
+    }
+}
+
+/// All dots of a series at once: there may be a hundred thousand.
+void paint_dots(QPainter& painter, const std::vector<chart_dot>& dots,
+                const hidden_curves& hidden) {
+    for (std::size_t first = 0, next = 0; first < dots.size(); first = next) {
+        const int series = dots[first].series;
+        QPolygonF places;
+        for (; next < dots.size() && dots[next].series == series; ++next) {
+            places.append(in_pixels(dots[next].place));
+        }
+        if (!is_series_hidden(series, hidden)) {
+            painter.setPen(QPen(colour_of(series), DOT_WIDTH, Qt::SolidLine, Qt::RoundCap));
+            painter.drawPoints(places);
+        }
+    }
+}
+
+void paint_rings(QPainter& painter, const std::vector<chart_dot>& dots,
+                 const hidden_curves& hidden) {
+    painter.setPen(QPen(LEGEND_INK, 1.0));
+    for (const chart_dot& dot : dots) {
+        if (dot.is_ringed && !is_series_hidden(dot.series, hidden)) {
+            painter.drawEllipse(in_pixels(dot.place), DOT_WIDTH, DOT_WIDTH);
         }
     }
 }
@@ -161,6 +195,8 @@ void paint_chart(QPainter& painter, const chart_drawing& drawing, const hidden_c
     painter.setClipRect(QRectF(QPointF(0.0, 0.0), area));
     paint_curves(painter, drawing.graph_line, hidden, curve_pen);
     paint_curves(painter, drawing.pinned_line, hidden, pinned_pen);
+    paint_dots(painter, drawing.dots, hidden);
+    paint_rings(painter, drawing.dots, hidden);
     painter.restore();
     paint_texts(painter, drawing);
     paint_pinned_note(painter, drawing.pinned_note);

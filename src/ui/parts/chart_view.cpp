@@ -313,6 +313,8 @@ void chart_view::leaveEvent(QEvent*) {
 void chart_view::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton) {
         open_popup(event->globalPosition().toPoint());
+    } else if (const auto reading = reading_at(event->position())) {
+        emit point_clicked(*reading);
     }
 }
 

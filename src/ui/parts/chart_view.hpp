@@ -31,6 +31,8 @@ class chart_view : public QWidget {
   signals:
     /// The point that is read now; nothing when the reading ends.
     void reading_changed(const std::optional<kvt::chart_reading>& reading);
+    /// The point under the pointer was clicked.
+    void point_clicked(const kvt::chart_reading& reading);
     void close_asked();
 
   protected:

@@ -10,13 +10,18 @@ namespace {
 
 constexpr int STEPS_WITH_CTRL = 10;
 
+/// It has points to be read.
+bool is_shown(const result_chart& chart, const hidden_curves& hidden, std::size_t curve) {
+    return !is_hidden(hidden, curve) && !chart.curves[curve].values.empty();
+}
+
 /// The nearest curve in a direction that is shown; curve itself when there is none.
 std::size_t shown_curve(const result_chart& chart, const hidden_curves& hidden, std::size_t curve,
                         int direction) {
     const int count = static_cast<int>(chart.curves.size());
     for (int next = static_cast<int>(curve) + direction; next >= 0 && next < count;
          next += direction) {
-        if (!is_hidden(hidden, static_cast<std::size_t>(next))) {
+        if (is_shown(chart, hidden, static_cast<std::size_t>(next))) {
             return static_cast<std::size_t>(next);
         }
     }
@@ -25,7 +30,7 @@ std::size_t shown_curve(const result_chart& chart, const hidden_curves& hidden, 
 
 std::optional<chart_reading> first_reading(const result_chart& chart, const hidden_curves& hidden) {
     for (std::size_t curve = 0; curve < chart.curves.size(); ++curve) {
-        if (!is_hidden(hidden, curve)) {
+        if (is_shown(chart, hidden, curve)) {
             return chart_reading{curve, 0};
         }
     }
@@ -53,10 +58,11 @@ std::optional<chart_reading> next_reading(const result_chart& chart, const hidde
         return first_reading(chart, hidden);
     }
     const int direction = key == Qt::Key_Right || key == Qt::Key_Down ? 1 : -1;
-    return is_sideways
-               ? chart_reading{reading->curve, moved_point(chart, *reading, direction, with_ctrl)}
-               : chart_reading{shown_curve(chart, hidden, reading->curve, direction),
-                               reading->point};
+    if (is_sideways) {
+        return chart_reading{reading->curve, moved_point(chart, *reading, direction, with_ctrl)};
+    }
+    const std::size_t curve = shown_curve(chart, hidden, reading->curve, direction);
+    return chart_reading{curve, std::min(reading->point, chart.curves[curve].values.size() - 1)};
 }
 
 }  // namespace kvt

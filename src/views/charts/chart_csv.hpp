@@ -6,8 +6,9 @@
 
 namespace kvt {
 
-/// The first line names the columns: what the x axis counts, then a curve each. Columns are parted
-/// by a semicolon, so that a decimal comma is possible.
+/// The first line names the columns: what the x axis counts, then a curve each. A point that stands
+/// for itself has a line of its own, with nothing in the columns of the other curves. Columns are
+/// parted by a semicolon, so that a decimal comma is possible.
 void write_chart_csv(const result_chart& chart, char decimal_mark, text_lines& text);
 
 }  // namespace kvt

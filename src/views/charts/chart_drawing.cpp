@@ -76,8 +76,17 @@ chart_axes axes_of(const result_chart& chart, const chart_drawing& drawing) {
             drawing.Y_axis.y2, chart.minimum,     chart.maximum};
 }
 
+/// Of a point with a place of its own:
+///     X1 + (X2 - X1) (x - x_minimum) / (x_maximum - x_minimum)
+double x_on(const chart_axes& axes, const result_chart& chart, double x) {
+    return axes.x(x - chart.x_minimum, chart.x_maximum - chart.x_minimum);
+}
+
 point2 place_on(const chart_axes& axes, const result_chart& chart, const chart_curve& curve,
                 std::size_t point) {
+    if (chart.is_of_dots) {
+        return {x_on(axes, chart, curve.x[point]), axes.y(curve.values[point])};
+    }
     const int step = chart.first_step + static_cast<int>(point);
     return {axes.x(step, chart.steps), axes.y(curve.values[point])};
 }
@@ -261,6 +270,24 @@ void add_segments(const result_chart& chart, const chart_axes& axes, const chart
     }
 }
 
+void add_dots(const result_chart& chart, const chart_axes& axes, const chart_curve& curve,
+              chart_drawing& drawing) {
+    const std::size_t before = drawing.dots.size();
+    for (std::size_t k = 0; k < curve.values.size(); ++k) {
+        drawing.dots.push_back({curve.series, place_on(axes, chart, curve, k)});
+    }
+    for (const std::size_t ringed : curve.ringed) {
+        drawing.dots[before + ringed].is_ringed = true;
+    }
+}
+
+void add_links(const result_chart& chart, const chart_axes& axes, chart_drawing& drawing) {
+    for (const chart_link& link : chart.links) {
+        drawing.graph_line.push_back({link.series, x_on(axes, chart, link.x1), axes.y(link.value1),
+                                      x_on(axes, chart, link.x2), axes.y(link.value2)});
+    }
+}
+
 // The pinned design.
 
 /// Part of a curve between two of its points, in steps of the x axis.
@@ -329,7 +356,7 @@ void fit_texts(const chart_size& size, const text_metrics& metrics, chart_drawin
 
 /// "3.6 bar", "36.1°"
 std::string with_unit(const std::string& number, const std::string& unit) {
-    return unit == "°" ? number + unit : number + " " + unit;
+    return unit == "°" || unit.empty() ? number + unit : number + " " + unit;
 }
 
 }  // namespace
@@ -347,8 +374,13 @@ chart_drawing draw_chart(const result_chart& chart, const chart_size& size,
     add_x_markers(chart, axes, drawing);
     add_titles(chart, axes, fy, drawing);
     for (const chart_curve& curve : chart.curves) {
-        add_segments(chart, axes, curve, drawing);
+        if (!chart.is_of_dots) {
+            add_segments(chart, axes, curve, drawing);
+        } else {
+            add_dots(chart, axes, curve, drawing);
+        }
     }
+    add_links(chart, axes, drawing);
     add_pinned(chart, axes, drawing);
     if (!chart.legend_caption.empty()) {
         drawing.legend_frame = legend_of(chart, axes);
@@ -395,9 +427,14 @@ std::string value_text(const result_chart& chart, double value) {
     return with_unit(rounded_text(value * chart.y_times, mark_decimals(step)), chart.y_unit);
 }
 
+double x_value(const result_chart& chart, const chart_reading& reading) {
+    const chart_curve& curve = chart.curves[reading.curve];
+    return chart.is_of_dots ? curve.x[reading.point] : chart.x_values[reading.point];
+}
+
 std::string reading_text(const result_chart& chart, const chart_reading& reading) {
     const chart_curve& curve = chart.curves[reading.curve];
-    return curve.name + ", " + with_unit(number_text(chart.x_values[reading.point]), chart.x_unit) +
+    return curve.name + ", " + with_unit(number_text(x_value(chart, reading)), chart.x_unit) +
            ": " + value_text(chart, curve.values[reading.point]);
 }
 

@@ -41,6 +41,13 @@ struct chart_segment {
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
 };
 
+/// A point that stands for itself.
+struct chart_dot {
+    int series = 1;
+    point2 place;
+    bool is_ringed = false;
+};
+
 struct chart_line {
     double x1 = 0.0, y1 = 0.0, x2 = 0.0, y2 = 0.0;
 };
@@ -64,6 +71,7 @@ struct chart_drawing {
     std::vector<chart_label> yaxis_marker, xaxis_marker;
     chart_label xaxis_title, graph_title;
     std::vector<chart_segment> graph_line;     ///< in the order of the curves
+    std::vector<chart_dot> dots;               ///< likewise
     std::vector<chart_segment> pinned_line;    ///< dashed, cut at the ends of X_axis
     chart_label pinned_note;                   ///< inside Picture1; empty without pinned curves
     std::optional<chart_legend> legend_frame;  ///< none in the ripple chart
@@ -106,6 +114,9 @@ point2 place_of(const result_chart& chart, const chart_drawing& drawing,
 
 /// "41.2 Lit/min": a value of a curve with the decimals that tell the marks of the y axis apart.
 std::string value_text(const result_chart& chart, double value);
+
+/// What a point of a curve stands for on the x axis, in its unit.
+double x_value(const result_chart& chart, const chart_reading& reading);
 
 /// "1600 rpm, 3.6 bar: 41.2 Lit/min"
 std::string reading_text(const result_chart& chart, const chart_reading& reading);

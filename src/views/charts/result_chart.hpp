@@ -7,6 +7,7 @@
 #include "performance/perf_results.hpp"
 #include "views/rgb_colour.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -38,6 +39,9 @@ struct chart_curve {
     std::string legend;          ///< "1600"; empty without a legend
     std::string name;            ///< with its unit, for readers: "1600 rpm", "3.6 bar"
     std::vector<double> values;  ///< in the units shown, one a point
+    std::vector<double> x{};     ///< of dots: where they stand on the x axis, in its unit
+    /// Of dots: those that a ring sets off, by their indexes.
+    std::vector<std::size_t> ringed{};
 };
 
 /// A curve of the pinned design, dashed in the colour of its series.
@@ -45,6 +49,12 @@ struct pinned_curve {
     int series = 1;
     std::vector<double> steps;   ///< where its points stand on the x axis, as first_step + k
     std::vector<double> values;  ///< in the units shown
+};
+
+/// A line between two dots, in the units shown.
+struct chart_link {
+    int series = 1;
+    double x1 = 0.0, value1 = 0.0, x2 = 0.0, value2 = 0.0;
 };
 
 /// A number beside an axis. Those of the x axis stand at equal distances from its left end to its
@@ -69,10 +79,13 @@ struct result_chart {
     int first_step = 0;
     int steps = 5;
     std::vector<double> x_values;  ///< what point k stands for, in the unit of the x axis
-    std::string x_unit, y_unit;    ///< "bar", "°", "Lit/min", "%"
+    bool is_of_dots = false;       ///< points have places of their own, and no lines between them
+    double x_minimum = 0.0, x_maximum = 1.0;  ///< ends of the x axis of points with own places
+    std::string x_unit, y_unit;               ///< "bar", "°", "Lit/min", "%"
     double y_times = 1.0;  ///< 100 for an efficiency, whose values are ratios and are read in %
 
     std::vector<chart_curve> curves;
+    std::vector<chart_link> links;
     double minimum = 0.0, maximum = 1.0;  ///< values at the ends of the y axis, maximum > minimum
     std::vector<chart_mark> y_marks;      ///< from the bottom up
     std::vector<chart_mark> x_marks;

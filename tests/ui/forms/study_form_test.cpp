@@ -3,10 +3,12 @@
 #include "base/number_text.hpp"
 #include "base/whole_file.hpp"
 #include "ui/desktop_fixture.hpp"
+#include "ui/parts/chart_view.hpp"
 
 #include <QComboBox>
 #include <QListWidget>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
 
@@ -58,6 +60,12 @@ class study_form_test : public desktop_test {
         calculate();
         ASSERT_EQ(row_count(), 2);
     }
+    void calculate_two_by_two() {
+        add("ecc", "2,2.25");
+        on_study<QComboBox>("study_kind")->setCurrentIndex(0);
+        calculate();
+        ASSERT_EQ(row_count(), 4);
+    }
 };
 
 }  // namespace
@@ -77,6 +85,14 @@ TEST_F(study_form_test, adds_a_number_with_the_range_in_which_it_is_accepted) {
     EXPECT_GT(ends[2].toDouble(), 0.0);
     press_on_study("remove_variable");
     EXPECT_EQ(variables->rowCount(), 0);
+}
+
+TEST_F(study_form_test, counts_lobes_in_whole_numbers) {
+    show_study();
+    auto* list = on_study<QComboBox>("study_entry");
+    list->setCurrentIndex(list->findData("numlobes"));
+    press_on_study("add_variable");
+    EXPECT_TRUE(on_study<QTableWidget>("variables")->item(0, 1)->text().endsWith(":1"));
 }
 
 TEST_F(study_form_test, adds_both_states_of_a_check_box) {
@@ -159,6 +175,47 @@ TEST_F(study_form_test, marks_the_front) {
     };
     EXPECT_FALSE(is_bold(0));
     EXPECT_TRUE(is_bold(1));
+}
+
+TEST_F(study_form_test, draws_its_designs_as_dots) {
+    show_study();
+    calculate_two();
+    auto* tabs = on_study<QTabWidget>("study_tabs");
+    tabs->setCurrentIndex(1);
+    settle();
+    auto* chart = on_study<chart_view>("study_chart");
+    ASSERT_TRUE(chart->isVisible());
+    EXPECT_EQ(chart->chart().x_title, "ecc [mm]");
+    ASSERT_EQ(chart->chart().curves.size(), 1U);
+    EXPECT_EQ(chart->chart().curves[0].x, (std::vector<double>{2.0, 2.25}));
+    // A click on a dot chooses its row.
+    emit chart->point_clicked({0, 1});
+    EXPECT_EQ(table()->selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(table()->selectionModel()->selectedRows()[0].row(), 1);
+    // What the filter leaves out is not drawn.
+    fill("study_filter", "ecc<2.1");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chart->chart().curves[0].x.size() == 1; }, LONG));
+    fill("study_filter", "ecc<1");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !chart->isVisible(); }, LONG));
+    EXPECT_TRUE(on_study<QLabel>("study_no_chart")->isVisible());
+}
+
+TEST_F(study_form_test, colours_dots_and_joins_them) {
+    show_study();
+    add("thick", "10,12");
+    calculate_two_by_two();
+    on_study<QTabWidget>("study_tabs")->setCurrentIndex(1);
+    auto* colour = on_study<QComboBox>("chart_colour");
+    colour->setCurrentIndex(colour->findText("thick [mm]"));
+    emit colour->activated(colour->currentIndex());
+    auto* along = on_study<QComboBox>("chart_along");
+    EXPECT_EQ(along->count(), 3) << "nothing and the variables";
+    along->setCurrentIndex(along->findText("ecc [mm]"));
+    emit along->activated(along->currentIndex());
+    const result_chart& chart = on_study<chart_view>("study_chart")->chart();
+    EXPECT_EQ(chart.curves.size(), 5U);
+    EXPECT_EQ(chart.legend_caption, "thick");
+    EXPECT_EQ(chart.links.size(), 2U);
 }
 
 TEST_F(study_form_test, keeps_everything_while_it_is_closed) {

@@ -90,4 +90,25 @@ TEST(chart_painting, texts_have_the_room_that_was_measured) {
     EXPECT_NEAR(extent.height / TWIPS_PER_PIXEL, 14.0, 1.0);
 }
 
+TEST(chart_painting, dots_are_painted_with_their_rings_and_hidden_with_their_series) {
+    sample_window window;
+    window.chart.is_of_dots = true;
+    window.chart.legend_caption.clear();  // its squares have the colours, too
+    window.chart.curves.clear();
+    window.chart.curves.push_back({1, "", "", {}, {}, {}});
+    const double middle = (window.chart.minimum + window.chart.maximum) / 2.0;
+    window.chart.curves.push_back({2, "", "", {middle}, {0.5}, {}});
+    window.hidden = {false, false};
+    window.drawing = draw_chart(window.chart, chart_size(), std::nullopt, chart_metrics());
+    const int dot = count_of(picture_of(window), colour_of(2));
+    EXPECT_GT(dot, 3);
+    EXPECT_LT(dot, 40);
+    const QImage plain = picture_of(window);
+    window.chart.curves[1].ringed = {0};
+    window.drawing = draw_chart(window.chart, chart_size(), std::nullopt, chart_metrics());
+    EXPECT_NE(picture_of(window), plain);
+    window.hidden[1] = true;
+    EXPECT_EQ(count_of(picture_of(window), colour_of(2)), 0);
+}
+
 }  // namespace kvt

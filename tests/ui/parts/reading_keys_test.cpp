@@ -56,4 +56,18 @@ TEST(reading_keys, other_keys_and_a_chart_without_curves_read_nothing) {
     EXPECT_EQ(after({}, Qt::Key_Right, std::vector<bool>(5, true)), reading());
 }
 
+TEST(reading_keys, pass_over_empty_series_and_stay_within_shorter_ones) {
+    result_chart chart;
+    chart.is_of_dots = true;
+    chart.curves.push_back({1, "", "none", {}, {}, {}});
+    chart.curves.push_back({2, "", "long", {1.0, 2.0, 3.0}, {1.0, 2.0, 3.0}, {}});
+    chart.curves.push_back({3, "", "none", {}, {}, {}});
+    chart.curves.push_back({4, "", "short", {1.0}, {1.0}, {}});
+    const std::vector<bool> shown(4, false);
+    EXPECT_EQ(next_reading(chart, shown, {}, Qt::Key_Right, false), reading({1, 0}));
+    EXPECT_EQ(next_reading(chart, shown, chart_reading{1, 2}, Qt::Key_Down, false),
+              reading({3, 0}));
+    EXPECT_EQ(next_reading(chart, shown, chart_reading{3, 0}, Qt::Key_Up, false), reading({1, 0}));
+}
+
 }  // namespace kvt

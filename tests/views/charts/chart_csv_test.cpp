@@ -40,5 +40,26 @@ TEST(write_chart_csv, writes_the_decimal_mark_that_is_asked_for) {
     EXPECT_TRUE(text.ends_with("\r\n359,9;35,99\r\n360;0\r\n"));
 }
 
+TEST(write_chart_csv, gives_each_dot_a_line) {
+    result_chart chart;
+    chart.is_of_dots = true;
+    chart.x_title = "ecc [mm]";
+    chart.y_unit = "%";
+    chart.curves.push_back({1, "", "low", {1.5, 2.0}, {2.0, 3.0}, {}});
+    chart.curves.push_back({2, "", "none", {}, {}, {}});
+    chart.curves.push_back({3, "", "high", {9.0}, {4.0}, {}});
+    text_lines text;
+    write_chart_csv(chart, ',', text);
+    EXPECT_EQ(text.bytes(),
+              "ecc [mm];low (%);none (%);high (%)\r\n"
+              "2;1,5;;\r\n"
+              "3;2;;\r\n"
+              "4;;;9\r\n");
+    chart.y_unit.clear();
+    text_lines plain;
+    write_chart_csv(chart, '.', plain);
+    EXPECT_TRUE(plain.bytes().starts_with("ecc [mm];low;none;high\r\n"));
+}
+
 }  // namespace
 }  // namespace kvt

@@ -484,5 +484,50 @@ TEST(charts, of_random_designs_are_readable_at_every_size) {
     EXPECT_GT(thinned, 0) << "the smallest window has room for every number";
 }
 
+result_chart two_series_of_dots() {
+    result_chart chart;
+    chart.is_of_dots = true;
+    chart.x_title = "ecc [mm]";
+    chart.x_unit = "mm";
+    chart.x_minimum = 2.0;
+    chart.x_maximum = 4.0;
+    chart.minimum = 0.0;
+    chart.maximum = 10.0;
+    chart.y_unit = "%";
+    chart.x_marks = {{2.0, "2", ""}, {4.0, "4", ""}};
+    chart.y_marks = {{0.0, "0", ""}, {10.0, "10", ""}};
+    chart.curves.push_back({1, "low", "low", {0.0, 5.0}, {2.0, 3.0}, {1}});
+    chart.curves.push_back({2, "none", "none", {}, {}, {}});
+    chart.curves.push_back({3, "high", "high", {10.0}, {4.0}, {}});
+    chart.links.push_back({1, 2.0, 0.0, 3.0, 5.0});
+    return chart;
+}
+
+TEST(chart_drawing, places_dots_by_their_own_x) {
+    const chart_drawing drawing = draw_chart(two_series_of_dots(), {});
+    ASSERT_EQ(drawing.dots.size(), 3U);
+    // X1 720, X2 7920; y0 600, y1 5300.
+    EXPECT_EQ(drawing.dots[0].place.x, 720.0);
+    EXPECT_EQ(drawing.dots[0].place.y, 5300.0);
+    EXPECT_EQ(drawing.dots[1].place.x, 4320.0);
+    EXPECT_EQ(drawing.dots[1].place.y, 2950.0);
+    EXPECT_EQ(drawing.dots[2].place.x, 7920.0);
+    EXPECT_EQ(drawing.dots[2].series, 3);
+    EXPECT_FALSE(drawing.dots[0].is_ringed);
+    EXPECT_TRUE(drawing.dots[1].is_ringed);
+    ASSERT_EQ(drawing.graph_line.size(), 1U) << "the link alone";
+    EXPECT_EQ(drawing.graph_line[0].x2, 4320.0);
+}
+
+TEST(chart_drawing, reads_dots_and_no_empty_series) {
+    const result_chart chart = two_series_of_dots();
+    const chart_drawing drawing = draw_chart(chart, {});
+    const auto reading = nearest_reading(chart, drawing, {7900.0, 610.0}, {}, 900.0);
+    EXPECT_EQ(reading, (chart_reading{2, 0}));
+    EXPECT_EQ(reading_text(chart, *reading), "high, 4 mm: 10 %");
+    EXPECT_EQ(x_value(chart, {0, 1}), 3.0);
+    EXPECT_FALSE(nearest_reading(chart, drawing, {7900.0, 610.0}, {false, false, true}, 900.0));
+}
+
 }  // namespace
 }  // namespace kvt
