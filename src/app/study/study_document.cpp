@@ -1,10 +1,14 @@
 #include "app/study/study_document.hpp"
 
 #include "app/program.hpp"
+#include "app/stages/design_assist.hpp"
+#include "app/stages/silent_user.hpp"
 #include "app/stages/typed_entry.hpp"
 #include "app/study/study_json.hpp"
 #include "app/study/study_problem.hpp"
+#include "app/study/study_words.hpp"
 #include "base/path_text.hpp"
+#include "base/run_time_error.hpp"
 #include "base/whole_file.hpp"
 #include "core/text_table.hpp"
 
@@ -36,6 +40,7 @@ study_json json_of_study(const study_document& document) {
             {"conditions", document.conditions},
             {"aims", document.aims},
             {"targets", document.targets},
+            {"begins_with_assist", document.begins_with_assist},
             {"step", document.step},
             {"budget", document.budget}};
 }
@@ -50,6 +55,7 @@ study_document study_of_json(const study_json& object) {
     document.conditions = object.at("conditions");
     document.aims = object.at("aims");
     document.targets = object.at("targets");
+    document.begins_with_assist = object.at("begins_with_assist");
     document.step = object.at("step");
     document.budget = object.at("budget");
     return document;
@@ -67,14 +73,12 @@ bool operator==(const study_document& a, const study_document& b) {
 }
 
 study_plan plan_of_sample(const study_document& document) {
-    study_plan plan;
-    plan.variables = parts_of(document.varied, study_variable_of);
-    plan.sample = study_sample_of(document.sample);
-    plan.sample.seed = document.seed;
-    plan.recorded = document.recorded;
-    plan.conditions = parts_of(document.conditions, study_condition_of);
-    plan.aims = parts_of(document.aims, study_aim_of);
-    return plan;
+    return study_plan_of({.varied = document.varied,
+                          .recorded = document.recorded,
+                          .conditions = document.conditions,
+                          .aims = document.aims,
+                          .sample = document.sample,
+                          .seed = document.seed});
 }
 
 search_plan plan_of_search(const study_document& document) {
@@ -88,6 +92,25 @@ search_plan plan_of_search(const study_document& document) {
     plan.budget = document.budget;
     plan.seed = document.seed;
     return plan;
+}
+
+std::optional<std::vector<std::string>> assisted_texts(
+    const program& base, const std::vector<study_variable>& variables) {
+    program assisted = base;
+    silent_user person;
+    try {
+        if (design_assist(assisted, person) != assist_end::found) {
+            return std::nullopt;
+        }
+    } catch (const run_time_error&) {
+        return std::nullopt;
+    }
+    std::vector<std::string> texts;
+    for (const study_variable& variable : variables) {
+        const entry_field* field = find_entry(variable.control);
+        texts.push_back(field == nullptr ? "" : assisted.entries.*field->member);
+    }
+    return texts;
 }
 
 study study_of(const program& base, const study_document& document) {

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,7 @@ struct study_document {
     std::vector<std::string> conditions;  ///< of a search its limits
     std::vector<std::string> aims;        ///< "ripple:min"; a sample marks its front
     std::vector<std::string> targets;     ///< "capacity=7.5", of a search
+    bool begins_with_assist = false;      ///< a search, with what the assist finds
     double step = 0.01;                   ///< of a search
     std::uint64_t budget = 1000;          ///< of a search
     std::vector<study_row> rows;
@@ -33,6 +35,10 @@ struct study_document {
 /// What is to be run. Throw study_problem for texts that are none.
 study_plan plan_of_sample(const study_document& document);
 search_plan plan_of_search(const study_document& document);
+/// What the Design assist finds for the entries of a project, as texts of the variables; nothing
+/// where it finds nothing.
+std::optional<std::vector<std::string>> assisted_texts(
+    const program& base, const std::vector<study_variable>& variables);
 /// Of either kind: the quantities of its rows stand in the order of its recorded ones.
 study study_of(const program& base, const study_document& document);
 

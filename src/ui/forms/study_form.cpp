@@ -17,6 +17,7 @@
 #include "ui/parts/study_worker.hpp"
 #include "ui/shell/qt_text.hpp"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
@@ -168,6 +169,7 @@ study_form::study_form(form_context context)
       count_(count_box("study_count", 1, MOST_DESIGNS, FIRST_COUNT)),
       seed_(count_box("study_seed", 0, MOST_SEED, 0)),
       step_(text_box("study_step")),
+      with_assist_(new QCheckBox),
       quantity_filter_(text_box("quantity_filter")),
       quantities_(new QListWidget),
       conditions_(text_box("study_conditions")),
@@ -265,6 +267,8 @@ void study_form::add_kind(QGridLayout& grid) {
     add_labelled(grid, "seed_label", seed_);
     add_labelled(grid, "step_label", step_);
     step_->setText("0.01");
+    with_assist_->setObjectName("begin_with_assist");
+    grid.addWidget(with_assist_, grid.rowCount(), 1);
     connect(kind_, &QComboBox::currentIndexChanged, this, &study_form::show_kind);
 }
 
@@ -470,6 +474,7 @@ void study_form::show_kind() {
     count_->setEnabled(kind != grid_kind);
     seed_->setEnabled(kind != grid_kind);
     step_->setEnabled(kind == search_kind);
+    with_assist_->setEnabled(kind == search_kind);
     targets_->setEnabled(kind == search_kind);
 }
 
@@ -540,6 +545,7 @@ study_document study_form::document() const {
     }
     asked.seed = static_cast<std::uint32_t>(seed_->value());
     asked.budget = static_cast<std::uint64_t>(count_->value());
+    asked.begins_with_assist = with_assist_->isChecked();
     asked.step = val(commas_to_points(utf8_text(step_->text())));
     for (int row = 0; row < quantities_->count(); ++row) {
         const QListWidgetItem* item = quantities_->item(row);
@@ -567,6 +573,7 @@ void study_form::show_document(const study_document& shown) {
     count_->setValue(has_count ? qt_text(shown.sample.substr(word.size())).toInt()
                                : static_cast<int>(shown.budget));
     seed_->setValue(static_cast<int>(shown.seed));
+    with_assist_->setChecked(shown.begins_with_assist);
     step_->setText(qt_text(number_text(shown.step)));
     for (int row = 0; row < quantities_->count(); ++row) {
         QListWidgetItem* item = quantities_->item(row);

@@ -16,6 +16,7 @@
 #include <vector>
 
 class QBoxLayout;
+class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QLabel;
@@ -107,6 +108,7 @@ class study_form : public loaded_form {
     QSpinBox* count_;
     QSpinBox* seed_;
     QLineEdit* step_;
+    QCheckBox* with_assist_;
     QLineEdit* quantity_filter_;
     QListWidget* quantities_;
     QLineEdit* conditions_;

@@ -55,12 +55,20 @@ int pixels(double twips) {
 
 }  // namespace
 
-hold_button::hold_button() {
+hold_button::hold_button(icon_of_palette drawn) : icon_(drawn) {
+    setIcon(icon_(palette()));
     connect(this, &QToolButton::clicked, this, [this] {
         if (!is_under_mouse_button_) {
             emit stepped();
         }
     });
+}
+
+void hold_button::changeEvent(QEvent* event) {
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        setIcon(icon_(palette()));
+    }
 }
 
 void hold_button::keyPressEvent(QKeyEvent* event) {
@@ -121,11 +129,10 @@ QWidget* viewwinfrm::bottom_row() {
         context_.runner.act([](program& kavetta, user&) { take_typed_angle(kavetta); });
     });
     layout->addWidget(label, 0, 0, 1, 4);
+    layout->addWidget(rotate_button("rotate_rotors_cw", clockwise_icon, turning::clockwise), 1, 0);
     layout->addWidget(
-        rotate_button("rotate_rotors_cw", clockwise_icon(palette()), turning::clockwise), 1, 0);
-    layout->addWidget(rotate_button("rotate_rotors_ccw", counter_clockwise_icon(palette()),
-                                    turning::counter_clockwise),
-                      1, 1);
+        rotate_button("rotate_rotors_ccw", counter_clockwise_icon, turning::counter_clockwise), 1,
+        1);
     layout->addWidget(angle_, 1, 2);
     layout->setColumnStretch(3, 1);
     layout->addWidget(zoom, 1, 4);
@@ -133,10 +140,9 @@ QWidget* viewwinfrm::bottom_row() {
 }
 
 /// A button and its timer, Timer_ and the button's name without the "rotors".
-hold_button* viewwinfrm::rotate_button(const char* name, const QIcon& icon, turning direction) {
-    auto* button = new hold_button;
+hold_button* viewwinfrm::rotate_button(const char* name, icon_of_palette icon, turning direction) {
+    auto* button = new hold_button(icon);
     button->setObjectName(name);
-    button->setIcon(icon);
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(false);
     auto* timer = new QTimer(this);

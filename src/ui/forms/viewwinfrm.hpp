@@ -22,6 +22,8 @@ class design_picture;
 class design_popup;
 struct view_overlay;
 
+using icon_of_palette = QIcon (*)(const QPalette& palette);
+
 /// A button that acts as long as it is held: it says when the left mouse button goes down on it and
 /// when it goes up on it. Without the mouse each press is one step.
 /// Kept: a mouse-up elsewhere says nothing, so what was started goes on until the next mouse-up on
@@ -30,7 +32,8 @@ class hold_button : public QToolButton {
     Q_OBJECT
 
   public:
-    hold_button();
+    /// The icon is drawn anew for each palette, as the desktop may change to dark.
+    explicit hold_button(icon_of_palette drawn);
 
   signals:
     void held();
@@ -39,11 +42,13 @@ class hold_button : public QToolButton {
     void stepped();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    icon_of_palette icon_;
     bool is_under_mouse_button_ = false;
 };
 
@@ -80,7 +85,7 @@ class viewwinfrm : public mdi_form {
 
   private:
     QWidget* bottom_row();
-    hold_button* rotate_button(const char* name, const QIcon& icon, turning direction);
+    hold_button* rotate_button(const char* name, icon_of_palette icon, turning direction);
     void connect_picture();
     void connect_measuring();
     void connect_popup();

@@ -29,7 +29,13 @@ study_worker::study_worker(QObject* parent) : QObject(parent) {
 std::shared_ptr<const study> study_worker::start(std::shared_ptr<const program> base,
                                                  const study_document& document) {
     if (document.searches) {
-        auto search = std::make_shared<design_search>(*base, plan_of_search(document));
+        search_plan plan = plan_of_search(document);
+        if (document.begins_with_assist) {
+            if (auto assisted = assisted_texts(*base, plan.variables)) {
+                plan.first.push_back(*assisted);
+            }
+        }
+        auto search = std::make_shared<design_search>(*base, plan);
         auto designs = std::make_shared<const study>(search->designs());
         begin(document.budget);
         run_search(std::move(search), base->app_state.language);

@@ -1,6 +1,7 @@
 // Tests of studies as files, and of taking a design over.
 #include "app/study/study_document.hpp"
 
+#include "app/stages/design_assist.hpp"
 #include "app/study/study_problem.hpp"
 #include "base/whole_file.hpp"
 #include "core/text_table.hpp"
@@ -48,6 +49,7 @@ TEST(study_document, keeps_a_search) {
     document.varied = {"ecc=2:3"};
     document.targets = {"capacity=7.5"};
     document.aims = {"ripple:min", "overall_eff_max:max"};
+    document.begins_with_assist = true;
     document.step = 0.05;
     document.budget = 50;
     write_study(folder / "a.KVTstudy", base, document);
@@ -57,6 +59,23 @@ TEST(study_document, keeps_a_search) {
     EXPECT_EQ(plan.budget, 50U);
     // The rows of a search hold its targets and aims, too.
     EXPECT_EQ(study_of(base, document).recorded().size(), 3U);
+}
+
+TEST(study_document, can_begin_with_what_the_assist_finds) {
+    const program base = opened_design(DESIGN);
+    program assisted = base;
+    scripted_user person;
+    ASSERT_EQ(design_assist(assisted, person), assist_end::found);
+    const auto texts =
+        assisted_texts(base, {study_variable_of("ecc=1:5"), study_variable_of("radouter=1:20")});
+    ASSERT_TRUE(texts);
+    EXPECT_EQ(*texts, (std::vector{assisted.entries.ecc, assisted.entries.radouter}));
+    program none = base;
+    none.entries.volumereqd = "0";
+    EXPECT_FALSE(assisted_texts(none, {study_variable_of("ecc=1:5")}));
+    none.entries.volumereqd = "7.5";
+    none.entries.numlobes = "x";
+    EXPECT_FALSE(assisted_texts(none, {study_variable_of("ecc=1:5")}));
 }
 
 TEST(study_document, keeps_texts_that_are_not_right_yet) {

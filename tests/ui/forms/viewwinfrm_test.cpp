@@ -745,4 +745,20 @@ TEST_F(viewwinfrm_test, has_a_dark_sheet_in_a_dark_palette_and_copies_on_white_p
     EXPECT_GT(pixels_of(seen(), LIGHT.paper), 3000);
 }
 
+TEST_F(viewwinfrm_test, draws_the_turning_arrows_anew_for_another_palette) {
+    calculate();
+    const auto ink_of_arrow = [&] {
+        const QImage arrow = find<QToolButton>("rotate_rotors_cw")->icon().pixmap(64).toImage();
+        return arrow.pixelColor(arrow.width() * 13 / 16, arrow.height() / 2).lightness();
+    };
+    const QPalette before = QApplication::palette();
+    EXPECT_LT(ink_of_arrow(), 100);
+    QApplication::setPalette(QPalette(QColor(40, 42, 46)));
+    settle();
+    EXPECT_GT(ink_of_arrow(), 150);
+    QApplication::setPalette(before);
+    settle();
+    EXPECT_LT(ink_of_arrow(), 100);
+}
+
 }  // namespace kvt
