@@ -128,14 +128,16 @@ std::optional<std::uint64_t> first_missing(const study& designs, const study_pla
 
 growing_study_file::growing_study_file(const study& designs, study_place place, bool goes_on)
     : designs_(designs), place_(std::move(place)) {
+    std::uintmax_t length = 0;
     if (goes_on) {
-        cut_off(place_.path, read_rows(designs, place_, [](std::string_view) {}));
+        length = read_rows(designs, place_, [](std::string_view) {});
+        cut_off(place_.path, length);
     } else {
         write_unfinished(designs, place_, std::nullopt);
         write_file(place_.path, "");
     }
     file_.open(place_.path, std::ios::binary | std::ios::app);
-    if (file_.is_open() && file_.tellp() == 0) {
+    if (length == 0) {
         file_ << head_line(designs, place_.format);
     }
     if (!file_.flush()) {
