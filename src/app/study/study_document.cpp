@@ -24,6 +24,7 @@ template <typename part>
 std::vector<part> parts_of(const std::vector<std::string>& texts,
                            part (*part_of)(std::string_view)) {
     std::vector<part> parts;
+    parts.reserve(texts.size());
     for (const std::string& text : texts) {
         parts.push_back(part_of(text));
     }

@@ -375,6 +375,7 @@ void add_entries(const program& base, quantity_list& list) {
 [[noreturn]] void tell_unknown(const std::vector<study_quantity>& quantities,
                                const std::string& name) {
     std::vector<std::string_view> names;
+    names.reserve(quantities.size());
     for (const study_quantity& quantity : quantities) {
         names.push_back(quantity.name);
     }
