@@ -17,15 +17,9 @@ namespace {
 
 search_plan plan_of(const search_request& request) {
     search_plan plan;
-    for (const std::string& text : request.varied) {
-        plan.variables.push_back(study_variable_of(text));
-    }
-    for (const std::string& text : request.targets) {
-        plan.targets.push_back(search_target_of(text));
-    }
-    for (const std::string& text : request.limits) {
-        plan.limits.push_back(study_condition_of(text));
-    }
+    plan.variables = parts_of(request.varied, study_variable_of);
+    plan.targets = parts_of(request.targets, search_target_of);
+    plan.limits = parts_of(request.limits, study_condition_of);
     for (const std::string& name : request.minimized) {
         plan.aims.push_back({name, false});
     }
@@ -40,16 +34,8 @@ search_plan plan_of(const search_request& request) {
     return plan;
 }
 
-std::string table_of(const design_search& search, study_format format) {
-    std::string text = head_line(search.designs(), format);
-    for (const study_row& row : search.front().rows()) {
-        text += row_line(search.designs(), row, format);
-    }
-    return text;
-}
-
 void write_front(const design_search& search, const study_out& where, std::ostream& out) {
-    const std::string text = table_of(search, where.format());
+    const std::string text = table_text(search.designs(), search.front().rows(), where.format());
     if (where.out.empty()) {
         out << text;
         return;

@@ -137,10 +137,7 @@ class study_run {
         if (!request_.out.out.empty()) {
             return;
         }
-        out_ << head_line(designs_, place_.format);
-        for (const study_row& row : front.rows()) {
-            out_ << row_line(designs_, row, place_.format);
-        }
+        out_ << table_text(designs_, front.rows(), place_.format);
     }
 
     /// All rows count as done, those that meet the conditions are handed on.

@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <set>
 #include <utility>
 
 namespace kvt {
@@ -124,8 +125,9 @@ class searched_designs {
   private:
     std::vector<level_numbers> unknown_of(const std::vector<level_numbers>& generation) const {
         std::vector<level_numbers> fresh;
+        std::set<level_numbers> seen;
         for (const level_numbers& levels : generation) {
-            if (!known_.contains(levels) && std::ranges::count(fresh, levels) == 0) {
+            if (!known_.contains(levels) && seen.insert(levels).second) {
                 fresh.push_back(levels);
             }
         }

@@ -94,13 +94,10 @@ exact_results study::exact_of(const program& tried, const batch_result& result) 
 study_row study::calculate(std::vector<std::string> texts, program& tried) const {
     tried = *base_;
     silent_user person;
-    std::vector<typed_entry> typed;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        typed.push_back({plan_.variables[i].control, texts[i]});
-    }
     study_row row;
+    row.result =
+        type_and_calculate(tried, person, typed_entries(plan_.variables, texts), plan_.last);
     row.texts = std::move(texts);
-    row.result = type_and_calculate(tried, person, typed, plan_.last);
     row.messages = person.messages();
     for (const hint& noticed : tried.hints) {
         row.hints.push_back(noticed.text);

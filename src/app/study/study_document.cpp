@@ -20,17 +20,6 @@ namespace {
 
 constexpr int FILE_VERSION = 1;
 
-template <typename part>
-std::vector<part> parts_of(const std::vector<std::string>& texts,
-                           part (*part_of)(std::string_view)) {
-    std::vector<part> parts;
-    parts.reserve(texts.size());
-    for (const std::string& text : texts) {
-        parts.push_back(part_of(text));
-    }
-    return parts;
-}
-
 study_json json_of_study(const study_document& document) {
     return {{"kavetta_study", FILE_VERSION},
             {"varied", document.varied},
@@ -154,8 +143,8 @@ study_document read_study(const std::filesystem::path& path, const program& base
 
 void take_over_design(program& kavetta, user& person, const std::vector<study_variable>& variables,
                       const std::vector<std::string>& texts) {
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        type_entry(kavetta, person, {variables[i].control, texts[i]});
+    for (const typed_entry& entry : typed_entries(variables, texts)) {
+        type_entry(kavetta, person, entry);
     }
     kavetta.step_caption = find_caption("study_form", "take_over");
 }

@@ -161,14 +161,10 @@ void growing_study_file::finish() {
 
 void write_study_rows(const study& designs, const study_place& place,
                       const std::vector<study_row>& rows, std::uint64_t next) {
-    std::string text = head_line(designs, place.format);
-    for (const study_row& row : rows) {
-        text += row_line(designs, row, place.format);
-    }
     if (!is_there(unfinished_path(place))) {
         write_unfinished(designs, place, place.part.begin);
     }
-    write_file(place.path, text);
+    write_file(place.path, table_text(designs, rows, place.format));
     if (next == place.part.end) {
         remove_unfinished(place);
     } else {

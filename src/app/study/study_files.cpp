@@ -30,15 +30,6 @@ file_dialog save_dialog(const program& kavetta, std::string_view title, std::str
     return dialog;
 }
 
-std::string table_text(const study& designs, const std::vector<study_row>& rows,
-                       study_format format) {
-    std::string text = head_line(designs, format);
-    for (const study_row& row : rows) {
-        text += row_line(designs, row, format);
-    }
-    return text;
-}
-
 /// "NAME 2.KVT" of "NAME.KVT", or the next number whose file is not there yet.
 std::string next_free(const std::string& path, std::size_t& number) {
     const std::size_t point = path.rfind('.');
@@ -125,8 +116,8 @@ void save_study_projects(const program& kavetta, user& person, const study& desi
 program with_typed_texts(const study& designs, const std::vector<std::string>& texts) {
     program typed = designs.base();
     silent_user person;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        type_entry(typed, person, {designs.plan().variables[i].control, texts[i]});
+    for (const typed_entry& entry : typed_entries(designs.plan().variables, texts)) {
+        type_entry(typed, person, entry);
     }
     return typed;
 }

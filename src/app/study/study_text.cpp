@@ -167,6 +167,15 @@ std::string row_line(const study& designs, const study_row& row, study_format fo
                                        : text_of_json(json_of_row(designs, row)) + "\n";
 }
 
+std::string table_text(const study& designs, const std::vector<study_row>& rows,
+                       study_format format) {
+    std::string text = head_line(designs, format);
+    for (const study_row& row : rows) {
+        text += row_line(designs, row, format);
+    }
+    return text;
+}
+
 study_row row_of_line(const study& designs, std::string_view line, study_format format) {
     study_row row = format == study_format::csv ? csv_row_of(designs, line)
                                                 : row_of_json(designs, json_of_text(line));

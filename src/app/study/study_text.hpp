@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kvt {
 
@@ -18,6 +19,10 @@ std::string head_line(const study& designs, study_format format);
 /// One row with its line end. Numbers have as many digits as read back to the same double. A
 /// refused design has empty cells, in JSON null.
 std::string row_line(const study& designs, const study_row& row, study_format format);
+
+/// The head and some rows.
+std::string table_text(const study& designs, const std::vector<study_row>& rows,
+                       study_format format);
 
 /// The row of a line that row_line has written, with the line's end or without; only whether the
 /// design met the conditions is not in it: it did. Throws study_problem for any other line.

@@ -1,6 +1,5 @@
 #include "app/study/study_variable.hpp"
 
-#include "app/stages/typed_entry.hpp"
 #include "app/study/study_problem.hpp"
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"
@@ -121,6 +120,16 @@ study_variable study_variable_of(std::string_view text) {
     }
     check_typed(variable);
     return variable;
+}
+
+std::vector<typed_entry> typed_entries(const std::vector<study_variable>& variables,
+                                       const std::vector<std::string>& texts) {
+    std::vector<typed_entry> typed;
+    typed.reserve(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        typed.push_back({variables[i].control, texts[i]});
+    }
+    return typed;
 }
 
 std::string text_at(const study_variable& variable, double place) {

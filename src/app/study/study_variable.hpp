@@ -1,6 +1,8 @@
 // study_variable: what a study types into one control, from design to design.
 #pragma once
 
+#include "app/stages/typed_entry.hpp"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,10 @@ inline constexpr double MOST_LEVELS = 1e6;
 /// control that takes whole numbers, each of them. Throws study_problem: no such control (near
 /// names are offered), a text that it does not take, a range that is none.
 study_variable study_variable_of(std::string_view text);
+
+/// What is typed into the variables, each with its text.
+std::vector<typed_entry> typed_entries(const std::vector<study_variable>& variables,
+                                       const std::vector<std::string>& texts);
 
 /// The text at a place in 0 .. 1: level Int(place count), or number_text(lowest + place (highest -
 /// lowest)). 1 is the last one.

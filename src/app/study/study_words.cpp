@@ -21,18 +21,12 @@ std::vector<std::string> recorded_or_usual(const std::vector<std::string>& named
 
 study_plan study_plan_of(const study_words& words) {
     study_plan plan;
-    for (const std::string& text : words.varied) {
-        plan.variables.push_back(study_variable_of(text));
-    }
+    plan.variables = parts_of(words.varied, study_variable_of);
     plan.sample = study_sample_of(words.sample);
     plan.sample.seed = words.seed;
     plan.recorded = recorded_or_usual(words.recorded);
-    for (const std::string& text : words.conditions) {
-        plan.conditions.push_back(study_condition_of(text));
-    }
-    for (const std::string& text : words.aims) {
-        plan.aims.push_back(study_aim_of(text));
-    }
+    plan.conditions = parts_of(words.conditions, study_condition_of);
+    plan.aims = parts_of(words.aims, study_aim_of);
     plan.last = words.last;
     return plan;
 }
