@@ -453,10 +453,11 @@ class test_script_test(tree_test):
 
     def test_with_all_it_takes_the_sanitizers_and_the_other_compiler_too(self):
         status, lines = self.run_it("--all")
-        self.assertEqual(lines[-1], "34 passed, 3 failed")
+        self.assertEqual(lines[-1], "35 passed, 3 failed")
         self.assertEqual(status, 1)
         started = self.started.read_text()
-        for piece in ("--preset asan", "--preset clang", "compare_programs.py build/ci", "check_tidy.py --all"):
+        for piece in ("--preset asan", "--preset clang", "compare_programs.py build/ci", "check_tidy.py --all",
+                      "--but build/ci build/windows-batch"):
             self.assertIn(piece, started)
 
     def test_the_programs_of_windows_are_compared_with_those_of_preset_ci(self):
@@ -474,7 +475,7 @@ class test_script_test(tree_test):
         self.program("scripts/package_test", "left out: no tools\n", status=77)
         lines = self.run_it("--all")[1]
         self.assertIn("./test: left out: the Debian package: no tools", lines)
-        self.assertEqual(lines[-1], "29 passed, 3 failed")
+        self.assertEqual(lines[-1], "30 passed, 3 failed")
 
     def test_a_test_that_failed_is_named_at_the_end(self):
         self.program("bin/ctest", self.SUMMARY + "\t  4 - road.leads (Failed)\n\t  7 - exact.hangs (Timeout)\n", status=1)
@@ -546,6 +547,21 @@ class tidy_test(tree_test):
         changed = check_tidy.with_readable_headers(arguments, self.root / ".git")
         self.assertEqual([*changed[:2], *changed[3:]], ["c++", "-include", "-c", "a.cpp"])
         self.assertEqual(pathlib.Path(changed[2]).read_text(), "#include <vector>\n")
+
+    def test_of_a_compiler_for_another_system_its_library_is_read(self):
+        cross = self.root / "x86_64-w64-mingw32-g++-posix"
+        self.write(cross.name, "#!/bin/sh\ncat >&2 <<'END'\n#include \"...\" search starts here:\n /other/c++\n"
+                   "#include <...> search starts here:\n /cross/include/c++\n /cross/include\nEnd of search list.\nEND\n")
+        cross.chmod(0o755)
+        self.assertEqual(check_tidy.with_system([str(cross), "-c", "a.cpp"]),
+                         [str(cross), "--target=x86_64-w64-mingw32", "-isystem", "/cross/include/c++", "-c", "a.cpp"])
+        self.assertEqual(check_tidy.with_system(["/usr/bin/c++", "-c", "a.cpp"]), ["/usr/bin/c++", "-c", "a.cpp"])
+
+    def test_what_another_build_compiles_is_known(self):
+        commands = [{"file": f"{self.root}/src/core/old.cpp"}]
+        self.write("build/ci/compile_commands.json", json.dumps(commands))
+        self.assertEqual(check_tidy.compiled_by(self.root, "build/ci"), {"src/core/old.cpp"})
+        self.assertEqual(check_tidy.compiled_by(self.root, None), frozenset())
 
 
 class programs_test(tree_test):

@@ -5,10 +5,12 @@
 #include "base/path_text.hpp"
 #include "support/random_performance.hpp"
 
+#include <exception>
 #include <filesystem>
+#include <iostream>
 #include <string>
 
-int main(int count, char** texts) {
+int main(int count, char** texts) try {
     const std::vector<std::string> arguments = kvt::program_arguments(count, texts);
     const std::filesystem::path folder = kvt::path_of_utf8(arguments.at(1));
     const int designs = std::stoi(arguments.at(2));
@@ -19,4 +21,7 @@ int main(int count, char** texts) {
         kvt::write_entries(kavetta, kvt::utf8_of_path(folder / kvt::path_of_utf8(name)));
     }
     return 0;
+} catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return 1;
 }

@@ -4,6 +4,7 @@
 #include "base/windows/wide_text.hpp"
 
 #include <cassert>
+#include <cstdint>
 #include <limits>
 #include <oleauto.h>
 
@@ -178,7 +179,7 @@ std::size_t element_count(SAFEARRAY* array) {
     require(SafeArrayGetDim(array) == 1 ? S_OK : DISP_E_TYPEMISMATCH, "answered array");
     require(SafeArrayGetLBound(array, 1, &first), "answered array");
     require(SafeArrayGetUBound(array, 1, &last), "answered array");
-    return static_cast<std::size_t>(last - first + 1);
+    return static_cast<std::size_t>(std::int64_t{last} - first + 1);
 }
 
 object_ref object_of(IUnknown* unknown, const object_of_dispatch& object) {

@@ -12,6 +12,7 @@ std::vector<std::string> program_arguments(int /*count*/, const char* const* /*a
     int count = 0;
     wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         texts.push_back(utf8_of_wide(wide[i]));
     }

@@ -4,6 +4,7 @@
 
 #include "base/system_file.hpp"
 
+#include <cstdint>
 #include <io.h>
 #include <windows.h>
 
@@ -14,7 +15,8 @@ namespace {
 constexpr DWORD FAR_BEHIND = 0x7fffffff;
 
 HANDLE handle_of(const descriptor& file) {
-    return reinterpret_cast<HANDLE>(_get_osfhandle(file.number()));
+    const std::intptr_t handle = _get_osfhandle(file.number());
+    return reinterpret_cast<HANDLE>(handle);  // NOLINT(performance-no-int-to-ptr): it is a handle
 }
 
 }  // namespace

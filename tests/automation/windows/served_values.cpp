@@ -2,6 +2,7 @@
 
 #include "base/windows/wide_text.hpp"
 
+#include <cstdint>
 #include <oleauto.h>
 #include <stdexcept>
 
@@ -20,6 +21,8 @@ SAFEARRAY* array_in(const VARIANT& argument) {
 /// First and last index of a dimension, which counts from 1.
 struct index_range {
     LONG first = 0, last = -1;
+
+    std::size_t count() const { return static_cast<std::size_t>(std::int64_t{last} - first + 1); }
 };
 
 index_range indexes(SAFEARRAY* array, UINT dimension) {
@@ -97,8 +100,8 @@ table read_table(SAFEARRAY* array) {
     const index_range rows = indexes(array, 1);
     const index_range columns = indexes(array, 2);
     table cells;
-    cells.rows = static_cast<std::size_t>(rows.last - rows.first + 1);
-    cells.columns = static_cast<std::size_t>(columns.last - columns.first + 1);
+    cells.rows = rows.count();
+    cells.columns = columns.count();
     for (LONG row = rows.first; row <= rows.last; ++row) {
         for (LONG column = columns.first; column <= columns.last; ++column) {
             cells.cells.push_back(read_cell(array, row, column));
