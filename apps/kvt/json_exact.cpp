@@ -156,9 +156,7 @@ json json_exact(const program& kavetta, const batch_result& result) {
         return object;
     }
     const std::int16_t language = kavetta.app_state.language;
-    exact_source source = exact_source_of(kavetta);
-    source.has_ports = source.has_ports && result.ports_reached;
-    source.has_performance = source.has_performance && result.performance_reached;
+    const exact_source source = exact_source_of(kavetta, result);
     const exact_results exact = all_exact_results(source);
     for (const exact_part part : PARTS_IN_FILE) {
         const std::string name(name_of(part));

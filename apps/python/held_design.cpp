@@ -76,7 +76,7 @@ void check_typed(const typed_entry& typed) {
 
 /// Throws what a person would hear of a run that was refused or failed.
 void check_run(const batch_result& run, const std::vector<std::string>& messages) {
-    if (run.end == batch_end::ok && !run.ports_refused && !run.performance_refused) {
+    if (run.is_accepted()) {
         return;
     }
     const bool failed = run.end == batch_end::fatal;

@@ -28,7 +28,7 @@ study_columns empty_columns(const study& designs) {
 void add_row(study_columns& columns, study_row&& row) {
     columns.numbers.push_back(row.number);
     columns.ends.emplace_back(batch_end_name(row.result.end));
-    columns.accepted.push_back(row.is_accepted());
+    columns.accepted.push_back(row.result.is_accepted());
     columns.messages.push_back(std::move(row.messages));
     columns.hints.push_back(std::move(row.hints));
     for (std::size_t i = 0; i < columns.texts.size(); ++i) {

@@ -41,6 +41,11 @@ struct batch_result {
     bool performance_reached = false;  ///< Calculate Performance got past its validation
     bool ports_refused = false;        ///< Design Ports refused an entry; the end stays ok
     bool performance_refused = false;  ///< so did Calculate Performance
+
+    /// Nothing of the design was refused.
+    bool is_accepted() const {
+        return end == batch_end::ok && !ports_refused && !performance_refused;
+    }
 };
 
 /// The name of an end as reports write it: "ok", "validation", ...

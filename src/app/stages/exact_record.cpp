@@ -1,6 +1,7 @@
 #include "app/stages/exact_record.hpp"
 
 #include "app/program.hpp"
+#include "app/stages/batch_run.hpp"
 #include "views/port_lines.hpp"
 #include "views/zoom.hpp"
 
@@ -60,6 +61,13 @@ exact_source source_of(const program& kavetta, const stage_entries& made) {
 
 exact_source exact_source_of(const program& kavetta) {
     return source_of(kavetta, present_results(kavetta));
+}
+
+exact_source exact_source_of(const program& kavetta, const batch_result& run) {
+    exact_source source = exact_source_of(kavetta);
+    source.has_ports = source.has_ports && run.ports_reached;
+    source.has_performance = source.has_performance && run.performance_reached;
+    return source;
 }
 
 bool update_exact_record(program& kavetta) {

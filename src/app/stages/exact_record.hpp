@@ -11,6 +11,7 @@
 
 namespace kvt {
 
+struct batch_result;
 struct program;
 
 struct exact_record {
@@ -28,6 +29,8 @@ struct exact_record {
 
 /// The whole results of the open project, as they stand in the records.
 exact_source exact_source_of(const program& kavetta);
+/// Those of a run alone: the records can hold ports and performance of the design before.
+exact_source exact_source_of(const program& kavetta, const batch_result& run);
 
 /// Takes the records over when other results stand in them than the last time, and works out what
 /// takes no time, rotors and performance; gaps and port timing wait. True when there were others.

@@ -150,7 +150,7 @@ class searched_designs {
     std::vector<double> values_of(const study_row& row) const {
         const std::vector<study_aim>& aims = designs_.plan().aims;
         std::vector<double> values = refused();
-        if (!row.is_accepted() || !std::isfinite(row.missed_by)) {
+        if (!row.result.is_accepted() || !std::isfinite(row.missed_by)) {
             return values;
         }
         for (std::size_t i = 0; i < aims.size(); ++i) {

@@ -38,7 +38,7 @@ bool beats(const std::vector<double>& one, const std::vector<double>& other,
 }
 
 void pareto_front::add(study_row row) {
-    if (!row.meets_conditions || !row.is_accepted()) {
+    if (!row.meets_conditions || !row.result.is_accepted()) {
         return;
     }
     std::optional<std::vector<double>> values = aimed_values(designs_, row);

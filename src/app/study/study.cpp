@@ -23,13 +23,6 @@ void check_variables(const std::vector<study_variable>& variables) {
     }
 }
 
-exact_source source_after(const program& tried, const batch_result& result) {
-    exact_source source = exact_source_of(tried);
-    source.has_ports = source.has_ports && result.ports_reached;
-    source.has_performance = source.has_performance && result.performance_reached;
-    return source;
-}
-
 void compare(const study_condition& condition, std::optional<double> value, study_row& row) {
     row.meets_conditions = row.meets_conditions && condition.is_met(value);
     const double scale = condition.limit == 0.0 ? 1.0 : std::abs(condition.limit);
@@ -82,7 +75,7 @@ exact_results study::exact_of(const program& tried, const batch_result& result) 
     if (parts_.empty() || result.end != batch_end::ok) {
         return exact;
     }
-    const exact_source source = source_after(tried, result);
+    const exact_source source = exact_source_of(tried, result);
     for (const exact_part part : EXACT_PARTS) {
         if (parts_.contains(part)) {
             work_out(part, source, exact);

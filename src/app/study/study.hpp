@@ -42,11 +42,6 @@ struct study_row {
     bool meets_conditions = false;
     /// By how much it misses them, each relative to its limit; infinite where a value is missing.
     double missed_by = 0.0;
-
-    /// Nothing of the design was refused.
-    bool is_accepted() const {
-        return result.end == batch_end::ok && !result.ports_refused && !result.performance_refused;
-    }
 };
 
 /// A plan that can be run. It does not change, so that threads share it.

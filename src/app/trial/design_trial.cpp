@@ -38,10 +38,6 @@ entries typed_entries(const program& kavetta, const std::optional<typed_entry>& 
     return boxes;
 }
 
-bool is_accepted(const batch_result& result) {
-    return result.end == batch_end::ok && !result.ports_refused && !result.performance_refused;
-}
-
 }  // namespace
 
 calc_stage last_calculated_stage(const program& kavetta) {
@@ -74,7 +70,8 @@ design_trial try_design(const program& kavetta, const std::optional<typed_entry>
     trial.result = type_and_calculate(
         trial.tried, person, typed ? std::vector{*typed} : std::vector<typed_entry>(), last);
     trial.messages = person.messages();
-    trial.accepted = is_accepted(trial.result) && !has_replaced_number(before, trial.tried.entries);
+    trial.accepted =
+        trial.result.is_accepted() && !has_replaced_number(before, trial.tried.entries);
     return trial;
 }
 

@@ -29,6 +29,19 @@ TEST(batch_run, takes_a_design_through_all_stages_with_any_user) {
     EXPECT_GT(kavetta.rotor_profiles.capacity_cc, 0.0);
 }
 
+TEST(batch_run, is_accepted_where_no_stage_refused_anything) {
+    batch_result result;
+    EXPECT_TRUE(result.is_accepted());
+    result.ports_refused = true;
+    EXPECT_FALSE(result.is_accepted());
+    result = {};
+    result.performance_refused = true;
+    EXPECT_FALSE(result.is_accepted());
+    result = {};
+    result.end = batch_end::failure;
+    EXPECT_FALSE(result.is_accepted());
+}
+
 TEST(batch_run, types_before_it_runs) {
     scripted_user person;
     program kavetta;

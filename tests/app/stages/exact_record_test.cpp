@@ -2,6 +2,7 @@
 #include "app/stages/exact_record.hpp"
 
 #include "app/program.hpp"
+#include "app/stages/batch_run.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "support/cnc_design.hpp"
 
@@ -43,6 +44,22 @@ TEST(exact_record, another_calculation_leaves_the_older_performance) {
     EXPECT_TRUE(update_exact_record(kavetta));
     EXPECT_EQ(kavetta.exact_record.source->design.thick, 12.0);
     EXPECT_FALSE(kavetta.exact_record.source->has_performance);
+}
+
+TEST(exact_record, has_nothing_that_a_run_did_not_reach) {
+    program kavetta = design_with_ports("n07_engine_oil_groove");
+    scripted_user person;
+    calculate_performance(kavetta, person);
+    batch_result run;
+    run.ports_reached = run.performance_reached = true;
+    const exact_source whole = exact_source_of(kavetta, run);
+    EXPECT_TRUE(whole.has_rotors && whole.has_ports && whole.has_performance);
+    run.performance_reached = false;
+    EXPECT_TRUE(exact_source_of(kavetta, run).has_ports);
+    EXPECT_FALSE(exact_source_of(kavetta, run).has_performance);
+    run.ports_reached = false;
+    EXPECT_FALSE(exact_source_of(kavetta, run).has_ports);
+    EXPECT_TRUE(exact_source_of(kavetta).has_ports);
 }
 
 TEST(exact_record, has_nothing_of_a_design_that_failed) {

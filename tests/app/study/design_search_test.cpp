@@ -131,7 +131,7 @@ TEST(design_search, keeps_within_targets_limits_and_steps) {
     const found_front found = searched(plan);
     ASSERT_FALSE(found.rows.empty());
     for (const study_row& row : found.rows) {
-        EXPECT_TRUE(row.is_accepted());
+        EXPECT_TRUE(row.result.is_accepted());
         const double ecc = std::stod(row.texts[0]);
         EXPECT_NEAR(ecc * 50.0, std::round(ecc * 50.0), 1e-9) << row.texts[0];
         const double capacity = *row.values[0];

@@ -98,7 +98,7 @@ TEST(study, gives_refused_designs_rows_with_their_reason) {
     EXPECT_EQ(row.messages,
               std::vector<std::string>{"Input a value for the diameter of the shaft"});
     EXPECT_EQ(row.values, std::vector<std::optional<double>>{std::nullopt});
-    EXPECT_FALSE(row.is_accepted());
+    EXPECT_FALSE(row.result.is_accepted());
 }
 
 TEST(study, compares_with_every_condition) {

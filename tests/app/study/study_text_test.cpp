@@ -65,7 +65,7 @@ TEST(study_text, reads_its_lines_back) {
         EXPECT_EQ(back.messages, row.messages);
         EXPECT_EQ(back.hints, row.hints);
         EXPECT_EQ(back.result.end, batch_end::closing);
-        EXPECT_EQ(back.is_accepted(), row.is_accepted());
+        EXPECT_EQ(back.result.is_accepted(), row.result.is_accepted());
         EXPECT_EQ(row_line(designs, back, format), line);
     }
 }
