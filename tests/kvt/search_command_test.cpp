@@ -75,6 +75,8 @@ TEST(search_command, says_what_is_wrong_with_a_search) {
         EXPECT_NE(run.err.find(told), std::string::npos) << run.err;
     };
     expect_usage({"--minimize", "ripple"}, "a search needs something to vary");
+    expect_usage({"--minimize", "ripple", "--language", "2"},
+                 "eine Suche braucht etwas, das variiert wird");
     expect_usage({"--vary", "ecc=2:3"}, "a search needs something to minimize or to maximize");
     expect_usage({"--vary", "ecc=2:3", "--minimize", "ripples"}, "there is no quantity 'ripples'");
     expect_usage({"--vary", "ecc=2:3", "--minimize", "ripple", "--target", "capacity"},

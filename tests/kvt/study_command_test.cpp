@@ -222,6 +222,15 @@ TEST(study_command, lists_its_quantities) {
     EXPECT_EQ(std::ranges::count(lines, "thick [mm]"), 1);
 }
 
+TEST(study_command, calculates_the_project_itself_where_nothing_varies) {
+    const kvt_run run = study_engine_oil({"--record", "capacity", "--jsonl"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    const texts rows = split_lines(run.out);
+    ASSERT_EQ(rows.size(), 1U);
+    const json report = run_kvt({"calc", example("engine_oil"), "--json", "-"}).report();
+    EXPECT_EQ(json::parse(rows[0])["values"]["capacity"], report["numbers"]["capacity"]);
+}
+
 TEST(study_command, says_what_is_wrong_with_a_study) {
     const auto expect_usage = [](const texts& options, const std::string& told) {
         const kvt_run run = study_engine_oil(options);
@@ -234,6 +243,13 @@ TEST(study_command, says_what_is_wrong_with_a_study) {
                  "a grid takes lists and ranges with a step; ecc has neither");
     expect_usage({"--vary", "ecc=2", "--vary", "ecc=3"}, "ecc is varied twice");
     expect_usage({"--sample", "random"}, "'random' is no sample: grid, latin:N or sobol:N");
+    expect_usage({"--sample", "latin:200"},
+                 "a sample needs something to vary: all 200 designs would be the same\n");
+    expect_usage({"--sample", "sobol:200", "--vary", "ecc=2.5"},
+                 "a sample needs something to vary");
+    expect_usage(
+        {"--sample", "sobol:5", "--language", "2"},
+        "eine Stichprobe braucht etwas, das variiert wird: alle 5 Entwürfe wären gleich\n");
     expect_usage({"--record", "nothing"}, "there is no quantity 'nothing'");
     expect_usage({"--where", "capacity"}, "'capacity' is no condition");
     expect_usage({"--pareto", "capacity"}, "'capacity' is no aim: QUANTITY:max or QUANTITY:min");

@@ -297,8 +297,7 @@ study_plan study_of_search(const search_plan& plan) {
     for (const study_variable& variable : plan.variables) {
         of_study.variables.push_back(in_steps(variable, plan.step));
     }
-    // Its designs are not those of a sample: only their number is one.
-    of_study.sample = {sample_kind::sobol, plan.budget, plan.seed};
+    of_study.sample = {sample_kind::searched, plan.budget, plan.seed};
     of_study.recorded = plan.recorded;
     of_study.conditions = plan.limits;
     of_study.aims = plan.aims;

@@ -3,6 +3,8 @@
 #include "app/study/sample_places.hpp"
 #include "app/study/study_problem.hpp"
 
+#include <algorithm>
+#include <cassert>
 #include <charconv>
 #include <cstddef>
 
@@ -37,6 +39,21 @@ std::uint64_t grid_count(const std::vector<study_variable>& variables) {
     return count;
 }
 
+bool varies(const study_variable& variable) {
+    return variable.is_continuous() ||
+           std::ranges::any_of(variable.levels, [&](const std::string& level) {
+               return level != variable.levels.front();
+           });
+}
+
+std::uint64_t sample_count(const std::vector<study_variable>& variables,
+                           const study_sample& sample) {
+    if (sample.count > 1 && std::ranges::none_of(variables, varies)) {
+        throw study_problem("all_the_same", {std::to_string(sample.count)});
+    }
+    return sample.count;
+}
+
 std::vector<std::string> grid_texts(const std::vector<study_variable>& variables,
                                     std::uint64_t number) {
     std::vector<std::string> texts(variables.size());
@@ -66,11 +83,19 @@ study_sample study_sample_of(std::string_view text) {
 
 std::uint64_t design_count(const std::vector<study_variable>& variables,
                            const study_sample& sample) {
-    return sample.kind == sample_kind::grid ? grid_count(variables) : sample.count;
+    switch (sample.kind) {
+        case sample_kind::grid:
+            return grid_count(variables);
+        case sample_kind::searched:
+            return sample.count;
+        default:
+            return sample_count(variables, sample);
+    }
 }
 
 std::vector<std::string> sampled_texts(const std::vector<study_variable>& variables,
                                        const study_sample& sample, std::uint64_t number) {
+    assert(sample.kind != sample_kind::searched);
     if (sample.kind == sample_kind::grid) {
         return grid_texts(variables, number);
     }

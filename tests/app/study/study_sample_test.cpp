@@ -47,6 +47,18 @@ TEST(study_sample, is_the_design_itself_without_variables) {
     EXPECT_TRUE(sampled_texts({}, study_sample{}, 0).empty());
 }
 
+TEST(study_sample, is_not_many_times_the_same_design) {
+    for (const sample_kind kind : {sample_kind::latin, sample_kind::sobol}) {
+        EXPECT_THROW(design_count({}, {kind, 200, 0}), study_problem);
+        EXPECT_THROW(design_count(variables_of({"ecc=2", "thick=8:8:1"}), {kind, 200, 0}),
+                     study_problem);
+        EXPECT_THROW(design_count(variables_of({"ecc=2,2"}), {kind, 2, 0}), study_problem);
+        EXPECT_EQ(design_count({}, {kind, 1, 0}), 1U);
+        EXPECT_EQ(design_count(variables_of({"ecc=2", "thick=8:9"}), {kind, 200, 0}), 200U);
+        EXPECT_EQ(design_count(variables_of({"ecc=2,2.5"}), {kind, 200, 0}), 200U);
+    }
+}
+
 TEST(study_sample, refuses_a_grid_that_is_none) {
     EXPECT_THROW(design_count(variables_of({"ecc=2:3"}), study_sample{}), study_problem);
     const auto large =

@@ -135,6 +135,35 @@ TEST_F(study_form_test, says_what_is_wrong_and_keeps_what_was_typed) {
     EXPECT_TRUE(on_study<QPushButton>("run_study")->isEnabled());
 }
 
+TEST_F(study_form_test, says_that_nothing_varies) {
+    show_study();
+    const auto told = [this](int kind) {
+        on_study<QComboBox>("study_kind")->setCurrentIndex(kind);
+        robot.messages.clear();
+        press_on_study("run_study");
+        EXPECT_TRUE(on_study<QPushButton>("run_study")->isEnabled()) << "nothing runs";
+        return robot.messages;
+    };
+    fill("study_aims", "ripple:min");
+    on_study<QSpinBox>("study_count")->setValue(30);
+    const std::vector<std::string> no_sample = {
+        "a sample needs something to vary: all 30 designs would be the same"};
+    EXPECT_EQ(told(1), no_sample);
+    EXPECT_EQ(told(2), no_sample);
+    EXPECT_EQ(told(3), std::vector<std::string>{"a search needs something to vary"});
+    EXPECT_EQ(on_study<QSpinBox>("study_count")->value(), 30);
+    EXPECT_EQ(on_study<QLineEdit>("study_aims")->text(), "ripple:min");
+    EXPECT_EQ(row_count(), 0);
+}
+
+TEST_F(study_form_test, calculates_the_design_itself_where_nothing_varies) {
+    show_study();
+    on_study<QComboBox>("study_kind")->setCurrentIndex(0);
+    calculate();
+    ASSERT_EQ(row_count(), 1);
+    EXPECT_EQ(cell(0, 2), qt_text(kavetta().labels.capacity));
+}
+
 TEST_F(study_form_test, takes_a_design_over_as_one_step) {
     show_study();
     const std::string before = kavetta().entries.ecc;
@@ -286,6 +315,10 @@ TEST_F(study_form_test, stands_in_german) {
     EXPECT_EQ(loaded("study_form")->windowTitle(), "Studie");
     EXPECT_EQ(on_study<QPushButton>("take_over")->text(), "Übernehmen");
     EXPECT_EQ(on_study<QComboBox>("study_kind")->itemText(0), "Alle Kombinationen");
+    press_on_study("run_study");
+    EXPECT_EQ(robot.messages,
+              std::vector<std::string>{"eine Stichprobe braucht etwas, das variiert wird: alle 200 "
+                                       "Entwürfe wären gleich"});
 }
 
 }  // namespace kvt
