@@ -5,38 +5,32 @@
 #include "app/study/study_files.hpp"
 #include "app/study/study_problem.hpp"
 #include "app/trial/design_trial.hpp"
-#include "app/trial/entry_limits.hpp"
-#include "base/number_text.hpp"
-#include "core/entry_names.hpp"
-#include "core/entry_numbers.hpp"
 #include "core/text_table.hpp"
 #include "core/user.hpp"
 #include "ui/parts/chart_view.hpp"
 #include "ui/parts/form_parts.hpp"
+#include "ui/parts/study_plan_side.hpp"
 #include "ui/parts/study_table_model.hpp"
 #include "ui/parts/study_worker.hpp"
 #include "ui/shell/qt_text.hpp"
 
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <set>
 #include <utility>
 
@@ -47,39 +41,9 @@ namespace {
 constexpr QSize START_SIZE(1080, 640);
 constexpr int MARGIN = 8;
 constexpr int PLAN_WIDTH = 360;
-constexpr int FIRST_COUNT = 200;
-constexpr int MOST_DESIGNS = 10000000;
-constexpr int MOST_SEED = 1000000000;
 /// So often the chart is drawn anew while rows come.
 constexpr int REDRAW_MS = 300;
 constexpr int CHART_PAGE = 1;
-
-/// The kinds of a study in the order of their list.
-enum study_kind { grid_kind, latin_kind, sobol_kind, search_kind };
-constexpr std::array<const char*, 4> KINDS = {"kind_grid", "kind_latin", "kind_sobol",
-                                              "kind_search"};
-constexpr std::array<const char*, 3> SAMPLES = {"grid", "latin:", "sobol:"};
-
-constexpr const char* FIRST_ENTRY = "ecc";
-
-/// What a new study records.
-constexpr std::array<const char*, 5> FIRST_QUANTITIES = {"capacity", "outer_diameter",
-                                                         "overall_eff_max", "ripple", "hertz_max"};
-
-QLineEdit* text_box(const char* name) {
-    auto* box = new QLineEdit;
-    box->setObjectName(name);
-    box->setAcceptDrops(false);
-    return box;
-}
-
-QSpinBox* count_box(const char* name, int least, int most, int value) {
-    auto* box = new QSpinBox;
-    box->setObjectName(name);
-    box->setRange(least, most);
-    box->setValue(value);
-    return box;
-}
 
 QComboBox* choice_box(const char* name) {
     auto* box = new QComboBox;
@@ -88,95 +52,13 @@ QComboBox* choice_box(const char* name) {
     return box;
 }
 
-/// Those that are one number.
-std::vector<study_quantity> listed_quantities(const program& kavetta) {
-    std::vector<study_quantity> listed = study_quantities(kavetta);
-    std::erase_if(listed, [](const study_quantity& quantity) {
-        return quantity.spread != quantity_spread::nothing;
-    });
-    return listed;
-}
-
-QPushButton* plain_button(const char* name) {
-    auto* button = new QPushButton;
-    button->setObjectName(name);
-    return button;
-}
-
-void add_labelled(QGridLayout& grid, const char* label, QWidget* box) {
-    auto* text = named_label(label);
-    text->setBuddy(box);
-    const int row = grid.rowCount();
-    grid.addWidget(text, row, 0);
-    grid.addWidget(box, row, 1);
-}
-
-/// Texts between semicolons, without the blanks around them.
-std::vector<std::string> parted(const QString& text) {
-    std::vector<std::string> parts;
-    for (const QString& part : text.split(';', Qt::SkipEmptyParts)) {
-        if (!part.trimmed().isEmpty()) {
-            parts.push_back(utf8_text(part.trimmed()));
-        }
-    }
-    return parts;
-}
-
-QString joined(const std::vector<std::string>& parts) {
-    QStringList texts;
-    for (const std::string& part : parts) {
-        texts.append(qt_text(part));
-    }
-    return texts.join("; ");
-}
-
-/// A power of ten, between a hundredth and a thousandth of a range.
-double round_step(double range) {
-    return std::pow(10.0, std::floor(std::log10(range)) - 2.0);
-}
-
-/// The accepted range of a number as it stands, "2.1:2.87:0.01"; half to double of it where an end
-/// is open; the text itself where no number is accepted.
-std::string first_values(const program& kavetta, const entry_field& entry) {
-    const std::string& present = kavetta.entries.*entry.member;
-    if (entry.kind == entry_kind::check) {
-        return "0,1";
-    }
-    const double number = val(commas_to_points(present));
-    const calc_stage last = std::max(reading_stage(entry).value_or(calc_stage::profiles),
-                                     last_calculated_stage(kavetta));
-    const auto limits = find_limits(kavetta, entry, last);
-    if (!limits || number == 0.0) {
-        return present;
-    }
-    const auto end = [](const std::optional<entry_limit>& limit, double open) {
-        return limit ? commas_to_points(limit->shown) : number_text(open);
-    };
-    const std::string lowest = end(limits->lowest, number / 2.0);
-    const std::string highest = end(limits->highest, number * 2.0);
-    const bool is_whole = number_kind_of(entry.name) == number_kind::whole;
-    const double step = is_whole ? 1.0 : round_step(val(highest) - val(lowest));
-    return lowest + ":" + highest + ":" + number_text(step);
-}
-
 }  // namespace
 
 study_form::study_form(form_context context)
     : loaded_form("study_form", context),
-      variables_(new QTableWidget(0, 2)),
-      entry_(new QComboBox),
-      kind_(new QComboBox),
-      count_(count_box("study_count", 1, MOST_DESIGNS, FIRST_COUNT)),
-      seed_(count_box("study_seed", 0, MOST_SEED, 0)),
-      step_(text_box("study_step")),
-      with_assist_(new QCheckBox),
-      quantity_filter_(text_box("quantity_filter")),
-      quantities_(new QListWidget),
-      conditions_(text_box("study_conditions")),
-      targets_(text_box("study_targets")),
-      aims_(text_box("study_aims")),
-      run_(plain_button("run_study")),
-      stop_(plain_button("stop_study")),
+      plan_(new study_plan_side(context.kavetta)),
+      run_(named_button("run_study")),
+      stop_(named_button("stop_study")),
       progress_(new QProgressBar),
       progress_text_(new QLabel),
       filter_(text_box("study_filter")),
@@ -193,13 +75,12 @@ study_form::study_form(form_context context)
       worker_(new study_worker(this)) {
     setAttribute(Qt::WA_DeleteOnClose, false);
     auto* content = new QSplitter;
-    content->addWidget(plan_side());
+    content->addWidget(asking_side());
     content->addWidget(result_side());
     content->setStretchFactor(1, 1);
     connect(worker_, &study_worker::came, this, &study_form::take_rows);
     connect(worker_, &study_worker::progressed, this, &study_form::show_progress);
     connect(worker_, &study_worker::ended, this, &study_form::end_run);
-    fill_quantities();
     bind(content, false);
     set_main_button(run_);
 }
@@ -223,80 +104,25 @@ void study_form::closeEvent(QCloseEvent* event) {
 
 // What is asked.
 
-QWidget* study_form::plan_side() {
+QWidget* study_form::asking_side() {
     auto* side = new QWidget;
     auto* layout = new QVBoxLayout(side);
     layout->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
-    add_variables(*layout);
-    auto* grid = new QGridLayout;
-    add_kind(*grid);
-    add_texts(*grid);
-    layout->addLayout(grid);
-    add_quantities(*layout);
+    layout->addWidget(plan_, 1);
     add_commands(*layout);
     side->setMinimumWidth(PLAN_WIDTH);
     return side;
 }
 
-void study_form::add_variables(QBoxLayout& side) {
-    variables_->setObjectName("variables");
-    variables_->verticalHeader()->hide();
-    variables_->horizontalHeader()->setStretchLastSection(true);
-    variables_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    variables_->setTabKeyNavigation(false);
-    entry_->setObjectName("study_entry");
-    auto* label = named_label("variables_label");
-    label->setBuddy(variables_);
-    side.addWidget(label);
-    side.addWidget(variables_);
-    auto* row = new QHBoxLayout;
-    row->addWidget(entry_, 1);
-    QPushButton* add = plain_button("add_variable");
-    QPushButton* remove = plain_button("remove_variable");
-    row->addWidget(add);
-    row->addWidget(remove);
-    side.addLayout(row);
-    connect(add, &QPushButton::clicked, this, &study_form::add_variable);
-    connect(remove, &QPushButton::clicked, this, &study_form::remove_variable);
-}
-
-void study_form::add_kind(QGridLayout& grid) {
-    kind_->setObjectName("study_kind");
-    add_labelled(grid, "kind_label", kind_);
-    add_labelled(grid, "count_label", count_);
-    add_labelled(grid, "seed_label", seed_);
-    add_labelled(grid, "step_label", step_);
-    step_->setText("0.01");
-    with_assist_->setObjectName("begin_with_assist");
-    grid.addWidget(with_assist_, grid.rowCount(), 1);
-    connect(kind_, &QComboBox::currentIndexChanged, this, &study_form::show_kind);
-}
-
-void study_form::add_texts(QGridLayout& grid) {
-    add_labelled(grid, "conditions_label", conditions_);
-    add_labelled(grid, "targets_label", targets_);
-    add_labelled(grid, "aims_label", aims_);
-}
-
-void study_form::add_quantities(QBoxLayout& side) {
-    quantities_->setObjectName("quantities");
-    auto* label = named_label("quantities_label");
-    label->setBuddy(quantity_filter_);
-    side.addWidget(label);
-    side.addWidget(quantity_filter_);
-    side.addWidget(quantities_);
-    connect(quantity_filter_, &QLineEdit::textChanged, this, &study_form::filter_quantities);
-}
-
-void study_form::add_commands(QBoxLayout& side) {
+void study_form::add_commands(QVBoxLayout& side) {
     progress_->setObjectName("study_progress");
     progress_->setTextVisible(false);
     progress_text_->setObjectName("study_progress_text");
     side.addWidget(progress_);
     side.addWidget(progress_text_);
     auto* row = new QHBoxLayout;
-    QPushButton* open = plain_button("open_study");
-    QPushButton* save = plain_button("save_study");
+    QPushButton* open = named_button("open_study");
+    QPushButton* save = named_button("save_study");
     row->addWidget(run_);
     row->addWidget(stop_);
     row->addStretch();
@@ -328,9 +154,9 @@ QWidget* study_form::result_side() {
     layout->addWidget(tabs_, 1);
 
     auto* below = new QHBoxLayout;
-    QPushButton* take = plain_button("take_over");
-    QPushButton* table = plain_button("save_table");
-    QPushButton* projects = plain_button("save_projects");
+    QPushButton* take = named_button("take_over");
+    QPushButton* table = named_button("save_table");
+    QPushButton* projects = named_button("save_projects");
     below->addWidget(take);
     below->addStretch();
     below->addWidget(table);
@@ -401,10 +227,6 @@ void study_form::refresh() {
     const std::int16_t language = context_.kavetta.app_state.language;
     if (language_ != language) {
         language_ = language;
-        variables_->setHorizontalHeaderLabels(
-            {text_named("entry_head"), text_named("values_head")});
-        fill_entries();
-        fill_kinds();
         fill_axes();
         tabs_->setTabText(0, text_named("table_tab"));
         tabs_->setTabText(CHART_PAGE, text_named("chart_tab"));
@@ -414,68 +236,9 @@ void study_form::refresh() {
             chart_->translate();
         }
     }
-    show_units();
-    show_kind();
+    plan_->refresh();
     show_running();
     show_counts();
-}
-
-void study_form::fill_entries() {
-    const QVariant chosen = entry_->currentData();
-    entry_->clear();
-    for (const entry_field& field : entry_fields()) {
-        if (field.form == "Form1" || field.form == "portdes" || field.form == "Perffrm") {
-            entry_->addItem(qt_text(entry_name(field, context_.kavetta.captions, language_)) +
-                                " (" + qt_text(field.name) + ")",
-                            qt_text(field.name));
-        }
-    }
-    entry_->setCurrentIndex(entry_->findData(chosen.isValid() ? chosen : FIRST_ENTRY));
-}
-
-void study_form::fill_kinds() {
-    const int chosen = std::max<int>(kind_->currentIndex(), kind_->count() == 0 ? latin_kind : 0);
-    kind_->clear();
-    for (const char* kind : KINDS) {
-        kind_->addItem(text_named(kind));
-    }
-    kind_->setCurrentIndex(chosen);
-}
-
-void study_form::fill_quantities() {
-    for (const study_quantity& quantity : listed_quantities(context_.kavetta)) {
-        auto* item = new QListWidgetItem(quantities_);
-        item->setData(Qt::UserRole, qt_text(quantity.name));
-        const bool is_first =
-            std::ranges::find(FIRST_QUANTITIES, quantity.name) != FIRST_QUANTITIES.end();
-        item->setCheckState(is_first ? Qt::Checked : Qt::Unchecked);
-    }
-}
-
-/// Lengths of entries and the capacity have the units in force.
-void study_form::show_units() {
-    const app_state& state = context_.kavetta.app_state;
-    const std::pair units(state.drawing_units, state.capacity_unit);
-    if (shown_units_ == units) {
-        return;
-    }
-    shown_units_ = units;
-    int row = 0;
-    for (const study_quantity& quantity : listed_quantities(context_.kavetta)) {
-        const std::string unit = quantity.unit.empty() ? "" : " [" + quantity.unit + "]";
-        quantities_->item(row)->setText(qt_text(quantity.name + unit));
-        ++row;
-    }
-}
-
-/// A grid has its own number, a search alone has steps and targets.
-void study_form::show_kind() {
-    const int kind = kind_->currentIndex();
-    count_->setEnabled(kind != grid_kind);
-    seed_->setEnabled(kind != grid_kind);
-    step_->setEnabled(kind == search_kind);
-    with_assist_->setEnabled(kind == search_kind);
-    targets_->setEnabled(kind == search_kind);
 }
 
 void study_form::show_running() {
@@ -491,106 +254,22 @@ void study_form::show_counts() {
 }
 
 void study_form::show_progress(quint64 done, quint64 count, double seconds_left) {
-    progress_->setMaximum(static_cast<int>(std::min<quint64>(count, MOST_DESIGNS)));
-    progress_->setValue(static_cast<int>(std::min<quint64>(done, MOST_DESIGNS)));
+    constexpr quint64 MOST = std::numeric_limits<int>::max();
+    progress_->setMaximum(static_cast<int>(std::min(count, MOST)));
+    progress_->setValue(static_cast<int>(std::min(done, MOST)));
     progress_text_->setText(
         seconds_left > 0.0
             ? text_named("time_left").arg(done).arg(count).arg(std::ceil(seconds_left))
             : text_named("progress").arg(done).arg(count));
 }
 
-// Variables and quantities.
-
-void study_form::add_variable() {
-    const entry_field* field = find_entry(utf8_text(entry_->currentData().toString()));
-    if (field != nullptr) {
-        add_variable_row(qt_text(field->name), qt_text(first_values(context_.kavetta, *field)));
-    }
-}
-
-void study_form::add_variable_row(const QString& control, const QString& values) {
-    const int row = variables_->rowCount();
-    variables_->insertRow(row);
-    auto* name = new QTableWidgetItem(control);
-    name->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-    variables_->setItem(row, 0, name);
-    variables_->setItem(row, 1, new QTableWidgetItem(values));
-    variables_->setCurrentCell(row, 1);
-}
-
-void study_form::remove_variable() {
-    variables_->removeRow(variables_->currentRow());
-}
-
-void study_form::filter_quantities(const QString& text) {
-    for (int row = 0; row < quantities_->count(); ++row) {
-        QListWidgetItem* item = quantities_->item(row);
-        item->setHidden(!item->text().contains(text, Qt::CaseInsensitive));
-    }
-}
-
 // The study.
-
-study_document study_form::document() const {
-    study_document asked;
-    for (int row = 0; row < variables_->rowCount(); ++row) {
-        asked.varied.push_back(utf8_text(variables_->item(row, 0)->text()) + "=" +
-                               utf8_text(variables_->item(row, 1)->text().trimmed()));
-    }
-    const int kind = kind_->currentIndex();
-    const std::string count = std::to_string(count_->value());
-    asked.searches = kind == search_kind;
-    if (!asked.searches) {
-        asked.sample = SAMPLES[static_cast<std::size_t>(kind)] + (kind == grid_kind ? "" : count);
-    }
-    asked.seed = static_cast<std::uint32_t>(seed_->value());
-    asked.budget = static_cast<std::uint64_t>(count_->value());
-    asked.begins_with_assist = with_assist_->isChecked();
-    asked.step = val(commas_to_points(utf8_text(step_->text())));
-    for (int row = 0; row < quantities_->count(); ++row) {
-        const QListWidgetItem* item = quantities_->item(row);
-        if (item->checkState() == Qt::Checked) {
-            asked.recorded.push_back(utf8_text(item->data(Qt::UserRole).toString()));
-        }
-    }
-    asked.conditions = parted(conditions_->text());
-    asked.targets = parted(targets_->text());
-    asked.aims = parted(aims_->text());
-    return asked;
-}
-
-void study_form::show_document(const study_document& shown) {
-    variables_->setRowCount(0);
-    for (const std::string& varied : shown.varied) {
-        const std::size_t equals = varied.find('=');
-        add_variable_row(qt_text(varied.substr(0, equals)), qt_text(varied.substr(equals + 1)));
-    }
-    const std::string word = shown.sample.substr(0, shown.sample.find(':') + 1);
-    const auto kind = std::ranges::find(SAMPLES, word.empty() ? "grid" : word);
-    kind_->setCurrentIndex(shown.searches ? search_kind
-                                          : static_cast<int>(kind - SAMPLES.begin()) % search_kind);
-    const bool has_count = !shown.searches && !word.empty();
-    count_->setValue(has_count ? qt_text(shown.sample.substr(word.size())).toInt()
-                               : static_cast<int>(shown.budget));
-    seed_->setValue(static_cast<int>(shown.seed));
-    with_assist_->setChecked(shown.begins_with_assist);
-    step_->setText(qt_text(number_text(shown.step)));
-    for (int row = 0; row < quantities_->count(); ++row) {
-        QListWidgetItem* item = quantities_->item(row);
-        const std::string name = utf8_text(item->data(Qt::UserRole).toString());
-        const bool is_recorded = std::ranges::find(shown.recorded, name) != shown.recorded.end();
-        item->setCheckState(is_recorded ? Qt::Checked : Qt::Unchecked);
-    }
-    conditions_->setText(joined(shown.conditions));
-    targets_->setText(joined(shown.targets));
-    aims_->setText(joined(shown.aims));
-}
 
 /// The entries as they stand in the boxes are the project; nothing of it is calculated here.
 void study_form::run() {
     context_.runner.act([this](program& kavetta, user& person) {
         try {
-            study_document asked = document();
+            study_document asked = plan_->document();
             designs_ = worker_->start(std::make_shared<const program>(trial_copy(kavetta)), asked);
             calculated_ = std::move(asked);
             model_->show_table(study_table(designs_));
@@ -752,7 +431,7 @@ void study_form::open() {
             return;
         }
         worker_->stop();
-        show_document(*opened);
+        plan_->show_document(*opened);
         calculated_ = *opened;
         designs_.reset();
         study_table table;
@@ -773,7 +452,7 @@ void study_form::open() {
 void study_form::save() {
     context_.runner.act([this](const program& kavetta, user& person) {
         const bool has_rows = !model_->table().rows().empty();
-        study_document saved = has_rows ? calculated_ : document();
+        study_document saved = has_rows ? calculated_ : plan_->document();
         saved.rows = model_->table().rows();
         save_study(kavetta, person, saved);
     });

@@ -12,21 +12,14 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-class QBoxLayout;
-class QCheckBox;
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QProgressBar;
 class QPushButton;
-class QSpinBox;
 class QTableView;
-class QTableWidget;
 class QTabWidget;
 class QTimer;
 class QVBoxLayout;
@@ -34,6 +27,7 @@ class QVBoxLayout;
 namespace kvt {
 
 class chart_view;
+class study_plan_side;
 class study_table_model;
 class study_worker;
 
@@ -58,33 +52,17 @@ class study_form : public loaded_form {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    QWidget* plan_side();
-    void add_variables(QBoxLayout& side);
-    void add_kind(QGridLayout& grid);
-    void add_quantities(QBoxLayout& side);
-    void add_texts(QGridLayout& grid);
-    void add_commands(QBoxLayout& side);
+    QWidget* asking_side();
+    void add_commands(QVBoxLayout& side);
     QWidget* result_side();
     QWidget* filter_line();
     QWidget* chart_page();
 
-    void fill_entries();
-    void fill_kinds();
-    void fill_quantities();
-    void show_units();
-    void show_kind();
     void show_running();
     void show_counts();
     void show_progress(quint64 done, quint64 count, double seconds_left);
     QString text_named(const char* name) const;
 
-    void add_variable();
-    void add_variable_row(const QString& control, const QString& values);
-    void remove_variable();
-    void filter_quantities(const QString& text);
-
-    study_document document() const;
-    void show_document(const study_document& shown);
     void run();
     void take_rows(const std::vector<study_row>& rows);
     void end_run(const QString& problem);
@@ -102,18 +80,7 @@ class study_form : public loaded_form {
     void save_table();
     void save_projects();
 
-    QTableWidget* variables_;
-    QComboBox* entry_;
-    QComboBox* kind_;
-    QSpinBox* count_;
-    QSpinBox* seed_;
-    QLineEdit* step_;
-    QCheckBox* with_assist_;
-    QLineEdit* quantity_filter_;
-    QListWidget* quantities_;
-    QLineEdit* conditions_;
-    QLineEdit* targets_;
-    QLineEdit* aims_;
+    study_plan_side* plan_;
     QPushButton* run_;
     QPushButton* stop_;
     QProgressBar* progress_;
@@ -133,7 +100,6 @@ class study_form : public loaded_form {
     std::shared_ptr<const study> designs_;  ///< whose rows the table holds
     study_document calculated_;             ///< the same as it was asked for, without its rows
     std::int16_t language_ = 0;
-    std::pair<std::int16_t, std::int16_t> shown_units_;
     latest_task pointing_;  ///< waits, when it goes, for a design that is at work
 };
 

@@ -84,6 +84,13 @@ QLineEdit* number_box(const char* name, int width) {
     return box;
 }
 
+QLineEdit* text_box(const char* name) {
+    auto* box = new QLineEdit;
+    box->setObjectName(name);
+    box->setAcceptDrops(false);
+    return box;
+}
+
 QFont compact_font() {
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() * COMPACT_SHARE);
@@ -113,9 +120,14 @@ QLabel* add_unit(QLineEdit& box, const QString& widest) {
     return unit;
 }
 
-QPushButton* command_button(const char* name) {
+QPushButton* named_button(const char* name) {
     auto* button = new QPushButton;
     button->setObjectName(name);
+    return button;
+}
+
+QPushButton* command_button(const char* name) {
+    QPushButton* button = named_button(name);
     button->setFocusPolicy(Qt::TabFocus);
     return button;
 }

@@ -32,6 +32,9 @@ void accent(QPushButton& button);
 /// A box for a number, right-aligned, with a fixed width in pixels.
 QLineEdit* number_box(const char* name, int width);
 
+/// A box for a text.
+QLineEdit* text_box(const char* name);
+
 /// The font of a form with many entries in little room: a ninth smaller than that of the
 /// application.
 QFont compact_font();
@@ -43,6 +46,8 @@ int compact_box_width(const char* widest);
 /// Widens a compact box by a faint unit behind the number, as wide as its widest text; the label is
 /// named as the entry with "_unit".
 QLabel* add_unit(QLineEdit& box, const QString& widest);
+
+QPushButton* named_button(const char* name);
 
 /// A button and a check box that Tab reaches and a click does not focus, so that Enter stays with
 /// the main button.
