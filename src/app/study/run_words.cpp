@@ -38,6 +38,22 @@ std::string performance_word(const batch_result& result) {
     return word_of_stage(result.performance_reached, result.performance_refused);
 }
 
+std::string on_one_line(const std::vector<std::string>& messages) {
+    std::string text;
+    for (const std::string& message : messages) {
+        text += text.empty() ? "" : " | ";
+        for (const char c : message) {
+            const bool is_line_end = c == '\r' || c == '\n';
+            if (!is_line_end) {
+                text += c;
+            } else if (!text.ends_with(' ')) {
+                text += ' ';
+            }
+        }
+    }
+    return text;
+}
+
 batch_result result_of_words(std::string_view end, std::string_view ports,
                              std::string_view performance) {
     batch_result result;

@@ -56,15 +56,6 @@ range range_of(const std::vector<placed_design>& dots, double placed_design::*nu
     return all;
 }
 
-/// "ripple" and "%" of "ripple [%]"
-std::pair<std::string, std::string> name_and_unit(const std::string& heading) {
-    const std::size_t bracket = heading.find(" [");
-    return bracket == std::string::npos
-               ? std::pair(heading, std::string())
-               : std::pair(heading.substr(0, bracket),
-                           heading.substr(bracket + 2, heading.size() - bracket - 3));
-}
-
 /// The fifth of the range in which a colour lies: Int(5 (value - least) / (largest - least)).
 std::size_t colour_of(double value, const range& colours) {
     if (!(colours.length() > 0.0)) {
@@ -87,7 +78,7 @@ void add_curves(const study_table& table, const study_axes& axes, const range& c
                 std::int16_t language, study_chart& made) {
     const bool has_colours = axes.colour && colours.length() > 0.0;
     made.chart.legend_caption = axes.colour
-                                    ? name_and_unit(table.heading(*axes.colour)).first
+                                    ? table.name(*axes.colour)
                                     : std::string(form_text("study_form", "all_designs", language));
     for (std::size_t fifth = 0; fifth < (has_colours ? COLOURS : 1); ++fifth) {
         chart_curve curve;
@@ -149,8 +140,8 @@ void set_axes(const study_table& table, const study_axes& axes,
     chart.x_maximum = x.largest;
     chart.minimum = y.least;
     chart.maximum = y.largest;
-    chart.x_unit = name_and_unit(table.heading(axes.x)).second;
-    chart.y_unit = name_and_unit(table.heading(axes.y)).second;
+    chart.x_unit = table.unit(axes.x);
+    chart.y_unit = table.unit(axes.y);
     chart.x_title = table.heading(axes.x);
     chart.title = table.heading(axes.y);
     chart.y_marks = computed_marks(chart.minimum, chart.maximum, chart.y_unit);

@@ -1,6 +1,7 @@
 #include "app/study/study_table.hpp"
 
 #include "app/program.hpp"
+#include "app/study/run_words.hpp"
 #include "app/study/study_problem.hpp"
 #include "base/letter_case.hpp"
 #include "base/number_text.hpp"
@@ -32,14 +33,6 @@ std::string result_text(const batch_result& result, std::int16_t language) {
     return text;
 }
 
-std::string joined(const std::vector<std::string>& messages) {
-    std::string text;
-    for (const std::string& message : messages) {
-        text += (text.empty() ? "" : " | ") + message;
-    }
-    return text;
-}
-
 std::optional<double> typed_number(const std::string& text) {
     try {
         return number_of_text(commas_to_points(text));
@@ -65,7 +58,18 @@ std::string study_table::heading(std::size_t column) const {
         return {};
     }
     return column < result_column() ? designs_->heading_of_variable(column - 1)
-                                    : designs_->recorded()[column - result_column() - 1].heading();
+                                    : quantity_of(column).heading();
+}
+
+std::string study_table::name(std::size_t column) const {
+    return column < result_column() ? designs_->plan().variables[column - 1].control
+                                    : quantity_of(column).name;
+}
+
+std::string study_table::unit(std::size_t column) const {
+    return column < result_column()
+               ? unit_of_variable(designs_->plan().variables[column - 1], designs_->base())
+               : quantity_of(column).quantity.unit;
 }
 
 void study_table::add(std::vector<study_row> rows) {
@@ -99,7 +103,7 @@ std::string study_table::text_of(const study_row& row, std::size_t column) const
         return result_text(row.result, language) + best;
     }
     if (column == message_column()) {
-        return joined(row.messages);
+        return on_one_line(row.messages);
     }
     const std::optional<double> value = row.values[column - result_column() - 1];
     return cell_text(value, designs_->base().decimal_mark);

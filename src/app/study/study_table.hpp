@@ -34,6 +34,9 @@ class study_table {
     std::size_t column_count() const;
     /// "ecc [mm]"; empty for what the window names itself: number, result, messages.
     std::string heading(std::size_t column) const;
+    /// "ecc" and "mm" of a column of numbers; a quantity can have no unit.
+    std::string name(std::size_t column) const;
+    std::string unit(std::size_t column) const;
     std::size_t result_column() const;
     std::size_t message_column() const { return column_count() - 1; }
 
@@ -58,6 +61,9 @@ class study_table {
     void filter(std::string_view text);
 
   private:
+    const chosen_quantity& quantity_of(std::size_t column) const {
+        return designs_->recorded()[column - result_column() - 1];
+    }
     std::string text_of(const study_row& row, std::size_t column) const;
     std::optional<double> number_of(const study_row& row, std::size_t column) const;
     std::optional<std::size_t> column_named(std::string_view name) const;

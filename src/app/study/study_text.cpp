@@ -66,23 +66,6 @@ std::optional<double> value_of_text(std::string_view text) {
     return value;
 }
 
-/// In one cell.
-std::string on_one_line(const std::vector<std::string>& messages) {
-    std::string text;
-    for (const std::string& message : messages) {
-        text += text.empty() ? "" : " | ";
-        for (const char c : message) {
-            const bool is_line_end = c == '\r' || c == '\n';
-            if (!is_line_end) {
-                text += c;
-            } else if (!text.ends_with(' ')) {
-                text += ' ';
-            }
-        }
-    }
-    return text;
-}
-
 std::string csv_row(const study_row& row) {
     std::vector<std::string> cells = {std::to_string(row.number)};
     cells.insert(cells.end(), row.texts.begin(), row.texts.end());

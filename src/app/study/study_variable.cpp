@@ -1,5 +1,6 @@
 #include "app/study/study_variable.hpp"
 
+#include "app/program.hpp"
 #include "app/study/study_problem.hpp"
 #include "base/number_text.hpp"
 #include "base/run_time_error.hpp"
@@ -120,6 +121,11 @@ study_variable study_variable_of(std::string_view text) {
     }
     check_typed(variable);
     return variable;
+}
+
+std::string unit_of_variable(const study_variable& variable, const program& base) {
+    const entry_field* field = find_entry(variable.control);
+    return field == nullptr ? "" : entry_unit(*field, base.captions, base.app_state);
 }
 
 std::vector<typed_entry> typed_entries(const std::vector<study_variable>& variables,

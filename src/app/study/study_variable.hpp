@@ -9,6 +9,8 @@
 
 namespace kvt {
 
+struct program;
+
 /// A control that a project's entry can be typed into, with the texts that it gets: those of a
 /// list, or any number of a range.
 struct study_variable {
@@ -27,6 +29,9 @@ inline constexpr double MOST_LEVELS = 1e6;
 /// control that takes whole numbers, each of them. Throws study_problem: no such control (near
 /// names are offered), a text that it does not take, a range that is none.
 study_variable study_variable_of(std::string_view text);
+
+/// The unit of its entry in the open project; empty where it has none.
+std::string unit_of_variable(const study_variable& variable, const program& base);
 
 /// What is typed into the variables, each with its text.
 std::vector<typed_entry> typed_entries(const std::vector<study_variable>& variables,

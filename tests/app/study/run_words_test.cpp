@@ -26,6 +26,12 @@ TEST(run_words, say_what_was_refused) {
     EXPECT_EQ(performance_word(result), "ok");
 }
 
+TEST(run_words, stand_on_one_line) {
+    EXPECT_EQ(on_one_line({}), "");
+    EXPECT_EQ(on_one_line({"told", "more"}), "told | more");
+    EXPECT_EQ(on_one_line({"first\r\nsecond\n\nthird"}), "first second third");
+}
+
 TEST(run_words, read_back_to_the_same_run) {
     for (const std::string ports : {"", "ok", "refused"}) {
         for (const std::string performance : {"", "ok", "refused"}) {

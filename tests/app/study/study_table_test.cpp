@@ -58,6 +58,11 @@ TEST(study_table, has_a_column_for_everything_of_a_design) {
     EXPECT_EQ(table.heading(2), "metering_groove");
     EXPECT_EQ(table.result_column(), 3U);
     EXPECT_EQ(table.heading(5), "ripple [%]");
+    EXPECT_EQ(table.name(1), "ecc");
+    EXPECT_EQ(table.unit(1), "mm");
+    EXPECT_EQ(table.unit(2), "");
+    EXPECT_EQ(table.name(5), "ripple");
+    EXPECT_EQ(table.unit(5), "%");
     EXPECT_EQ(table.message_column(), 6U);
     EXPECT_EQ(table.heading(0) + table.heading(3) + table.heading(6), "");
 }

@@ -2,6 +2,7 @@
 #include "app/study/study_variable.hpp"
 
 #include "app/study/study_problem.hpp"
+#include "support/open_design.hpp"
 
 #include <gtest/gtest.h>
 
@@ -73,6 +74,15 @@ TEST(study_variable, takes_check_boxes_and_units) {
     EXPECT_EQ(study_variable_of("metering_groove=0,1").levels, (texts{"0", "1"}));
     EXPECT_EQ(problem_of("metering_groove=0,2"), "metering_groove is a check box, 0 or 1");
     EXPECT_EQ(study_variable_of("dimens2=1").levels, texts{"1"});
+}
+
+TEST(study_variable, has_the_unit_of_its_entry_in_the_project) {
+    program base = opened_design("n07_inch_hydraulic");
+    EXPECT_EQ(unit_of_variable(study_variable_of("ecc=2:3"), base), "inches");
+    base.app_state.drawing_units = MILLIMETRES;
+    EXPECT_EQ(unit_of_variable(study_variable_of("ecc=2:3"), base), "mm");
+    EXPECT_EQ(unit_of_variable(study_variable_of("numlobes=5,6"), base), "");
+    EXPECT_EQ(unit_of_variable(study_variable_of("dimens2=1"), base), "");
 }
 
 TEST(study_variable, says_what_is_wrong) {
