@@ -2,7 +2,6 @@
 // exact figures of volume, flow, contact and speed.
 #include "app/study/sample_places.hpp"
 #include "app/study/study_table.hpp"
-#include "base/memory_manner.hpp"
 #include "support/open_design.hpp"
 
 #include <benchmark/benchmark.h>
@@ -17,7 +16,6 @@ constexpr std::uint64_t DESIGNS = 200;
 
 void designs_of(benchmark::State& state, kvt::calc_stage last,
                 const std::vector<std::string>& recorded) {
-    kvt::take_large_blocks_from_system();
     kvt::study_plan plan;
     plan.variables = {kvt::study_variable_of("ecc=2:2.6"), kvt::study_variable_of("thick=8:14")};
     plan.sample = {kvt::sample_kind::sobol, DESIGNS, 1};

@@ -114,39 +114,33 @@ void add_note(const exact_source& source, std::int16_t language, json& timing) {
     }
 }
 
-json json_of_part(exact_part part, const exact_source& source, const exact_results& exact,
-                  std::int16_t language) {
-    switch (part) {
-        case exact_part::rotors:
-            return json_rotors(exact.rotors);
-        case exact_part::gap:
-            return json_gap(exact.gap);
-        case exact_part::performance:
-            return json_performance(exact.performance);
-        case exact_part::timing:
-            break;
-    }
-    json timing = json_timing(exact.timing, source.inputs);
-    add_note(source, language, timing);
-    return timing;
-}
+/// A part as the file has it. The curves are drawn only.
+struct json_part {
+    exact_part part;
+    std::string_view name;
+    json (*make)(const exact_source& source, const exact_results& exact, std::int16_t language);
+};
 
-constexpr std::array PARTS_IN_FILE = {exact_part::rotors, exact_part::gap, exact_part::timing,
-                                      exact_part::performance};
-
-constexpr std::string_view name_of(exact_part part) {
-    switch (part) {
-        case exact_part::rotors:
-            return "rotors";
-        case exact_part::gap:
-            return "gap";
-        case exact_part::performance:
-            return "performance";
-        case exact_part::timing:
-            break;
-    }
-    return "timing";
-}
+const std::array PARTS_IN_FILE = {
+    json_part{exact_part::rotors, "rotors",
+              [](const exact_source&, const exact_results& exact, std::int16_t) {
+                  return json_rotors(exact.rotors);
+              }},
+    json_part{exact_part::gap, "gap",
+              [](const exact_source&, const exact_results& exact, std::int16_t) {
+                  return json_gap(exact.gap);
+              }},
+    json_part{exact_part::timing, "timing",
+              [](const exact_source& source, const exact_results& exact, std::int16_t language) {
+                  json timing = json_timing(exact.timing, source.inputs);
+                  add_note(source, language, timing);
+                  return timing;
+              }},
+    json_part{exact_part::performance, "performance",
+              [](const exact_source&, const exact_results& exact, std::int16_t) {
+                  return json_performance(exact.performance);
+              }},
+};
 
 }  // namespace
 
@@ -157,13 +151,14 @@ json json_exact(const program& kavetta, const batch_result& result) {
     }
     const std::int16_t language = kavetta.app_state.language;
     const exact_source source = exact_source_of(kavetta, result);
-    const exact_results exact = all_exact_results(source);
-    for (const exact_part part : PARTS_IN_FILE) {
-        const std::string name(name_of(part));
-        if (exact.has(part)) {
-            object[name] = json_of_part(part, source, exact, language);
+    exact_results exact;
+    for (const json_part& row : PARTS_IN_FILE) {
+        const std::string name(row.name);
+        work_out(row.part, source, exact);
+        if (exact.has(row.part)) {
+            object[name] = row.make(source, exact, language);
         } else {
-            object["left_out"][name] = missing_reason(part, exact, language);
+            object["left_out"][name] = missing_reason(row.part, exact, language);
         }
     }
     return object;

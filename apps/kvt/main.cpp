@@ -1,6 +1,5 @@
 // kvt: the batch program, which calculates designs and writes their files without a window.
 #include "base/environment.hpp"
-#include "base/memory_manner.hpp"
 #include "base/standard_streams.hpp"
 #include "kvt/command_line.hpp"
 
@@ -8,7 +7,6 @@
 
 int main(int argc, char** argv) {
     kvt::guard_standard_streams();
-    kvt::take_large_blocks_from_system();
     const std::vector<std::string> arguments = kvt::program_arguments(argc, argv);
     std::vector<const char*> line;
     line.reserve(arguments.size());

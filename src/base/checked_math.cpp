@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace kvt {
 
@@ -37,18 +38,20 @@ integer to_integer(double x) {
 
 }  // namespace
 
-double checked_divide(double numerator, double denominator) {
-    if (denominator == 0.0) {
-        throw run_time_error(failure::division_by_zero, shown(numerator) + " / 0");
-    }
-    return checked_finite(numerator / denominator);
+void fail_division(double numerator) {
+    throw run_time_error(failure::division_by_zero, shown(numerator) + " / 0");
 }
 
-double checked_sqrt(double x) {
-    if (std::isnan(x) || x < 0.0) {
-        throw run_time_error(failure::invalid_procedure_call, "root of " + shown(x));
-    }
-    return checked_finite(std::sqrt(x));
+void fail_root(double x) {
+    throw run_time_error(failure::invalid_procedure_call, "root of " + shown(x));
+}
+
+void fail_finite(double x) {
+    throw run_time_error(failure::overflow, shown(x));
+}
+
+void fail_index(std::int64_t index) {
+    throw run_time_error(failure::subscript_out_of_range, "index " + std::to_string(index));
 }
 
 double checked_pow(double base, double exponent) {
@@ -58,13 +61,6 @@ double checked_pow(double base, double exponent) {
                              shown(base) + " to the power of " + shown(exponent));
     }
     return checked_finite(power);
-}
-
-double checked_finite(double x) {
-    if (!std::isfinite(x)) {
-        throw run_time_error(failure::overflow, shown(x));
-    }
-    return x;
 }
 
 double round_half_even(double x) {

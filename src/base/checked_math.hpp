@@ -4,26 +4,47 @@
 
 #include "base/run_time_error.hpp"
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
 namespace kvt {
 
+/// What the functions below throw, apart from them so that the compiler can put them into the loops
+/// that call them millions of times. The value is told in the developer's text.
+[[noreturn]] void fail_division(double numerator);
+[[noreturn]] void fail_root(double x);
+[[noreturn]] void fail_finite(double x);
+
+/// x itself. Throws overflow when x is infinite or not a number.
+inline double checked_finite(double x) {
+    if (!std::isfinite(x)) {
+        fail_finite(x);
+    }
+    return x;
+}
+
 /// numerator / denominator. Throws division_by_zero when the denominator is 0 (0/0 too), overflow
 /// when the result is not finite.
-double checked_divide(double numerator, double denominator);
+inline double checked_divide(double numerator, double denominator) {
+    if (denominator == 0.0) {
+        fail_division(numerator);
+    }
+    return checked_finite(numerator / denominator);
+}
 
 /// sqrt(x). Throws invalid_procedure_call for a negative or not-a-number argument, overflow for an
 /// infinite one.
-double checked_sqrt(double x);
+inline double checked_sqrt(double x) {
+    if (std::isnan(x) || x < 0.0) {
+        fail_root(x);
+    }
+    return checked_finite(std::sqrt(x));
+}
 
 /// pow(base, exponent). Throws invalid_procedure_call for a negative base with a fractional
 /// exponent or a not-a-number result, overflow for an infinite one.
 double checked_pow(double base, double exponent);
-
-/// x itself. Throws overflow when x is infinite or not a number.
-double checked_finite(double x);
 
 /// Nearest whole number, half to even, as a double.
 double round_half_even(double x);
@@ -42,11 +63,13 @@ std::int32_t to_int32(double x);
 /// 1 is a root of a negative number: both throw.
 double arc_cosine_form(double c, double half_pi);
 
+[[noreturn]] void fail_index(std::int64_t index);
+
 /// items[index] with 0 <= index < size. Throws subscript_out_of_range otherwise.
 template <typename container>
 auto& checked_at(container& items, std::int64_t index) {
     if (index < 0 || static_cast<std::size_t>(index) >= items.size()) {
-        throw run_time_error(failure::subscript_out_of_range, "index " + std::to_string(index));
+        fail_index(index);
     }
     return items[static_cast<std::size_t>(index)];
 }

@@ -10,11 +10,11 @@
 namespace kvt {
 
 /// Elements 0 .. size - 1. An array that nobody wrote to is a size and nothing else; one that was
-/// written to lies in memory that the system zeroes page by page, so a large array of which the
-/// first part is used costs that part. A copy is a reference; the first access to either that may
-/// write parts them, which likewise takes what is not 0. So a reference to an element that may be
-/// written to holds until the array is copied. Copies may belong to different threads. Elements are
-/// not checked: go through checked_at.
+/// written to knows how far, and only so much is zeroed when its memory is used again, so a large
+/// array of which the first part is used costs that part. A copy is a reference; the first access
+/// to either that may write parts them, which likewise takes what is not 0. So a reference to an
+/// element that may be written to holds until the array is copied. Copies may belong to different
+/// threads. Elements are not checked: go through checked_at.
 class zeroed_array {
   public:
     zeroed_array() = default;
@@ -34,10 +34,14 @@ class zeroed_array {
     std::size_t size() const { return size_; }
     bool empty() const { return size_ == 0; }
 
-    double& operator[](std::size_t i) { return data()[i]; }
+    double& operator[](std::size_t i) {
+        double* const numbers = is_own() ? memory_->numbers() : make_own();
+        memory_->used = std::max(memory_->used, i + 1);
+        return numbers[i];
+    }
     const double& operator[](std::size_t i) const { return data()[i]; }
 
-    double* data() { return is_own() ? memory_->numbers() : make_own(); }
+    double* data();
     const double* data() const { return memory_ != nullptr ? memory_->numbers() : shared_zeros(); }
     double* begin() { return data(); }
     double* end() { return data() + size_; }
@@ -54,9 +58,12 @@ class zeroed_array {
         std::swap(memory_, other.memory_);
     }
 
-    /// The numbers stand behind it.
+    friend class array_store;
+
+    /// The numbers stand behind it; from number `used` on they are 0.
     struct alignas(16) shared_memory {
         std::atomic<std::size_t> owners;
+        std::size_t used;
 
         double* numbers() { return reinterpret_cast<double*>(this + 1); }
     };
@@ -68,7 +75,6 @@ class zeroed_array {
     }
     double* make_own();
     void make();
-    void take(const zeroed_array& other);
     void let_go() noexcept;
     void size_as(std::size_t size);
     static const double* shared_zeros();

@@ -27,10 +27,11 @@ exact_performance exact_performance_of(const design_params& design, const perf_i
         flow_of_volume(swept_cc, results), {}, max_speed_of_volume(swept_cc, results)};
     const double modulus = contact_modulus({inputs.young_inner_mpa, inputs.young_outer_mpa,
                                             inputs.poisson_inner, inputs.poisson_outer});
+    const pushed_side side(pair);
     for (std::size_t j = 0; j < GRID_SIZE; ++j) {
         const double torque =
             swept_cc * MM3_PER_CC * results.press_pa[j] / PA_PER_MPA / (2.0 * std::numbers::pi);
-        exact.contact[j] = largest_contact_pressure(pair, modulus, torque);
+        exact.contact[j] = side.largest_pressure(modulus, torque);
     }
     return exact;
 }

@@ -9,6 +9,7 @@ namespace {
 bool has_stage_of(exact_part part, const exact_source& source) {
     switch (part) {
         case exact_part::rotors:
+        case exact_part::curves:
         case exact_part::gap:
             return source.has_rotors;
         case exact_part::timing:
@@ -23,6 +24,8 @@ void fill(exact_part part, const exact_source& source, exact_results& exact) {
     switch (part) {
         case exact_part::rotors:
             exact.rotors = exact_rotors_of(source.design);
+            return;
+        case exact_part::curves:
             exact.volume = volume_over_life(source.design);
             exact.flow = flow_over_period(source.design);
             return;
@@ -45,6 +48,8 @@ double witness(exact_part part, const exact_results& exact) {
                    exact.rotors.flow.irregularity;
         case exact_part::performance:
             return exact.performance.contact.back().pressure;
+        case exact_part::curves:
+            return exact.volume.values.front() + exact.flow.values.front();
         case exact_part::gap:
             return exact.gap.least;
         case exact_part::timing:
@@ -84,6 +89,8 @@ void take_part(exact_part part, const exact_results& from, exact_results& exact)
     switch (part) {
         case exact_part::rotors:
             exact.rotors = from.rotors;
+            return;
+        case exact_part::curves:
             exact.volume = from.volume;
             exact.flow = from.flow;
             return;
@@ -96,14 +103,6 @@ void take_part(exact_part part, const exact_results& from, exact_results& exact)
         case exact_part::timing:
             exact.timing = from.timing;
     }
-}
-
-exact_results all_exact_results(const exact_source& source) {
-    exact_results exact;
-    for (const exact_part part : EXACT_PARTS) {
-        work_out(part, source, exact);
-    }
-    return exact;
 }
 
 }  // namespace kvt

@@ -28,9 +28,9 @@ struct exact_source {
 };
 
 /// In the order in which they are worked out: the quick ones first.
-enum class exact_part { rotors, performance, gap, timing };
+enum class exact_part { rotors, performance, curves, gap, timing };
 inline constexpr std::array EXACT_PARTS = {exact_part::rotors, exact_part::performance,
-                                           exact_part::gap, exact_part::timing};
+                                           exact_part::curves, exact_part::gap, exact_part::timing};
 
 enum class part_state {
     waiting,  ///< not worked out yet
@@ -43,7 +43,7 @@ struct exact_results {
     std::array<part_state, EXACT_PARTS.size()> states = {};
     std::array<std::optional<run_time_error>, EXACT_PARTS.size()> failures = {};
     exact_rotors rotors;
-    even_curve volume, flow;  ///< with the rotors
+    even_curve volume, flow;  ///< the curves
     exact_performance performance;
     gap_round_turn gap;
     port_timing timing;
@@ -61,8 +61,5 @@ void work_out(exact_part part, const exact_source& source, exact_results& exact)
 
 /// Takes over one part that was worked out elsewhere.
 void take_part(exact_part part, const exact_results& from, exact_results& exact);
-
-/// All of them, one after the other.
-exact_results all_exact_results(const exact_source& source);
 
 }  // namespace kvt

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace kvt {
 
@@ -63,15 +64,29 @@ double integral(const real_function& f, double a, double b, int panels) {
     return sum;
 }
 
+double step_end(double a, double b, int i, int steps) {
+    return i == steps ? b : a + (b - a) / steps * i;
+}
+
 extreme largest_between(const real_function& f, double a, double b, int steps) {
+    std::vector<double> values;
+    values.reserve(static_cast<std::size_t>(steps) + 1);
+    for (int i = 0; i <= steps; ++i) {
+        values.push_back(f(step_end(a, b, i, steps)));
+    }
+    return largest_between(f, a, b, values);
+}
+
+extreme largest_between(const real_function& f, double a, double b,
+                        const std::vector<double>& values) {
     constexpr double NEARNESS = 1e-9;
+    const int steps = static_cast<int>(values.size()) - 1;
     const double step = (b - a) / steps;
-    extreme best{a, f(a)};
+    extreme best{a, values.front()};
     for (int i = 1; i <= steps; ++i) {
-        const double at = i == steps ? b : a + step * i;
-        const double value = f(at);
+        const double value = values[static_cast<std::size_t>(i)];
         if (value > best.value) {
-            best = {at, value};
+            best = {step_end(a, b, i, steps), value};
         }
     }
     const extreme refined = golden_section(f, std::max(a, best.at - step),

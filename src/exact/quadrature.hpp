@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 namespace kvt {
 
@@ -19,6 +20,11 @@ struct extreme {
 /// upwards on two neighbouring ones of `steps` equal pieces: the best of the steps, then a golden
 /// section around it until its place is known to 1e-9 of the range.
 extreme largest_between(const real_function& f, double a, double b, int steps);
+/// The same of a function whose values at a, at each end of a step and at b are known.
+extreme largest_between(const real_function& f, double a, double b,
+                        const std::vector<double>& values);
+/// The end of step i = 0 .. steps.
+double step_end(double a, double b, int i, int steps);
 /// The smallest value likewise.
 extreme smallest_between(const real_function& f, double a, double b, int steps);
 

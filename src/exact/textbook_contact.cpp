@@ -6,13 +6,15 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <vector>
 
 namespace kvt {
 
 namespace {
 
 constexpr int STEPS = 360;  ///< a pitch, before the largest is refined
+/// The lobes below the line of centres are pushed.
+constexpr double FROM = -std::numbers::pi;
+constexpr double TO = 0.0;
 
 double compliance(double young, double poisson) {
     return checked_divide(1.0 - poisson * poisson, young);
@@ -49,16 +51,36 @@ double contact_modulus(const contact_materials& materials) {
                                    compliance(materials.young_outer, materials.poisson_outer));
 }
 
-contact_maximum largest_contact_pressure(const exact_pair& pair, double modulus, double torque) {
+// Every lobe passes every angle, so one lobe's way along the pushed side is a pitch of all.
+pushed_side::pushed_side(const exact_pair& pair) : pair_(pair) {
+    const int steps = STEPS * std::max(pair.lobes, 1) / 2;
+    places_.reserve(static_cast<std::size_t>(steps) + 1);
+    for (int i = 0; i <= steps; ++i) {
+        places_.push_back(place_at(step_end(FROM, TO, i, steps)));
+    }
+}
+
+contact_maximum pushed_side::largest_pressure(double modulus, double torque) const {
+    std::vector<double> values;
+    values.reserve(places_.size());
+    for (const place& at : places_) {
+        values.push_back(squared_pressure(at, modulus, torque));
+    }
     const auto squared = [&](double angle) {
-        const double load = share_of_lobe(pair, angle) * torque * modulus *
-                            contact_curvature(pair, angle) / (std::numbers::pi * pair.thick);
-        return std::max(load, 0.0);
+        return squared_pressure(place_at(angle), modulus, torque);
     };
-    // Every lobe passes every angle, so one lobe's way along the pushed side is a pitch of all.
-    const extreme largest =
-        largest_between(squared, -std::numbers::pi, 0.0, STEPS * std::max(pair.lobes, 1) / 2);
-    return {std::sqrt(largest.value), largest.at, share_of_lobe(pair, largest.at) * torque};
+    const extreme largest = largest_between(squared, FROM, TO, values);
+    return {std::sqrt(largest.value), largest.at, share_of_lobe(pair_, largest.at) * torque};
+}
+
+pushed_side::place pushed_side::place_at(double angle) const {
+    return {share_of_lobe(pair_, angle), contact_curvature(pair_, angle)};
+}
+
+double pushed_side::squared_pressure(const place& at, double modulus, double torque) const {
+    const double load =
+        at.share * torque * modulus * at.curvature / (std::numbers::pi * pair_.thick);
+    return std::max(load, 0.0);
 }
 
 }  // namespace kvt

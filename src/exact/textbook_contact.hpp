@@ -4,6 +4,8 @@
 
 #include "exact/exact_pair.hpp"
 
+#include <vector>
+
 namespace kvt {
 
 struct contact_materials {
@@ -20,11 +22,31 @@ struct contact_maximum {
     double force = 0.0;     ///< N, on that lobe
 };
 
-/// The largest pressure over a pitch for a torque in Nmm on the inner rotor:
-///     F = T a / sum of a^2       over the lobes below the line of centres, that the rotor pushes
-///     p0 = sqrt(F E (1/r + flank curvature) / (pi b))
-/// a is the arm of the contact normal about the inner axis. A flank hollower than the lobe has no
-/// line contact and does not count; 0 without any.
-contact_maximum largest_contact_pressure(const exact_pair& pair, double modulus, double torque);
+/// The side of the lobes that the inner rotor pushes, worked out once for all torques.
+class pushed_side {
+  public:
+    explicit pushed_side(const exact_pair& pair);
+
+    /// The largest pressure over a pitch for a modulus in MPa and a torque in Nmm on the inner
+    /// rotor:
+    ///     F = T a / sum of a^2       over the lobes below the line of centres, that the rotor
+    ///     pushes p0 = sqrt(F E (1/r + flank curvature) / (pi b))
+    /// a is the arm of the contact normal about the inner axis. A flank hollower than the lobe has
+    /// no line contact and does not count; 0 without any.
+    contact_maximum largest_pressure(double modulus, double torque) const;
+
+  private:
+    /// What the pressure at an angle takes from the geometry.
+    struct place {
+        double share;      ///< F / T, 1/mm
+        double curvature;  ///< 1/r + flank curvature, 1/mm
+    };
+
+    place place_at(double angle) const;
+    double squared_pressure(const place& at, double modulus, double torque) const;
+
+    exact_pair pair_;
+    std::vector<place> places_;  ///< at equal steps
+};
 
 }  // namespace kvt

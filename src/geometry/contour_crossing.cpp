@@ -1,6 +1,7 @@
 #include "geometry/contour_crossing.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <utility>
 
@@ -56,9 +57,33 @@ bool any_cross(std::vector<side> sides) {
     return false;
 }
 
+/// Whether each side turns by more than a hair to the left as seen from the origin, and all of them
+/// by one turn: then each lies in a sector of its own. So do the profiles of nearly all rotors.
+bool goes_round_the_origin_once(const std::vector<point2>& contour) {
+    constexpr double HAIR = 1e-12;  // radians; the products below are exact to some 1e-16
+    int turns = 0;
+    for (std::size_t i = 0; i < contour.size(); ++i) {
+        const point2& from = contour[i];
+        const point2& to = contour[i + 1 < contour.size() ? i + 1 : 0];
+        if (from == to) {
+            continue;
+        }
+        const double left = from.x * to.y;
+        const double right = from.y * to.x;
+        if (!(left - right > HAIR * (std::abs(left) + std::abs(right)))) {
+            return false;
+        }
+        turns += from.y < 0.0 && to.y >= 0.0 ? 1 : 0;
+    }
+    return turns == 1;
+}
+
 }  // namespace
 
 bool crosses_itself(std::vector<point2> contour) {
+    if (goes_round_the_origin_once(contour)) {
+        return false;
+    }
     std::vector<side> sides;
     add_sides(std::move(contour), sides);
     return any_cross(std::move(sides));

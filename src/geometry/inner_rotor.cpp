@@ -10,8 +10,19 @@ namespace kvt {
 
 namespace {
 
-double square_root_of_squares(double x, double y) {
-    return checked_pow((x * x) + (y * y), 0.5);
+/// Whether a lies nearer to the axis than b. Kept: by rounded powers, which may be equal where the
+/// squares are not; where these are clearly apart, so are the powers.
+bool is_nearer(const point2& a, const point2& b) {
+    constexpr double CLEARLY = 1.0 + 1e-12;
+    const double square_a = (a.x * a.x) + (a.y * a.y);
+    const double square_b = (b.x * b.x) + (b.y * b.y);
+    if (checked_finite(square_a) * CLEARLY < checked_finite(square_b)) {
+        return true;
+    }
+    if (square_b * CLEARLY < square_a) {
+        return false;
+    }
+    return checked_pow(square_a, 0.5) < checked_pow(square_b, 0.5);
 }
 
 /// dy/dx at i by the central difference, 0 where dx is 0. before is i-1, for i = 0 the last point.
@@ -30,7 +41,7 @@ point2 offset_point(const point2& troch, double slope, double d) {
     const double phi = std::atan(normal);
     const double psi = phi + PI_D;
     const point2 first = {troch.x - d * std::cos(psi), troch.y - d * std::sin(psi)};
-    if (square_root_of_squares(troch.x, troch.y) < square_root_of_squares(first.x, first.y)) {
+    if (is_nearer(troch, first)) {
         return {troch.x - d * std::cos(phi), troch.y - d * std::sin(phi)};
     }
     return first;

@@ -4,6 +4,7 @@
 #include "base/constants.hpp"
 #include "ports/polar.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kvt {
@@ -35,6 +36,19 @@ double g_of(const corner_search& search, double phi) {
     return search.negative_g ? -g : g;
 }
 
+/// By how much g changes in a step at most: |dg/dphi| = |sin phi + cos phi tan| is never more than
+/// sqrt(1 + tan^2).
+double largest_change(const corner_search& search) {
+    return std::hypot(1.0, search.tan_side) * SEARCH_STEP_DEG * PI_D / 180.0;
+}
+
+/// How many further steps at least leave g on its side of the target and out of the tolerance. A
+/// step more is kept for what the last digits of g may be off.
+long steps_of_no_effect(double from_target, double change) {
+    const double steps = (from_target - SEARCH_TOLERANCE) / change - 1.0;
+    return steps > 0.0 ? static_cast<long>(std::min(steps, double{SEARCH_PASS_STEPS})) : 0;
+}
+
 }  // namespace
 
 std::optional<double> corner_angle(const corner_search& search) {
@@ -43,23 +57,27 @@ std::optional<double> corner_angle(const corner_search& search) {
     double g = 0.0;
     long count = 0;
     int passes = 0;
+    const double change = largest_change(search);
     while (!(-SEARCH_TOLERANCE < g - A && g - A < SEARCH_TOLERANCE)) {
         ++count;
         g = g_of(search, phi);
+        long idle = steps_of_no_effect(std::abs(g - A), change);
         if (count > SEARCH_PASS_STEPS) {
             count = 0;
             ++passes;
             phi = search.start_deg;
             A = -A;
+            idle = 0;
         }
         if (passes == 2) {
             return std::nullopt;
         }
         const int above = sign_when_above(search.rule, A);
-        if (g > A) {
-            phi = stepped(phi, above);
-        } else if (g < A) {
-            phi = stepped(phi, -above);
+        const int sign = g > A ? above : (g < A ? -above : 0);
+        phi = stepped(phi, sign);
+        // One by one, as their sum is rounded each time; g is not worked out on the way.
+        for (idle = std::min(idle, SEARCH_PASS_STEPS - count); idle > 0; --idle, ++count) {
+            phi = stepped(phi, sign);
         }
     }
     return phi;

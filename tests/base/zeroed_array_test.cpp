@@ -4,6 +4,7 @@
 #include "base/checked_math.hpp"
 #include "support/expect_failure.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <thread>
@@ -105,6 +106,48 @@ TEST(zeroed_array, assigns_a_new_size_and_one_value) {
     numbers.assign(2, 1.25);
     EXPECT_EQ(numbers.size(), 2U);
     EXPECT_EQ(numbers[1], 1.25);
+}
+
+TEST(zeroed_array, is_0_again_in_the_memory_of_one_that_was_written_to) {
+    for (const std::size_t written : {0U, 1U, 4999U, 36000U}) {
+        for (int round = 0; round < 3; ++round) {
+            zeroed_array gone(36001);
+            gone[written] = 7.0;
+            gone[written / 2] = 8.0;
+        }
+        zeroed_array next(36001);
+        next[36000] = 0.0;
+        EXPECT_TRUE(std::ranges::all_of(std::as_const(next), [](double value) {
+            return value == 0.0;
+        })) << written;
+    }
+}
+
+TEST(zeroed_array, is_0_in_the_memory_of_one_that_was_filled_through_a_pointer) {
+    for (int round = 0; round < 3; ++round) {
+        zeroed_array gone(72001);
+        std::ranges::fill(gone, 1.0);
+        zeroed_array other(72001);
+        *(other.end() - 1) = 2.0;
+    }
+    for (int round = 0; round < 2; ++round) {
+        zeroed_array next(72001);
+        next[0] = 0.0;
+        EXPECT_EQ(std::ranges::count(std::as_const(next), 0.0), 72001);
+    }
+}
+
+TEST(zeroed_array, hands_a_copy_the_numbers_that_were_written_and_0) {
+    {
+        zeroed_array gone(3601);
+        std::ranges::fill(gone, 9.0);
+    }
+    zeroed_array numbers(3601);
+    numbers[10] = 1.0;
+    zeroed_array copy = numbers;
+    copy[20] = 2.0;
+    EXPECT_EQ(std::ranges::count(std::as_const(copy), 0.0), 3599);
+    EXPECT_EQ(std::ranges::count(std::as_const(numbers), 0.0), 3600);
 }
 
 TEST(zeroed_array, larger_than_any_record_has_zeros_of_its_own) {

@@ -3,6 +3,7 @@
 
 #include "app/stages/exact_record.hpp"
 #include "exact/exact_designs.hpp"
+#include "support/all_exact_results.hpp"
 #include "support/random_performance.hpp"
 
 #include <gtest/gtest.h>

@@ -18,8 +18,8 @@ double at_drive_torque(const performance_case& sample) {
     const contact_materials materials{
         sample.perf_inputs.young_inner_mpa, sample.perf_inputs.young_outer_mpa,
         sample.perf_inputs.poisson_inner, sample.perf_inputs.poisson_outer};
-    return largest_contact_pressure(nominal_pair(sample.design_params), contact_modulus(materials),
-                                    results.drive_torque.back().back() * 1000.0)
+    return pushed_side(nominal_pair(sample.design_params))
+        .largest_pressure(contact_modulus(materials), results.drive_torque.back().back() * 1000.0)
         .pressure;
 }
 

@@ -15,7 +15,7 @@ constexpr contact_materials STEEL = {210000.0, 210000.0, 0.3, 0.3};
 TEST(textbook_contact, is_that_of_first_principles) {
     const double modulus = contact_modulus(STEEL);
     const auto pressure = [&](const design_params& design) {
-        return largest_contact_pressure(nominal_pair(design), modulus, 10000.0).pressure;
+        return pushed_side(nominal_pair(design)).largest_pressure(modulus, 10000.0).pressure;
     };
     EXPECT_NEAR(pressure(pair_design(6, 3.0, 25.0, 9.0, 20.0)), 752.9, 0.05);
     EXPECT_NEAR(pressure(pair_design(5, 2.85, 25.08, 9.0, 10.0)), 900.5, 0.05);
@@ -33,8 +33,8 @@ TEST(textbook_contact, grows_with_the_root_of_the_torque) {
     const double modulus = contact_modulus(STEEL);
     for (int run = 0; run < property_count(50); ++run) {
         const exact_pair pair = nominal_pair(random_pair(random));
-        const contact_maximum once = largest_contact_pressure(pair, modulus, 1000.0);
-        const contact_maximum four = largest_contact_pressure(pair, modulus, 4000.0);
+        const contact_maximum once = pushed_side(pair).largest_pressure(modulus, 1000.0);
+        const contact_maximum four = pushed_side(pair).largest_pressure(modulus, 4000.0);
         EXPECT_NEAR(four.pressure / once.pressure, 2.0, 1e-6);
         EXPECT_NEAR(four.force / once.force, 4.0, 1e-3);
         EXPECT_LT(once.at, 0.0) << "on the side that is pushed";
@@ -48,7 +48,7 @@ TEST(textbook_contact, no_angle_has_more_than_the_largest) {
     random_values random(property_seed());
     for (int run = 0; run < property_count(20); ++run) {
         const exact_pair pair = nominal_pair(random_pair(random));
-        const contact_maximum largest = largest_contact_pressure(pair, 1.0e5, 1000.0);
+        const contact_maximum largest = pushed_side(pair).largest_pressure(1.0e5, 1000.0);
         for (int i = 1; i < 3000; ++i) {
             const double at = -3.14159265358979 * i / 3000.0;
             double squares = 0.0;

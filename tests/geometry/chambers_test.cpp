@@ -5,6 +5,7 @@
 #include "geometry/polar_area.hpp"
 #include "geometry/turned_profiles.hpp"
 #include "support/expect_failure.hpp"
+#include "support/property_runs.hpp"
 #include "support/sample_design.hpp"
 
 #include <cmath>
@@ -54,8 +55,8 @@ TEST(chamber_window, sees_the_contact_points_of_the_lobes_beside_it) {
 
 TEST(turned_profiles, keep_their_distances_from_the_inner_axis) {
     const rotor_profiles rotors = rotor_pair_of(sample_design());
-    const std::vector<point2> inner = turned_inner_profile(0.7, rotors);
-    const std::vector<point2> outer = turned_outer_profile(0.7, rotors);
+    const turned_profile inner = turned_inner_profile(0.7, rotors);
+    const turned_profile outer = turned_outer_profile(0.7, rotors);
     ASSERT_EQ(inner.size(), 3600U);
     ASSERT_EQ(2 * outer.size(), static_cast<std::size_t>(rotors.outer_xy_last) + 1);
     for (std::size_t i = 0; i < 3600; i += 7) {
@@ -71,12 +72,31 @@ TEST(turned_profiles, keep_their_distances_from_the_inner_axis) {
 TEST(turned_profiles, about_the_outer_centre_miss_the_shift_of_the_first_pair) {
     const design_params design = sample_design();
     const rotor_profiles rotors = rotor_pair_of(design);
-    const std::vector<point2> turned = turned_outer_profile_about_its_centre(0.0, design, rotors);
+    const turned_profile turned = turned_outer_profile_about_its_centre(0.0, design, rotors);
     EXPECT_NEAR(turned[0].x, rotors.outer_xy[0] + design.ecc, 3e-6);
     EXPECT_NEAR(turned[0].y, rotors.outer_xy[1], 3e-6);
     for (std::size_t i = 1; i < turned.size(); ++i) {
         ASSERT_NEAR(turned[i].x, rotors.outer_xy[2 * i], 3e-6) << i;
         ASSERT_NEAR(turned[i].y, rotors.outer_xy[2 * i + 1], 3e-6) << i;
+    }
+}
+
+/// What is looked at nearly decides which points are turned at all.
+TEST(turned_profiles, are_nearly_where_they_say) {
+    random_values random(property_seed());
+    for (int run = 0; run < property_count(20); ++run) {
+        const design_params design = sample_design();
+        const rotor_profiles rotors = rotor_pair_of(design);
+        const double turn = random.real(-3.0, 3.0);
+        for (const turned_profile& profile :
+             {turned_inner_profile(turn, rotors), turned_outer_profile(turn, rotors),
+              turned_outer_profile_about_its_centre(turn, design, rotors)}) {
+            EXPECT_LT(profile.nearness(), 1e-5);
+            for (std::size_t i = 0; i < profile.size(); ++i) {
+                const point2 off = difference(profile.nearly(i), profile[i]);
+                ASSERT_LT(std::hypot(off.x, off.y), profile.nearness() * 0.6) << i;
+            }
+        }
     }
 }
 

@@ -1,8 +1,10 @@
 // Contours that cross themselves.
 #include "geometry/contour_crossing.hpp"
 
+#include "support/property_runs.hpp"
 #include "support/sample_design.hpp"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace kvt {
@@ -30,6 +32,39 @@ TEST(crosses_itself, finds_one_small_loop_in_a_long_contour) {
     }
     EXPECT_FALSE(crosses_itself(round));
     std::swap(round[1200], round[1201]);
+    EXPECT_TRUE(crosses_itself(round));
+}
+
+/// Contours about the origin, whose sides lie in sectors of their own or not, and the same ones
+/// aside of it, where no sector tells anything.
+TEST(crosses_itself, says_the_same_of_a_contour_wherever_it_lies) {
+    random_values random(property_seed());
+    int crossing = 0;
+    for (int run = 0; run < property_count(400); ++run) {
+        std::vector<point2> contour, aside;
+        const int count = random.whole(3, 12);
+        const int turns = random.whole(0, 4) == 0 ? 2 : 1;
+        const double jitter = random.whole(0, 1) * 0.9;
+        const double sign = random.whole(0, 1) == 0 ? 1.0 : -1.0;
+        for (int i = 0; i < count; ++i) {
+            const double angle =
+                sign * 6.28318530717958 * turns * (i + random.real(0.0, jitter)) / count;
+            contour.push_back(polar_point(random.real(2.0, 9.0), angle));
+            aside.push_back({contour.back().x + 64.0, contour.back().y - 32.0});
+        }
+        ASSERT_EQ(crosses_itself(contour), crosses_itself(aside)) << run;
+        crossing += crosses_itself(contour) ? 1 : 0;
+    }
+    EXPECT_GT(crossing, property_count(400) / 20);
+    EXPECT_LT(crossing, property_count(400) * 19 / 20);
+}
+
+TEST(crosses_itself, finds_a_contour_that_goes_round_twice) {
+    std::vector<point2> round;
+    for (int k = 0; k < 720; ++k) {
+        round.push_back(
+            polar_point(20.0 + 2.0 * std::sin(k * 3.14159265 / 240.0), k * 3.14159265 / 180.0));
+    }
     EXPECT_TRUE(crosses_itself(round));
 }
 

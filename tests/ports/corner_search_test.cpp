@@ -3,6 +3,7 @@
 
 #include "ports/polar.hpp"
 #include "support/expect_failure.hpp"
+#include "support/property_runs.hpp"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -20,6 +21,54 @@ double steps_down(double phi, int count) {
         phi = phi - 0.001;
     }
     return phi;
+}
+
+/// The search as it is told, a step and a g at a time, with what decides its direction.
+std::optional<double> found_step_by_step(const corner_search& search) {
+    double phi = search.start_deg;
+    double A = search.target;
+    double g = 0.0;
+    long count = 0;
+    int passes = 0;
+    while (!(-0.001 < g - A && g - A < 0.001)) {
+        ++count;
+        const double t = phi * 3.1415927 / 180.0;
+        g = std::cos(t) - std::sin(t) * search.tan_side;
+        g = search.negative_g ? -g : g;
+        if (count > 180000) {
+            count = 0;
+            ++passes;
+            phi = search.start_deg;
+            A = -A;
+        }
+        if (passes == 2) {
+            return std::nullopt;
+        }
+        const bool is_up =
+            search.rule == step_rule::up || (search.rule == step_rule::by_target && A > 1.0);
+        const bool stays =
+            search.rule == step_rule::none || (search.rule == step_rule::by_target && A == 1.0);
+        if (g != A && !stays) {
+            phi = (g < A) == is_up ? phi + 0.001 : phi - 0.001;
+        }
+    }
+    return phi;
+}
+
+TEST(corner_search, ends_as_step_by_step_to_the_last_bit) {
+    random_values random(property_seed());
+    int found = 0;
+    for (int run = 0; run < property_count(300); ++run) {
+        const double side = random.real(-1.7, 3.2);
+        const corner_search search = {
+            random.real(-1.3, 1.3) * std::hypot(1.0, std::tan(side)), std::tan(side),
+            random.whole(0, 1) == 1, random.real(-20.0, 200.0),
+            random.whole(0, 3) == 0 ? step_rule::by_target : rule_of_side(side)};
+        const std::optional<double> angle = corner_angle(search);
+        ASSERT_EQ(angle, found_step_by_step(search)) << run;
+        found += angle ? 1 : 0;
+    }
+    EXPECT_GT(found, property_count(300) / 4);
 }
 
 TEST(corner_search, accepts_the_angle_one_step_beyond_the_one_it_tested) {

@@ -19,8 +19,8 @@ constexpr double FULL_TURN_DEG = 360.0;
 constexpr int X_MARKS = 5;
 
 constexpr std::array ROWS = {
-    exact_chart_row{exact_chart::volume, "volume_chart", exact_part::rotors, true},
-    exact_chart_row{exact_chart::flow, "flow_chart", exact_part::rotors, false},
+    exact_chart_row{exact_chart::volume, "volume_chart", exact_part::curves, true},
+    exact_chart_row{exact_chart::flow, "flow_chart", exact_part::curves, false},
     exact_chart_row{exact_chart::areas, "area_chart", exact_part::timing, true},
     exact_chart_row{exact_chart::speeds, "speed_chart", exact_part::timing, true},
     exact_chart_row{exact_chart::gaps, "gap_chart", exact_part::gap, false}};

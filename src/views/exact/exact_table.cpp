@@ -320,6 +320,7 @@ void add_performance(const exact_source& source, const exact_performance& exact,
 message missing_stage(exact_part part) {
     switch (part) {
         case exact_part::rotors:
+        case exact_part::curves:
         case exact_part::gap:
             return message::no_profiles_yet;
         case exact_part::timing:

@@ -3,6 +3,7 @@
 
 #include "app/study/study_problem.hpp"
 #include "base/number_text.hpp"
+#include "support/all_exact_results.hpp"
 #include "support/open_design.hpp"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 
 #include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
+#include "support/all_exact_results.hpp"
 #include "support/cnc_design.hpp"
 #include "views/charts/chart_drawing.hpp"
 

@@ -4,6 +4,7 @@
 #include "app/program.hpp"
 #include "app/stages/calculate_performance.hpp"
 #include "base/number_text.hpp"
+#include "support/all_exact_results.hpp"
 #include "support/cnc_design.hpp"
 
 #include <algorithm>
