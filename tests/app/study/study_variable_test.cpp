@@ -78,7 +78,7 @@ TEST(study_variable, takes_check_boxes_and_units) {
 
 TEST(study_variable, has_the_unit_of_its_entry_in_the_project) {
     program base = opened_design("n07_inch_hydraulic");
-    EXPECT_EQ(unit_of_variable(study_variable_of("ecc=2:3"), base), "inches");
+    EXPECT_EQ(unit_of_variable(study_variable_of("ecc=2:3"), base), "in");
     base.app_state.drawing_units = MILLIMETRES;
     EXPECT_EQ(unit_of_variable(study_variable_of("ecc=2:3"), base), "mm");
     EXPECT_EQ(unit_of_variable(study_variable_of("numlobes=5,6"), base), "");

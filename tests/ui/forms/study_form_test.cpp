@@ -137,21 +137,23 @@ TEST_F(study_form_test, says_what_is_wrong_and_keeps_what_was_typed) {
 
 TEST_F(study_form_test, says_that_nothing_varies) {
     show_study();
-    const auto told = [this](int kind) {
+    // Other numbers: what was told a moment ago is told in the status bar alone.
+    const auto told = [this](int kind, int count) {
         on_study<QComboBox>("study_kind")->setCurrentIndex(kind);
+        on_study<QSpinBox>("study_count")->setValue(count);
         robot.messages.clear();
         press_on_study("run_study");
         EXPECT_TRUE(on_study<QPushButton>("run_study")->isEnabled()) << "nothing runs";
         return robot.messages;
     };
+    using texts = std::vector<std::string>;
     fill("study_aims", "ripple:min");
-    on_study<QSpinBox>("study_count")->setValue(30);
-    const std::vector<std::string> no_sample = {
-        "a sample needs something to vary: all 30 designs would be the same"};
-    EXPECT_EQ(told(1), no_sample);
-    EXPECT_EQ(told(2), no_sample);
-    EXPECT_EQ(told(3), std::vector<std::string>{"a search needs something to vary"});
-    EXPECT_EQ(on_study<QSpinBox>("study_count")->value(), 30);
+    EXPECT_EQ(told(1, 30),
+              texts{"a sample needs something to vary: all 30 designs would be the same"});
+    EXPECT_EQ(told(2, 40),
+              texts{"a sample needs something to vary: all 40 designs would be the same"});
+    EXPECT_EQ(told(3, 50), texts{"a search needs something to vary"});
+    EXPECT_EQ(on_study<QSpinBox>("study_count")->value(), 50);
     EXPECT_EQ(on_study<QLineEdit>("study_aims")->text(), "ripple:min");
     EXPECT_EQ(row_count(), 0);
 }

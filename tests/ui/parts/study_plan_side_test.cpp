@@ -71,7 +71,7 @@ TEST_F(study_plan_side_test, begins_with_a_sample_of_usual_quantities) {
     const study_document asked = side.document();
     EXPECT_TRUE(asked.varied.empty());
     EXPECT_EQ(asked.sample, "latin:200");
-    EXPECT_EQ(asked.recorded, (std::vector<std::string>{"capacity", "outer_diameter", "ripple",
+    EXPECT_EQ(asked.recorded, (std::vector<std::string>{"capacity", "ripple", "outer_diameter",
                                                         "overall_eff_max", "hertz_max"}));
 }
 
@@ -91,7 +91,7 @@ TEST_F(study_plan_side_test, shows_the_units_in_force) {
     EXPECT_EQ(text_of_quantity("thick"), "thick [mm]");
     kavetta.app_state.drawing_units = INCHES;
     side.refresh();
-    EXPECT_EQ(text_of_quantity("thick"), "thick [inches]");
+    EXPECT_EQ(text_of_quantity("thick"), "thick [in]");
 }
 
 }  // namespace kvt
