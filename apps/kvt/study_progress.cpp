@@ -1,5 +1,6 @@
 #include "kvt/study_progress.hpp"
 
+#include "app/study/duration_text.hpp"
 #include "base/number_text.hpp"
 
 #include <cmath>
@@ -12,22 +13,6 @@ namespace kvt {
 namespace {
 
 constexpr std::chrono::milliseconds BETWEEN_LINES = std::chrono::milliseconds(500);
-constexpr double MINUTE = 60.0;
-constexpr double HOUR = 3600.0;
-
-/// "12 s", "3 min 20 s", "2 h 5 min"
-std::string duration_text(double seconds) {
-    const double whole = std::round(seconds);
-    if (whole < MINUTE) {
-        return number_text(whole) + " s";
-    }
-    const double minutes = std::floor(whole / MINUTE);
-    if (whole < HOUR) {
-        return number_text(minutes) + " min " + number_text(whole - minutes * MINUTE) + " s";
-    }
-    const double hours = std::floor(whole / HOUR);
-    return number_text(hours) + " h " + number_text(minutes - hours * MINUTE) + " min";
-}
 
 std::string count_text(std::uint64_t count) {
     return number_text(static_cast<double>(count));

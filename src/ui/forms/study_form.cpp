@@ -1,6 +1,7 @@
 #include "ui/forms/study_form.hpp"
 
 #include "app/program.hpp"
+#include "app/study/duration_text.hpp"
 #include "app/study/pareto_front.hpp"
 #include "app/study/study_files.hpp"
 #include "app/study/study_problem.hpp"
@@ -29,7 +30,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 #include <set>
 #include <utility>
@@ -65,6 +65,9 @@ study_form::study_form(form_context context)
       shown_text_(new QLabel),
       tabs_(new QTabWidget),
       table_(new QTableView),
+      take_over_(named_button("take_over")),
+      save_table_(named_button("save_table")),
+      save_projects_(named_button("save_projects")),
       chart_x_(choice_box("chart_x")),
       chart_y_(choice_box("chart_y")),
       chart_colour_(choice_box("chart_colour")),
@@ -83,6 +86,7 @@ study_form::study_form(form_context context)
     connect(worker_, &study_worker::ended, this, &study_form::end_run);
     bind(content, false);
     set_main_button(run_);
+    accent(*run_);
 }
 
 study_form::~study_form() = default;
@@ -95,6 +99,13 @@ QRect study_form::start_place(const QRect& area) const {
     QRect place(QPoint(0, 0), start_size().boundedTo(area.size()));
     place.moveBottomRight(area.bottomRight());
     return place;
+}
+
+void study_form::changeEvent(QEvent* event) {
+    loaded_form::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        accent(*run_);
+    }
 }
 
 void study_form::closeEvent(QCloseEvent* event) {
@@ -117,6 +128,10 @@ QWidget* study_form::asking_side() {
 void study_form::add_commands(QVBoxLayout& side) {
     progress_->setObjectName("study_progress");
     progress_->setTextVisible(false);
+    // Nothing moves when it comes and goes.
+    QSizePolicy place = progress_->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    progress_->setSizePolicy(place);
     progress_text_->setObjectName("study_progress_text");
     side.addWidget(progress_);
     side.addWidget(progress_text_);
@@ -144,9 +159,10 @@ QWidget* study_form::result_side() {
     table_->setObjectName("study_table");
     table_->setModel(model_);
     table_->setSortingEnabled(true);
+    sort_by_number();
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setTabKeyNavigation(false);
-    table_->verticalHeader()->hide();
+    show_low_rows(*table_);
     table_->setWordWrap(false);
     tabs_->setObjectName("study_tabs");
     tabs_->addTab(table_, QString());
@@ -154,21 +170,20 @@ QWidget* study_form::result_side() {
     layout->addWidget(tabs_, 1);
 
     auto* below = new QHBoxLayout;
-    QPushButton* take = named_button("take_over");
-    QPushButton* table = named_button("save_table");
-    QPushButton* projects = named_button("save_projects");
-    below->addWidget(take);
+    below->addWidget(take_over_);
     below->addStretch();
-    below->addWidget(table);
-    below->addWidget(projects);
+    below->addWidget(save_table_);
+    below->addWidget(save_projects_);
     layout->addLayout(below);
 
     connect(tabs_, &QTabWidget::currentChanged, this, &study_form::show_chart);
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &study_form::point_at_row);
-    connect(take, &QPushButton::clicked, this, &study_form::take_over);
-    connect(table, &QPushButton::clicked, this, &study_form::save_table);
-    connect(projects, &QPushButton::clicked, this, &study_form::save_projects);
+    // Other rows: none is chosen, of which no signal tells.
+    connect(model_, &QAbstractItemModel::modelReset, this, &study_form::point_at_row);
+    connect(take_over_, &QPushButton::clicked, this, &study_form::take_over);
+    connect(save_table_, &QPushButton::clicked, this, &study_form::save_table);
+    connect(save_projects_, &QPushButton::clicked, this, &study_form::save_projects);
     return side;
 }
 
@@ -241,16 +256,30 @@ void study_form::refresh() {
     show_counts();
 }
 
+/// The focus stays with the two buttons: from one that can't be pressed it would go on to the next.
 void study_form::show_running() {
     const bool is_running = worker_->is_running();
-    run_->setEnabled(!is_running);
-    stop_->setEnabled(is_running);
+    QPushButton* usable = is_running ? stop_ : run_;
+    QPushButton* other = is_running ? run_ : stop_;
+    usable->setEnabled(true);
+    if (other->hasFocus()) {
+        usable->setFocus();
+    }
+    other->setEnabled(false);
     progress_->setVisible(is_running);
+}
+
+void study_form::show_usable() {
+    const bool is_chosen = table_->selectionModel()->hasSelection();
+    take_over_->setEnabled(is_chosen);
+    save_projects_->setEnabled(is_chosen);
+    save_table_->setEnabled(!model_->table().rows().empty());
 }
 
 void study_form::show_counts() {
     shown_text_->setText(
         text_named("shown").arg(model_->rowCount()).arg(model_->table().rows().size()));
+    show_usable();
 }
 
 void study_form::show_progress(quint64 done, quint64 count, double seconds_left) {
@@ -259,7 +288,7 @@ void study_form::show_progress(quint64 done, quint64 count, double seconds_left)
     progress_->setValue(static_cast<int>(std::min(done, MOST)));
     progress_text_->setText(
         seconds_left > 0.0
-            ? text_named("time_left").arg(done).arg(count).arg(std::ceil(seconds_left))
+            ? text_named("time_left").arg(done).arg(count).arg(qt_text(duration_text(seconds_left)))
             : text_named("progress").arg(done).arg(count));
 }
 
@@ -273,6 +302,7 @@ void study_form::run() {
             designs_ = worker_->start(std::make_shared<const program>(trial_copy(kavetta)), asked);
             calculated_ = std::move(asked);
             model_->show_table(study_table(designs_));
+            sort_by_number();
             model_->filter(utf8_text(filter_->text()));
             fill_axes();
         } catch (const study_problem& problem) {
@@ -293,8 +323,24 @@ void study_form::take_rows(const std::vector<study_row>& rows) {
     }
 }
 
+/// As the rows come, which the head then says.
+void study_form::sort_by_number() {
+    table_->sortByColumn(0, Qt::AscendingOrder);
+}
+
+/// Rows that came since the head was clicked stand behind the others.
+void study_form::sort_again() {
+    const QHeaderView& head = *table_->horizontalHeader();
+    const bool is_by_number =
+        head.sortIndicatorSection() == 0 && head.sortIndicatorOrder() == Qt::AscendingOrder;
+    if (!is_by_number) {
+        table_->sortByColumn(head.sortIndicatorSection(), head.sortIndicatorOrder());
+    }
+}
+
 void study_form::end_run(const QString& problem) {
     show_running();
+    sort_again();
     mark_front();
     show_chart();
     if (!problem.isEmpty()) {
@@ -395,6 +441,7 @@ std::vector<study_row> study_form::chosen_rows() const {
 }
 
 void study_form::point_at_row() {
+    show_usable();
     const std::vector<study_row> rows = chosen_rows();
     if (rows.empty() || designs_ == nullptr) {
         pointing_.give_up();
@@ -421,6 +468,8 @@ void study_form::take_over() {
     context_.runner.act([&](program& kavetta, user& person) {
         take_over_design(kavetta, person, designs_->plan().variables, rows.front().texts);
     });
+    // The button can't be pressed then: the focus goes back to the rows.
+    table_->setFocus();
     table_->clearSelection();
 }
 
@@ -441,6 +490,7 @@ void study_form::open() {
             table.add(opened->rows);
         }
         model_->show_table(std::move(table));
+        sort_by_number();
         table_->resizeColumnsToContents();
         fill_axes();
         mark_front();

@@ -50,6 +50,7 @@ class study_form : public loaded_form {
   protected:
     /// It keeps what was typed and calculated for the next time.
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     QWidget* asking_side();
@@ -60,10 +61,13 @@ class study_form : public loaded_form {
 
     void show_running();
     void show_counts();
+    void show_usable();
     void show_progress(quint64 done, quint64 count, double seconds_left);
     QString text_named(const char* name) const;
 
     void run();
+    void sort_by_number();
+    void sort_again();
     void take_rows(const std::vector<study_row>& rows);
     void end_run(const QString& problem);
     void mark_front();
@@ -89,6 +93,7 @@ class study_form : public loaded_form {
     QLabel* shown_text_;
     QTabWidget* tabs_;
     QTableView* table_;
+    QPushButton *take_over_, *save_table_, *save_projects_;
     QComboBox *chart_x_, *chart_y_, *chart_colour_, *chart_along_;
     QVBoxLayout* chart_place_;
     QLabel* no_chart_;

@@ -331,6 +331,7 @@ void viewwinfrm::show_preview(const preview_state& trial) {
 void viewwinfrm::show_pointed(std::shared_ptr<const kept_design> design) {
     pointed_ = std::move(design);
     show_overlays();
+    describe_picture();
 }
 
 /// Outlines of a design where the view stands.
@@ -401,6 +402,9 @@ void viewwinfrm::describe_picture() {
     if (kavetta.pinned != nullptr) {
         sentences.append(qt_text(form_text("pinned", "drawn", kavetta.app_state.language)) +
                          qt_text(kavetta.pinned->name) + ".");
+    }
+    if (pointed_ != nullptr) {
+        sentences.append(qt_text(form_text("study_form", "drawn", kavetta.app_state.language)));
     }
     sentences.removeAll(QString());
     set_accessible_description(*picture_, sentences.join(" ") + "\n" + picture_->toolTip());

@@ -10,10 +10,12 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFrame>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QTableView>
 
 namespace kvt {
 
@@ -145,6 +147,13 @@ void show_length_unit(const app_state& state, const QList<QLabel*>& labels) {
     for (QLabel* label : labels) {
         label->setText(qt_text(message_text(unit, state.language)));
     }
+}
+
+void show_low_rows(QTableView& table) {
+    constexpr int AROUND_TEXT = 6;
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setMinimumSectionSize(0);
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + AROUND_TEXT);
 }
 
 QFrame* hairline() {

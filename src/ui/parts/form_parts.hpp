@@ -10,6 +10,7 @@ class QFrame;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QTableView;
 
 namespace kvt {
 
@@ -56,6 +57,9 @@ QCheckBox* named_check(const char* name);
 
 /// Shows the length unit in force in the labels beside lengths.
 void show_length_unit(const app_state& state, const QList<QLabel*>& labels);
+
+/// A table without a head for its rows, which are as high as a line of text.
+void show_low_rows(QTableView& table);
 
 /// A thin horizontal line between groups.
 QFrame* hairline();

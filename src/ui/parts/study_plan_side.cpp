@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -155,7 +156,7 @@ study_plan_side::study_plan_side(const program& kavetta, QWidget* parent)
 
 void study_plan_side::add_variables(QVBoxLayout& side) {
     variables_->setObjectName("variables");
-    variables_->verticalHeader()->hide();
+    show_low_rows(*variables_);
     variables_->horizontalHeader()->setStretchLastSection(true);
     variables_->setSelectionBehavior(QAbstractItemView::SelectRows);
     variables_->setTabKeyNavigation(false);
@@ -269,11 +270,21 @@ void study_plan_side::show_units() {
 /// A grid has its own number, a search alone has steps and targets.
 void study_plan_side::show_kind() {
     const int kind = kind_->currentIndex();
-    count_->setEnabled(kind != grid_kind);
-    seed_->setEnabled(kind != grid_kind);
-    step_->setEnabled(kind == search_kind);
-    with_assist_->setEnabled(kind == search_kind);
-    targets_->setEnabled(kind == search_kind);
+    for (QWidget* box : std::initializer_list<QWidget*>{count_, seed_}) {
+        set_usable(*box, kind != grid_kind);
+    }
+    for (QWidget* box : std::initializer_list<QWidget*>{step_, with_assist_, targets_}) {
+        set_usable(*box, kind == search_kind);
+    }
+}
+
+void study_plan_side::set_usable(QWidget& box, bool is_usable) {
+    box.setEnabled(is_usable);
+    for (QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy() == &box) {
+            label->setEnabled(is_usable);
+        }
+    }
 }
 
 // Variables and quantities.

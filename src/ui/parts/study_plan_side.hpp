@@ -46,6 +46,8 @@ class study_plan_side : public QWidget {
     void fill_quantities();
     void show_units();
     void show_kind();
+    /// With its label.
+    void set_usable(QWidget& box, bool is_usable);
 
     void add_variable();
     void add_variable_row(const QString& control, const QString& values);

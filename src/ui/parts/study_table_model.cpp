@@ -5,6 +5,7 @@
 
 #include <QFont>
 
+#include <unordered_map>
 #include <utility>
 
 namespace kvt {
@@ -113,13 +114,34 @@ QVariant study_table_model::headerData(int section, Qt::Orientation orientation,
                                              : qt_text(table_.heading(column));
 }
 
+/// Where designs stand, each in the column of its former index.
+QModelIndexList study_table_model::indexes_of(const std::vector<std::uint64_t>& numbers,
+                                              const QModelIndexList& former) const {
+    std::unordered_map<std::uint64_t, int> rows;
+    for (int row = 0; row < rowCount() && !numbers.empty(); ++row) {
+        rows[table_.shown(place_of(row)).number] = row;
+    }
+    QModelIndexList indexes;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const QModelIndex& before = former[static_cast<qsizetype>(i)];
+        indexes.append(index(rows.at(numbers[i]), before.column()));
+    }
+    return indexes;
+}
+
 void study_table_model::sort(int column, Qt::SortOrder order) {
     if (column < 0 || column >= columnCount()) {
         return;
     }
-    beginResetModel();
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList kept = persistentIndexList();
+    std::vector<std::uint64_t> numbers;
+    for (const QModelIndex& each : kept) {
+        numbers.push_back(table_.shown(place_of(each.row())).number);
+    }
     table_.sort(place_of(column), order == Qt::AscendingOrder);
-    endResetModel();
+    changePersistentIndexList(kept, indexes_of(numbers, kept));
+    emit layoutChanged({}, VerticalSortHint);
 }
 
 }  // namespace kvt

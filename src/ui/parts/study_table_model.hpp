@@ -5,7 +5,9 @@
 
 #include <QAbstractTableModel>
 
+#include <cstdint>
 #include <set>
+#include <vector>
 
 namespace kvt {
 
@@ -30,9 +32,13 @@ class study_table_model : public QAbstractTableModel {
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// What is selected stays so.
     void sort(int column, Qt::SortOrder order) override;
 
   private:
+    QModelIndexList indexes_of(const std::vector<std::uint64_t>& numbers,
+                               const QModelIndexList& former) const;
+
     study_table table_;
     std::int16_t language_ = 1;
 };

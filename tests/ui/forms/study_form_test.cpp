@@ -6,6 +6,7 @@
 #include "ui/parts/chart_view.hpp"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -177,6 +178,25 @@ TEST_F(study_form_test, takes_a_design_over_as_one_step) {
     EXPECT_EQ(shown("ecc"), before);
 }
 
+TEST_F(study_form_test, draws_the_design_of_its_row) {
+    show_study();
+    calculate_two();
+    const auto is_drawn = [this] {
+        return find_on<QWidget>("viewwinfrm", "Picture1")
+            ->accessibleDescription()
+            .contains("Drawn in green: a design of the study.");
+    };
+    EXPECT_FALSE(is_drawn());
+    table()->selectRow(1);
+    ASSERT_TRUE(QTest::qWaitFor(is_drawn, LONG));
+    table()->clearSelection();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !is_drawn(); }, LONG));
+    table()->selectRow(0);
+    ASSERT_TRUE(QTest::qWaitFor(is_drawn, LONG));
+    fill("study_filter", "ecc>9");
+    EXPECT_FALSE(is_drawn());
+}
+
 TEST_F(study_form_test, finds_quantities_by_a_part_of_their_name) {
     show_study();
     fill("quantity_filter", "RIPPLE");
@@ -195,6 +215,56 @@ TEST_F(study_form_test, sorts_and_filters_its_rows) {
     fill("study_filter", "ecc<2.1");
     EXPECT_EQ(row_count(), 1);
     EXPECT_EQ(utf8_text(on_study<QLabel>("study_shown")->text()), "1 of 2 rows");
+}
+
+TEST_F(study_form_test, sorts_a_new_study_by_its_numbers) {
+    show_study();
+    const auto* head = table()->horizontalHeader();
+    EXPECT_EQ(head->sortIndicatorOrder(), Qt::AscendingOrder);
+    calculate_two();
+    table()->sortByColumn(1, Qt::DescendingOrder);
+    EXPECT_EQ(cell(0, 0), "1");
+    calculate();
+    EXPECT_EQ(head->sortIndicatorSection(), 0);
+    EXPECT_EQ(head->sortIndicatorOrder(), Qt::AscendingOrder);
+    EXPECT_EQ(cell(0, 0), "0");
+}
+
+TEST_F(study_form_test, keeps_the_chosen_design_when_it_sorts) {
+    show_study();
+    calculate_two();
+    table()->selectRow(1);
+    table()->sortByColumn(1, Qt::DescendingOrder);
+    ASSERT_EQ(table()->selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(table()->selectionModel()->selectedRows()[0].row(), 0);
+    EXPECT_EQ(cell(0, 1), "2.25");
+}
+
+TEST_F(study_form_test, offers_what_can_be_done_with_a_design_when_one_is_chosen) {
+    show_study();
+    const auto usable = [this] {
+        return std::vector<bool>{on_study<QPushButton>("take_over")->isEnabled(),
+                                 on_study<QPushButton>("save_projects")->isEnabled(),
+                                 on_study<QPushButton>("save_table")->isEnabled()};
+    };
+    EXPECT_EQ(usable(), (std::vector<bool>{false, false, false}));
+    calculate_two();
+    EXPECT_EQ(usable(), (std::vector<bool>{false, false, true}));
+    table()->selectRow(0);
+    EXPECT_EQ(usable(), (std::vector<bool>{true, true, true}));
+    fill("study_filter", "ecc>9");
+    EXPECT_EQ(usable(), (std::vector<bool>{false, false, true}));
+}
+
+TEST_F(study_form_test, keeps_the_focus_on_the_buttons_of_a_run) {
+    show_study();
+    add("ecc", "2:3");
+    on_study<QSpinBox>("study_count")->setValue(1000000);
+    on_study<QPushButton>("run_study")->setFocus();
+    press_on_study("run_study");
+    EXPECT_TRUE(on_study<QPushButton>("stop_study")->hasFocus());
+    press_on_study("stop_study");
+    EXPECT_TRUE(on_study<QPushButton>("run_study")->hasFocus());
 }
 
 TEST_F(study_form_test, marks_the_front) {

@@ -87,6 +87,20 @@ TEST_F(study_plan_side_test, keeps_its_choices_in_another_language) {
     EXPECT_EQ(at<QComboBox>("study_kind")->currentText(), "Sobol-Folge");
 }
 
+TEST_F(study_plan_side_test, greys_what_does_not_belong_to_the_kind_with_its_label) {
+    const auto usable = [this](int kind) {
+        at<QComboBox>("study_kind")->setCurrentIndex(kind);
+        std::vector<bool> all;
+        for (const char* name : {"study_count", "count_label", "study_targets", "targets_label"}) {
+            all.push_back(at<QWidget>(name)->isEnabled());
+        }
+        return all;
+    };
+    EXPECT_EQ(usable(0), (std::vector<bool>{false, false, false, false}));
+    EXPECT_EQ(usable(1), (std::vector<bool>{true, true, false, false}));
+    EXPECT_EQ(usable(3), (std::vector<bool>{true, true, true, true}));
+}
+
 TEST_F(study_plan_side_test, shows_the_units_in_force) {
     EXPECT_EQ(text_of_quantity("thick"), "thick [mm]");
     kavetta.app_state.drawing_units = INCHES;

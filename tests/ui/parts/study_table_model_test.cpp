@@ -4,6 +4,7 @@
 #include "support/open_design.hpp"
 
 #include <QFont>
+#include <QItemSelectionModel>
 
 #include <gtest/gtest.h>
 
@@ -99,6 +100,23 @@ TEST_F(study_table_model_test, is_empty_without_a_study) {
     empty.filter("x");
     empty.sort(0, Qt::AscendingOrder);
     EXPECT_EQ(empty.headerData(0, Qt::Horizontal, Qt::DisplayRole), QVariant());
+}
+
+TEST_F(study_table_model_test, keeps_what_is_selected_when_it_is_sorted) {
+    QItemSelectionModel selection(&model);
+    const auto select = [&](int row) {
+        selection.select(model.index(row, 0),
+                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    };
+    select(0);
+    select(1);
+    model.sort(3, Qt::DescendingOrder);  // the designs 1, 2, 0
+    std::set<QString> numbers;
+    for (const QModelIndex& index : selection.selectedRows()) {
+        numbers.insert(index.data().toString());
+    }
+    EXPECT_EQ(numbers, (std::set<QString>{"0", "1"}));
+    EXPECT_FALSE(selection.isRowSelected(1));
 }
 
 }  // namespace kvt
