@@ -17,9 +17,12 @@ from start_to_exit import (PATIENCE_SECONDS, TITLE, expect, road_fault, saved_li
                            use_on_screen, user, wait_for)
 
 SKIPPED = 77
-INSIDE = "KVT_ACCESS_INSIDE"
+INSIDE = "KVT_ON_THE_BUS"
 STROKE_SECONDS = 0.1
 TOOLS = ("Xvfb", "openbox", "xdotool", "dbus-run-session")
+
+# What makes the program talk on the bus.
+WITH_A_BUS = {"QT_ACCESSIBILITY": "1", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
 # What is typed, form by form: the name that the entry has on the bus, and the text.
 DESIGN = {"No. Outer Lobes": "6", "Eccentricity": "2.5", "Radius Inner Root": "12", "Radius Outer Lobes": "6.5",
@@ -432,10 +435,11 @@ def interpreter():
     return None
 
 
-def main(kavetta):
+def use_on_bus(script, arguments, use):
+    """A session bus of its own around a test: starts its script once more on that bus, where use() gives the status. Ends
+    with 77 where tools are missing."""
     if os.environ.get(INSIDE):
-        return use_on_screen(kavetta, go, "The design is done without a mouse, and all of it can be heard.",
-                             QT_ACCESSIBILITY="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        return use()
     python = interpreter()
     missing = [tool for tool in TOOLS if shutil.which(tool) is None] + ([] if python else ["python3-pyatspi"])
     if missing:
@@ -444,8 +448,13 @@ def main(kavetta):
     with tempfile.TemporaryDirectory() as runtime:
         os.chmod(runtime, 0o700)
         environment = {**os.environ, INSIDE: "1", "XDG_RUNTIME_DIR": runtime}
-        return subprocess.run(["dbus-run-session", "--", python, "-B", __file__, kavetta], env=environment,
+        return subprocess.run(["dbus-run-session", "--", python, "-B", script, *arguments], env=environment,
                               check=False).returncode
+
+
+def main(kavetta):
+    return use_on_bus(__file__, [kavetta], lambda: use_on_screen(
+        kavetta, go, "The design is done without a mouse, and all of it can be heard.", **WITH_A_BUS))
 
 
 if __name__ == "__main__":

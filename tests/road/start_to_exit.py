@@ -270,14 +270,14 @@ def take_picture(display):
         subprocess.run(["import", "-window", "root", picture], env=display.environment, check=False)
 
 
-def use_on_screen(kavetta, use, done, **environment):
+def use_on_screen(kavetta, use, done, project=None, **environment):
     """Starts the program on a screen of its own with a folder of its own; use(display, program, folder) works with it.
-    Answers the exit status. environment: further variables of the program.
+    Answers the exit status. project: a path that it is started with; environment: further variables of the program.
     """
     display = screen()
     with tempfile.TemporaryDirectory() as home:
         folder = pathlib.Path(home) / "Kavetta"
-        program = subprocess.Popen([kavetta], cwd=home, stderr=subprocess.PIPE, text=True,
+        program = subprocess.Popen([kavetta, *([project] if project else [])], cwd=home, stderr=subprocess.PIPE, text=True,
                                    env={**display.environment, "HOME": home, "KAVETTA_HOME": str(folder), **environment})
         try:
             use(display, program, folder)
