@@ -1,5 +1,6 @@
 #include "screenshots/form_pictures.hpp"
 
+#include "core/user.hpp"
 #include "ui/forms/Aboutform.hpp"
 #include "ui/forms/Form2.hpp"
 #include "ui/forms/fontfrm.hpp"
@@ -9,7 +10,13 @@
 #include "ui/shell/splashform.hpp"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTableWidget>
 #include <QWindow>
 
 namespace kvt {
@@ -17,6 +24,7 @@ namespace kvt {
 namespace {
 
 constexpr int HALF_WAY = 50;  ///< percent
+constexpr QSize STUDY_SIZE(1000, 640);
 
 QPixmap picture_of(QDialog& dialog) {
     dialog.setModal(false);
@@ -25,6 +33,14 @@ QPixmap picture_of(QDialog& dialog) {
     const QPixmap picture = dialog.grab();
     dialog.hide();
     return picture;
+}
+
+void vary(QWidget& study, const char* entry, const char* values) {
+    auto* entries = study.findChild<QComboBox*>("study_entry");
+    entries->setCurrentIndex(entries->findData(entry));
+    study.findChild<QPushButton*>("add_variable")->click();
+    auto* variables = study.findChild<QTableWidget*>("variables");
+    variables->item(variables->rowCount() - 1, 1)->setText(values);
 }
 
 }  // namespace
@@ -48,6 +64,31 @@ form_pictures pictures_of_charts() {
             pictures[chart->objectName()] = chart->grab();
         }
     }
+    return pictures;
+}
+
+form_pictures pictures_of_study(staged_program& stage) {
+    stage.runner().act([](program&, user& person) { person.show_form("study_form"); });
+    staged_program::settle();
+    auto* study = stage.window().findChild<QMdiSubWindow*>("study_form");
+    study->resize(STUDY_SIZE);
+    vary(*study, "ecc", "2.2:2.8:0.02");
+    vary(*study, "thick", "10:14:0.5");
+    study->findChild<QLineEdit*>("study_aims")->setText("ripple:min; capacity:max");
+    auto* run = study->findChild<QPushButton*>("run_study");
+    run->click();
+    staged_program::await([run] { return run->isEnabled(); });
+    study->findChild<QTableView*>("study_table")->selectRow(2);
+    form_pictures pictures;
+    staged_program::settle();
+    pictures["study_form"] = study->grab();
+    auto* colour = study->findChild<QComboBox*>("chart_colour");
+    colour->setCurrentIndex(colour->findText("thick", Qt::MatchStartsWith));
+    study->findChild<QTabWidget*>("study_tabs")->setCurrentIndex(1);
+    staged_program::settle();
+    pictures["study_chart"] = study->grab();
+    study->close();
+    staged_program::settle();
     return pictures;
 }
 

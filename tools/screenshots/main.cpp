@@ -78,6 +78,7 @@ bool take_guide_pictures(const std::string& share, const std::string& project, c
     pictures.merge(pictures_of_all_dialogs(stage));
     stage.open_charts();
     pictures.merge(kvt::pictures_of_charts());
+    pictures.merge(kvt::pictures_of_study(stage));
     pictures["workplace"] = picture_of_workplace(stage);
     return save(pictures, out) && calculated;
 }
@@ -94,6 +95,7 @@ bool take_pieces(const std::string& share, const std::string& project, const QDi
             pictures.merge(pictures_of_all_dialogs(stage));
             stage.open_charts();
             pictures.merge(kvt::pictures_of_charts());
+            pictures.merge(kvt::pictures_of_study(stage));
             pictures["MDIForm1"] = picture_of_workplace(stage);
             kvt::form_pictures pieces;
             for (const auto& [name, picture] : pictures) {

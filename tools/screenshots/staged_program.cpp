@@ -63,18 +63,19 @@ bool staged_program::calculate() {
             person.show_form(form);
         }
     });
-    await_exact_figures();
+    // The last of the exact figures.
+    await([this] {
+        return program().exact_record.results.state_of(exact_part::timing) != part_state::waiting;
+    });
     settle();
     return done;
 }
 
-/// The last of them come from another thread.
-void staged_program::await_exact_figures() {
+void staged_program::await(const std::function<bool()>& is_so) {
     constexpr qint64 LONGEST_WAIT_MS = 60000;
     QElapsedTimer clock;
     clock.start();
-    while (program().exact_record.results.state_of(exact_part::timing) == part_state::waiting &&
-           clock.elapsed() < LONGEST_WAIT_MS) {
+    while (!is_so() && clock.elapsed() < LONGEST_WAIT_MS) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, WATCH_MS);
     }
 }

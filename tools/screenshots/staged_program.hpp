@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,10 +35,11 @@ class staged_program {
     QPixmap dialog_of(const QString& menu_entry);
     /// Lets what waits in the event loop happen.
     static void settle();
+    /// Until something is so, which comes from another thread; a minute at most.
+    static void await(const std::function<bool()>& is_so);
 
   private:
     void close_dialog();
-    void await_exact_figures();
 
     QTemporaryDir folder_;
     QTimer watch_;
