@@ -1,13 +1,11 @@
 // How many designs a second a study calculates on all processors: up to each stage, and with the
 // exact figures of volume, flow, contact and speed.
-#include "app/study/sample_places.hpp"
-#include "app/study/study_table.hpp"
+#include "app/study/study.hpp"
+#include "long_study_table.hpp"
 #include "support/open_design.hpp"
 
 #include <benchmark/benchmark.h>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -43,29 +41,8 @@ BENCHMARK_CAPTURE(designs_of, performance_and_exact, kvt::calc_stage::performanc
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 
-/// As many rows as a window may hold.
-kvt::study_table long_table() {
-    constexpr std::uint64_t ROWS = 100000;
-    kvt::study_plan plan;
-    plan.variables = {kvt::study_variable_of("ecc=2:2.6")};
-    plan.sample = {kvt::sample_kind::latin, ROWS, 1};
-    plan.recorded = {"capacity", "ripple"};
-    const auto study =
-        std::make_shared<const kvt::study>(kvt::opened_design("n07_engine_oil_groove"), plan);
-    std::vector<kvt::study_row> rows(ROWS);
-    for (std::uint64_t i = 0; i < ROWS; ++i) {
-        rows[i].number = i;
-        rows[i].texts = study->texts_of(i);
-        rows[i].values = {kvt::uniform_number(1, i), kvt::uniform_number(2, i)};
-        rows[i].messages = {"Minimum value for Outer Rotor Root Radius is 24.8"};
-    }
-    kvt::study_table table(study);
-    table.add(std::move(rows));
-    return table;
-}
-
 void sort_table(benchmark::State& state, std::size_t column) {
-    kvt::study_table table = long_table();
+    kvt::study_table table = kvt::long_study_table();
     bool rises = true;
     for (auto _ : state) {
         rises = !rises;
@@ -77,7 +54,7 @@ BENCHMARK_CAPTURE(sort_table, by_the_result, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(sort_table, by_a_quantity, 3)->Unit(benchmark::kMillisecond);
 
 void filter_table(benchmark::State& state, const char* filter) {
-    kvt::study_table table = long_table();
+    kvt::study_table table = kvt::long_study_table();
     for (auto _ : state) {
         table.filter(filter);
     }

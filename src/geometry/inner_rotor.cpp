@@ -10,8 +10,9 @@ namespace kvt {
 
 namespace {
 
-/// Whether a lies nearer to the axis than b. Kept: by rounded powers, which may be equal where the
-/// squares are not; where these are clearly apart, so are the powers.
+/// Whether a lies nearer to the axis than b, by the rounded powers of the squares of their
+/// distances; these may be equal where the squares are not. Where the squares are clearly apart, so
+/// are the powers.
 bool is_nearer(const point2& a, const point2& b) {
     constexpr double CLEARLY = 1.0 + 1e-12;
     const double square_a = (a.x * a.x) + (a.y * a.y);

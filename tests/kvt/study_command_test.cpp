@@ -83,7 +83,7 @@ void expect_row_of_calc(const std::string& project, const json& row) {
 
 TEST(study_command, has_the_rows_of_single_runs) {
     // Wide ranges, so that most stages refuse some of them. A tenth of the rows of the full run.
-    const std::string count = number_text(property_count(400));
+    const std::string count = number_text(property_count(700));
     std::map<std::string, int> ends;
     for (const char* project : {"engine_oil", "coolant", "inch_hydraulic"}) {
         const kvt_run run = run_kvt(study_of(
@@ -97,7 +97,7 @@ TEST(study_command, has_the_rows_of_single_runs) {
             ++ends[row["end"]];
         }
     }
-    EXPECT_GE(ends.size(), property_count(400) > 100 ? 3U : 1U);
+    EXPECT_GE(ends.size(), property_count(700) > 100 ? 3U : 1U);
 }
 
 TEST(study_command, has_the_exact_figures_of_single_runs) {
