@@ -21,7 +21,7 @@ namespace kvt {
 
 namespace {
 
-/// Room above and below the text of a box together, pixels.
+/// Room above and below the text of a box together, pixels; one less where the letters are odd.
 constexpr int BOX_MARGINS = 6;
 /// Room left and right of the number in a box together, pixels.
 constexpr int NUMBER_MARGINS = 10;
@@ -40,6 +40,12 @@ class box_unit : public QLabel {
         paint_faint_text(*this, QPalette::Base, QPalette::Text);
     }
 };
+
+/// Even: with lines one pixel higher than those of the font that the forms are made for, the boxes
+/// are no higher, and the Design form still fits its place.
+int box_height(const QLineEdit& box) {
+    return (box.fontMetrics().height() + BOX_MARGINS) / 2 * 2;
+}
 
 }  // namespace
 
@@ -81,7 +87,7 @@ QLineEdit* number_box(const char* name, int width) {
     auto* box = new QLineEdit;
     box->setObjectName(name);
     box->setFixedWidth(width);
-    box->setFixedHeight(box->fontMetrics().height() + BOX_MARGINS);
+    box->setFixedHeight(box_height(*box));
     box->setAlignment(Qt::AlignRight);
     return box;
 }
@@ -102,7 +108,7 @@ QFont compact_font() {
 QLineEdit* compact_box(const char* name, const char* widest) {
     QLineEdit* box = number_box(name, 0);
     box->setFont(compact_font());
-    box->setFixedSize(compact_box_width(widest), box->fontMetrics().height() + BOX_MARGINS);
+    box->setFixedSize(compact_box_width(widest), box_height(*box));
     return box;
 }
 

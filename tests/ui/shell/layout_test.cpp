@@ -109,12 +109,14 @@ class layout_test : public desktop_test {
     }
 };
 
-/// Sets the application's font size and puts it back.
+/// Sets the size of the application's font, its widths in percent of those of that size, and puts
+/// the font back.
 class font_size {
   public:
-    explicit font_size(double points) : before_(QApplication::font()) {
+    explicit font_size(double points, int widths = 100) : before_(QApplication::font()) {
         QFont font = before_;
         font.setPointSizeF(points);
+        font.setStretch(widths);
         QApplication::setFont(font);
     }
     ~font_size() { QApplication::setFont(before_); }
@@ -149,6 +151,21 @@ TEST_F(layout_test, the_design_form_fits_its_place_in_the_default_layout_without
         const auto* form = find<QMdiSubWindow>("Form1");
         EXPECT_EQ(form->geometry(), QRect(0, 0, 362, 539));
         const auto* scrolled = form->findChild<QScrollArea*>();
+        EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible()) << language;
+        EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible()) << language;
+    }
+}
+
+TEST_F(layout_test, the_design_form_fits_its_place_with_lines_a_pixel_higher) {
+    // A font of the same widths that stands in for Liberation Sans may have higher lines.
+    const int height = QFontMetrics(QApplication::font()).height();
+    const font_size size(9.4, 96);
+    ASSERT_EQ(QFontMetrics(QApplication::font()).height(), height + 1);
+    for (const char language : {'1', '2'}) {
+        write_settings(language);
+        start(design_file("n07_engine_oil_groove"));
+        settle();
+        const auto* scrolled = find<QMdiSubWindow>("Form1")->findChild<QScrollArea*>();
         EXPECT_FALSE(scrolled->verticalScrollBar()->isVisible()) << language;
         EXPECT_FALSE(scrolled->horizontalScrollBar()->isVisible()) << language;
     }
