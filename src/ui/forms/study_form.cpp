@@ -380,6 +380,7 @@ void study_form::fill_axes() {
             }
         }
         list->setCurrentIndex(std::max(0, list->findText(chosen)));
+        open_as_wide_as_its_items(*list);
     }
     if (chart_y_->currentText() == chart_x_->currentText()) {
         chart_y_->setCurrentIndex(chart_y_->count() - 1);

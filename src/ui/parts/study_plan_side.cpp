@@ -10,6 +10,7 @@
 #include "ui/parts/form_parts.hpp"
 #include "ui/shell/qt_text.hpp"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -19,6 +20,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStyle>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -230,6 +232,7 @@ void study_plan_side::fill_entries() {
         }
     }
     entry_->setCurrentIndex(entry_->findData(chosen.isValid() ? chosen : FIRST_ENTRY));
+    open_as_wide_as_its_items(*entry_);
 }
 
 void study_plan_side::fill_kinds() {
@@ -381,6 +384,11 @@ void study_plan_side::show_sample(const study_document& shown) {
                                : static_cast<int>(shown.budget));
     seed_->setValue(static_cast<int>(shown.seed));
     with_assist_->setChecked(shown.begins_with_assist);
+}
+
+void open_as_wide_as_its_items(QComboBox& list) {
+    const int bar = list.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    list.view()->setMinimumWidth(list.view()->sizeHintForColumn(0) + bar);
 }
 
 }  // namespace kvt

@@ -74,4 +74,7 @@ class study_plan_side : public QWidget {
     std::pair<std::int16_t, std::int16_t> shown_units_;
 };
 
+/// A list of the Study window, which has little room for its box, opens as wide as its items.
+void open_as_wide_as_its_items(QComboBox& list);
+
 }  // namespace kvt

@@ -2,9 +2,11 @@
 
 #include "app/desk/program_title.hpp"
 #include "ui/parts/drawn_icons.hpp"
+#include "ui/parts/ink.hpp"
 #include "ui/parts/text_font.hpp"
 #include "ui/shell/qt_text.hpp"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFont>
 #include <QProxyStyle>
@@ -16,6 +18,14 @@ namespace kvt {
 namespace {
 
 constexpr int FONT_SIZE_POINTS = 9;
+
+/// Fusion draws outlines in the window's colour, made darker by 140 %: on the dark ground of a list
+/// nobody sees them.
+QColor window_of_visible_outline(const QPalette& palette) {
+    constexpr int AS_MUCH_LIGHTER = 140;
+    return faint_ink(palette.color(QPalette::Base), palette.color(QPalette::Text))
+        .lighter(AS_MUCH_LIGHTER);
+}
 
 /// Fusion, whose boxes have the ground of all entries. Windows has a palette of their own for its
 /// dark mode, made for another style: there a box without a tick would be filled like one with it.
@@ -32,6 +42,9 @@ class fusion_style : public QProxyStyle {
         }
         QStyleOptionButton plain = *box;
         plain.palette.setBrush(QPalette::Base, QGuiApplication::palette().base());
+        if (is_dark(plain.palette) && qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+            plain.palette.setColor(QPalette::Window, window_of_visible_outline(plain.palette));
+        }
         QProxyStyle::drawPrimitive(element, &plain, painter, widget);
     }
 };

@@ -3,6 +3,7 @@
 
 #include "support/open_design.hpp"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QListWidget>
 #include <QTableWidget>
@@ -85,6 +86,12 @@ TEST_F(study_plan_side_test, keeps_its_choices_in_another_language) {
     EXPECT_EQ(entries->currentData(), "thick");
     EXPECT_EQ(at<QTableWidget>("variables")->horizontalHeaderItem(0)->text(), "Eingabe");
     EXPECT_EQ(at<QComboBox>("study_kind")->currentText(), "Sobol-Folge");
+}
+
+TEST_F(study_plan_side_test, opens_the_list_of_entries_as_wide_as_their_names) {
+    const QAbstractItemView& list = *at<QComboBox>("study_entry")->view();
+    EXPECT_GT(list.sizeHintForColumn(0), 0);
+    EXPECT_GE(list.minimumWidth(), list.sizeHintForColumn(0));
 }
 
 TEST_F(study_plan_side_test, greys_what_does_not_belong_to_the_kind_with_its_label) {
