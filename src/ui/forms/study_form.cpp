@@ -110,7 +110,8 @@ void study_form::changeEvent(QEvent* event) {
 
 void study_form::closeEvent(QCloseEvent* event) {
     emit design_pointed(nullptr);
-    mdi_form::closeEvent(event);
+    // Hidden as the forms that are always there, not forgotten as those that are loaded.
+    mdi_form::closeEvent(event);  // NOLINT(bugprone-parent-virtual-call): that is what is left out
 }
 
 // What is asked.
