@@ -29,9 +29,10 @@ class pushed_side {
 
     /// The largest pressure over a pitch for a modulus in MPa and a torque in Nmm on the inner
     /// rotor:
-    ///     F = T a / sum of a^2       over the lobes below the line of centres, that the rotor
-    ///     pushes p0 = sqrt(F E (1/r + flank curvature) / (pi b))
-    /// a is the arm of the contact normal about the inner axis. A flank hollower than the lobe has
+    ///     F = T a / sum of a^2
+    ///     p0 = sqrt(F E (1/r + flank curvature) / (pi b))
+    /// The sum is over the lobes below the line of centres, that the rotor pushes; a is the arm of
+    /// the contact normal about the inner axis. A flank hollower than the lobe has
     /// no line contact and does not count; 0 without any.
     contact_maximum largest_pressure(double modulus, double torque) const;
 

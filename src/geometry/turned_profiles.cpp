@@ -47,8 +47,7 @@ turned_profile::turned_profile(std::vector<point2> points, double rotation, doub
 point2 turned_profile::operator[](std::size_t i) const {
     const double r = radius_of(points_[i]);
     const double angle = polar_angle(points_[i]) + rotation_;
-    const point2 turned = {r * std::cos(angle), r * std::sin(angle)};
-    return i == 0 ? turned : point2{turned.x - shift_, turned.y};
+    return {r * std::cos(angle) - shift_of(i), r * std::sin(angle)};
 }
 
 turned_profile turned_inner_profile(double rotation, const rotor_profiles& rotors) {

@@ -4,7 +4,6 @@
 #include "app/stages/silent_user.hpp"
 #include "app/stages/typed_entry.hpp"
 #include "app/study/study_problem.hpp"
-#include "core/entry_numbers.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -64,9 +63,7 @@ void study::choose(const std::vector<study_quantity>& quantities) {
 
 std::string study::heading_of_variable(std::size_t variable) const {
     const std::string& control = plan_.variables[variable].control;
-    const entry_field* field = find_entry(control);
-    const std::string unit =
-        field == nullptr ? "" : entry_unit(*field, base_->captions, base_->app_state);
+    const std::string unit = unit_of_variable(plan_.variables[variable], *base_);
     return unit.empty() ? control : control + " [" + unit + "]";
 }
 
